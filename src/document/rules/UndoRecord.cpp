@@ -1,0 +1,17 @@
+#include "document/rules/UndoRecord.h"
+
+void UndoRecord::setKind(UndoKind kind, const void *document)
+{
+    m_kind = kind;
+    m_document = document;
+    if (kind == UndoKind::None)
+        m_document = nullptr;
+    Q_EMIT kindChanged(kind);
+}
+
+void UndoRecord::clear()
+{
+    snapshot.clear();
+    snapshot.shrink_to_fit();
+    setKind(UndoKind::None, nullptr);
+}

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <vector>
+
+/// What the Undo command names and reverses. The values are the string ids of the Undo captions.
+enum class UndoKind {
+    None = 419,
+    Insert = 800,
+    Delete = 801,
+    Clear = 802,
+    Cut = 803,
+    Paste = 804,
+    Entry = 805,
+    Typing = 806,
+    Sort = 807,
+    Replace = 808
+};
+
+/// The rectangle of selected cells: the current cell and the corner opposite to it.
+struct GridSelection
+{
+    int Row = 1;
+    int Col = 1;
+    int RowSel = 1;
+    int ColSel = 1;
+
+    int top() const { return Row < RowSel ? Row : RowSel; }
+    int bottom() const { return Row < RowSel ? RowSel : Row; }
+    int left() const { return Col < ColSel ? Col : ColSel; }
+    int right() const { return Col < ColSel ? ColSel : Col; }
+    int rowCount() const { return bottom() - top() + 1; }
+    int colCount() const { return right() - left() + 1; }
+    bool operator==(const GridSelection &) const = default;
+};
+
+/// The program's one level of undo. Every recording command replaces the fields that it uses and names its kind; the
+/// record belongs to the document it was taken from and is worthless for any other.
+class UndoRecord : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Words of both languages of data row i + 1, for every data row.
+    struct Pair
+    {
+        QString first;
+        QString second;
+        bool operator==(const Pair &) const = default;
+    };
+    using Snapshot = std::vector<Pair>;
+
+    using QObject::QObject;
+
+    GridSelection selection;
+    QString clipText;  ///< the selected cells before the change
+    QString entryText; ///< the cell's text before an edit
+    Snapshot snapshot; ///< every word before a sort, or when the find/replace dialog opened
+
+    UndoKind kind() const { return m_kind; }
+    /// Names what Undo reverses and the document it belongs to (its window; compared, never used).
+    void setKind(UndoKind kind, const void *document);
+    /// Ends the record: nothing to undo.
+    void clear();
+    bool belongsTo(const void *document) const { return m_document == document; }
+
+Q_SIGNALS:
+    void kindChanged(UndoKind kind);
+
+private:
+    UndoKind m_kind = UndoKind::None;
+    const void *m_document = nullptr;
+};
