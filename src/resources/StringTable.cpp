@@ -1,0 +1,87 @@
+#include "resources/StringTable.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+// Outside every namespace and called on first use: a resource of a static library is otherwise dropped by the linker.
+static void registerResources()
+{
+    Q_INIT_RESOURCE(resources);
+}
+
+namespace {
+
+/// Resolves the escapes of a text; false when one is unknown or cut off.
+bool unescape(QString &text)
+{
+    for (qsizetype at = text.indexOf(QLatin1Char('\\')); at >= 0; at = text.indexOf(QLatin1Char('\\'), at + 1)) {
+        constexpr QLatin1String Names("nts\\"), Meanings("\n\t \\");
+        const qsizetype which = at + 1 < text.size() ? Names.indexOf(text.at(at + 1)) : -1;
+        if (which < 0)
+            return false;
+        text.replace(at, 2, Meanings.at(which));
+    }
+    return true;
+}
+
+/// Takes one line into the table; returns what is wrong with it, or an empty text.
+QString takeLine(QByteArrayView line, QHash<int, QString> &table)
+{
+    const qsizetype tab = line.indexOf('\t');
+    bool isNumber = false;
+    const int id = line.first(std::max<qsizetype>(tab, 0)).toInt(&isNumber);
+    QString text = QString::fromUtf8(line.sliced(tab + 1));
+    if (!isNumber || text.isEmpty() || text.front().isSpace() || text.back().isSpace() || !unescape(text))
+        return QStringLiteral("malformed");
+    if (table.contains(id))
+        return QStringLiteral("doubled id %1").arg(id);
+    table.insert(id, text);
+    return {};
+}
+
+const QHash<int, QString> &texts()
+{
+    static const QHash<int, QString> table = [] {
+        registerResources();
+        QFile source(QStringLiteral(":/resources/strings.txt"));
+        return source.open(QIODevice::ReadOnly) ? parseStringTable(source.readAll()) : QHash<int, QString>();
+    }();
+    return table;
+}
+
+} // namespace
+
+QHash<int, QString> parseStringTable(QByteArrayView source, QStringList *faults)
+{
+    QHash<int, QString> table;
+    table.reserve(source.count('\n'));
+    for (int number = 1; !source.isEmpty(); ++number) {
+        const qsizetype end = source.indexOf('\n');
+        const QByteArrayView line = end < 0 ? source : source.first(end);
+        source = end < 0 ? QByteArrayView() : source.sliced(end + 1);
+        if (line.isEmpty() || line.startsWith('#'))
+            continue;
+        const QString fault = takeLine(line, table);
+        if (faults && !fault.isEmpty())
+            faults->append(QStringLiteral("line %1: %2").arg(number).arg(fault));
+    }
+    return table;
+}
+
+QString resText(int id)
+{
+    const auto found = texts().constFind(id);
+    if (found == texts().constEnd()) {
+        qWarning("There is no text with the id %d", id);
+        return {};
+    }
+    return *found;
+}
+
+QList<int> resTextIds()
+{
+    QList<int> ids = texts().keys();
+    std::sort(ids.begin(), ids.end());
+    return ids;
+}
