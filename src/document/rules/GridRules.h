@@ -1,0 +1,34 @@
+#pragma once
+
+#include "document/rules/UndoRecord.h"
+
+#include <QString>
+
+/// What a document window decides about its grid without drawing it.
+namespace GridRules {
+
+struct Cell
+{
+    int row;
+    int col;
+    bool wrapped = false; ///< the walk went round the end: the row is to be scrolled to the top
+    bool operator==(const Cell &) const = default;
+};
+
+/// Where Enter leads from a cell: through both languages of a row, then to the next row, from the last row round to the
+/// first one. rows counts the header row. In any other column nothing moves.
+Cell afterEnter(int row, int col, int rows);
+/// The same walk backwards, for Shift+Enter.
+Cell afterShiftEnter(int row, int col, int rows);
+
+/// The height in twips that a row takes for a text of the given size (twips) in a column of the given width: taller
+/// when the text needs more than the row gives, never smaller than it is.
+int grownRowHeight(int textWidth, int textHeight, int colWidth, int rowHeight);
+
+/// The cell reference of a selection, with a leading blank: " A5" or " A5:B7".
+QString cellReference(const GridSelection &selection);
+
+/// The name of a file without its folder and without its last four characters (the extension).
+QString fileTitle(const QString &path);
+
+} // namespace GridRules

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "services/AlertBox.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
+
+/// The program's alert box on the screen: its own title and icon, the buttons asked for, and a Help button that opens
+/// a topic while the box stays.
+class modMsgBox : public AlertBox
+{
+public:
+    /// openTopic shows a help topic in the window that belongs to alert boxes.
+    using OpenTopic = std::function<void(int helpId)>;
+
+    explicit modMsgBox(OpenTopic openTopic);
+
+    /// The window that owns a box whose caller names none.
+    void setMainWindow(QWidget *window) { m_mainWindow = window; }
+
+    Answer show(QWidget *owner, const Alert &alert) override;
+
+private:
+    OpenTopic m_openTopic;
+    QPointer<QWidget> m_mainWindow;
+};
