@@ -1,0 +1,229 @@
+#include "platform/AtomicFile.h"
+
+#include "platform/UserFolders.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+#include <QTemporaryFile>
+
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace {
+
+constexpr qsizetype PieceSize = 1 << 16;
+constexpr int MostLinks = 40;
+
+QString systemError(int number)
+{
+    return QString::fromStdString(std::generic_category().message(number));
+}
+
+/// Fills an open file: gathers small pieces, checks that every write takes all of them, and forces them to the disk.
+class CheckedOutput
+{
+public:
+    explicit CheckedOutput(QFile &file)
+        : m_file(file)
+    {
+        m_pending.reserve(PieceSize);
+    }
+
+    bool fill(const AtomicFile::Producer &producer)
+    {
+        const bool produced = producer([this](QByteArrayView bytes) { return put(bytes); });
+        if (!produced && m_error.isEmpty())
+            m_error = QStringLiteral("The content could not be produced");
+        return produced && flush() && m_file.resize(m_file.pos()) && sync();
+    }
+
+    QString error() const { return m_error.isEmpty() ? m_file.errorString() : m_error; }
+
+private:
+    bool put(QByteArrayView bytes)
+    {
+        if (m_pending.size() + bytes.size() > PieceSize && !flush())
+            return false;
+        if (bytes.size() >= PieceSize)
+            return writeAll(bytes);
+        m_pending.append(bytes);
+        return m_error.isEmpty();
+    }
+
+    bool flush()
+    {
+        const bool written = m_pending.isEmpty() || writeAll(m_pending);
+        m_pending.resize(0);
+        return written && m_error.isEmpty();
+    }
+
+    bool writeAll(QByteArrayView bytes)
+    {
+        errno = 0;
+        if (m_error.isEmpty() && m_file.write(bytes.data(), bytes.size()) != bytes.size())
+            m_error = errno ? systemError(errno) : m_file.errorString();
+        return m_error.isEmpty();
+    }
+
+    bool sync()
+    {
+#ifdef Q_OS_UNIX
+        // Some file systems cannot be asked to; that is no loss of data.
+        if (::fsync(m_file.handle()) != 0 && errno != EINVAL && errno != ENOTSUP) {
+            m_error = systemError(errno);
+            return false;
+        }
+#endif
+        return true;
+    }
+
+    QFile &m_file;
+    QByteArray m_pending;
+    QString m_error;
+};
+
+AtomicFile::Producer copyOf(QFile &source)
+{
+    return [&source](const AtomicFile::Sink &sink) {
+        if (!source.seek(0))
+            return false;
+        QByteArray piece(PieceSize, Qt::Uninitialized);
+        qint64 count = 0;
+        while ((count = source.read(piece.data(), PieceSize)) > 0) {
+            if (!sink(QByteArrayView(piece.constData(), count)))
+                return false;
+        }
+        return count == 0;
+    };
+}
+
+/// The file that a chain of symbolic links ends at; it need not exist.
+QString linkTarget(const QString &path)
+{
+    QString target = path;
+    for (int i = 0; i < MostLinks && QFileInfo(target).isSymLink(); ++i)
+        target = QFileInfo(target).symLinkTarget();
+    return target;
+}
+
+void keepOwnerAndMode(const QString &from, QFile &to)
+{
+#ifdef Q_OS_UNIX
+    struct stat status = {};
+    if (::stat(QFile::encodeName(from).constData(), &status) != 0)
+        return;
+    // Only the administrator may give files away; then the new file is the user's, which is the best there is.
+    [[maybe_unused]] const int refused = ::fchown(to.handle(), status.st_uid, status.st_gid);
+    ::fchmod(to.handle(), status.st_mode & 07777);
+#else
+    to.setPermissions(QFile::permissions(from));
+#endif
+}
+
+enum class Outcome { Done, Failed, NoNewFileAllowed };
+
+Outcome writeBeside(const QString &path, const AtomicFile::Producer &producer, QString &error)
+{
+    // A name of its own, not the file's with an ending: that may be as long as a name can be.
+    const QString name = QStringLiteral(".glosaria-") + QString::number(QRandomGenerator::global()->generate64(), 36);
+    QFile file(QFileInfo(path).absoluteDir().filePath(name));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered)) {
+        error = file.errorString();
+        return Outcome::NoNewFileAllowed;
+    }
+    keepOwnerAndMode(path, file);
+    CheckedOutput output(file);
+    const bool filled = output.fill(producer);
+    if (!filled)
+        error = output.error();
+    file.close();
+    if (!filled) {
+        file.remove();
+        return Outcome::Failed;
+    }
+    std::error_code code;
+    std::filesystem::rename(file.filesystemFileName(), QFile(path).filesystemFileName(), code);
+    if (!code)
+        return Outcome::Done;
+    error = QString::fromStdString(code.message());
+    file.remove();
+    return Outcome::NoNewFileAllowed;
+}
+
+/// Writes over a file whose old content is in the copy, and puts that back if it goes wrong. False: see error; restored
+/// tells whether the copy has become needless.
+bool writeOver(QFile &file, QFile &copy, const AtomicFile::Producer &producer, QString &error, bool &restored)
+{
+    CheckedOutput output(file);
+    if (file.seek(0) && output.fill(producer))
+        return true;
+    error = output.error();
+    restored = file.seek(0) && CheckedOutput(file).fill(copyOf(copy));
+    if (!restored)
+        error += QStringLiteral(" (") + copy.fileName() + QLatin1Char(')');
+    return false;
+}
+
+bool writeInPlace(const QString &path, const AtomicFile::Producer &producer, QString &error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered)) {
+        error = file.errorString();
+        return false;
+    }
+    const QString folder = UserFolders::state();
+    QDir().mkpath(folder);
+    QTemporaryFile copy(folder + QStringLiteral("/saved-XXXXXX.") + QFileInfo(path).suffix());
+    if (!copy.open()) {
+        error = copy.errorString();
+        return false;
+    }
+    CheckedOutput copyOutput(copy);
+    if (!copyOutput.fill(copyOf(file))) {
+        error = copyOutput.error();
+        return false;
+    }
+    copy.setAutoRemove(false);
+    bool restored = true;
+    const bool written = writeOver(file, copy, producer, error, restored);
+    copy.setAutoRemove(restored);
+    return written;
+}
+
+} // namespace
+
+namespace AtomicFile {
+
+bool write(const QString &path, const Producer &producer, QString *error)
+{
+    QString reason;
+    const QString target = linkTarget(path);
+    const QFileInfo old(target);
+    if (old.exists() && (!old.isFile() || !old.isWritable())) {
+        if (error)
+            *error = systemError(old.isDir() ? EISDIR : EACCES);
+        return false;
+    }
+    Outcome outcome = writeBeside(target, producer, reason);
+    if (outcome == Outcome::NoNewFileAllowed && old.exists())
+        outcome = writeInPlace(target, producer, reason) ? Outcome::Done : Outcome::Failed;
+    if (error)
+        *error = outcome == Outcome::Done ? QString() : reason;
+    return outcome == Outcome::Done;
+}
+
+bool write(const QString &path, QByteArrayView content, QString *error)
+{
+    return write(
+        path, [content](const Sink &sink) { return sink(content); }, error);
+}
+
+} // namespace AtomicFile
