@@ -1,14 +1,8 @@
 #include "resources/StringTable.h"
 
-#include <QFile>
+#include "resources/ResourceFiles.h"
 
 #include <algorithm>
-
-// Outside every namespace and called on first use: a resource of a static library is otherwise dropped by the linker.
-static void registerResources()
-{
-    Q_INIT_RESOURCE(resources);
-}
 
 namespace {
 
@@ -42,11 +36,7 @@ QString takeLine(QByteArrayView line, QHash<int, QString> &table)
 
 const QHash<int, QString> &texts()
 {
-    static const QHash<int, QString> table = [] {
-        registerResources();
-        QFile source(QStringLiteral(":/resources/strings.txt"));
-        return source.open(QIODevice::ReadOnly) ? parseStringTable(source.readAll()) : QHash<int, QString>();
-    }();
+    static const QHash<int, QString> table = parseStringTable(ResourceFiles::contents(ResourceFiles::StringTable));
     return table;
 }
 

@@ -1,0 +1,129 @@
+#include "resources/Pictures.h"
+
+#include "resources/ResourceFiles.h"
+
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmapCache>
+#include <QSvgRenderer>
+
+#include <array>
+
+namespace {
+
+/// The pictures' files, by number from 1 on.
+// clang-format off
+constexpr std::array Files = {
+    "new", "open", "save", "saveas", "close", "pagesetup", "preview", "print", "practice", "multiplechoice",
+    "questionanswer", "exit", "undo", "cut", "copy", "paste", "clear", "insert", "delete", "find", "replace",
+    "languages", "mode1", "mode2", "mode3", "mode4", "mode5", "rowheight", "columnwidth", "font", "sort", "cascade",
+    "tilehorizontally", "tilevertically", "arrangeicons", "helptopics", "whatsthis", "about", "previous", "next",
+    "weblink", "maillink", "right", "wrong", "gridcursor", "glosaria", "document",
+};
+// clang-format on
+
+/// The colour that the files give to what stands out; it reads on light and on dark grounds.
+constexpr QLatin1String Accent("#2f86e0");
+
+bool isPicture(int number)
+{
+    return number >= 1 && number <= int(Files.size());
+}
+
+QByteArray pictureSource(int number)
+{
+    const QByteArray name = QByteArray("pictures/") + Files[size_t(number - 1)] + ".svg";
+    return ResourceFiles::contents(QLatin1String(name));
+}
+
+QColor mixed(const QColor &one, const QColor &other)
+{
+    return QColor::fromRgbF((one.redF() + other.redF()) / 2, (one.greenF() + other.greenF()) / 2,
+                            (one.blueF() + other.blueF()) / 2);
+}
+
+/// Draws one picture in the palette's colours of the moment. Under the pointer the accent moves towards the text
+/// colour, so that it stands out from the highlight of a menu as well.
+class PictureEngine : public QIconEngine
+{
+public:
+    explicit PictureEngine(int number)
+        : m_number(number)
+    {
+    }
+
+    QIconEngine *clone() const override { return new PictureEngine(*this); }
+    QString key() const override { return QStringLiteral("GlosariaPicture"); }
+    bool isNull() override { return false; }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        const QSize size = rect.size() * painter->device()->devicePixelRatio();
+        painter->drawPixmap(rect, pixmap(size, mode, state));
+    }
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State) override
+    {
+        const auto [line, accent] = colours(mode);
+        const int pixels = std::min(size.width(), size.height());
+        const QString key = QStringLiteral("picture %1 %2 %3 %4")
+                                .arg(m_number)
+                                .arg(pixels)
+                                .arg(line.name(QColor::HexArgb), accent.name(QColor::HexArgb));
+        QPixmap drawn;
+        if (!QPixmapCache::find(key, &drawn)) {
+            drawn = QPixmap::fromImage(drawPicture(m_number, pixels, line, accent));
+            QPixmapCache::insert(key, drawn);
+        }
+        return drawn;
+    }
+
+private:
+    static std::pair<QColor, QColor> colours(QIcon::Mode mode)
+    {
+        const QPalette palette = QGuiApplication::palette();
+        const QColor accent((QString(Accent)));
+        const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
+        switch (mode) {
+        case QIcon::Disabled: {
+            const QColor grey = palette.color(QPalette::Disabled, QPalette::WindowText);
+            return {grey, grey};
+        }
+        case QIcon::Selected: {
+            const QColor selected = palette.color(QPalette::Active, QPalette::HighlightedText);
+            return {selected, selected};
+        }
+        case QIcon::Active:
+            return {text, mixed(accent, text)};
+        case QIcon::Normal:
+            break;
+        }
+        return {text, accent};
+    }
+
+    int m_number;
+};
+
+} // namespace
+
+QIcon picture(int number)
+{
+    return isPicture(number) ? QIcon(new PictureEngine(number)) : QIcon();
+}
+
+QImage drawPicture(int number, int pixels, const QColor &line, const QColor &accent)
+{
+    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    if (!isPicture(number))
+        return image;
+    QByteArray source = pictureSource(number);
+    source.replace("currentColor", line.name().toLatin1());
+    source.replace(QByteArray(Accent.data(), Accent.size()), accent.name().toLatin1());
+    QSvgRenderer renderer(source);
+    QPainter painter(&image);
+    renderer.render(&painter, QRectF(0, 0, pixels, pixels));
+    return image;
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QByteArray>
+#include <QLatin1String>
+
+/// The files that the program carries within itself.
+namespace ResourceFiles {
+
+inline constexpr QLatin1String StringTable("strings.txt");
+/// Wave resource 101: 16-bit PCM, mono.
+inline constexpr QLatin1String ErrorSound("error.wav");
+inline constexpr QLatin1String ApplicationIcon("pictures/glosaria.svg");
+inline constexpr QLatin1String DocumentIcon("pictures/document.svg");
+
+/// The bytes of a carried file; a name that none has gives no bytes.
+QByteArray contents(QLatin1String name);
+
+} // namespace ResourceFiles
