@@ -1,0 +1,31 @@
+#pragma once
+
+#include "quiz/rules/Question.h"
+#include "quiz/rules/QuizKinds.h"
+#include "quiz/rules/RandomSource.h"
+#include "quiz/rules/WordSource.h"
+
+#include <vector>
+
+/// The fixed list of questions that a quiz asks. It is drawn from a vocabulary once; the running quiz reads only it.
+class QuestionTable
+{
+public:
+    /// Questions are numbered with 16 bits.
+    static constexpr int MostQuestions = 32767;
+
+    /// Fills the table from the rows of words whose first word is not empty. False, and the table left as it was, when
+    /// there are too few (3 for Multiple Choice, else 1) or more than can be numbered. An unknown mode counts as the
+    /// first.
+    bool fByggMatriser(QuizKind kind, int QuizMode, const WordSource &words, RandomSource &random);
+
+    /// Asks the given questions instead.
+    void replace(std::vector<Question> questions) { m_questions = std::move(questions); }
+
+    int count() const { return int(m_questions.size()); }
+    /// Question k, 1 to count().
+    const Question &question(int k) const { return m_questions[size_t(k - 1)]; }
+
+private:
+    std::vector<Question> m_questions;
+};

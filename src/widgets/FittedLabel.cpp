@@ -1,0 +1,110 @@
+#include "widgets/FittedLabel.h"
+
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QResizeEvent>
+
+namespace {
+
+constexpr double TypeStep = 0.9;
+
+double textWidth(const QString &text, const QFont &font)
+{
+    return QFontMetricsF(font).horizontalAdvance(text);
+}
+
+} // namespace
+
+QString fittedText(const QString &text, const QFont &font, double width)
+{
+    if (textWidth(text, font) <= width)
+        return text;
+    return QFontMetricsF(font).elidedText(text, Qt::ElideRight, width);
+}
+
+FittedLabel::FittedLabel(QWidget *parent)
+    : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+void FittedLabel::setFullText(const QString &text)
+{
+    m_fullText = text;
+    setAccessibleName(text);
+    // The text's own direction places its punctuation; the label stays at the side where the window's lines begin.
+    const bool mirrored = parentWidget() && parentWidget()->isRightToLeft();
+    setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    setAlignment(Qt::AlignAbsolute | (mirrored ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    fit();
+}
+
+void FittedLabel::setTypeSizes(double preferred, double smallest)
+{
+    m_preferred = preferred;
+    m_smallest = smallest;
+    updateGeometry();
+    fit();
+}
+
+void FittedLabel::setRoomFor(const QString &text)
+{
+    m_roomFor = text;
+    fit();
+}
+
+QSize FittedLabel::sizeHint() const
+{
+    const QFontMetricsF metrics(scaledFont(m_preferred));
+    const QMargins margins = contentsMargins();
+    return QSize(int(std::ceil(metrics.horizontalAdvance(m_fullText) / UsableWidth)) + margins.left() + margins.right(),
+                 int(std::ceil(metrics.height())) + margins.top() + margins.bottom());
+}
+
+QSize FittedLabel::minimumSizeHint() const
+{
+    return QSize(0, sizeHint().height());
+}
+
+void FittedLabel::resizeEvent(QResizeEvent *event)
+{
+    QLabel::resizeEvent(event);
+    fit();
+}
+
+void FittedLabel::changeEvent(QEvent *event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange && !m_fitting)
+        fit();
+}
+
+QFont FittedLabel::scaledFont(double factor) const
+{
+    const QFont base = parentWidget() ? parentWidget()->font() : font();
+    QFont scaled = base;
+    scaled.setPointSizeF(QFontInfo(base).pointSizeF() * factor);
+    return scaled;
+}
+
+QFont FittedLabel::fittingFont(double width) const
+{
+    const QString &longest = m_roomFor.size() > m_fullText.size() ? m_roomFor : m_fullText;
+    double factor = m_preferred;
+    while (factor > m_smallest && textWidth(longest, scaledFont(factor)) > width)
+        factor = std::max(m_smallest, factor * TypeStep);
+    return scaledFont(factor);
+}
+
+void FittedLabel::fit()
+{
+    const double width = contentsRect().width() * UsableWidth;
+    const QFont type = fittingFont(width);
+    m_fitting = true;
+    setFont(type);
+    m_fitting = false;
+    const QString shown = fittedText(m_fullText, type, width);
+    setText(shown);
+    setToolTip(shown == m_fullText ? QString() : m_fullText);
+}

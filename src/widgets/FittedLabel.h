@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QLabel>
+
+/// Plain text on one line that always fits its label: what is too long first takes a smaller type, down to the smallest
+/// allowed, then ends in an ellipsis, with the whole text as tooltip. It is fitted anew when the label is resized.
+class FittedLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    /// The share of a label's width that its text may take.
+    static constexpr double UsableWidth = 0.97;
+
+    explicit FittedLabel(QWidget *parent = nullptr);
+
+    /// The whole text; text() is what the label shows of it.
+    const QString &FullText() const { return m_fullText; }
+    /// Shows a text and makes it the accessible name.
+    void setFullText(const QString &text);
+
+    /// The type the label prefers and the smallest it may take, as multiples of the window's type.
+    void setTypeSizes(double preferred, double smallest);
+    /// The type is chosen as if this text were shown: a text that grows up to it does not change its size.
+    void setRoomFor(const QString &text);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    QFont scaledFont(double factor) const;
+    QFont fittingFont(double width) const;
+    void fit();
+
+    QString m_fullText;
+    QString m_roomFor;
+    double m_preferred = 1;
+    double m_smallest = 1;
+    bool m_fitting = false;
+};
+
+/// The text as it fits a width in pixels in the given type: whole, or its end replaced by an ellipsis.
+QString fittedText(const QString &text, const QFont &font, double width);

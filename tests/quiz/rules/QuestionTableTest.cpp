@@ -1,0 +1,193 @@
+#include "quiz/rules/QuestionTable.h"
+#include "quiz/rules/UsedPairs.h"
+#include "support/ListWords.h"
+
+#include <QSet>
+
+#include <set>
+
+namespace {
+
+QStringList column(const QuestionTable &table, const QString &(Question::*field)() const)
+{
+    QStringList texts;
+    for (int k = 1; k <= table.count(); ++k)
+        texts += (table.question(k).*field)();
+    return texts;
+}
+
+QStringList numbered(QChar side, int count)
+{
+    QStringList texts;
+    for (int i = 1; i <= count; ++i)
+        texts += side + QString::number(i);
+    return texts;
+}
+
+struct SizeCase
+{
+    QuizKind kind;
+    int mode;
+    int words;
+    bool built;
+};
+
+} // namespace
+
+TEST(RandomSourceTest, NumbersReachBothEndsAndNothingElse)
+{
+    struct Fixed : RandomSource
+    {
+        double value = 0;
+        double draw() override { return value; }
+    } fixed;
+    EXPECT_EQ(4, fixed.iGenRndNumber(6, 4));
+    fixed.value = std::nextafter(1.0, 0.0);
+    EXPECT_EQ(6, fixed.iGenRndNumber(6, 4));
+    EXPECT_EQ(32767, fixed.iGenRndNumber(32767, 1));
+
+    SeededRandom random(1);
+    std::array<int, 3> counts{};
+    for (int i = 0; i < 3000; ++i)
+        ++counts.at(size_t(random.iGenRndNumber(6, 4) - 4));
+    for (int count : counts)
+        EXPECT_NEAR(1000, count, 150);
+}
+
+TEST(RandomSourceTest, TwoProgramRunsDrawDifferentNumbers)
+{
+    EXPECT_NE(SeededRandom().draw(), SeededRandom().draw());
+}
+
+TEST(UsedPairsTest, AnswersLikeAScanOfAllColumns)
+{
+    constexpr int Words = 40;
+    UsedPairs pairs(Words);
+    std::vector<std::pair<int, int>> columns;
+    SeededRandom random(7);
+    for (int draws = 0; columns.size() < 2 * Words; ++draws) {
+        ASSERT_LT(draws, 100000);
+        const qint16 side = random.iGenRndNumber(2, 1);
+        const qint16 word = random.iGenRndNumber(Words, 1);
+        const bool unique = std::find(columns.begin(), columns.end(), std::pair<int, int>(side, word)) == columns.end();
+        ASSERT_EQ(unique, pairs.fUnique(qint32(columns.size()) + 1, side, word));
+        if (unique)
+            columns.emplace_back(side, word);
+    }
+}
+
+TEST(QuestionTableTest, NeedsEnoughWordsAndTakesOnlyAsManyAsItCanNumber)
+{
+    using enum QuizKind;
+    for (const SizeCase &size :
+         {SizeCase{Practice, 1, 0, false}, SizeCase{Practice, 1, 1, true}, SizeCase{QuestionAndAnswer, 5, 1, true},
+          SizeCase{MultipleChoice, 1, 2, false}, SizeCase{MultipleChoice, 5, 3, true},
+          SizeCase{MultipleChoice, 3, 32767, true}, SizeCase{Practice, 1, 32768, false},
+          SizeCase{MultipleChoice, 5, 16383, true}, SizeCase{QuestionAndAnswer, 5, 16384, false}}) {
+        SCOPED_TRACE(size.words);
+        QuestionTable table;
+        SeededRandom random(3);
+        const ListWords words = ListWords::numbered(size.words);
+        EXPECT_EQ(size.built, table.fByggMatriser(size.kind, size.mode, words, random));
+        EXPECT_EQ(size.built ? size.words * (size.mode == 5 ? 2 : 1) : 0, table.count());
+    }
+}
+
+TEST(QuestionTableTest, OnlyRowsWithAFirstWordCount)
+{
+    const ListWords words({{u"", u"allein"}, {u"alone", u""}, {u" ", u"Leerzeichen"}, {u"", u""}, {u"last", u"letzte"}});
+    SeededRandom random(1);
+    QuestionTable table;
+    ASSERT_TRUE(table.fByggMatriser(QuizKind::Practice, 1, words, random));
+    EXPECT_THAT(column(table, &Question::askedWord), testing::ElementsAre(u"alone", u" ", u"last"));
+    EXPECT_THAT(column(table, &Question::correctAnswer), testing::ElementsAre(u"", u"Leerzeichen", u"letzte"));
+
+    QuestionTable none;
+    EXPECT_FALSE(none.fByggMatriser(QuizKind::Practice, 5, ListWords{{u"", u"allein"}}, random));
+}
+
+TEST(QuestionTableTest, AFailedSetUpLeavesTheTableAsItWas)
+{
+    QuestionTable table;
+    SeededRandom random(1);
+    ASSERT_TRUE(table.fByggMatriser(QuizKind::Practice, 1, ListWords::numbered(4), random));
+    EXPECT_FALSE(table.fByggMatriser(QuizKind::MultipleChoice, 1, ListWords::numbered(2), random));
+    EXPECT_EQ(numbered(u'e', 4), column(table, &Question::askedWord));
+}
+
+TEST(QuestionTableTest, EachModeAsksEveryWordInItsDirectionAndOrder)
+{
+    constexpr int Words = 60;
+    for (QuizKind kind : {QuizKind::Practice, QuizKind::MultipleChoice, QuizKind::QuestionAndAnswer}) {
+        for (int mode = 1; mode <= 5; ++mode) {
+            SCOPED_TRACE(mode);
+            QuestionTable table;
+            SeededRandom random{quint64(mode)};
+            ASSERT_TRUE(table.fByggMatriser(kind, mode, ListWords::numbered(Words), random));
+            const QStringList asked = column(table, &Question::askedWord);
+
+            QStringList expected;
+            if (mode != 2 && mode != 4)
+                expected += numbered(u'e', Words);
+            if (mode != 1 && mode != 3)
+                expected += numbered(u'g', Words);
+            EXPECT_EQ(mode <= 2, asked == expected);
+            EXPECT_THAT(asked, testing::UnorderedElementsAreArray(expected));
+
+            for (int k = 1; k <= table.count(); ++k) {
+                const Question &question = table.question(k);
+                const bool fromEnglish = question.askedWord().startsWith(u'e');
+                EXPECT_EQ(fromEnglish ? u"English" : u"German", question.askedLanguage());
+                EXPECT_EQ(fromEnglish ? u"German" : u"English", question.answerLanguage());
+                EXPECT_EQ((fromEnglish ? u'g' : u'e') + question.askedWord().mid(1), question.correctAnswer());
+            }
+        }
+    }
+}
+
+TEST(QuestionTableTest, TheNextQuizHasAnotherOrder)
+{
+    QuestionTable first;
+    QuestionTable second;
+    SeededRandom random(1);
+    first.fByggMatriser(QuizKind::Practice, 3, ListWords::numbered(60), random);
+    second.fByggMatriser(QuizKind::Practice, 3, ListWords::numbered(60), random);
+    EXPECT_NE(column(first, &Question::askedWord), column(second, &Question::askedWord));
+}
+
+TEST(QuestionTableTest, MultipleChoiceOffersTwoOtherWordsOfTheAnswersLanguage)
+{
+    for (int words : {3, 40}) {
+        QuestionTable table;
+        SeededRandom random(5);
+        ASSERT_TRUE(table.fByggMatriser(QuizKind::MultipleChoice, 5, ListWords::numbered(words), random));
+        std::set<int> positions;
+        QSet<QString> wrong;
+        for (int k = 1; k <= table.count(); ++k) {
+            const Question &question = table.question(k);
+            positions.insert(question.correctPosition());
+            QSet<QString> options;
+            for (int field = 4; field <= 6; ++field) {
+                EXPECT_EQ(question.correctAnswer()[0], question.field(field)[0]);
+                options.insert(question.field(field));
+            }
+            EXPECT_EQ(3, options.size());
+            wrong += options - QSet<QString>{question.correctAnswer()};
+        }
+        EXPECT_GT(wrong.size(), words);
+        if (words > 3) {
+            EXPECT_EQ((std::set{4, 5, 6}), positions);
+        }
+    }
+}
+
+TEST(QuestionTableTest, OtherKindsHaveOneOption)
+{
+    QuestionTable table;
+    SeededRandom random(5);
+    ASSERT_TRUE(table.fByggMatriser(QuizKind::QuestionAndAnswer, 5, ListWords::numbered(9), random));
+    for (int k = 1; k <= table.count(); ++k) {
+        EXPECT_EQ(u"4", table.question(k).field(3));
+        EXPECT_EQ(QString(), table.question(k).field(5) + table.question(k).field(6));
+    }
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "quiz/rules/WordSource.h"
+
+#include <vector>
+
+/// A vocabulary made of a list of pairs, in the two languages "English" and "German". Like a document it ends in an
+/// empty row.
+class ListWords : public WordSource
+{
+public:
+    using Pairs = std::vector<std::pair<QString, QString>>;
+
+    ListWords(std::initializer_list<std::pair<const char16_t *, const char16_t *>> pairs)
+        : ListWords(texts(pairs))
+    {
+    }
+
+    explicit ListWords(Pairs pairs)
+        : m_pairs(std::move(pairs))
+    {
+        m_pairs.insert(m_pairs.begin(), {QStringLiteral("English"), QStringLiteral("German")});
+        m_pairs.emplace_back();
+    }
+
+    /// The pairs ("e1", "g1") to ("e<count>", "g<count>").
+    static ListWords numbered(int count)
+    {
+        Pairs pairs;
+        for (int i = 1; i <= count; ++i)
+            pairs.emplace_back(QStringLiteral("e%1").arg(i), QStringLiteral("g%1").arg(i));
+        return ListWords(std::move(pairs));
+    }
+
+    int Rows() const override { return int(m_pairs.size()); }
+    QString TextMatrix(int row, int col) const override
+    {
+        const auto &pair = m_pairs[size_t(row)];
+        return col == 1 ? pair.first : pair.second;
+    }
+
+private:
+    static Pairs texts(std::initializer_list<std::pair<const char16_t *, const char16_t *>> pairs)
+    {
+        Pairs result;
+        for (const auto &[first, second] : pairs)
+            result.emplace_back(QString::fromUtf16(first), QString::fromUtf16(second));
+        return result;
+    }
+
+    Pairs m_pairs;
+};
