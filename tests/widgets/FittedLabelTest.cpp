@@ -1,7 +1,5 @@
 #include "widgets/FittedLabel.h"
 
-#include <QSignalSpy>
-
 namespace {
 
 const QString LongPhrase = QStringLiteral("a phrase that is a good deal longer than the label that has to show it");
@@ -39,8 +37,8 @@ TEST(FittedLabelTest, ResizingFitsAnew)
     QWidget window;
     FittedLabel label(&window);
     label.resize(150, 30);
-    label.setFullText(LongPhrase);
     window.show();
+    label.setFullText(LongPhrase);
     label.resize(1200, 30);
     EXPECT_EQ(LongPhrase, label.text());
     EXPECT_EQ(QString(), label.toolTip());
@@ -51,7 +49,9 @@ TEST(FittedLabelTest, ResizingFitsAnew)
 
 TEST(FittedLabelTest, TheUsableWidthIsExact)
 {
-    FittedLabel label;
+    QWidget window;
+    FittedLabel label(&window);
+    window.show();
     label.setFullText(QStringLiteral("vocabulary"));
     const double width = QFontMetricsF(label.font()).horizontalAdvance(label.FullText());
     label.resize(int(std::ceil(width / FittedLabel::UsableWidth)), 30);
@@ -64,6 +64,7 @@ TEST(FittedLabelTest, LargeTypeShrinksBeforeTheTextIsCut)
 {
     QWidget window;
     FittedLabel label(&window);
+    window.show();
     label.setTypeSizes(3, 1);
     label.setFullText(QStringLiteral("word"));
     label.resize(1000, 60);

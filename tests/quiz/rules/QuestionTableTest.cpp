@@ -95,7 +95,8 @@ TEST(QuestionTableTest, NeedsEnoughWordsAndTakesOnlyAsManyAsItCanNumber)
 
 TEST(QuestionTableTest, OnlyRowsWithAFirstWordCount)
 {
-    const ListWords words({{u"", u"allein"}, {u"alone", u""}, {u" ", u"Leerzeichen"}, {u"", u""}, {u"last", u"letzte"}});
+    const ListWords words(
+        {{u"", u"allein"}, {u"alone", u""}, {u" ", u"Leerzeichen"}, {u"", u""}, {u"last", u"letzte"}});
     SeededRandom random(1);
     QuestionTable table;
     ASSERT_TRUE(table.fByggMatriser(QuizKind::Practice, 1, words, random));
