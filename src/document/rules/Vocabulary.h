@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QString>
+
+#include <array>
+#include <optional>
+#include <vector>
+
+/// The grid's one font and text colour as a vocabulary file keeps them.
+struct VocabularyFont
+{
+    static constexpr double SmallestSize = 1.0;
+    static constexpr double LargestSize = 2048.0;
+
+    QString name = QStringLiteral("Arial");
+    double size = 10.0; ///< points
+    bool bold = false;
+    bool italic = false;
+    int color = 0; ///< 0x00BBGGRR; with the top bit set a system colour
+
+    bool operator==(const VocabularyFont &) const = default;
+};
+
+/// A word list apart from any window: what a vocabulary file holds and a document's grid shows. Row 0 carries the names
+/// of the two languages, the rows after it the word pairs; the grid's empty last row is not part of it.
+struct Vocabulary
+{
+    static constexpr int DefaultRowHeight = 285;
+
+    /// Missing after reading a file of an older version, which holds only the rows: the document keeps its own.
+    std::optional<VocabularyFont> font;
+    /// Twips, 0 or more: the row numbers, language 1, language 2. Missing like the font.
+    std::optional<std::array<int, 3>> columnWidths;
+
+    /// One entry a row in each of the three; no text holds a line break.
+    std::vector<QString> first;
+    std::vector<QString> second;
+    std::vector<int> heights; ///< twips, 0 or more
+
+    qsizetype rows() const { return qsizetype(first.size()); }
+    void append(QString firstWord, QString secondWord, int height = DefaultRowHeight)
+    {
+        first.push_back(std::move(firstWord));
+        second.push_back(std::move(secondWord));
+        heights.push_back(height);
+    }
+
+    bool operator==(const Vocabulary &) const = default;
+};

@@ -1,0 +1,294 @@
+#include "document/rules/LineReader.h"
+#include "document/rules/ProgressTicks.h"
+#include "document/rules/Utf8Text.h"
+#include "document/rules/VocabularyCodec.h"
+
+#include <limits>
+
+namespace {
+
+using VocabularyCodec::DecodeResult;
+using VocabularyCodec::Header;
+using VocabularyCodec::Outcome;
+using VocabularyCodec::Progress;
+
+constexpr int FormatVersion = GLOSARIA_VERSION[0] - '0';
+constexpr QByteArrayView MarkerStart("   [");
+constexpr qsizetype MarkerDigits = 10;
+
+/// How the letters of a file are to be read; found out before the first of them.
+class LetterReader
+{
+public:
+    LetterReader(QByteArrayView bytes, bool declaredUtf8, const CodePage &codePage)
+        : m_codePage(codePage)
+        , m_utf8(bytes.isValidUtf8())
+        , m_mended(declaredUtf8 && !m_utf8)
+    {
+    }
+
+    QString read(QByteArrayView line) const
+    {
+        if (line.isEmpty())
+            return QString();
+        if (m_utf8)
+            return QString::fromUtf8(line);
+        return m_mended ? mended(line) : m_codePage.decode(line);
+    }
+
+private:
+    QString mended(QByteArrayView line) const
+    {
+        std::optional<QString> text = Utf8Text::decode(line);
+        return text ? *std::move(text) : m_codePage.decode(line);
+    }
+
+    const CodePage &m_codePage;
+    const bool m_utf8;
+    const bool m_mended; ///< UTF-8 in all lines but some
+};
+
+struct LineFeeds
+{
+    qsizetype count = 0;
+    bool anyWithinLine = false;
+};
+
+LineFeeds lineFeedsIn(QByteArrayView bytes)
+{
+    LineFeeds feeds;
+    for (qsizetype at = bytes.indexOf('\n'); at >= 0; at = bytes.indexOf('\n', at + 1)) {
+        ++feeds.count;
+        feeds.anyWithinLine |= at == 0 || bytes[at - 1] != '\r';
+    }
+    return feeds;
+}
+
+enum class DeclaredEncoding { None, Utf8, Unknown };
+
+DeclaredEncoding declaredEncoding(LineReader lines)
+{
+    while (!lines.atEnd()) {
+        const QByteArrayView line = lines.next();
+        if (line == "[Vocabulary]")
+            break;
+        if (line == "[Encoding]") {
+            const bool utf8 = !lines.atEnd() && lines.next().compare("UTF-8", Qt::CaseInsensitive) == 0;
+            return utf8 ? DeclaredEncoding::Utf8 : DeclaredEncoding::Unknown;
+        }
+    }
+    return DeclaredEncoding::None;
+}
+
+std::optional<int> rowHeight(QByteArrayView digits)
+{
+    if (digits.size() != MarkerDigits)
+        return std::nullopt;
+    qint64 height = 0;
+    for (const char digit : digits) {
+        if (digit < '0' || digit > '9')
+            return std::nullopt;
+        height = height * 10 + (digit - '0');
+    }
+    return height <= std::numeric_limits<int>::max() ? std::optional<int>(int(height)) : std::nullopt;
+}
+
+class Decoder
+{
+public:
+    Decoder(QByteArrayView bytes, const CodePage &codePage, const Progress &progress)
+        : m_lines(bytes)
+        , m_declared(declaredEncoding(m_lines))
+        , m_letters(bytes, m_declared == DeclaredEncoding::Utf8, codePage)
+        , m_feeds(lineFeedsIn(bytes))
+        , m_ticks(progress, bytes.size())
+    {
+    }
+
+    bool run(bool olderVersion, Vocabulary &vocabulary)
+    {
+        if (m_declared == DeclaredEncoding::Unknown)
+            return false;
+        m_lines.next();
+        m_lines.next();
+        return (olderVersion || readSections(vocabulary)) && readRows(vocabulary);
+    }
+
+private:
+    bool skipTo(QByteArrayView wanted)
+    {
+        while (!m_lines.atEnd()) {
+            if (m_lines.next() == wanted)
+                return true;
+        }
+        return false;
+    }
+
+    bool readSections(Vocabulary &vocabulary)
+    {
+        if (!skipTo("[Font Info]") || !readFont(vocabulary.font.emplace()))
+            return false;
+        while (!m_lines.atEnd()) {
+            const QByteArrayView line = m_lines.next();
+            if (line == "[Vocabulary]")
+                return true;
+            if (line == "[Grid Info]" && !readWidths(vocabulary.columnWidths.emplace()))
+                return false;
+        }
+        return false;
+    }
+
+    bool readFont(VocabularyFont &font)
+    {
+        return readQuoted(font.name) && readSize(font.size) && readFlag(font.bold) && readFlag(font.italic) &&
+               readInteger(font.color);
+    }
+
+    bool readWidths(std::array<int, 3> &widths)
+    {
+        return std::all_of(widths.begin(), widths.end(),
+                           [this](int &width) { return readInteger(width) && width >= 0; });
+    }
+
+    bool nextValue(QByteArrayView &value)
+    {
+        if (m_lines.atEnd())
+            return false;
+        value = m_lines.next().trimmed();
+        return true;
+    }
+
+    bool readQuoted(QString &text)
+    {
+        QByteArrayView value;
+        if (!nextValue(value))
+            return false;
+        if (value.size() >= 2 && value.startsWith('"') && value.endsWith('"'))
+            value = value.sliced(1, value.size() - 2);
+        text = read(value);
+        return true;
+    }
+
+    bool readSize(double &size)
+    {
+        QByteArrayView value;
+        bool isNumber = false;
+        if (nextValue(value))
+            size = value.toDouble(&isNumber);
+        return isNumber && size >= VocabularyFont::SmallestSize && size <= VocabularyFont::LargestSize;
+    }
+
+    bool readFlag(bool &flag)
+    {
+        QByteArrayView value;
+        if (!nextValue(value))
+            return false;
+        flag = value == "#TRUE#";
+        return flag || value == "#FALSE#";
+    }
+
+    bool readInteger(int &number)
+    {
+        QByteArrayView value;
+        bool isNumber = false;
+        if (nextValue(value))
+            number = value.toInt(&isNumber);
+        return isNumber;
+    }
+
+    bool readRows(Vocabulary &vocabulary)
+    {
+        const auto expected = size_t(m_feeds.count / 2 + 1);
+        vocabulary.first.reserve(expected);
+        vocabulary.second.reserve(expected);
+        vocabulary.heights.reserve(expected);
+        while (!m_lines.atEnd()) {
+            if (!readRow(vocabulary))
+                return false;
+        }
+        return true;
+    }
+
+    bool readRow(Vocabulary &vocabulary)
+    {
+        const QByteArrayView firstLine = m_lines.next();
+        std::optional<QByteArrayView> word = withoutMarker(firstLine);
+        if (!word || m_lines.atEnd())
+            return false;
+        const QByteArrayView secondLine = m_lines.next();
+        vocabulary.append(read(*word), read(secondLine), m_height);
+        m_done += firstLine.size() + secondLine.size();
+        m_ticks.reach(m_done);
+        return true;
+    }
+
+    /// The line up to its height marker, which sets the height of this row and those after it. No value when the marker
+    /// is wrong. A blank can never be the second byte of a letter, so the marker is looked for in the bytes.
+    std::optional<QByteArrayView> withoutMarker(QByteArrayView line)
+    {
+        const qsizetype start = line.endsWith(']') ? line.indexOf(MarkerStart) : -1;
+        if (start >= 0 && endsInBracketLetter(line)) {
+            const qsizetype digits = start + MarkerStart.size();
+            const std::optional<int> height =
+                rowHeight(line.sliced(digits).first(std::min(MarkerDigits, line.size() - digits)));
+            if (!height)
+                return std::nullopt;
+            m_height = *height;
+            line = line.first(start);
+        }
+        if (m_height == 0)
+            m_height = Vocabulary::DefaultRowHeight;
+        return line;
+    }
+
+    /// A last byte "]" may be the second half of an East Asian letter.
+    bool endsInBracketLetter(QByteArrayView line) const
+    {
+        return line.size() < 2 || uchar(line[line.size() - 2]) < 0x80 || m_letters.read(line).endsWith(u']');
+    }
+
+    QString read(QByteArrayView line) const
+    {
+        QString text = m_letters.read(line);
+        if (m_feeds.anyWithinLine)
+            text.replace(u'\n', u' ');
+        return text;
+    }
+
+    LineReader m_lines;
+    const DeclaredEncoding m_declared;
+    const LetterReader m_letters;
+    const LineFeeds m_feeds;
+    ProgressTicks m_ticks;
+    int m_height = 0;
+    qint64 m_done = 0;
+};
+
+} // namespace
+
+namespace VocabularyCodec {
+
+Header readHeader(QByteArrayView bytes)
+{
+    LineReader lines(bytes);
+    if (lines.atEnd() || lines.next() != "Glosaria")
+        return {Outcome::BadFormat};
+    const char version = lines.rest().isEmpty() ? '\0' : lines.rest().front();
+    if (version < '0' || version > '9')
+        return {Outcome::Failed};
+    return {version - '0' > FormatVersion ? Outcome::NewerVersion : Outcome::Ok, version - '0' < FormatVersion};
+}
+
+DecodeResult decode(QByteArrayView bytes, const CodePage &codePage, const Progress &progress)
+{
+    const Header header = readHeader(bytes);
+    DecodeResult result{header.outcome, header.olderVersion, {}};
+    if (header.outcome == Outcome::Ok &&
+        !Decoder(bytes, codePage, progress).run(header.olderVersion, result.vocabulary)) {
+        result.outcome = Outcome::Failed;
+        result.vocabulary = Vocabulary();
+    }
+    return result;
+}
+
+} // namespace VocabularyCodec

@@ -1,0 +1,32 @@
+#include "document/rules/VocabularyFile.h"
+
+#include "platform/AtomicFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+using VocabularyCodec::Outcome;
+
+VocabularyCodec::Header VocabularyFile::readHeader()
+{
+    // Opening a pipe would wait for its other end.
+    QFile file(m_path);
+    if (!QFileInfo(m_path).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > LargestSize)
+        return {Outcome::Failed};
+    const VocabularyCodec::Header header = VocabularyCodec::readHeader(file.peek(VocabularyCodec::HeaderBytes));
+    if (header.outcome == Outcome::Ok)
+        m_bytes = file.readAll();
+    return file.error() == QFile::NoError ? header : VocabularyCodec::Header{Outcome::Failed};
+}
+
+VocabularyCodec::DecodeResult VocabularyFile::read(const CodePage &codePage,
+                                                   const VocabularyCodec::Progress &progress) const
+{
+    return VocabularyCodec::decode(m_bytes, codePage, progress);
+}
+
+bool VocabularyFile::save(const Vocabulary &vocabulary, const CodePage &codePage,
+                          const VocabularyCodec::Progress &progress, QString *error) const
+{
+    return AtomicFile::write(m_path, VocabularyCodec::encode(vocabulary, codePage, progress), error);
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "document/rules/VocabularyCodec.h"
+
+/// A vocabulary file on the disk. Reading goes in two steps, so that the user can be told of an older version and the
+/// document window be made in between.
+class VocabularyFile
+{
+public:
+    explicit VocabularyFile(const QString &path)
+        : m_path(path)
+    {
+    }
+
+    /// Reads the file, no further than the header unless that is Ok. Failed: missing, unreadable, no regular file, or
+    /// larger than LargestSize.
+    VocabularyCodec::Header readHeader();
+
+    /// Bytes of the file; known once the header was Ok.
+    qint64 size() const { return m_bytes.size(); }
+
+    /// Reads the rest; only after a header that was Ok.
+    VocabularyCodec::DecodeResult read(const CodePage &codePage, const VocabularyCodec::Progress &progress = {}) const;
+
+    /// Replaces the file. False: it is as it was before; error, if given, says why in the words of the system.
+    bool save(const Vocabulary &vocabulary, const CodePage &codePage, const VocabularyCodec::Progress &progress = {},
+              QString *error = nullptr) const;
+
+    static constexpr qint64 LargestSize = qint64(1) << 30;
+
+private:
+    QString m_path;
+    QByteArray m_bytes;
+};
