@@ -12,8 +12,9 @@ struct Alert
     QString prompt;
     QString title; ///< empty: the program's title
     Buttons buttons = Ok;
-    int helpId = 0;     ///< help topic of the Help button, 0: none
-    bool sound = false; ///< the exclamation sound precedes the box
+    int helpId = 0;           ///< help topic of the Help button, 0: none
+    bool sound = false;       ///< the exclamation sound precedes the box
+    bool exclamation = false; ///< the exclamation icon in place of the program's
 };
 
 /// Asks or tells the user something in a modal box. Everything that must do so is handed one, so that tests can answer

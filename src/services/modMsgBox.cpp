@@ -40,7 +40,10 @@ AlertBox::Answer modMsgBox::show(QWidget *owner, const Alert &alert)
     box.setWindowTitle(alert.title.isEmpty() ? resText(507) : alert.title);
     box.setTextFormat(Qt::PlainText);
     box.setText(alert.prompt);
-    box.setIconPixmap(QApplication::windowIcon().pixmap(QSize(48, 48), box.devicePixelRatio()));
+    if (alert.exclamation)
+        box.setIcon(QMessageBox::Warning);
+    else
+        box.setIconPixmap(QApplication::windowIcon().pixmap(QSize(48, 48), box.devicePixelRatio()));
     box.setStandardButtons(buttonsOf(alert.buttons));
     if (alert.buttons == Alert::YesNoCancelHelp) {
         box.setDefaultButton(QMessageBox::Yes);

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "print/CommonDialogs.h"
+
+#include <functional>
+
+class QFileDialog;
+class QtPrinter;
+
+/// The dialogs of the toolkit, or of the desktop where it has its own. They remember the folder that the user was in
+/// last.
+class QtDialogs : public CommonDialogs
+{
+public:
+    /// Shows help; false when there is none of that kind.
+    using HelpCall = std::function<bool(const QString &file, int command, int key)>;
+
+    /// The print dialogs carry the user's choices over to the printer, which must outlive the object.
+    QtDialogs(QtPrinter &printer, HelpCall helpCall);
+
+    std::optional<FileChoice> openFile(const FileRequest &request) override;
+    std::optional<FileChoice> saveFile(const FileRequest &request) override;
+    bool fileExists(const QString &path) override;
+    bool confirmReplace(QWidget *owner, const QString &title, const QString &path) override;
+    std::optional<PrintChoice> choosePages(const PrintRequest &request) override;
+    bool setUpPrinter(QWidget *owner) override;
+    bool callHelp(QWidget *owner, const QString &file, int command, int key) override;
+
+private:
+    std::optional<FileChoice> show(QFileDialog &dialog, const FileRequest &request);
+    QString startFolder(const FileRequest &request) const;
+
+    QtPrinter &m_printer;
+    HelpCall m_helpCall;
+    QString m_lastFolder;
+};

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "print/PrinterDevice.h"
+
+#include <QPrinter>
+
+#include <memory>
+
+class PaintedSurface;
+class QPainter;
+
+/// The platform's printer at 1440 dots per inch over the full page, so that one unit is one twip. Without a printer
+/// installed its pages go to a PDF file.
+class QtPrinter : public PrinterDevice
+{
+public:
+    QtPrinter();
+    ~QtPrinter() override;
+
+    /// The printer as its dialogs need it, made when first asked for.
+    QPrinter &printer() const;
+    /// Undoes what a dialog changed apart from the user's choices: resolution, margins and copies, which the print
+    /// command makes itself. Throws PrinterError when the printer does not exist.
+    void settle();
+
+    int Width() const override;
+    int Height() const override;
+    int ScaleHeight() const override;
+    std::unique_ptr<TextMeasure> measure(const PrintFont &font) const override;
+
+    void setFont(const PrintFont &font) override;
+    void setForeColor(QRgb color) override;
+    void drawText(int x, int y, const QString &text, bool rightToLeft) override;
+
+    void setDocName(const QString &name) override;
+    void beginDoc() override;
+    void newPage() override;
+    void endDoc() override;
+
+    bool uncollated() const override;
+    bool lastPageFirst() const override;
+    bool wantsPage(int page) const override;
+
+private:
+    [[noreturn]] void fail();
+    bool writesFile() const;
+
+    mutable std::unique_ptr<QPrinter> m_printer;
+    std::unique_ptr<QPainter> m_painter;
+    std::unique_ptr<PaintedSurface> m_surface;
+};
