@@ -1,0 +1,125 @@
+#include "platform/RegistryFile.h"
+
+#include "platform/AtomicFile.h"
+#include "platform/RegistryText.h"
+#include "platform/UserFolders.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLockFile>
+
+namespace {
+
+constexpr int LockWait = 2000; // ms
+constexpr qint64 LargestFile = 64 << 20;
+
+/// Holds the lock beside the store. Where no lock file can be made the store is used without one.
+class StoreLock
+{
+public:
+    explicit StoreLock(const QString &path)
+        : m_lock(path + QStringLiteral(".lock"))
+    {
+        m_held = m_lock.tryLock(LockWait) || m_lock.error() != QLockFile::LockFailedError;
+    }
+
+    bool isHeld() const { return m_held; }
+
+private:
+    QLockFile m_lock;
+    bool m_held = false;
+};
+
+} // namespace
+
+RegistryFile::RegistryFile(const QString &path)
+    : m_path(path)
+{
+    if (load(m_tree) != State::Damaged)
+        return;
+    // Another copy may just have set it aside and begun a new one.
+    const StoreLock lock(m_path);
+    if (load(m_tree) == State::Damaged)
+        setAside();
+}
+
+QString RegistryFile::defaultPath()
+{
+    return UserFolders::config() + QStringLiteral("/registry");
+}
+
+RegistryFile::State RegistryFile::load(RegistryTree &tree) const
+{
+    QFile file(m_path);
+    if (!file.exists())
+        return State::Whole;
+    if (!file.open(QIODevice::ReadOnly))
+        return State::Unreadable;
+    if (file.size() > LargestFile)
+        return State::Damaged;
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return State::Unreadable;
+    std::optional<RegistryTree> found = RegistryText::read(bytes);
+    if (!found)
+        return State::Damaged;
+    tree = std::move(*found);
+    return State::Whole;
+}
+
+bool RegistryFile::setAside() const
+{
+    QString name = m_path + QStringLiteral(".damaged");
+    for (int number = 2; QFileInfo::exists(name); ++number)
+        name = m_path + QStringLiteral(".damaged-%1").arg(number);
+    return QFile::rename(m_path, name);
+}
+
+bool RegistryFile::change(const std::function<bool(RegistryTree &tree)> &edit)
+{
+    QDir().mkpath(QFileInfo(m_path).absolutePath());
+    const StoreLock lock(m_path);
+    if (!lock.isHeld())
+        return false;
+    RegistryTree current;
+    const State state = load(current);
+    if (state == State::Unreadable || (state == State::Damaged && !setAside()))
+        return false;
+    RegistryTree next = current;
+    if (!edit(next))
+        return false;
+    if (next != current && !AtomicFile::write(m_path, RegistryText::write(next)))
+        return false;
+    m_tree = std::move(next);
+    return true;
+}
+
+bool RegistryFile::keyExists(int root, const QString &key) const
+{
+    return m_tree.keyExists(root, key);
+}
+
+bool RegistryFile::createKey(int root, const QString &key)
+{
+    return change([&](RegistryTree &tree) { return tree.createKey(root, key); });
+}
+
+bool RegistryFile::deleteKey(int root, const QString &key)
+{
+    return change([&](RegistryTree &tree) { return tree.deleteKey(root, key); });
+}
+
+std::optional<RegistryValue> RegistryFile::value(int root, const QString &key, const QString &name) const
+{
+    return m_tree.value(root, key, name);
+}
+
+bool RegistryFile::setValue(int root, const QString &key, const QString &name, const RegistryValue &value)
+{
+    return change([&](RegistryTree &tree) { return tree.setValue(root, key, name, value); });
+}
+
+bool RegistryFile::deleteValue(int root, const QString &key, const QString &name)
+{
+    return change([&](RegistryTree &tree) { return tree.deleteValue(root, key, name); });
+}
