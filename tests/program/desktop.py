@@ -1,0 +1,233 @@
+"""A desktop of its own for whole-program tests: display, window manager, session bus, home folder, and the program.
+
+with Desktop("build/dev/glosaria") as desktop:
+    desktop.start("words.gla")
+    desktop.key("ctrl+s")
+
+Everything the desktop started ends with it. What is missing on the machine raises an error that names it.
+"""
+
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+TOOLS = ("Xvfb", "openbox", "dbus-daemon", "xdotool", "setxkbmap", "import")
+PATIENCE = 30  # seconds that anything may take on a busy machine
+
+
+class Missing(Exception):
+    """A tool or a Python module that the machine lacks."""
+
+
+class Desktop:
+    """Owns the processes and the temporary home. Use it as a context manager; one at a time in a process."""
+
+    def __init__(self, program, size="1280x800"):
+        self.program = os.path.abspath(program)
+        self._size = size
+        self._processes = []
+        self._programs = []
+        self._atspi = None
+
+    def __enter__(self):
+        missing = [tool for tool in TOOLS if not shutil.which(tool)]
+        if missing:
+            raise Missing("not installed: " + ", ".join(missing))
+        if not os.access(self.program, os.X_OK):
+            raise Missing(f"not built: {self.program}")
+        self._home = tempfile.TemporaryDirectory(prefix="glosaria-home-")
+        self.home = pathlib.Path(self._home.name)
+        try:
+            self._environment = self._fresh_environment()
+            self._start_display()
+            self._start_bus()
+            self._launch("openbox", "--sm-disable")
+            self._load_accessibility()
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def __exit__(self, *_):
+        for process in reversed(self._programs + self._processes):
+            self._end(process)
+        self._home.cleanup()
+
+    # The program
+
+    def start(self, *arguments):
+        """Starts the program, waits for its main window and returns the process."""
+        process = self._launch(self.program, *map(str, arguments))
+        self._processes.remove(process)
+        self._programs.append(process)
+        self.wait(lambda: self.main_window() or process.poll() is not None, "the main window")
+        if process.poll() is not None:
+            raise AssertionError(f"the program ended at once with {process.returncode}")
+        return process
+
+    def quit(self, process):
+        """Closes the main window as the user does and waits for the process to end; returns its exit code."""
+        self.tool("xdotool", "windowactivate", "--sync", self.main_window())
+        self.key("alt+F4")
+        self.wait(lambda: process.poll() is not None, "the end of the program")
+        self._programs.remove(process)
+        return process.returncode
+
+    def main_window(self):
+        """The X window number of the visible main window as text, or None while there is none."""
+        listed = subprocess.run(
+            ["xdotool", "search", "--onlyvisible", "--name", "Glosaria"],
+            env=self._environment, capture_output=True, text=True, check=False,
+        ).stdout.split()
+        return next((window for window in listed if self._width(window) > 600), None)
+
+    # The user's hands and eyes
+
+    def key(self, *keys):
+        """Presses keys in xdotool's names: "ctrl+s", "Return"."""
+        self.tool("xdotool", "key", "--clearmodifiers", *keys)
+
+    def type(self, text):
+        self.tool("xdotool", "type", "--clearmodifiers", "--delay", "20", text)
+
+    def click(self, x, y, button=1, times=1):
+        """Clicks at a point of the screen."""
+        self.tool("xdotool", "mousemove", x, y, "click", "--repeat", times, "--delay", 60, button)
+
+    def screenshot(self, path):
+        self.tool("import", "-window", "root", path)
+
+    # What a screen reader finds
+
+    def application(self):
+        """The program's accessible root, or None while it is not there."""
+        desktop = self._atspi.Registry.getDesktop(0)
+        return next((child for child in desktop if child and child.name == "Glosaria"), None)
+
+    def find(self, role=None, name=None, within=None):
+        """The first showing accessible of this role and name (either may be None), or None."""
+        return next(self.find_all(role, name, within), None)
+
+    def find_all(self, role=None, name=None, within=None):
+        root = within or self.application()
+        pending = [root] if root else []
+        while pending:
+            item = pending.pop(0)
+            try:
+                if role in (None, item.getRoleName()) and name in (None, item.name) and self._showing(item):
+                    yield item
+                # A table is asked for its cells by row and column; walking through them all takes too long.
+                if item.getRoleName() != "table":
+                    pending.extend(child for child in item if child)
+            except Exception:  # pylint: disable=broad-except
+                continue  # the object went away meanwhile
+
+    def cell(self, row, column, within=None):
+        """The text of a cell of the first table, counted from 0 below the headers."""
+        table = self.wait_for(role="table", within=within).queryTable()
+        return table.getAccessibleAt(row, column).name
+
+    def wait_for(self, role=None, name=None, within=None):
+        return self.wait(lambda: self.find(role, name, within), f"{role or 'something'} named {name!r}")
+
+    def wait(self, condition, what, seconds=PATIENCE):
+        """Returns the condition's first true value."""
+        end = time.monotonic() + seconds
+        while time.monotonic() < end:
+            while self._events.iteration(False):
+                pass  # what changed reaches the screen reader's memory only so
+            value = condition()
+            if value:
+                return value
+            time.sleep(0.1)
+        raise AssertionError(f"waited {seconds} s in vain for {what}")
+
+    # Beneath
+
+    def tool(self, *command):
+        """Runs a command on this desktop and returns what it printed."""
+        return subprocess.run(
+            [str(word) for word in command],
+            env=self._environment, capture_output=True, text=True, check=True, timeout=PATIENCE,
+        ).stdout
+
+    def _fresh_environment(self):
+        environment = {
+            "PATH": os.environ["PATH"],
+            "LANG": "C.UTF-8",
+            "HOME": str(self.home),
+            "QT_QPA_PLATFORM": "xcb",
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+        }
+        for variable, folder in (
+            ("XDG_CONFIG_HOME", "config"), ("XDG_DATA_HOME", "data"), ("XDG_STATE_HOME", "state"),
+            ("XDG_CACHE_HOME", "cache"), ("XDG_RUNTIME_DIR", "run"), ("TMPDIR", "tmp"),
+        ):
+            (self.home / folder).mkdir(mode=0o700)
+            environment[variable] = str(self.home / folder)
+        return environment
+
+    def _launch(self, *command, **options):
+        log = open(self.home / (pathlib.Path(command[0]).name + ".log"), "ab")
+        with log:
+            options.setdefault("stdout", log)
+            process = subprocess.Popen(
+                command, env=self._environment, stdin=subprocess.DEVNULL, stderr=log, start_new_session=True, **options
+            )
+        self._processes.append(process)
+        return process
+
+    def _start_display(self):
+        server = self._launch(
+            "Xvfb", "-displayfd", "1", "-screen", "0", self._size + "x24", "-nolisten", "tcp", stdout=subprocess.PIPE
+        )
+        number = server.stdout.readline().decode().strip()
+        if not number:
+            raise AssertionError("Xvfb did not start")
+        self._environment["DISPLAY"] = ":" + number
+        self.tool("setxkbmap", "us")
+
+    def _start_bus(self):
+        bus = self._launch("dbus-daemon", "--session", "--nofork", "--print-address=1", stdout=subprocess.PIPE)
+        self._environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().decode().strip()
+
+    def _load_accessibility(self):
+        """Loads the screen reader's library, which takes bus and display from this process' environment."""
+        os.environ.update({name: self._environment[name] for name in ("DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "HOME")})
+        os.environ["XDG_RUNTIME_DIR"] = self._environment["XDG_RUNTIME_DIR"]
+        try:
+            import pyatspi  # pylint: disable=import-outside-toplevel
+            from gi.repository import GLib  # pylint: disable=import-outside-toplevel
+        except ImportError as error:
+            raise Missing(f"not installed: {error.name} for {sys.executable}") from error
+        self._atspi = pyatspi
+        self._events = GLib.MainContext.default()
+
+    def _showing(self, item):
+        return item.getState().contains(self._atspi.STATE_SHOWING)
+
+    def _width(self, window):
+        shape = subprocess.run(
+            ["xdotool", "getwindowgeometry", "--shell", window],
+            env=self._environment, capture_output=True, text=True, check=False,
+        ).stdout
+        return int(dict(line.split("=") for line in shape.split() if "=" in line).get("WIDTH", 0))
+
+    @staticmethod
+    def _end(process):
+        """Ends a process and all that it started in its session."""
+        for step in (signal.SIGTERM, signal.SIGKILL):
+            try:
+                os.killpg(process.pid, step)
+            except ProcessLookupError:
+                break
+            try:
+                process.wait(5)
+            except subprocess.TimeoutExpired:
+                continue
+        process.wait()
