@@ -130,8 +130,7 @@ std::vector<Question> Setup::questions()
 
 bool QuestionTable::fByggMatriser(QuizKind kind, int QuizMode, const WordSource &words, RandomSource &random)
 {
-    const bool known = QuizMode >= QuizModes::First && QuizMode <= QuizModes::Last;
-    Setup setup(kind, known ? QuizMode : QuizModes::First, random);
+    Setup setup(kind, QuizMode, random);
     if (!setup.readWords(words))
         return false;
     m_questions = setup.questions();

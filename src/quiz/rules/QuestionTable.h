@@ -15,8 +15,7 @@ public:
     static constexpr int MostQuestions = 32767;
 
     /// Fills the table from the rows of words whose first word is not empty. False, and the table left as it was, when
-    /// there are too few (3 for Multiple Choice, else 1) or more than can be numbered. An unknown mode counts as the
-    /// first.
+    /// there are too few (3 for Multiple Choice, else 1) or more than can be numbered. QuizMode is 1 to 5.
     bool fByggMatriser(QuizKind kind, int QuizMode, const WordSource &words, RandomSource &random);
 
     /// Asks the given questions instead.

@@ -8,9 +8,6 @@ enum class QuizKind : qint16 { Practice = 0, MultipleChoice = 1, QuestionAndAnsw
 /// What the five quiz modes mean.
 namespace QuizModes {
 
-constexpr int First = 1;
-constexpr int Last = 5;
-
 /// The words are asked in random order, not in that of the vocabulary.
 constexpr bool random(int mode)
 {

@@ -1,0 +1,111 @@
+#pragma once
+
+#include "quiz/rules/QuestionTable.h"
+
+#include <QObject>
+
+class clsAppProperties;
+
+/// Runs one quiz without a window: asks, hints, judges, counts and asks again what was answered wrongly. The window
+/// passes on what the user does, calls the ticks from its two timers and shows what the signals announce.
+class QuizSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Verdict : qint16 { Undecided = 0, Correct = 1, Wrong = 2 };
+
+    /// Milliseconds for each letter of a Practice answer.
+    static constexpr int RevealInterval = 200;
+    /// Ticks that the whole answer stays on view; the one after them judges.
+    static constexpr int PauseTicks = 3;
+    static constexpr int NothingChosen = -1;
+
+    /// The settings are read at each use and written as soon as the user changes one.
+    QuizSession(QuizKind kind, clsAppProperties &settings, QObject *parent = nullptr);
+
+    /// Builds the questions for the mode of the settings. False: no quiz, because of too few or too many words.
+    bool fByggMatriser(const WordSource &words, RandomSource &random);
+
+    QuizKind kind() const { return m_kind; }
+    int questionCount() const { return m_table.count(); }
+    /// The number of the question on view, 0 before the first.
+    int currentQuestion() const { return m_current; }
+    const Question &question() const { return m_table.question(m_current); }
+    int correctCount() const { return m_correctCount; }
+    int errorCount() const { return int(m_errors.size()); }
+    /// The answer last judged.
+    const QString &givenAnswer() const { return m_givenAnswer; }
+    /// The text typed, or spelled out so far in Practice.
+    const QString &answerText() const { return m_answerText; }
+    int chosenOption() const { return m_chosenOption; }
+    /// The round has ended: what is left is to repeat the errors or to close.
+    bool done() const { return m_done; }
+    bool canRepeat() const { return m_done && errorCount() > 0; }
+    bool revealing() const { return m_revealReason != Verdict::Undecided; }
+
+    /// The delay of the automatic answer in seconds, as the user reads and writes it.
+    QString autoSeconds() const;
+    /// Takes a delay over if it is a number greater than 0, with a decimal point or comma.
+    void setAutoSeconds(const QString &text);
+    bool automatic() const;
+    void setAutomatic(bool on);
+    bool hintIsError() const;
+    void setHintIsError(bool on);
+    bool beepOnError() const;
+    void setBeepOnError(bool on);
+
+    void setAnswerText(const QString &text) { m_answerText = text; }
+    /// Chooses option 0 to 2; it is judged at once when that is automatic.
+    void choose(int option);
+    /// Judges the answer; in Practice the user knows it. Does nothing once the round has ended, like hint().
+    void check();
+    /// Shows one more letter; in Practice the user does not know the answer.
+    void hint();
+
+    /// Asks the next question, or ends the round.
+    void fShowQuestion();
+    /// Judges the question on view, by the input if the verdict is not decided yet, and goes on to the next.
+    Verdict fCheckAnswer(Verdict verdict);
+    /// Keeps what stands in its right place and adds one letter of the answer.
+    void fGiveHint();
+    /// Starts a round with the questions answered wrongly.
+    void fRepeatErrors();
+
+    void revealTick();
+    void autoTick();
+
+Q_SIGNALS:
+    /// Intervals of the window's two timers, in milliseconds; 0 stops one, any other value starts it anew.
+    void revealIntervalChanged(int milliseconds);
+    void autoIntervalChanged(int milliseconds);
+    void roundStarted();
+    void questionShown();
+    /// The answer text has been changed by a hint.
+    void answerRevealed();
+    /// The question still on view has been judged and counted.
+    void judged(bool correct);
+    void roundEnded();
+
+private:
+    bool asking() const { return m_current > 0 && !m_done; }
+    void startReveal(Verdict reason);
+    Verdict judgeOption();
+    Verdict judgeText();
+    void endRound();
+
+    const QuizKind m_kind;
+    clsAppProperties &m_settings;
+    QuestionTable m_table;
+    std::vector<Question> m_errors;
+    int m_current = 0;
+    int m_correctCount = 0;
+    int m_chosenOption = NothingChosen;
+    int m_pauseTicks = 0;
+    int m_autoInterval; ///< milliseconds
+    Verdict m_revealReason = Verdict::Undecided;
+    bool m_hintUsed = false;
+    bool m_done = false;
+    QString m_answerText;
+    QString m_givenAnswer;
+};
