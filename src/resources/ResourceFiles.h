@@ -11,6 +11,9 @@ inline constexpr QLatin1String StringTable("strings.txt");
 inline constexpr QLatin1String ErrorSound("error.wav");
 inline constexpr QLatin1String ApplicationIcon("pictures/glosaria.svg");
 inline constexpr QLatin1String DocumentIcon("pictures/document.svg");
+/// The product's name as a picture, and the tile of the pattern beside it.
+inline constexpr QLatin1String ProductPicture("pictures/product.svg");
+inline constexpr QLatin1String SplashPattern("pictures/splashpattern.svg");
 
 /// The bytes of a carried file; a name that none has gives no bytes.
 QByteArray contents(QLatin1String name);
