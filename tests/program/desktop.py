@@ -4,7 +4,8 @@ with Desktop("build/dev/glosaria") as desktop:
     desktop.start("words.gla")
     desktop.key("ctrl+s")
 
-Everything the desktop started ends with it. What is missing on the machine raises an error that names it.
+Everything the desktop started ends with it. What is missing on the machine raises an error that names it; what is
+waited for in vain leaves a picture of the desktop in the working folder.
 """
 
 import os
@@ -25,7 +26,7 @@ class Missing(Exception):
 
 
 class Desktop:
-    """Owns the processes and the temporary home. Use it as a context manager; one at a time in a process."""
+    """Owns the processes and the temporary folders. One in a process: the screen reader's library knows one bus only."""
 
     def __init__(self, program, size="1280x800"):
         self.program = os.path.abspath(program)
@@ -40,10 +41,18 @@ class Desktop:
             raise Missing("not installed: " + ", ".join(missing))
         if not os.access(self.program, os.X_OK):
             raise Missing(f"not built: {self.program}")
-        self._home = tempfile.TemporaryDirectory(prefix="glosaria-home-")
-        self.home = pathlib.Path(self._home.name)
+        self._temporary = tempfile.TemporaryDirectory(prefix="glosaria-desktop-")
+        self._folder = pathlib.Path(self._temporary.name)
+        self._homes = 0
+        self._environment = {
+            "PATH": os.environ["PATH"],
+            "LANG": "C.UTF-8",
+            "QT_QPA_PLATFORM": "xcb",
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+        }
+        self._add_folder("XDG_RUNTIME_DIR", self._folder / "run")
+        self.fresh_home()
         try:
-            self._environment = self._fresh_environment()
             self._start_display()
             self._start_bus()
             self._launch("openbox", "--sm-disable")
@@ -54,11 +63,28 @@ class Desktop:
         return self
 
     def __exit__(self, *_):
-        for process in reversed(self._programs + self._processes):
+        self.end_programs()
+        for process in reversed(self._processes):
             self._end(process)
-        self._home.cleanup()
+        self._temporary.cleanup()
 
     # The program
+
+    def fresh_home(self):
+        """Gives what is started from now on a new, empty home, and returns that folder."""
+        self._homes += 1
+        self.home = self._folder / f"home{self._homes}"
+        for variable, folder in (
+            ("HOME", ""), ("XDG_CONFIG_HOME", "config"), ("XDG_DATA_HOME", "data"), ("XDG_STATE_HOME", "state"),
+            ("XDG_CACHE_HOME", "cache"), ("TMPDIR", "tmp"),
+        ):
+            self._add_folder(variable, self.home / folder)
+        return self.home
+
+    def end_programs(self):
+        """Ends every program still running, without asking."""
+        while self._programs:
+            self._end(self._programs.pop())
 
     def start(self, *arguments):
         """Starts the program, waits for its main window and returns the process."""
@@ -145,7 +171,9 @@ class Desktop:
             if value:
                 return value
             time.sleep(0.1)
-        raise AssertionError(f"waited {seconds} s in vain for {what}")
+        picture = pathlib.Path("waited-in-vain.png").resolve()
+        self.screenshot(picture)
+        raise AssertionError(f"waited {seconds} s in vain for {what}; the desktop stands in {picture}")
 
     # Beneath
 
@@ -156,24 +184,12 @@ class Desktop:
             env=self._environment, capture_output=True, text=True, check=True, timeout=PATIENCE,
         ).stdout
 
-    def _fresh_environment(self):
-        environment = {
-            "PATH": os.environ["PATH"],
-            "LANG": "C.UTF-8",
-            "HOME": str(self.home),
-            "QT_QPA_PLATFORM": "xcb",
-            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
-        }
-        for variable, folder in (
-            ("XDG_CONFIG_HOME", "config"), ("XDG_DATA_HOME", "data"), ("XDG_STATE_HOME", "state"),
-            ("XDG_CACHE_HOME", "cache"), ("XDG_RUNTIME_DIR", "run"), ("TMPDIR", "tmp"),
-        ):
-            (self.home / folder).mkdir(mode=0o700)
-            environment[variable] = str(self.home / folder)
-        return environment
+    def _add_folder(self, variable, folder):
+        folder.mkdir(mode=0o700)
+        self._environment[variable] = str(folder)
 
     def _launch(self, *command, **options):
-        log = open(self.home / (pathlib.Path(command[0]).name + ".log"), "ab")
+        log = open(self._folder / (pathlib.Path(command[0]).name + ".log"), "ab")
         with log:
             options.setdefault("stdout", log)
             process = subprocess.Popen(
@@ -186,7 +202,7 @@ class Desktop:
         server = self._launch(
             "Xvfb", "-displayfd", "1", "-screen", "0", self._size + "x24", "-nolisten", "tcp", stdout=subprocess.PIPE
         )
-        number = server.stdout.readline().decode().strip()
+        number = self._first_line(server)
         if not number:
             raise AssertionError("Xvfb did not start")
         self._environment["DISPLAY"] = ":" + number
@@ -194,7 +210,7 @@ class Desktop:
 
     def _start_bus(self):
         bus = self._launch("dbus-daemon", "--session", "--nofork", "--print-address=1", stdout=subprocess.PIPE)
-        self._environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().decode().strip()
+        self._environment["DBUS_SESSION_BUS_ADDRESS"] = self._first_line(bus)
 
     def _load_accessibility(self):
         """Loads the screen reader's library, which takes bus and display from this process' environment."""
@@ -217,6 +233,11 @@ class Desktop:
             env=self._environment, capture_output=True, text=True, check=False,
         ).stdout
         return int(dict(line.split("=") for line in shape.split() if "=" in line).get("WIDTH", 0))
+
+    @staticmethod
+    def _first_line(process):
+        with process.stdout as output:
+            return output.readline().decode().strip()
 
     @staticmethod
     def _end(process):
