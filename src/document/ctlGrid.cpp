@@ -1,0 +1,270 @@
+#include "document/ctlGrid.h"
+
+#include "document/ctlGridEdit.h"
+#include "platform/Twips.h"
+#include "services/rules/ProgramFlags.h"
+#include "widgets/FlexGridColours.h"
+#include "widgets/FlexGridView.h"
+
+#include <QInputMethodEvent>
+
+namespace {
+
+constexpr int Enter = 13;
+constexpr int Escape = 27;
+constexpr int Space = 32;
+constexpr int UpArrow = 38;
+constexpr int DownArrow = 40;
+constexpr int EditBoxInset = 10; // twips that the edit box is narrower and lower than its cell
+
+QString characterOf(int keyAscii)
+{
+    if (keyAscii < 0)
+        return QChar(char16_t(keyAscii & 0xFFFF));
+    const auto character = char32_t(keyAscii);
+    return QString::fromUcs4(&character, 1);
+}
+
+} // namespace
+
+ctlGrid::ctlGrid(const ProgramFlags *flags, QWidget *parent)
+    : FlexGrid(parent)
+    , m_flags(flags)
+    , m_text1(new ctlGridEdit(this))
+{
+    m_text1->hide();
+    connectEditBox();
+}
+
+void ctlGrid::connectEditBox()
+{
+    connect(m_text1, &ctlGridEdit::keyPressed, this, &ctlGrid::editKeyPressed);
+    connect(m_text1, &ctlGridEdit::keyReleased, this, &ctlGrid::KeyUp);
+    connect(m_text1, &ctlGridEdit::clicked, this, &ctlGrid::Click);
+    connect(m_text1, &ctlGridEdit::characterTyped, this, [this](int &character) {
+        const bool closes = character == Enter || character == Escape;
+        Q_EMIT KeyPress(character);
+        if (closes)
+            character = 0;
+    });
+    connect(m_text1, &QLineEdit::textEdited, this, [this] { showCell(Row(), Col()); });
+}
+
+void ctlGrid::GridEdit(int KeyAscii)
+{
+    if (Row() < 0 || Col() < 0)
+        return;
+    if (KeyAscii > Space || KeyAscii < 0)
+        beginEdit(characterOf(KeyAscii));
+    else
+        beginEdit(Text());
+}
+
+bool ctlGrid::beginEdit(const QString &text)
+{
+    int row = Row();
+    int col = Col();
+    bool cancel = false;
+    Q_EMIT BeforeEdit(row, col, cancel);
+    if (cancel)
+        return false;
+    dressEditBox();
+    m_text1->begin(text);
+    showCell(Row(), Col());
+    m_text1->show();
+    RefreshTextPos();
+    m_text1->setFocus();
+    return true;
+}
+
+void ctlGrid::dressEditBox()
+{
+    m_text1->setFont(Font());
+    QPalette colours = palette();
+    const QColor ground = FlexGridColours::ground(BackColor(), colours);
+    colours.setColor(QPalette::Base, ground);
+    colours.setColor(QPalette::Text, FlexGridColours::text(ForeColor(), palette(), ground));
+    m_text1->setPalette(colours);
+}
+
+bool ctlGrid::EditMode() const
+{
+    return !m_text1->isHidden();
+}
+
+void ctlGrid::setEditMode(bool edit)
+{
+    if (edit)
+        GridEdit(Space);
+    else if (EditMode() && EditText() != Text())
+        commit();
+    else
+        closeEditBox();
+}
+
+QString ctlGrid::EditText() const
+{
+    return EditMode() ? m_text1->text() : QString();
+}
+
+void ctlGrid::SelectEditText(int start, int length)
+{
+    if (EditMode())
+        m_text1->setSelection(start, length);
+}
+
+QString ctlGrid::SelText() const
+{
+    return EditMode() ? m_text1->selectedText() : QString();
+}
+
+void ctlGrid::setSelText(const QString &text)
+{
+    if (EditMode())
+        m_text1->insert(text);
+}
+
+void ctlGrid::RefreshTextPos()
+{
+    if (!EditMode())
+        return;
+    const QPoint origin = view().viewport()->pos();
+    QRect box = view().cellRect(Row(), Col()).translated(origin);
+    box.setWidth(box.width() - Twips::toPixelsX(EditBoxInset));
+    box.setHeight(box.height() - Twips::toPixelsY(EditBoxInset));
+    const QRect shown = box & view().cellArea().translated(origin);
+    if (shown.isEmpty())
+        box.moveBottomRight(QPoint(-1, -1)); // scrolled away, still editing
+    else if (shown != box)
+        m_text1->setMask(shown.translated(-box.topLeft()));
+    if (shown == box)
+        m_text1->clearMask();
+    m_text1->setGeometry(box);
+}
+
+void ctlGrid::AutoSetup(const QString &fontName, double fontSize, int rows, int cols, int fixedRows, int fixedCols,
+                        const QString &formatString)
+{
+    setEditMode(false);
+    setRedraw(false);
+    Clear();
+    setFormatString(QString());
+    QFont font(fontName);
+    font.setPointSizeF(fontSize);
+    setGridFont(font);
+    setFixedRows(0);
+    setFixedCols(0);
+    setRows(rows);
+    setCols(cols);
+    setFixedRows(fixedRows);
+    setFixedCols(fixedCols);
+    setFormatString(formatString);
+    m_text1->clear();
+    setRedraw(true);
+    Refresh();
+}
+
+void ctlGrid::setGridFont(const QFont &font)
+{
+    FlexGrid::setGridFont(font);
+    m_text1->setFont(font);
+}
+
+void ctlGrid::commit()
+{
+    if (!EditMode())
+        return;
+    int row = Row();
+    int col = Col();
+    setTextMatrix(row, col, EditText());
+    closeEditBox();
+    const QString stored = TextMatrix(row, col);
+    QString text = stored;
+    Q_EMIT AfterEdit(row, col, text);
+    if (text != stored)
+        setTextMatrix(row, col, text);
+}
+
+void ctlGrid::closeEditBox()
+{
+    const bool hadFocus = window()->focusWidget() == m_text1;
+    m_text1->hide();
+    if (hadFocus)
+        view().setFocus();
+}
+
+void ctlGrid::giveFocusBack()
+{
+    view().setFocus();
+    commit(); // when the focus event has not done so: the window is inactive, or a search holds it back
+}
+
+void ctlGrid::leavingCell()
+{
+    commit();
+}
+
+void ctlGrid::gridFocused()
+{
+    if (!m_flags->searching())
+        commit();
+}
+
+void ctlGrid::editKeyPressed(int keyCode, int shift, bool &taken)
+{
+    taken = true;
+    if (keyCode == Escape)
+        closeEditBox();
+    else if (keyCode == Enter)
+        giveFocusBack();
+    else if (keyCode == DownArrow || keyCode == UpArrow)
+        commitAndMove(keyCode == DownArrow ? 1 : -1);
+    else
+        taken = false;
+    Q_EMIT KeyDown(keyCode, shift);
+}
+
+void ctlGrid::commitAndMove(int step)
+{
+    giveFocusBack();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    const int row = Row() + step;
+    if (row >= FixedRows() && row < Rows()) {
+        setRow(row);
+        showCell(Row(), Col());
+    }
+}
+
+void ctlGrid::characterTyped(int character)
+{
+    if (character == Enter)
+        return;
+    if (EditMode()) {
+        m_text1->insert(characterOf(character));
+        m_text1->setFocus();
+    } else {
+        GridEdit(character);
+    }
+}
+
+void ctlGrid::inputMethodUsed(QInputMethodEvent *event)
+{
+    for (const char32_t character : event->commitString().toUcs4())
+        typeCharacter(int(character));
+    if (event->preeditString().isEmpty())
+        return;
+    if (!EditMode() && (Row() < 0 || Col() < 0 || !beginEdit(QString())))
+        return;
+    QInputMethodEvent composing(event->preeditString(), event->attributes());
+    QCoreApplication::sendEvent(m_text1, &composing);
+}
+
+void ctlGrid::cellDoubleClicked()
+{
+    GridEdit(Space);
+}
+
+void ctlGrid::laidOut()
+{
+    RefreshTextPos();
+}

@@ -1,0 +1,138 @@
+#include "document/ctlGridEdit.h"
+
+#include "widgets/FlexGridKeys.h"
+#include "widgets/FlexGridText.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QValidator>
+
+namespace {
+
+/// Turns line breaks into blanks on every way a text can enter: paste, drop, input method.
+class OneLine : public QValidator
+{
+public:
+    using QValidator::QValidator;
+
+    State validate(QString &input, int &) const override
+    {
+        input = FlexGridText::withoutLineBreaks(input);
+        return Acceptable;
+    }
+};
+
+} // namespace
+
+ctlGridEdit::ctlGridEdit(QWidget *parent)
+    : QLineEdit(parent)
+{
+    setFrame(false);
+    setValidator(new OneLine(this));
+    connect(this, &QLineEdit::textEdited, this, [this] { m_undone = false; });
+}
+
+void ctlGridEdit::begin(const QString &text)
+{
+    setText(text);
+    end(false);
+    m_undone = false;
+}
+
+void ctlGridEdit::pasteText()
+{
+    insert(FlexGridText::withoutLineBreaks(QGuiApplication::clipboard()->text()));
+}
+
+void ctlGridEdit::undoText()
+{
+    const bool redoes = m_undone && isRedoAvailable();
+    if (redoes)
+        redo();
+    else
+        undo();
+    m_undone = !redoes;
+}
+
+bool ctlGridEdit::canUndoText() const
+{
+    return isUndoAvailable() || (m_undone && isRedoAvailable());
+}
+
+bool ctlGridEdit::event(QEvent *event)
+{
+    // the menu's shortcuts for these come first, as in the grid
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        for (const QKeySequence::StandardKey command :
+             {QKeySequence::Undo, QKeySequence::Cut, QKeySequence::Copy, QKeySequence::Paste}) {
+            if (key->matches(command)) {
+                event->ignore();
+                return false;
+            }
+        }
+    }
+    return QLineEdit::event(event);
+}
+
+void ctlGridEdit::keyPressEvent(QKeyEvent *event)
+{
+    bool taken = false;
+    Q_EMIT keyPressed(FlexGridKeys::virtualKey(*event), FlexGridKeys::shiftBits(event->modifiers()), taken);
+    if (FlexGridKeys::typesCharacter(*event)) {
+        const QString typed = filtered(event->text());
+        if (typed != event->text()) {
+            insert(typed);
+            return;
+        }
+    }
+    if (taken)
+        return;
+    if (event->matches(QKeySequence::Undo))
+        undoText();
+    else if (event->matches(QKeySequence::Paste))
+        pasteText();
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
+QString ctlGridEdit::filtered(const QString &typed)
+{
+    QString kept;
+    for (const char32_t letter : typed.toUcs4()) {
+        int character = int(letter);
+        Q_EMIT characterTyped(character);
+        const auto left = char32_t(character);
+        if (character > 0)
+            kept += QString::fromUcs4(&left, 1);
+    }
+    return kept;
+}
+
+void ctlGridEdit::keyReleaseEvent(QKeyEvent *event)
+{
+    QLineEdit::keyReleaseEvent(event);
+    Q_EMIT keyReleased(FlexGridKeys::virtualKey(*event), FlexGridKeys::shiftBits(event->modifiers()));
+}
+
+void ctlGridEdit::inputMethodEvent(QInputMethodEvent *event)
+{
+    const QString committed = event->commitString();
+    if (!committed.isEmpty())
+        event->setCommitString(filtered(committed), event->replacementStart(), event->replacementLength());
+    QLineEdit::inputMethodEvent(event);
+}
+
+void ctlGridEdit::mouseReleaseEvent(QMouseEvent *event)
+{
+    QLineEdit::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton)
+        Q_EMIT clicked();
+}
+
+bool ctlGridEdit::focusNextPrevChild(bool)
+{
+    return false;
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QLineEdit>
+
+/// The edit box that a vocabulary grid lays over the cell being edited. It tells the grid of each key before it acts on
+/// it itself, keeps line breaks out, and knows one level of undo, which a second undo takes back.
+class ctlGridEdit : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit ctlGridEdit(QWidget *parent);
+
+    /// Begins with a text and the caret at its end; there is nothing to undo yet.
+    void begin(const QString &text);
+    void cutText() { cut(); }
+    void copyText() { copy(); }
+    void pasteText();
+    /// Undoes the last typing, or redoes it when the last thing done was to undo it.
+    void undoText();
+    bool canUndoText() const;
+
+Q_SIGNALS:
+    /// A key went down. taken is set by whoever acts on it in the box's place.
+    void keyPressed(int keyCode, int shift, bool &taken);
+    void keyReleased(int keyCode, int shift);
+    /// A character is about to be typed; 0 swallows it, another value replaces it.
+    void characterTyped(int &character);
+    void clicked();
+
+protected:
+    bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    QString filtered(const QString &typed);
+
+    bool m_undone = false;
+};

@@ -1,0 +1,331 @@
+#include "widgets/FlexGridView.h"
+
+#include "platform/Twips.h"
+#include "widgets/FlexGridCellText.h"
+#include "widgets/FlexGridPainter.h"
+
+#include <QPainter>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace {
+
+/// Coordinates beyond this are as good as infinite and still safe to add up.
+constexpr qint64 FarAway = 1 << 24;
+constexpr int SideStep = 24; // pixels of one horizontal scroll step
+
+int bounded(qint64 value)
+{
+    return int(std::clamp(value, -FarAway, FarAway));
+}
+
+} // namespace
+
+FlexGridView::FlexGridView(const FlexGridState &state, QWidget *parent)
+    : QAbstractScrollArea(parent)
+    , m_state(state)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_InputMethodEnabled);
+    viewport()->setMouseTracking(true);
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    horizontalScrollBar()->setSingleStep(SideStep);
+}
+
+void FlexGridView::layOutAgain()
+{
+    m_layoutPending = true;
+    if (m_heldBack)
+        return;
+    layOutIfNeeded();
+    viewport()->update();
+    Q_EMIT laidOut();
+}
+
+void FlexGridView::layOutIfNeeded()
+{
+    if (!m_layoutPending)
+        return;
+    m_layoutPending = false;
+    updateScrollBars();
+}
+
+void FlexGridView::setHeldBack(bool heldBack)
+{
+    m_heldBack = heldBack;
+    setUpdatesEnabled(!heldBack);
+    if (!heldBack)
+        layOutAgain();
+}
+
+void FlexGridView::updateScrollBars()
+{
+    const int pages = largestTopRow();
+    verticalScrollBar()->setRange(m_state.fixedRows, pages);
+    verticalScrollBar()->setPageStep(std::max(1, m_state.cells.rows() - pages));
+    m_topRow = verticalScrollBar()->value();
+
+    const int width = cellArea().width();
+    horizontalScrollBar()->setRange(0, bounded(std::max<qint64>(0, scrollableWidth() - width)));
+    horizontalScrollBar()->setPageStep(std::max(SideStep, width - SideStep));
+}
+
+int FlexGridView::largestTopRow() const
+{
+    int row = m_state.cells.rows() - 1;
+    qint64 left = cellArea().height() - rowPixels(row);
+    while (row > m_state.fixedRows && left >= rowPixels(row - 1))
+        left -= rowPixels(--row);
+    return std::max(row, m_state.fixedRows);
+}
+
+void FlexGridView::setTopRow(int row)
+{
+    layOutIfNeeded();
+    verticalScrollBar()->setValue(row);
+}
+
+int FlexGridView::leftCol() const
+{
+    int col = m_state.fixedCols;
+    while (col + 1 < m_state.cells.cols() && colLeft(col) + colPixels(col) <= fixedWidth())
+        ++col;
+    return col;
+}
+
+void FlexGridView::setLeftCol(int col)
+{
+    layOutIfNeeded();
+    qint64 offset = 0;
+    for (int i = m_state.fixedCols; i < std::min(col, m_state.cells.cols()); ++i)
+        offset += colPixels(i);
+    horizontalScrollBar()->setValue(bounded(offset));
+}
+
+void FlexGridView::scrollContentsBy(int, int)
+{
+    m_topRow = verticalScrollBar()->value();
+    viewport()->update();
+    Q_EMIT laidOut();
+    Q_EMIT scrolled();
+}
+
+void FlexGridView::scrollToCell(int row, int col)
+{
+    layOutIfNeeded();
+    if (row >= m_state.fixedRows && !rowIsVisible(row)) {
+        int top = row;
+        qint64 left = cellArea().height() - rowPixels(row);
+        while (row > m_topRow && top > m_state.fixedRows && left >= rowPixels(top - 1))
+            left -= rowPixels(--top);
+        setTopRow(top);
+    }
+    if (col >= m_state.fixedCols && !colIsVisible(col)) {
+        const qint64 before = colLeft(col) - fixedWidth();
+        const qint64 beyond = colLeft(col) + colPixels(col) - viewport()->width();
+        const qint64 step = before < 0 ? before : std::min(before, beyond);
+        horizontalScrollBar()->setValue(bounded(horizontalScrollBar()->value() + step));
+    }
+}
+
+bool FlexGridView::rowIsVisible(int row) const
+{
+    if (row < 0 || row >= m_state.cells.rows())
+        return false;
+    if (row < m_state.fixedRows || row == m_topRow)
+        return true;
+    if (row < m_topRow)
+        return false;
+    qint64 left = cellArea().height();
+    for (int i = m_topRow; i <= row && left >= 0; ++i)
+        left -= rowPixels(i);
+    return left >= 0;
+}
+
+bool FlexGridView::colIsVisible(int col) const
+{
+    if (col < 0 || col >= m_state.cells.cols())
+        return false;
+    if (col < m_state.fixedCols)
+        return true;
+    const qint64 left = colLeft(col);
+    return left == fixedWidth() || (left > fixedWidth() && left + colPixels(col) <= viewport()->width());
+}
+
+int FlexGridView::lastShownRow() const
+{
+    const Bands rows = shownRowBands();
+    return rows.empty() ? -1 : rows.back().index;
+}
+
+int FlexGridView::rowPixels(int row) const
+{
+    return Twips::toPixelsY(m_state.cells.rowHeight(row));
+}
+
+int FlexGridView::colPixels(int col) const
+{
+    return Twips::toPixelsX(m_state.cells.column(col).width);
+}
+
+int FlexGridView::fixedHeight() const
+{
+    return bounded(rowTop(m_state.fixedRows - 1) + (m_state.fixedRows ? rowPixels(m_state.fixedRows - 1) : 0));
+}
+
+int FlexGridView::fixedWidth() const
+{
+    return bounded(colLeft(m_state.fixedCols - 1) + (m_state.fixedCols ? colPixels(m_state.fixedCols - 1) : 0));
+}
+
+qint64 FlexGridView::rowTop(int row) const
+{
+    qint64 top = 0;
+    for (int i = 0; i < std::min(row, m_state.fixedRows); ++i)
+        top += rowPixels(i);
+    for (int i = m_topRow; i < row; ++i)
+        top += rowPixels(i);
+    for (int i = std::max(row, m_state.fixedRows); i < m_topRow && row >= m_state.fixedRows; ++i)
+        top -= rowPixels(i);
+    return top;
+}
+
+qint64 FlexGridView::colLeft(int col) const
+{
+    qint64 left = 0;
+    for (int i = 0; i < col; ++i)
+        left += colPixels(i);
+    return col < m_state.fixedCols ? left : left - horizontalScrollBar()->value();
+}
+
+qint64 FlexGridView::scrollableWidth() const
+{
+    qint64 width = 0;
+    for (int i = m_state.fixedCols; i < m_state.cells.cols(); ++i)
+        width += colPixels(i);
+    return width;
+}
+
+int FlexGridView::mirrored(int x, int width) const
+{
+    return m_state.rightToLeft ? viewport()->width() - x - width : x;
+}
+
+QRect FlexGridView::cellRect(int row, int col) const
+{
+    if (!m_state.cells.hasCell(row, col))
+        return {};
+    const int width = colPixels(col);
+    return {mirrored(bounded(colLeft(col)), width), bounded(rowTop(row)), width, rowPixels(row)};
+}
+
+QRect FlexGridView::cellArea() const
+{
+    const int width = std::max(0, viewport()->width() - fixedWidth());
+    const int height = std::max(0, viewport()->height() - fixedHeight());
+    return {mirrored(fixedWidth(), width), fixedHeight(), width, height};
+}
+
+FlexGridView::Bands FlexGridView::fixedRowBands() const
+{
+    Bands bands;
+    for (int row = 0, top = 0; row < m_state.fixedRows && top < viewport()->height(); top = bands.back().end(), ++row)
+        bands.push_back({row, top, rowPixels(row)});
+    return bands;
+}
+
+FlexGridView::Bands FlexGridView::shownRowBands() const
+{
+    Bands bands;
+    int top = fixedHeight();
+    for (int row = m_topRow; row < m_state.cells.rows() && top < viewport()->height(); ++row) {
+        const int height = rowPixels(row);
+        if (height > 0)
+            bands.push_back({row, top, height});
+        top += height;
+    }
+    return bands;
+}
+
+FlexGridView::Bands FlexGridView::fixedColBands() const
+{
+    Bands bands;
+    for (int col = 0, left = 0; col < m_state.fixedCols && left < viewport()->width(); ++col) {
+        const int width = colPixels(col);
+        bands.push_back({col, mirrored(left, width), width});
+        left += width;
+    }
+    return bands;
+}
+
+FlexGridView::Bands FlexGridView::shownColBands() const
+{
+    Bands bands;
+    qint64 left = colLeft(m_state.fixedCols);
+    for (int col = m_state.fixedCols; col < m_state.cells.cols() && left < viewport()->width(); ++col) {
+        const int width = colPixels(col);
+        if (width > 0 && left + width > fixedWidth())
+            bands.push_back({col, mirrored(bounded(left), width), width});
+        left += width;
+    }
+    return bands;
+}
+
+int FlexGridView::rowAt(int y) const
+{
+    const bool fixed = y < fixedHeight();
+    for (const FlexGridBand &band : fixed ? fixedRowBands() : shownRowBands()) {
+        if (y >= band.start && y < band.end())
+            return band.index;
+    }
+    return -1;
+}
+
+int FlexGridView::colAt(int x) const
+{
+    for (const Bands &bands : {fixedColBands(), shownColBands()}) {
+        for (const FlexGridBand &band : bands) {
+            if (x >= band.start && x < band.end())
+                return band.index;
+        }
+    }
+    return -1;
+}
+
+QSize FlexGridView::wholeSize() const
+{
+    qint64 height = 2LL * frameWidth();
+    for (int row = 0; row < m_state.cells.rows(); ++row)
+        height += rowPixels(row);
+    qint64 width = 2LL * frameWidth();
+    for (int col = 0; col < m_state.cells.cols(); ++col)
+        width += colPixels(col);
+    return {bounded(std::min<qint64>(width, QWIDGETSIZE_MAX)), bounded(std::min<qint64>(height, QWIDGETSIZE_MAX))};
+}
+
+void FlexGridView::paintEvent(QPaintEvent *)
+{
+    QPainter painter(viewport());
+    FlexGridPainter cells(m_state, palette(), hasFocus());
+    cells.paintGround(painter, viewport()->rect());
+    const Bands fixedRows = fixedRowBands();
+    const Bands fixedCols = fixedColBands();
+    const Bands rows = shownRowBands();
+    const Bands cols = shownColBands();
+    const QRect area = cellArea();
+
+    painter.setClipRect(area);
+    cells.paint(painter, rows, cols);
+    painter.setClipRect(QRect(area.left(), 0, area.width(), area.top()));
+    cells.paint(painter, fixedRows, cols);
+    painter.setClipRect(QRect(mirrored(0, fixedWidth()), area.top(), fixedWidth(), area.height()));
+    cells.paint(painter, rows, fixedCols);
+    painter.setClipping(false);
+    cells.paint(painter, fixedRows, fixedCols);
+}
+
+void FlexGridView::resizeEvent(QResizeEvent *)
+{
+    layOutAgain();
+}

@@ -1,0 +1,277 @@
+#include "widgets/FlexGridView.h"
+
+#include "widgets/FlexGridCellText.h"
+#include "widgets/FlexGridKeys.h"
+
+#include <QContextMenuEvent>
+#include <QFontMetricsF>
+#include <QMouseEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int BorderReach = 3;     // pixels on either side of a border in which it can be dragged
+constexpr int AutoScrollStep = 40; // milliseconds
+constexpr int SmallestDragged = 1; // pixels
+constexpr int CustomPointer = 99;
+
+} // namespace
+
+FlexGridView::Borders FlexGridView::bordersAt(const QPoint &position) const
+{
+    Borders borders;
+    const int resizing = m_state.look.AllowUserResizing;
+    const auto isNear = [](int mouse, int border) { return std::abs(mouse - border) <= BorderReach; };
+    if (resizing & FlexGridLook::ResizeCols && position.y() < fixedHeight()) {
+        qint64 left = 0;
+        for (int col = 0; col < m_state.cells.cols(); ++col) {
+            const int x = m_state.rightToLeft ? viewport()->width() - 1 - position.x() : position.x();
+            left = colLeft(col);
+            const bool shown = col < m_state.fixedCols || left + colPixels(col) >= fixedWidth();
+            const int border =
+                int(std::clamp<qint64>(left + colPixels(col), -1 - BorderReach, viewport()->width() * 2));
+            if (shown && isNear(x, border) && (borders.col < 0 || x >= border))
+                borders.col = col;
+        }
+    }
+    if (resizing & FlexGridLook::ResizeRows && colAt(position.x()) < m_state.fixedCols && borders.col < 0 &&
+        cellArea().left() >= 0 && colAt(position.x()) >= 0) {
+        for (const Bands &bands : {fixedRowBands(), shownRowBands()}) {
+            for (const FlexGridBand &band : bands) {
+                if (isNear(position.y(), band.end()) && (borders.row < 0 || position.y() >= band.end()))
+                    borders.row = band.index;
+            }
+        }
+    }
+    return borders;
+}
+
+void FlexGridView::mousePressEvent(QMouseEvent *event)
+{
+    const int shift = FlexGridKeys::shiftBits(event->modifiers());
+    Q_EMIT mousePressed(FlexGridKeys::buttonBits(event->button()), shift, event->position());
+    const QPoint position = event->position().toPoint();
+    if (event->button() == Qt::LeftButton) {
+        startDrag(position, event->modifiers() & Qt::ShiftModifier);
+    } else if (event->button() == Qt::RightButton) {
+        const int row = rowAt(position.y());
+        const int col = colAt(position.x());
+        if (row >= m_state.fixedRows && col >= m_state.fixedCols && !m_state.selection.contains(row, col))
+            Q_EMIT selectionWanted(widened({row, col, row, col}));
+    }
+}
+
+void FlexGridView::startDrag(const QPoint &position, bool extend)
+{
+    m_dragPosition = position;
+    const Borders borders = bordersAt(position);
+    if (borders.col >= 0) {
+        m_drag = Drag::ColBorder;
+        m_dragged = borders.col;
+        return;
+    }
+    if (borders.row >= 0) {
+        m_drag = Drag::RowBorder;
+        m_dragged = borders.row;
+        return;
+    }
+    const int row = rowAt(position.y());
+    const int col = colAt(position.x());
+    if (row < 0 || col < 0 || !m_state.hasData())
+        return;
+    if (m_state.isFixed(row, col)) {
+        startHeaderDrag(row, col, extend);
+        return;
+    }
+    m_drag = Drag::Cells;
+    move(row, col, extend);
+}
+
+void FlexGridView::startHeaderDrag(int row, int col, bool extend)
+{
+    if (!m_state.look.AllowBigSelection)
+        return;
+    FlexGridSelection wanted{m_state.fixedRows, m_state.fixedCols, m_state.cells.rows() - 1, m_state.cells.cols() - 1};
+    if (row >= m_state.fixedRows) {
+        m_drag = Drag::Rows;
+        wanted.row = extend ? std::max(m_state.selection.row, m_state.fixedRows) : row;
+        wanted.rowSel = row;
+    } else if (col >= m_state.fixedCols) {
+        m_drag = Drag::Cols;
+        wanted.col = extend ? std::max(m_state.selection.col, m_state.fixedCols) : col;
+        wanted.colSel = col;
+    }
+    Q_EMIT selectionWanted(wanted);
+}
+
+void FlexGridView::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPoint position = event->position().toPoint();
+    m_mouseRow = rowAt(position.y());
+    m_mouseCol = colAt(position.x());
+    Q_EMIT mouseMoved(FlexGridKeys::buttonBits(event->buttons()), FlexGridKeys::shiftBits(event->modifiers()),
+                      event->position());
+    if (m_drag == Drag::None) {
+        applyPointer();
+        return;
+    }
+    dragTo(position);
+    const bool selecting = m_drag != Drag::RowBorder && m_drag != Drag::ColBorder;
+    if (selecting && !cellArea().contains(position))
+        m_autoScroll.start(AutoScrollStep, this);
+    else
+        m_autoScroll.stop();
+}
+
+void FlexGridView::dragTo(const QPoint &position)
+{
+    m_dragPosition = position;
+    if (m_drag == Drag::RowBorder || m_drag == Drag::ColBorder)
+        dragBorderTo(position);
+    else
+        dragSelectionTo(position);
+}
+
+void FlexGridView::dragBorderTo(const QPoint &position)
+{
+    if (m_drag == Drag::RowBorder && m_dragged < m_state.cells.rows()) {
+        Q_EMIT rowHeightWanted(m_dragged, int(std::max<qint64>(SmallestDragged, position.y() - rowTop(m_dragged))));
+    } else if (m_drag == Drag::ColBorder && m_dragged < m_state.cells.cols()) {
+        const int x = m_state.rightToLeft ? viewport()->width() - position.x() : position.x();
+        Q_EMIT colWidthWanted(m_dragged, int(std::max<qint64>(SmallestDragged, x - colLeft(m_dragged))));
+    }
+}
+
+void FlexGridView::dragSelectionTo(const QPoint &position)
+{
+    const QRect area = cellArea();
+    if (area.isEmpty() || !m_state.hasData())
+        return;
+    const QPoint inside(std::clamp(position.x(), area.left(), area.right()),
+                        std::clamp(position.y(), area.top(), area.bottom()));
+    const int row = rowAt(inside.y());
+    const int col = colAt(inside.x());
+    FlexGridSelection wanted = m_state.selection;
+    if (m_drag != Drag::Cols)
+        wanted.rowSel = row < 0 ? m_state.cells.rows() - 1 : row;
+    if (m_drag != Drag::Rows)
+        wanted.colSel = col < 0 ? m_state.cells.cols() - 1 : col;
+    Q_EMIT selectionWanted(m_drag == Drag::Cells ? widened(wanted) : wanted);
+}
+
+void FlexGridView::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_autoScroll.timerId()) {
+        QAbstractScrollArea::timerEvent(event);
+        return;
+    }
+    const QRect area = cellArea();
+    const auto step = [](QScrollBar *bar, bool back, bool on) {
+        if (back || on)
+            bar->triggerAction(back ? QScrollBar::SliderSingleStepSub : QScrollBar::SliderSingleStepAdd);
+    };
+    if (m_drag != Drag::Cols)
+        step(verticalScrollBar(), m_dragPosition.y() < area.top(), m_dragPosition.y() > area.bottom());
+    if (m_drag != Drag::Rows) {
+        const bool left = m_dragPosition.x() < area.left();
+        const bool right = m_dragPosition.x() > area.right();
+        step(horizontalScrollBar(), m_state.rightToLeft ? right : left, m_state.rightToLeft ? left : right);
+    }
+    dragSelectionTo(m_dragPosition);
+}
+
+void FlexGridView::mouseReleaseEvent(QMouseEvent *event)
+{
+    const bool sized = m_drag == Drag::RowBorder || m_drag == Drag::ColBorder;
+    if (event->button() == Qt::LeftButton) {
+        m_drag = Drag::None;
+        m_autoScroll.stop();
+        applyPointer();
+    }
+    Q_EMIT mouseReleased(FlexGridKeys::buttonBits(event->button()), FlexGridKeys::shiftBits(event->modifiers()),
+                         event->position());
+    if (event->button() == Qt::LeftButton && !sized && viewport()->rect().contains(event->position().toPoint()))
+        Q_EMIT clicked();
+}
+
+void FlexGridView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    const QPoint position = event->position().toPoint();
+    const Borders borders = bordersAt(position);
+    const int row = rowAt(position.y());
+    const int col = colAt(position.x());
+    if (borders.col >= 0)
+        Q_EMIT colWidthWanted(borders.col, fittingColPixels(borders.col));
+    else if (borders.row >= 0)
+        Q_EMIT rowHeightWanted(borders.row, fittingRowPixels(borders.row));
+    else if (row >= m_state.fixedRows && col >= m_state.fixedCols)
+        Q_EMIT cellDoubleClicked();
+}
+
+void FlexGridView::contextMenuEvent(QContextMenuEvent *event)
+{
+    // the menu key asks like a right click on the current cell
+    event->accept();
+    if (event->reason() != QContextMenuEvent::Keyboard)
+        return;
+    const QRect shown = cellRect(m_state.selection.row, m_state.selection.col) & cellArea();
+    const QPointF position = shown.isEmpty() ? cellArea().topLeft() : shown.center();
+    Q_EMIT mousePressed(FlexGridKeys::buttonBits(Qt::RightButton), 0, position);
+    Q_EMIT mouseReleased(FlexGridKeys::buttonBits(Qt::RightButton), 0, position);
+}
+
+void FlexGridView::applyPointer()
+{
+    if (m_drag == Drag::RowBorder || m_drag == Drag::ColBorder)
+        return;
+    const Borders borders = bordersAt(viewport()->mapFromGlobal(QCursor::pos()));
+    if (borders.col >= 0)
+        viewport()->setCursor(Qt::SplitHCursor);
+    else if (borders.row >= 0)
+        viewport()->setCursor(Qt::SplitVCursor);
+    else
+        viewport()->setCursor(ownPointer());
+}
+
+QCursor FlexGridView::ownPointer() const
+{
+    static constexpr Qt::CursorShape Shapes[] = {
+        Qt::ArrowCursor,     Qt::ArrowCursor,   Qt::CrossCursor,     Qt::IBeamCursor,
+        Qt::ArrowCursor,     Qt::SizeAllCursor, Qt::SizeBDiagCursor, Qt::SizeVerCursor,
+        Qt::SizeFDiagCursor, Qt::SizeHorCursor, Qt::UpArrowCursor,   Qt::WaitCursor,
+        Qt::ForbiddenCursor, Qt::BusyCursor,    Qt::WhatsThisCursor, Qt::SizeAllCursor};
+    const int pointer = m_state.look.MousePointer;
+    if (pointer == CustomPointer && !m_state.look.MouseIcon.isNull())
+        return QCursor(m_state.look.MouseIcon);
+    return pointer > 0 && pointer < int(std::size(Shapes)) ? Shapes[pointer] : Qt::ArrowCursor;
+}
+
+int FlexGridView::fittingColPixels(int col) const
+{
+    const QFontMetricsF metrics(m_state.look.Font);
+    const double widestLetter = std::max(metrics.horizontalAdvance(u'W'), metrics.height());
+    double widest = 0;
+    for (int row = 0; row < m_state.cells.rows(); ++row) {
+        const QString text = m_state.cells.text(row, col);
+        if (double(text.size()) * widestLetter > widest)
+            widest = std::max(widest, metrics.horizontalAdvance(text));
+    }
+    return int(std::ceil(widest)) + 2 * FlexGridCellText::Margin + m_state.look.GridLineWidth + 1;
+}
+
+int FlexGridView::fittingRowPixels(int row) const
+{
+    double highest = 0;
+    for (int col = 0; col < m_state.cells.cols(); ++col) {
+        const FlexGridCellText::Setting setting{
+            m_state.cells.text(row, col), m_state.look.Font, {}, m_state.look.WordWrap};
+        const int width = colPixels(col) - m_state.look.GridLineWidth - 2 * FlexGridCellText::Margin;
+        highest = std::max(highest, FlexGridCellText::heightFor(width, setting));
+    }
+    return int(std::ceil(highest)) + m_state.look.GridLineWidth + 1;
+}
