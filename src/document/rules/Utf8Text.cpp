@@ -2,6 +2,7 @@
 
 namespace {
 
+constexpr QByteArrayView ByteOrderMark("\xEF\xBB\xBF");
 constexpr uchar SurrogateLead = 0xED;
 
 /// Three bytes at the position that stand for one surrogate, which starts with 0xED and a byte from 0xA0 on.
@@ -49,6 +50,14 @@ char *encodeTo(QStringView text, char *out)
     return out;
 }
 
+QString decodeProper(QByteArrayView bytes)
+{
+    // Qt drops a mark at the start.
+    if (bytes.startsWith(ByteOrderMark))
+        return QChar(QChar::ByteOrderMark) + QString::fromUtf8(bytes);
+    return QString::fromUtf8(bytes);
+}
+
 std::optional<QString> decode(QByteArrayView bytes)
 {
     QString text;
@@ -57,7 +66,7 @@ std::optional<QString> decode(QByteArrayView bytes)
         const QByteArrayView proper = bytes.sliced(start, end - start);
         if (!proper.isValidUtf8())
             return std::nullopt;
-        text += QString::fromUtf8(proper);
+        text += decodeProper(proper);
         if (end < bytes.size())
             text += QChar(char16_t(0xD000 | (uchar(bytes[end + 1]) & 0x3F) << 6 | (uchar(bytes[end + 2]) & 0x3F)));
         start = end + 3;

@@ -32,7 +32,7 @@ public:
         if (line.isEmpty())
             return QString();
         if (m_utf8)
-            return QString::fromUtf8(line);
+            return Utf8Text::decodeProper(line);
         return m_mended ? mended(line) : m_codePage.decode(line);
     }
 
@@ -50,7 +50,7 @@ private:
 
 struct LineFeeds
 {
-    qsizetype count = 0;
+    qsizetype endingLines = 0;
     bool anyWithinLine = false;
 };
 
@@ -58,8 +58,10 @@ LineFeeds lineFeedsIn(QByteArrayView bytes)
 {
     LineFeeds feeds;
     for (qsizetype at = bytes.indexOf('\n'); at >= 0; at = bytes.indexOf('\n', at + 1)) {
-        ++feeds.count;
-        feeds.anyWithinLine |= at == 0 || bytes[at - 1] != '\r';
+        if (at > 0 && bytes[at - 1] == '\r')
+            ++feeds.endingLines;
+        else
+            feeds.anyWithinLine = true;
     }
     return feeds;
 }
@@ -198,7 +200,7 @@ private:
 
     bool readRows(Vocabulary &vocabulary)
     {
-        const auto expected = size_t(m_feeds.count / 2 + 1);
+        const auto expected = size_t(m_feeds.endingLines / 2 + 1);
         vocabulary.first.reserve(expected);
         vocabulary.second.reserve(expected);
         vocabulary.heights.reserve(expected);
@@ -227,7 +229,7 @@ private:
     std::optional<QByteArrayView> withoutMarker(QByteArrayView line)
     {
         const qsizetype start = line.endsWith(']') ? line.indexOf(MarkerStart) : -1;
-        if (start >= 0 && endsInBracketLetter(line)) {
+        if (start >= 0 && endsInBracket(line)) {
             const qsizetype digits = start + MarkerStart.size();
             const std::optional<int> height =
                 rowHeight(line.sliced(digits).first(std::min(MarkerDigits, line.size() - digits)));
@@ -242,7 +244,7 @@ private:
     }
 
     /// A last byte "]" may be the second half of an East Asian letter.
-    bool endsInBracketLetter(QByteArrayView line) const
+    bool endsInBracket(QByteArrayView line) const
     {
         return line.size() < 2 || uchar(line[line.size() - 2]) < 0x80 || m_letters.read(line).endsWith(u']');
     }
