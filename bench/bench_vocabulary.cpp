@@ -11,6 +11,8 @@
 #include <QStringEncoder>
 #include <QTemporaryDir>
 
+#include <malloc.h>
+
 namespace {
 
 using SampleVocabulary::Letters;
@@ -36,6 +38,22 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+size_t heapInUse()
+{
+    const struct mallinfo2 info = ::mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
+
+/// What a loaded vocabulary takes on the heap, in sizes of its file.
+double memoryInFileSizes(const QString &path, const CodePage &codePage)
+{
+    VocabularyFile file(path);
+    file.readHeader();
+    const size_t before = heapInUse();
+    const VocabularyCodec::DecodeResult result = file.read(codePage);
+    return double(heapInUse() - before) / double(file.size());
+}
+
 void load(benchmark::State &state, Letters letters)
 {
     const Folder folder;
@@ -47,6 +65,7 @@ void load(benchmark::State &state, Letters letters)
         VocabularyCodec::DecodeResult result = file.read(codePage);
         benchmark::DoNotOptimize(result);
     }
+    state.counters["memory"] = memoryInFileSizes(folder.file(), codePage);
 }
 
 void bareLoad(benchmark::State &state, Letters letters, const char *encoding)

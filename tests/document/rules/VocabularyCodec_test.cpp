@@ -1,34 +1,268 @@
 #include "document/rules/VocabularyCodec.h"
 
+#include <QLocale>
+
 namespace {
 
-Vocabulary twoPairs()
+using VocabularyCodec::decode;
+using VocabularyCodec::DecodeResult;
+using VocabularyCodec::encode;
+using VocabularyCodec::Outcome;
+
+const QByteArray Sections =
+    QByteArrayLiteral("Glosaria\r\n3.1.0\r\n\r\n[Font Info]\r\n\"Arial\"\r\n10\r\n#FALSE#\r\n#FALSE#\r\n0\r\n\r\n"
+                      "[Grid Info]\r\n340\r\n4000\r\n4000\r\n2\r\n\r\n");
+const QByteArray Encoding = QByteArrayLiteral("[Encoding]\r\nUTF-8\r\n\r\n");
+const QByteArray Rows = QByteArrayLiteral("Language 1   [0000000285]\r\nLanguage 2\r\nhouse   [0000000285]\r\nHaus\r\n"
+                                          "tree   [0000000285]\r\nBaum\r\n");
+const QByteArray Start = Sections + "[Vocabulary]\r\n";
+const QByteArray Whole = Start + Rows;
+
+Vocabulary withRows(const std::vector<std::pair<QString, QString>> &rows)
 {
     Vocabulary vocabulary;
     vocabulary.font = VocabularyFont();
     vocabulary.columnWidths = {340, 4000, 4000};
-    vocabulary.append(QStringLiteral("Language 1"), QStringLiteral("Language 2"));
-    vocabulary.append(QStringLiteral("house"), QStringLiteral("Haus"));
-    vocabulary.append(QStringLiteral("tree"), QStringLiteral("Baum"));
+    for (const auto &[first, second] : rows)
+        vocabulary.append(first, second);
     return vocabulary;
 }
 
-QByteArray twoPairsBytes()
+Vocabulary twoPairs()
 {
-    return QByteArrayLiteral(
-        "Glosaria\r\n3.1.0\r\n\r\n[Font Info]\r\n\"Arial\"\r\n10\r\n#FALSE#\r\n#FALSE#\r\n0\r\n\r\n"
-        "[Grid Info]\r\n340\r\n4000\r\n4000\r\n2\r\n\r\n[Vocabulary]\r\n"
-        "Language 1   [0000000285]\r\nLanguage 2\r\nhouse   [0000000285]\r\nHaus\r\n"
-        "tree   [0000000285]\r\nBaum\r\n");
+    return withRows({{QStringLiteral("Language 1"), QStringLiteral("Language 2")},
+                     {QStringLiteral("house"), QStringLiteral("Haus")},
+                     {QStringLiteral("tree"), QStringLiteral("Baum")}});
+}
+
+/// The whole file with one thing in it changed.
+QByteArray changed(const char *what, const QByteArray &by)
+{
+    EXPECT_EQ(Whole.count(what), 1) << what;
+    return QByteArray(Whole).replace(what, by);
+}
+
+DecodeResult decodeWestern(const QByteArray &bytes)
+{
+    return decode(bytes, CodePage());
 }
 
 } // namespace
 
 TEST(VocabularyCodec, FileIsExactToTheByte)
 {
-    const CodePage western;
-    EXPECT_EQ(VocabularyCodec::encode(twoPairs(), western), twoPairsBytes());
-    const VocabularyCodec::DecodeResult result = VocabularyCodec::decode(twoPairsBytes(), western);
-    EXPECT_EQ(result.outcome, VocabularyCodec::Outcome::Ok);
+    QLocale::setDefault(QLocale(QLocale::German));
+    EXPECT_EQ(encode(twoPairs(), CodePage()), Whole);
+    const DecodeResult result = decodeWestern(Whole);
+    EXPECT_EQ(result.outcome, Outcome::Ok);
     EXPECT_TRUE(result.vocabulary == twoPairs());
+    EXPECT_EQ(decodeWestern(QByteArray(Whole).replace("\r\n", "\r")).vocabulary, twoPairs());
+
+    Vocabulary other = twoPairs();
+    other.font = VocabularyFont{QStringLiteral("Liberation Sans"), 9.75, true, true, int(0x80000008)};
+    other.heights = {1, 2147483647, 285};
+    const QByteArray bytes = encode(other, CodePage());
+    EXPECT_TRUE(bytes.contains("\"Liberation Sans\"\r\n9.75\r\n#TRUE#\r\n#TRUE#\r\n-2147483640\r\n"));
+    EXPECT_TRUE(bytes.contains("house   [2147483647]\r\n"));
+    EXPECT_TRUE(decodeWestern(bytes).vocabulary == other);
+}
+
+TEST(VocabularyCodec, FontSizesAreWrittenShort)
+{
+    const std::pair<double, QByteArray> cases[] = {{10, "10"},       {8.25, "8.25"}, {1.0 / 3 + 12, "12.3333"},
+                                                   {100000, "2048"}, {-1, "1"},      {9.99999, "10"}};
+    for (const auto &[size, text] : cases) {
+        Vocabulary vocabulary = twoPairs();
+        vocabulary.font->size = size;
+        EXPECT_EQ(encode(vocabulary, CodePage()), changed("\r\n10\r\n", "\r\n" + text + "\r\n"));
+    }
+}
+
+TEST(VocabularyCodec, RowsBehindTheLastFirstWordAreNotWritten)
+{
+    const QString word = QStringLiteral("x");
+    const QByteArray empty = encode(withRows({{{}, word}, {{}, word}}), CodePage());
+    EXPECT_TRUE(empty.endsWith("4000\r\n0\r\n\r\n[Vocabulary]\r\n   [0000000285]\r\nx\r\n"));
+    const QByteArray gap = encode(withRows({{word, word}, {{}, {}}, {word, {}}, {{}, word}}), CodePage());
+    EXPECT_TRUE(gap.endsWith("4000\r\n2\r\n\r\n[Vocabulary]\r\nx   [0000000285]\r\nx\r\n   [0000000285]\r\n\r\n"
+                             "x   [0000000285]\r\n\r\n"));
+    EXPECT_TRUE(encode(Vocabulary(), CodePage()).endsWith("0\r\n\r\n[Vocabulary]\r\n"));
+}
+
+TEST(VocabularyCodec, LineBreaksInWordsBecomeBlanks)
+{
+    const QString text = QStringLiteral("a\r\nb\nc\rd");
+    const DecodeResult result = decodeWestern(encode(withRows({{text, text}}), CodePage()));
+    EXPECT_EQ(result.vocabulary, withRows({{QStringLiteral("a b c d"), QStringLiteral("a b c d")}}));
+    EXPECT_EQ(decodeWestern(Start + "a\nb   [0000000285]\r\n\nc\r\n").vocabulary,
+              withRows({{QStringLiteral("a b"), QStringLiteral(" c")}}));
+}
+
+TEST(VocabularyCodec, WrongFilesAreRefused)
+{
+    const std::pair<QByteArray, Outcome> cases[] = {
+        {"", Outcome::BadFormat},
+        {changed("Glosaria", "glosaria"), Outcome::BadFormat},
+        {changed("Glosaria", "Glosaria "), Outcome::BadFormat},
+        {"\xEF\xBB\xBF" + Whole, Outcome::BadFormat},
+        {QByteArray(Whole).replace("\r\n", "\n"), Outcome::BadFormat},
+        {"Glosaria", Outcome::Failed},
+        {"Glosaria\r\n", Outcome::Failed},
+        {changed("3.1.0", ""), Outcome::Failed},
+        {changed("3.1.0", "x3"), Outcome::Failed},
+        {changed("3.1.0", "4.0.0"), Outcome::NewerVersion},
+        {changed("3.1.0", "9"), Outcome::NewerVersion},
+        {changed("[Font Info]", "[Font info]"), Outcome::Failed},
+        {changed("[Vocabulary]", "[Vocabulary] "), Outcome::Failed},
+        {changed("\r\n10\r\n", "\r\nten\r\n"), Outcome::Failed},
+        {changed("\r\n10\r\n", "\r\n0\r\n"), Outcome::Failed},
+        {changed("\r\n10\r\n", "\r\n2048.5\r\n"), Outcome::Failed},
+        {changed("\r\n10\r\n", "\r\nnan\r\n"), Outcome::Failed},
+        {changed("#FALSE#\r\n#FALSE#", "#FALSE#\r\nFALSE"), Outcome::Failed},
+        {changed("#\r\n0\r\n", "#\r\n2147483648\r\n"), Outcome::Failed},
+        {changed("#\r\n0\r\n", "#\r\n\r\n"), Outcome::Failed},
+        {changed("340", "-1"), Outcome::Failed},
+        {changed("340", "9999999999"), Outcome::Failed},
+        {changed("house   [0000000285]", "house   [2147483648]"), Outcome::Failed},
+        {changed("house   [0000000285]", "house   [00000x0285]"), Outcome::Failed},
+        {changed("house   [0000000285]", "house   [285]"), Outcome::Failed},
+        {changed("house   [0000000285]", "a   [b   [0000000285]"), Outcome::Failed},
+        {Whole + "lonely", Outcome::Failed},
+        {Whole + "\r\n", Outcome::Failed},
+        {Sections + "[Encoding]\r\nUTF-7\r\n\r\n[Vocabulary]\r\n" + Rows, Outcome::Failed},
+    };
+    for (const auto &[bytes, outcome] : cases) {
+        const DecodeResult result = decodeWestern(bytes);
+        EXPECT_EQ(result.outcome, outcome) << bytes.constData();
+        EXPECT_TRUE(result.vocabulary == Vocabulary());
+    }
+}
+
+TEST(VocabularyCodec, OlderFilesHoldOnlyRows)
+{
+    const DecodeResult result = decodeWestern("Glosaria\r\n2\r\nOne\r\nTwo\r\nhouse\r\nHaus\r\na   [0000000300]\r\nb");
+    EXPECT_EQ(result.outcome, Outcome::Ok);
+    EXPECT_TRUE(result.olderVersion);
+    EXPECT_FALSE(result.vocabulary.font || result.vocabulary.columnWidths);
+    EXPECT_EQ(result.vocabulary.first.front(), QStringLiteral("One"));
+    EXPECT_EQ(result.vocabulary.second.back(), QStringLiteral("b"));
+    EXPECT_EQ(result.vocabulary.heights, (std::vector<int>{285, 285, 300}));
+}
+
+TEST(VocabularyCodec, SectionsMayBeMissingOrStandAmongOthers)
+{
+    const QByteArray noWidths = QByteArray(Whole).replace("[Grid Info]\r\n340\r\n4000\r\n4000\r\n2\r\n\r\n", "");
+    EXPECT_FALSE(decodeWestern(noWidths).vocabulary.columnWidths);
+    EXPECT_EQ(decodeWestern(noWidths).vocabulary.rows(), 3);
+    EXPECT_TRUE(decodeWestern(changed("[Font Info]", "[Other]\r\n1\r\n[Font Info]")).vocabulary == twoPairs());
+    EXPECT_TRUE(decodeWestern(changed("[Vocabulary]", "[Font Info]\r\nx\r\n\r\n[Vocabulary]")).vocabulary ==
+                twoPairs());
+    EXPECT_EQ(decodeWestern(Start).outcome, Outcome::Ok);
+}
+
+TEST(VocabularyCodec, HeightMarkers)
+{
+    const struct
+    {
+        QByteArray line;
+        QString word;
+        int height;
+    } cases[] = {
+        {"", QString(), 285},
+        {"a]", QStringLiteral("a]"), 285},
+        {"a [0000000300]", QStringLiteral("a [0000000300]"), 285},
+        {"a   [0000000300", QStringLiteral("a   [0000000300"), 285},
+        {"a   [0000000300]", QStringLiteral("a"), 300},
+        {"follows", QStringLiteral("follows"), 300},
+        {"a    [0000000310]", QStringLiteral("a "), 310},
+        {"a   [0000000320] b   [0000000330]", QStringLiteral("a"), 320},
+        {"a]   [0000000340]", QStringLiteral("a]"), 340},
+        {"a   [00000003505]", QStringLiteral("a"), 350},
+        {"   [0000000000]", QString(), 285},
+    };
+    QByteArray bytes = Start;
+    for (const auto &c : cases)
+        bytes += c.line + "\r\nx   [y]\r\n";
+    const DecodeResult result = decodeWestern(bytes);
+    ASSERT_EQ(result.vocabulary.rows(), qsizetype(std::size(cases)));
+    for (size_t i = 0; i < std::size(cases); ++i) {
+        EXPECT_EQ(result.vocabulary.first[i], cases[i].word) << cases[i].line.constData();
+        EXPECT_EQ(result.vocabulary.heights[i], cases[i].height) << cases[i].line.constData();
+        EXPECT_EQ(result.vocabulary.second[i], QStringLiteral("x   [y]"));
+    }
+    // The last byte of this letter is that of the closing bracket.
+    const DecodeResult japanese = decode(QByteArray(Start + "a   [x\x83\x5D\r\nb\r\n"), CodePage("windows-932"));
+    EXPECT_EQ(japanese.vocabulary.first, std::vector<QString>{QStringLiteral("a   [xゾ")});
+}
+
+TEST(VocabularyCodec, NoLetterIsLost)
+{
+    const struct
+    {
+        const char *codePage;
+        QString text;
+        bool declared;
+    } cases[] = {
+        {"windows-1252", QStringLiteral("café €"), false},
+        {"windows-1252", QStringLiteral("Ã©"), true},
+        {"windows-1252", QStringLiteral("Ã© é"), false},
+        {"windows-1252", QStringLiteral("Дом"), true},
+        {"windows-1251", QStringLiteral("Дом"), false},
+        {"windows-1252", QStringLiteral("\U0001F3E0 e\u0301 בית \uFEFF"), true},
+        {"windows-1252", QStringLiteral("\uFEFF\uFEFFa"), true},
+        {"windows-1252", QStringLiteral("a\u0000b"), false},
+        {"windows-1252", QChar(0xD83C) + QStringLiteral("é\uFFFE") + QChar(0xDF00), true},
+        {"windows-1255", QStringLiteral("שלום"), false},
+        {"windows-932", QStringLiteral("家ソ]"), false},
+        {"windows-932", QStringLiteral("\u0083") + QStringLiteral("]é"), true},
+    };
+    for (const auto &c : cases) {
+        const CodePage codePage(c.codePage);
+        Vocabulary vocabulary = withRows({{c.text, QStringLiteral("plain")}, {QStringLiteral("x"), c.text}});
+        vocabulary.font->name = c.text;
+        const QByteArray bytes = encode(vocabulary, codePage);
+        const QByteArray declaration = "4000\r\n1\r\n\r\n" + Encoding + "[Vocabulary]\r\n";
+        EXPECT_EQ(bytes.contains(declaration), c.declared) << qPrintable(c.text);
+        EXPECT_EQ(bytes.contains("Encoding"), c.declared);
+        EXPECT_TRUE(decode(bytes, codePage).vocabulary == vocabulary) << qPrintable(c.text);
+    }
+}
+
+TEST(VocabularyCodec, EncodingIsRecognised)
+{
+    const std::pair<QByteArray, QString> cases[] = {
+        {Start + "caf\xC3\xA9\r\nx", QStringLiteral("café")},
+        {Start + "caf\xE9\r\nx", QStringLiteral("café")},
+        {Start + "caf\xC3\xA9\r\n\xE9", QStringLiteral("cafÃ©")},
+        {Sections + Encoding + "[Vocabulary]\r\ncaf\xC3\xA9\r\n\xE9", QStringLiteral("café")},
+        {Sections + Encoding + "[Vocabulary]\r\ncaf\xE9\r\n\xC3\xA9", QStringLiteral("café")},
+        {"Glosaria\r\n2\r\n\xD0\xB4\r\nx", QStringLiteral("д")},
+    };
+    for (const auto &[bytes, word] : cases)
+        EXPECT_EQ(decodeWestern(bytes).vocabulary.first, std::vector<QString>{word}) << bytes.constData();
+}
+
+TEST(VocabularyCodec, EveryLetterComesBack)
+{
+    Vocabulary vocabulary = withRows({});
+    for (int c = 1; c < 0x10000; ++c) {
+        if (c != '\r' && c != '\n')
+            vocabulary.append(QString(QChar(c)), QChar(c) + QStringLiteral("]"));
+    }
+    EXPECT_TRUE(decodeWestern(encode(vocabulary, CodePage())).vocabulary == vocabulary);
+}
+
+TEST(VocabularyCodec, LongLinesAndManyRows)
+{
+    const QString line(1 << 20, QChar(0xE9));
+    Vocabulary vocabulary = withRows({{line, line}});
+    for (int i = 0; i < 100000; ++i)
+        vocabulary.append(QString::number(i), QString());
+    std::vector<qint64> steps;
+    const auto progress = [&steps](qint64 done) { steps.push_back(done); };
+    const QByteArray bytes = encode(vocabulary, CodePage(), progress);
+    EXPECT_LE(steps.back(), vocabulary.rows());
+    EXPECT_TRUE(decode(bytes, CodePage(), progress).vocabulary == vocabulary);
+    EXPECT_LE(steps.back(), bytes.size());
+    EXPECT_LE(steps.size(), 200u);
 }

@@ -1,0 +1,108 @@
+#include "document/rules/CodePage.h"
+
+#include <QLocale>
+
+#include <random>
+
+namespace {
+
+const char *const AllNames[] = {"windows-1250", "windows-1251", "windows-1252", "windows-1253", "windows-1254",
+                                "windows-1255", "windows-1256", "windows-1257", "windows-1258", "windows-874",
+                                "windows-932",  "windows-936",  "windows-949",  "windows-950"};
+
+class EveryCodePage : public ::testing::TestWithParam<const char *>
+{
+protected:
+    const CodePage m_codePage{GetParam()};
+};
+
+} // namespace
+
+TEST_P(EveryCodePage, ReadsAndWritesEveryByte)
+{
+    ASSERT_EQ(m_codePage.name(), GetParam());
+    QString letters;
+    for (int byte = 0; byte < 256; ++byte) {
+        const QByteArray bytes(1, char(byte));
+        const QString text = m_codePage.decode(bytes);
+        ASSERT_EQ(text.size(), 1) << byte;
+        EXPECT_FALSE(letters.contains(text)) << byte;
+        if (byte < 0x80) {
+            EXPECT_EQ(text[0].unicode(), byte);
+        }
+        EXPECT_EQ(m_codePage.encode(text), bytes) << byte;
+        letters += text;
+    }
+}
+
+TEST_P(EveryCodePage, WritesNothingThatReadsDifferently)
+{
+    std::minstd_rand random(7);
+    int written = 0;
+    for (int i = 0; i < 20000; ++i) {
+        QByteArray bytes(int(random() % 8), Qt::Uninitialized);
+        for (char &byte : bytes)
+            byte = char(random() >> 8);
+        const QString text = m_codePage.decode(bytes);
+        if (const std::optional<QByteArray> again = m_codePage.encode(text)) {
+            ASSERT_EQ(m_codePage.decode(*again), text) << bytes.toHex().constData();
+            ++written;
+        }
+    }
+    EXPECT_GT(written, 10000);
+}
+
+TEST_P(EveryCodePage, RefusesWhatHasNoPlace)
+{
+    for (const QString &text : {QStringLiteral("\U0001F3E0"), QString(QChar(0xD83C)), QStringLiteral("a\uFFFD"),
+                                QStringLiteral("\u0915\u0916")})
+        EXPECT_FALSE(m_codePage.encode(text)) << qPrintable(text);
+}
+
+INSTANTIATE_TEST_SUITE_P(CodePage, EveryCodePage, ::testing::ValuesIn(AllNames));
+
+TEST(CodePage, LettersHaveTheirBytes)
+{
+    const struct
+    {
+        const char *name;
+        QString text;
+        QByteArray bytes;
+    } cases[] = {
+        {"windows-1250", QStringLiteral("Łódź"), "\xA3\xF3\x64\x9F"},
+        {"windows-1251", QStringLiteral("Дом"), "\xC4\xEE\xEC"},
+        {"windows-1252", QStringLiteral("€é\u0081\u008D\u008F\u0090\u009D"), "\x80\xE9\x81\x8D\x8F\x90\x9D"},
+        {"windows-1253", QStringLiteral("Ωμή"), "\xD9\xEC\xDE"},
+        {"windows-1254", QStringLiteral("ışğ"), "\xFD\xFE\xF0"},
+        {"windows-1255", QStringLiteral("שלום"), "\xF9\xEC\xE5\xED"},
+        {"windows-1256", QStringLiteral("بيت"), "\xC8\xED\xCA"},
+        {"windows-1257", QStringLiteral("ąž"), "\xE0\xFE"},
+        {"windows-1258", QStringLiteral("a\u0301đ"), "\x61\xEC\xF0"},
+        {"windows-874", QStringLiteral("บ้าน"), "\xBA\xE9\xD2\xB9"},
+        {"windows-932", QStringLiteral("家ソ\\~∵ｱ"), "\x89\xC6\x83\x5C\x5C\x7E\x81\xE6\xB1"},
+        {"windows-936", QStringLiteral("房子€"), "\xB7\xBF\xD7\xD3\x80"},
+        {"windows-949", QStringLiteral("집똠"), "\xC1\xFD\x8C\x63"},
+        {"windows-950", QStringLiteral("功許"), "\xA5\x5C\xB3\x5C"},
+    };
+    for (const auto &c : cases) {
+        const CodePage codePage(c.name);
+        EXPECT_EQ(codePage.encode(c.text).value_or("none").toHex(), c.bytes.toHex()) << c.name;
+        EXPECT_EQ(codePage.decode(c.bytes), c.text) << c.name;
+    }
+    EXPECT_EQ(CodePage("no-such-set").decode("\xE9"), QStringLiteral("é"));
+}
+
+TEST(CodePage, BelongsToTheLanguage)
+{
+    const std::pair<const char *, const char *> cases[] = {
+        {"C", "windows-1252"},          {"en_GB", "windows-1252"},      {"sv_SE", "windows-1252"},
+        {"pl_PL", "windows-1250"},      {"sr_Latn_RS", "windows-1250"}, {"sr_Cyrl_RS", "windows-1251"},
+        {"ru_RU", "windows-1251"},      {"el_GR", "windows-1253"},      {"tr_TR", "windows-1254"},
+        {"he_IL", "windows-1255"},      {"fa_IR", "windows-1256"},      {"lt_LT", "windows-1257"},
+        {"vi_VN", "windows-1258"},      {"th_TH", "windows-874"},       {"ja_JP", "windows-932"},
+        {"zh_CN", "windows-936"},       {"ko_KR", "windows-949"},       {"zh_TW", "windows-950"},
+        {"uz_Latn_UZ", "windows-1254"}, {"az_Cyrl_AZ", "windows-1251"}, {"hi_IN", "windows-1252"},
+    };
+    for (const auto &[locale, name] : cases)
+        EXPECT_EQ(CodePage::nameFor(QLocale(QString::fromLatin1(locale))), name) << locale;
+}
