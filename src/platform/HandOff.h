@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QString>
+
+/// The message by which a second copy hands its command line to the first. All numbers are 32 bits, little-endian:
+///
+///     offset 0  dwData  always 0
+///     offset 4  cbData  bytes of text that follow, even; 0 only asks to come to the front
+///     offset 8  text    UTF-16, little-endian, without a closing NUL
+///
+/// The receiver answers with the byte Handled and closes the connection.
+namespace HandOff {
+
+constexpr qsizetype HeaderSize = 8;
+constexpr qsizetype LargestText = 65536; ///< bytes
+constexpr qsizetype LargestMessage = HeaderSize + LargestText;
+constexpr char Handled = 1;
+
+/// A text that is too long to be a command line is left out.
+QByteArray message(const QString &text);
+
+enum class State { Incomplete, Complete, Malformed };
+
+struct Parsed
+{
+    State state = State::Incomplete;
+    QString text;
+};
+
+/// What has arrived so far, from the message's first byte on.
+Parsed parse(QByteArrayView bytes);
+
+} // namespace HandOff
