@@ -1,0 +1,22 @@
+// Any bytes as what a second copy sends: a message that is taken is the one that such a copy writes.
+
+#include "Require.h"
+
+#include "platform/HandOff.h"
+#include "services/rules/RequestedFile.h"
+
+#include <cstdint>
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QByteArrayView bytes(data, qsizetype(size));
+    const HandOff::Parsed parsed = HandOff::parse(bytes);
+    if (parsed.state != HandOff::State::Complete) {
+        require(parsed.text.isEmpty(), "only a whole message has a text");
+        return 0;
+    }
+    require(HandOff::message(parsed.text) == bytes, "a text comes from one message only");
+    const std::optional<QString> path = RequestedFile::requestedPath(parsed.text);
+    require(!path || !path->isEmpty(), "what is asked for has a name");
+    return 0;
+}

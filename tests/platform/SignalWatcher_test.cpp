@@ -1,0 +1,32 @@
+#include "platform/SignalWatcher.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+void (*handlerOf(int number))(int)
+{
+    struct sigaction action = {};
+    ::sigaction(number, nullptr, &action);
+    return action.sa_handler;
+}
+
+} // namespace
+
+TEST(SignalWatcher, RequestsToEndArriveInTheEventLoop)
+{
+    std::signal(SIGHUP, SIG_IGN); // as nohup does
+    std::vector<int> requests;
+    {
+        SignalWatcher watcher;
+        QObject::connect(&watcher, &SignalWatcher::endRequested, [&](int number) { requests.push_back(number); });
+        for (int number : {SIGTERM, SIGHUP, SIGINT, SIGPIPE, SIGXFSZ})
+            std::raise(number);
+        EXPECT_TRUE(requests.empty());
+        QCoreApplication::processEvents();
+        EXPECT_EQ(requests, (std::vector<int>{SIGTERM, SIGINT}));
+    }
+    EXPECT_EQ(handlerOf(SIGTERM), SIG_DFL);
+    EXPECT_EQ(handlerOf(SIGHUP), SIG_IGN);
+    std::signal(SIGHUP, SIG_DFL);
+}
