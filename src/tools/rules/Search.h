@@ -1,0 +1,51 @@
+#pragma once
+
+#include "tools/rules/Cells.h"
+#include "tools/rules/TextFinder.h"
+
+#include <optional>
+
+/// Scope and options of a search: one of the two languages or the whole document, and any of the options.
+namespace SearchFlag {
+enum : int { Language1 = 1, Language2 = 2, MatchCase = 8, WholeWords = 16, WholeDocument = 32 };
+}
+
+/// The state of a search that goes through the cells match by match: column 1 from top to bottom, then column 2, or one
+/// column only. It knows no grid; whoever shows the matches asks for the next.
+class Search
+{
+public:
+    struct Match
+    {
+        int row;
+        int col;
+        int start; ///< 0-based position in the cell
+        int length;
+        bool operator==(const Match &) const = default;
+    };
+
+    int SearchFlags = 0;
+    QString FindWhat;
+    int CurRow = 1; ///< row, column and 1-based position where the next search begins
+    int CurCol = 1;
+    int CurPos = 1;
+    int MatchCount = 0;      ///< matches since the last reset
+    bool FoundAny = false;   ///< a match since the last end of the region
+    bool SearchDone = false; ///< the region was searched to its end
+
+    /// Begins again at the first row.
+    void ResetSearch();
+    /// The next match, which CurRow, CurCol and CurPos then follow; nothing at the end of the region. FindWhat must not
+    /// be empty.
+    std::optional<Match> FindNext(const CellSource &cells);
+    /// Ends the region: the next search begins at the top and has found nothing yet.
+    void EndRegion();
+    /// To be called when the last match has been replaced: a replacement that holds the search text is not searched
+    /// again.
+    void SkipReplacement(const QString &ReplaceWith);
+
+    TextFinder finder() const;
+
+private:
+    std::optional<Match> findInColumn(const CellSource &cells, const TextFinder &finder);
+};

@@ -1,0 +1,107 @@
+#include "tools/rules/ReplaceAll.h"
+
+#include "MemoryCells.h"
+
+namespace {
+
+using namespace SearchFlag;
+
+Search searchFor(const QString &what, int flags)
+{
+    Search search;
+    search.FindWhat = what;
+    search.SearchFlags = flags;
+    return search;
+}
+
+/// Replaces match by match: each step replaces the match of the step before and finds the next.
+int replaceStepByStep(MemoryCells &cells, Search search, const QString &with)
+{
+    int steps = 0;
+    while (const auto match = search.FindNext(cells)) {
+        if (++steps > 10000)
+            break;
+        QString text = cells.TextMatrix(match->row, match->col);
+        cells.setTextMatrix(match->row, match->col, text.replace(match->start, match->length, with));
+        search.SkipReplacement(with);
+    }
+    return search.MatchCount;
+}
+
+TEST(ReplaceAll, ReplacesWhatTheSingleStepsReplace)
+{
+    struct Case
+    {
+        QString text, what, with, result;
+        int count;
+    };
+    const Case cases[] = {
+        {"banana", "a", "aa", "baanaanaa", 3},
+        {"Anna", "a", "o", "onno", 2},
+        {"abab", "b", "", "aa", 2},
+        {"aab", "ab", "a", "aa", 1},
+        {"xyy", "xy", "zx", "zzx", 2}, // the inserted x and the y behind it match again
+        {"aaa", "a", "", "a", 2},      // the search goes on one character behind the start of each match
+        {"aaaa", "aa", "a", "aa", 2},
+    };
+    for (const Case &test : cases) {
+        MemoryCells cells{{test.text, QString()}, {}};
+        const Search search = searchFor(test.what, WholeDocument);
+        EXPECT_EQ(ReplaceAll(search, test.with).run(cells), test.count);
+        EXPECT_EQ(cells.words[0][0], test.result);
+    }
+}
+
+TEST(ReplaceAll, EqualsTheSingleStepsOnRandomWords)
+{
+    std::mt19937 engine(1);
+    const QStringList alphabet{"a", "A", "b", " ", "é", "😀"};
+    for (int round = 0; round < 4000; ++round) {
+        MemoryCells cells = MemoryCells::random(engine, 6, alphabet);
+        MemoryCells expected = cells;
+        QString what = MemoryCells::randomWord(engine, alphabet, 3);
+        if (what.isEmpty())
+            what = "a";
+        const QString with = MemoryCells::randomWord(engine, alphabet, 4);
+        const int scopes[] = {Language1, Language2, WholeDocument};
+        const int flags = scopes[engine() % 3] | (engine() % 2 ? MatchCase : 0) | (engine() % 2 ? WholeWords : 0);
+        const Search search = searchFor(what, flags);
+        const int count = replaceStepByStep(expected, search, with);
+        EXPECT_EQ(ReplaceAll(search, with).run(cells), count);
+        ASSERT_EQ(cells.words, expected.words) << what.toStdString() << " -> " << with.toStdString() << " " << flags;
+    }
+}
+
+TEST(ReplaceAll, EqualsAPlainReplacementForALetterByAnotherText)
+{
+    std::mt19937 engine(2);
+    const QStringList alphabet{"a", "A", "x", "ß"};
+    for (const QString with : {"a", "bb", "xax"}) {
+        for (const Qt::CaseSensitivity sensitivity : {Qt::CaseSensitive, Qt::CaseInsensitive}) {
+            MemoryCells cells = MemoryCells::random(engine, 500, alphabet);
+            auto expected = cells.words;
+            for (auto &row : expected) {
+                for (QString &text : row)
+                    text.replace("a", with, sensitivity);
+            }
+            expected.emplace_back();
+            cells.words.push_back({"b", QString()});
+            const int flags = WholeDocument | (sensitivity == Qt::CaseSensitive ? MatchCase : 0);
+            ReplaceAll(searchFor("a", flags), with).run(cells);
+            expected.back()[0] = "b";
+            EXPECT_EQ(cells.words, expected);
+        }
+    }
+}
+
+TEST(ReplaceAll, GoesThroughLongCellsOnce)
+{
+    const QString a(200000, u'a');
+    EXPECT_EQ(ReplaceAll(searchFor("ab", WholeDocument), "ca").replaced(a + u'b').text, QString(199999, u'a') + "ca");
+    MemoryCells cells{{a, QString()}};
+    EXPECT_EQ(ReplaceAll(searchFor("A", WholeDocument), "xyz").run(cells), 200000);
+    EXPECT_EQ(cells.words[0][0].size(), 600000);
+    EXPECT_EQ(cells.words.size(), 2U); // a change in the last row appends one
+}
+
+} // namespace

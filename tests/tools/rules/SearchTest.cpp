@@ -1,0 +1,108 @@
+#include "tools/rules/Search.h"
+
+#include "MemoryCells.h"
+
+#include <QStringDecoder>
+
+namespace {
+
+using namespace SearchFlag;
+
+TEST(IsLetter, FollowsTheCodesOfWindows1252)
+{
+    const auto isLetterCode = [](int code) {
+        for (const auto &[first, last] : {std::pair{48, 57},
+                                          {65, 90},
+                                          {97, 122},
+                                          {138, 138},
+                                          {140, 140},
+                                          {154, 154},
+                                          {156, 156},
+                                          {159, 159},
+                                          {192, 214},
+                                          {216, 246},
+                                          {248, 255}}) {
+            if (code >= first && code <= last)
+                return true;
+        }
+        return false;
+    };
+    QSet<QChar> letters;
+    for (int code = 0; code < 256; ++code) {
+        const QString text = QStringDecoder("windows-1252").decode(QByteArray(1, char(code)));
+        if (isLetterCode(code))
+            letters.insert(text.front());
+    }
+    for (int unicode = 0; unicode <= 0xFFFF; ++unicode)
+        EXPECT_EQ(IsLetter(QChar(char16_t(unicode))), letters.contains(QChar(char16_t(unicode)))) << unicode;
+}
+
+/// Everything found until the region ends, as "A1:0 B3:2": column, row and position.
+std::string foundIn(const MemoryCells &cells, const QString &what, int flags)
+{
+    Search search;
+    search.FindWhat = what;
+    search.SearchFlags = flags;
+    QStringList found;
+    while (const auto match = search.FindNext(cells)) {
+        EXPECT_EQ(match->length, what.size());
+        found << QStringLiteral("%1%2:%3").arg(QChar(u'@' + match->col)).arg(match->row).arg(match->start);
+    }
+    EXPECT_EQ(search.MatchCount, found.size());
+    EXPECT_EQ(search.FoundAny, !found.isEmpty());
+    return found.join(u' ').toStdString();
+}
+
+TEST(Search, FindsInOrder)
+{
+    struct Case
+    {
+        MemoryCells cells;
+        QString what;
+        int flags;
+        const char *found;
+    };
+    const Case cases[] = {
+        {{{"aXa", "a"}, {"", "ba"}, {"A", ""}}, "a", WholeDocument, "A1:0 A1:2 A3:0 B1:0 B2:1"},
+        {{{"aXa", "a"}, {"", "ba"}, {"A", ""}}, "a", Language1 | MatchCase, "A1:0 A1:2"},
+        {{{"aXa", "a"}, {"", "ba"}, {"A", ""}}, "A", Language2, "B1:0 B2:1"},
+        {{{"aaa", ""}}, "aa", WholeDocument, "A1:0 A1:1"},
+        {{{"abc", "abc"}}, "x", WholeDocument, ""},
+        {{{"abc", ""}}, "abcd", WholeDocument, ""},
+        // whole words
+        {{{"cats", "cat"}, {"the cat sat", "cathedral cat"}}, "cat", WholeDocument | WholeWords, "A2:4 B1:0"},
+        {{{"cat\u017E", "\u00B5cat"}}, "cat", WholeDocument | WholeWords, "A1:0 B1:1"}, // codes 158 and 181
+        {{{"cat\u00E9", "\u00DFcat"}}, "cat", WholeDocument | WholeWords, ""},
+        {{{"a-a", ""}}, "a", WholeDocument | WholeWords, "A1:0 A1:2"},
+        {{{"aba b", ""}}, "b", WholeDocument | WholeWords, ""},
+        // the start of what remains counts as the start of a word
+        {{{"a a", ""}}, "a", WholeDocument | WholeWords, "A1:0 A1:2"},
+        {{{"-xx", ""}}, "x", WholeDocument | WholeWords, ""},
+        // other scripts; characters that change their length when written in capitals keep the positions right
+        {{{"\u00DF\u1E9E\u0130\u0130ab", "\u041C\u041E\u0421\u041A\u0412\u0410"}}, "AB", WholeDocument, "A1:4"},
+        {{{"", "\u041C\u041E\u0421\u041A\u0412\u0410"}}, "\u043A\u0432", WholeDocument, "B1:3"},
+        {{{"\U00010400\U00010401x", ""}}, "\U00010429", WholeDocument, "A1:2"},
+    };
+    for (const Case &test : cases) {
+        EXPECT_EQ(foundIn(test.cells, test.what, test.flags), test.found)
+            << test.what.toStdString() << " " << test.flags;
+    }
+}
+
+TEST(Search, LooksOnlyAtColumnTwoOnceThere)
+{
+    MemoryCells cells{{"", "x"}, {"", "x"}};
+    Search search;
+    search.FindWhat = "x";
+    search.SearchFlags = WholeDocument;
+    EXPECT_EQ(search.FindNext(cells), (Search::Match{1, 2, 0, 1}));
+    cells.words[1][0] = "x";
+    EXPECT_EQ(search.FindNext(cells), (Search::Match{2, 2, 0, 1}));
+    EXPECT_EQ(search.FindNext(cells), std::nullopt);
+    search.EndRegion();
+    EXPECT_TRUE(search.SearchDone);
+    EXPECT_FALSE(search.FoundAny);
+    EXPECT_EQ(search.FindNext(cells), (Search::Match{2, 1, 0, 1}));
+}
+
+} // namespace
