@@ -11,7 +11,7 @@ void UndoRecord::setKind(UndoKind kind, const void *document)
 
 void UndoRecord::clear()
 {
-    snapshot.clear();
-    snapshot.shrink_to_fit();
+    snapshot = {};
+    overwritten = {};
     setKind(UndoKind::None, nullptr);
 }

@@ -52,12 +52,21 @@ public:
     };
     using Snapshot = std::vector<Pair>;
 
+    /// A rectangle of cells with its words, row by row.
+    struct Block
+    {
+        GridSelection cells;
+        std::vector<QString> words;
+    };
+
     using QObject::QObject;
 
-    GridSelection selection;
-    QString clipText;  ///< the selected cells before the change
-    QString entryText; ///< the cell's text before an edit
-    Snapshot snapshot; ///< every word before a sort, or when the find/replace dialog opened
+    GridSelection selection; ///< before the change
+    Block overwritten;       ///< the cells that the change emptied, filled or took away, as they were before
+    int removedRows = 0;     ///< rows that Delete took out of the grid
+    int addedRows = 0;       ///< rows that the change appended, so that the last row is empty
+    QString entryText;       ///< the cell's text before an edit
+    Snapshot snapshot;       ///< every word before a sort, or when the find/replace dialog opened
 
     UndoKind kind() const { return m_kind; }
     /// Names what Undo reverses and the document it belongs to (its window; compared, never used).

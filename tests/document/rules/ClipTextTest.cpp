@@ -1,0 +1,42 @@
+#include "document/rules/ClipText.h"
+
+namespace {
+
+TEST(ClipText, TakesTextsOfAnyProgramApart)
+{
+    using Rows = std::vector<ClipText::Row>;
+    const std::pair<QString, Rows> cases[] = {
+        {"", {}},
+        {"a", {{"a"}}},
+        {"a\tb\rc\td", {{"a", "b"}, {"c", "d"}}},
+        {"a\tb\r\nc\td\r\n", {{"a", "b"}, {"c", "d"}}},
+        {"a\n\nb\n", {{"a"}, {""}, {"b"}}},
+        {"a\r\r\n\n", {{"a"}, {""}, {""}}},
+        {"\t\r\t\r", {{"", ""}, {"", ""}}},
+        {"\r\r", {{""}, {""}}},
+        {"a\t\tb", {{"a", "", "b"}}},
+        {"a\t", {{"a", ""}}},
+        // a spreadsheet's cells with a line feed inside
+        {"\"a\nb\"\tc\nd\te\n", {{"a\nb", "c"}, {"d", "e"}}},
+        {"x\t\"say \"\"a\"\"\r\nb\"", {{"x", "say \"a\"\r\nb"}}},
+        {"\"a\tb\nc\"\n", {{"a\tb\nc"}}},
+        // quotes that are part of words
+        {"\"a\"\t\"b\"", {{"\"a\"", "\"b\""}}},
+        {"\"a\tb\"", {{"\"a", "b\""}}},
+        {"\"a\rb\"", {{"\"a"}, {"b\""}}},
+        {"\"a\nb", {{"\"a"}, {"b"}}},
+        {"\"a\" he said\n\"b\"", {{"\"a\" he said"}, {"\"b\""}}},
+        {"\"\"\n\"", {{"\"\""}, {"\""}}},
+        {"5\" x\n6\"", {{"5\" x"}, {"6\""}}},
+    };
+    for (const auto &[text, rows] : cases)
+        EXPECT_EQ(ClipText::parse(text), rows) << text.toStdString();
+}
+
+TEST(ClipText, EmptiesEverySelectedCell)
+{
+    EXPECT_EQ(ClipText::emptyClip(2, 2), "\t\r\t\r");
+    EXPECT_EQ(ClipText::emptyClip(3, 1), "\r\r\r");
+}
+
+} // namespace
