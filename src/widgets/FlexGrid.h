@@ -105,6 +105,9 @@ public:
     /// Sorts whole rows: those from Row to RowSel, or all when the two are equal. Keys are the columns from Col to
     /// ColSel from left to right. Equal rows keep their order.
     void setSort(int kind);
+    /// Gives rows a new order: row first + i becomes what row order[i] was, with all it has. order holds each of the rows
+    /// from first on once.
+    void reorderRows(int first, const std::vector<int> &order);
     /// Moves a row or a column with all it has.
     void setRowPosition(int row, int position);
     void setColPosition(int col, int position);

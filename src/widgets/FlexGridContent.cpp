@@ -208,6 +208,12 @@ void FlexGrid::setSort(int kind)
         Q_EMIT Compare(row1, row2, result);
         return result;
     });
-    m_state.cells.reorderRows(sort.rows.first, order);
+    reorderRows(sort.rows.first, order);
+}
+
+void FlexGrid::reorderRows(int first, const std::vector<int> &order)
+{
+    leavingCell();
+    m_state.cells.reorderRows(first, order);
     layOutAgain();
 }

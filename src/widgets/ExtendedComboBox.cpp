@@ -1,0 +1,74 @@
+#include "widgets/ExtendedComboBox.h"
+
+#include "widgets/NumberBox.h"
+
+#include <QCompleter>
+
+namespace {
+
+constexpr int ColorRole = Qt::UserRole + 1; ///< an entry's colour; its item data stands in Qt::UserRole
+
+} // namespace
+
+ExtendedComboBox::ExtendedComboBox(QWidget *parent)
+    : QComboBox(parent)
+{
+    setInsertPolicy(NoInsert);
+}
+
+void ExtendedComboBox::addColor(const QString &name, QColor color, const QVariant &itemData)
+{
+    addItem(swatch(color), name, itemData);
+    setItemData(count() - 1, color, ColorRole);
+}
+
+void ExtendedComboBox::setAutoComplete()
+{
+    setEditable(true);
+    completer()->setCompletionMode(QCompleter::InlineCompletion);
+    completer()->setCaseSensitivity(Qt::CaseInsensitive);
+    connect(lineEdit(), &QLineEdit::editingFinished, this, &ExtendedComboBox::putBackSelected);
+}
+
+void ExtendedComboBox::setNumbersOnly()
+{
+    setEditable(true);
+    setLineEdit(new NumberBox(this));
+    setCompleter(nullptr);
+}
+
+void ExtendedComboBox::putBackSelected()
+{
+    if (const int match = matchingIndex(); match >= 0)
+        setCurrentIndex(match);
+    if (currentIndex() >= 0)
+        setEditText(itemText(currentIndex()));
+}
+
+void ExtendedComboBox::changeEvent(QEvent *event)
+{
+    QComboBox::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange)
+        drawSwatches();
+}
+
+void ExtendedComboBox::drawSwatches()
+{
+    for (int i = 0; i < count(); ++i) {
+        if (const QVariant color = itemData(i, ColorRole); color.isValid())
+            setItemIcon(i, swatch(color.value<QColor>()));
+    }
+}
+
+QIcon ExtendedComboBox::swatch(QColor color) const
+{
+    const QSize size = iconSize();
+    QPixmap pixmap(size * devicePixelRatioF());
+    pixmap.setDevicePixelRatio(devicePixelRatioF());
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.setBrush(color);
+    painter.drawRect(QRectF(0.5, 0.5, size.width() - 1, size.height() - 1));
+    return QIcon(pixmap);
+}
