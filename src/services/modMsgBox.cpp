@@ -45,10 +45,9 @@ AlertBox::Answer modMsgBox::show(QWidget *owner, const Alert &alert)
     else
         box.setIconPixmap(QApplication::windowIcon().pixmap(QSize(48, 48), box.devicePixelRatio()));
     box.setStandardButtons(buttonsOf(alert.buttons));
-    if (alert.buttons == Alert::YesNoCancelHelp) {
-        box.setDefaultButton(QMessageBox::Yes);
-        box.setEscapeButton(QMessageBox::Cancel);
-    }
+    const bool question = alert.buttons == Alert::YesNoCancelHelp;
+    box.setDefaultButton(question ? QMessageBox::Yes : QMessageBox::Ok);
+    box.setEscapeButton(question ? QMessageBox::Cancel : QMessageBox::Ok);
     if (alert.buttons != Alert::Ok) {
         // Without its own connections the button does not end the box.
         QPushButton *help = box.addButton(QMessageBox::Help);

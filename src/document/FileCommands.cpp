@@ -1,0 +1,211 @@
+#include "document/FileCommands.h"
+
+#include "document/DocumentList.h"
+#include "document/FilePrompts.h"
+#include "document/GridContent.h"
+#include "document/ctlGrid.h"
+#include "document/rules/GridRules.h"
+#include "document/rules/VocabularyFile.h"
+#include "resources/StringTable.h"
+#include "services/AlertBox.h"
+#include "services/modSBFunc.h"
+#include "services/rules/clsMRUFileList.h"
+
+#include <QGuiApplication>
+
+namespace {
+
+using VocabularyCodec::Outcome;
+
+enum HelpTopic {
+    ClosingTopic = 1400,
+    AlreadyOpenTopic = 1410,
+    BadFormatTopic = 1420,
+    OlderTopic = 1430,
+    NewerTopic = 1440
+};
+
+constexpr int Ready = 506;
+
+/// The hourglass pointer, a text in panel 0 and the progress bar, for as long as a file is read or written.
+class BusyStatus
+{
+public:
+    BusyStatus(modSBFunc &status, int textId, const QString &path, qint64 maximum)
+        : m_status(status)
+    {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        m_status.ShowStatus(0);
+        m_status.SBSetText(0, modSBFunc::SBT_SUNKEN, resText(textId) + GridRules::fileTitle(path));
+        m_status.createProgress(maximum);
+    }
+    ~BusyStatus()
+    {
+        m_status.destroyProgress();
+        m_status.ShowStatus(Ready);
+        QGuiApplication::restoreOverrideCursor();
+    }
+    BusyStatus(const BusyStatus &) = delete;
+    BusyStatus &operator=(const BusyStatus &) = delete;
+
+private:
+    modSBFunc &m_status;
+};
+
+QString withTitle(int textId, const QString &path)
+{
+    return resText(textId).replace(QStringLiteral("%1"), GridRules::fileTitle(path));
+}
+
+} // namespace
+
+FileCommands::FileCommands(const Needs &needs, const CodePage &codePage, QObject *parent)
+    : QObject(parent)
+    , m_needs(needs)
+    , m_codePage(codePage)
+{
+    connect(&m_needs.documents, &DocumentList::created, this, &FileCommands::onCreated);
+}
+
+void FileCommands::onCreated(frmDoc *document)
+{
+    connect(document, &frmDoc::closeRequested, this, [this, document](bool &accepted) {
+        accepted = confirmClose(*document);
+        if (accepted)
+            m_needs.documents.remove(document);
+    });
+}
+
+void FileCommands::newDocument()
+{
+    frmDoc *document = m_needs.documents.create();
+    document->setCaption(m_needs.documents.nextUntitledCaption());
+    document->setDirty(false);
+    document->showDocument();
+}
+
+void FileCommands::open()
+{
+    const QString path = m_needs.prompts.askOpen();
+    if (!path.isEmpty())
+        LoadVocabulary(path);
+}
+
+void FileCommands::save()
+{
+    if (frmDoc *document = m_needs.documents.active()) {
+        document->commitRunningEdit();
+        saveUnder(*document, pathOrAsk(*document));
+        document->Rutor()->setFocus();
+    }
+}
+
+void FileCommands::saveAs()
+{
+    if (frmDoc *document = m_needs.documents.active()) {
+        document->commitRunningEdit();
+        saveUnder(*document, m_needs.prompts.askSave(document->Caption()));
+    }
+}
+
+void FileCommands::closeActive()
+{
+    if (frmDoc *document = m_needs.documents.active()) {
+        document->commitRunningEdit();
+        document->frame()->close();
+    }
+}
+
+bool FileCommands::closeAll()
+{
+    const std::vector<frmDoc *> documents = m_needs.documents.open();
+    return std::all_of(documents.begin(), documents.end(), [](frmDoc *document) { return document->frame()->close(); });
+}
+
+QString FileCommands::pathOrAsk(const frmDoc &document)
+{
+    return document.DocName().isEmpty() ? m_needs.prompts.askSave(document.Caption()) : document.DocName();
+}
+
+void FileCommands::saveUnder(frmDoc &document, const QString &path)
+{
+    if (path.isEmpty())
+        return;
+    SaveVocabulary(document, path);
+    m_needs.recentFiles.AddFile(path);
+}
+
+bool FileCommands::confirmClose(frmDoc &document)
+{
+    document.commitRunningEdit();
+    if (!document.Dirty())
+        return true;
+    Alert alert;
+    alert.prompt = resText(700) + QStringLiteral(" [") + document.Caption() + QStringLiteral("] ") + resText(701) +
+                   QStringLiteral("\r\n") + resText(702);
+    alert.buttons = Alert::YesNoCancelHelp;
+    alert.helpId = ClosingTopic;
+    const AlertBox::Answer answer = m_needs.alert.show(nullptr, alert);
+    if (answer == AlertBox::AnswerYes)
+        saveUnder(document, pathOrAsk(document));
+    return answer != AlertBox::AnswerCancel;
+}
+
+void FileCommands::alertFile(const QString &prompt, int helpId)
+{
+    Alert alert;
+    alert.prompt = prompt;
+    alert.buttons = helpId ? Alert::OkHelp : Alert::Ok;
+    alert.helpId = helpId;
+    m_needs.alert.show(nullptr, alert);
+}
+
+void FileCommands::LoadVocabulary(const QString &path)
+{
+    if (m_needs.documents.findByPath(path))
+        return alertFile(resText(710) + path + resText(711), AlreadyOpenTopic);
+    VocabularyFile file(path);
+    const VocabularyCodec::Header header = file.readHeader();
+    if (header.outcome == Outcome::BadFormat)
+        return alertFile(resText(713) + path + resText(714), BadFormatTopic);
+    if (header.outcome == Outcome::NewerVersion)
+        return alertFile(withTitle(722, path), NewerTopic);
+    if (header.outcome == Outcome::Ok && header.olderVersion)
+        alertFile(withTitle(721, path), OlderTopic);
+
+    VocabularyCodec::DecodeResult result;
+    if (header.outcome == Outcome::Ok) {
+        const BusyStatus busy(m_needs.status, 715, path, file.size() * 2);
+        result = file.read(m_codePage, [this](qint64 done) { m_needs.status.setProgress(done); });
+        if (result.outcome == Outcome::Ok)
+            openVocabulary(path, std::move(result.vocabulary));
+    }
+    if (result.outcome != Outcome::Ok)
+        alertFile(resText(712) + path, 0);
+}
+
+void FileCommands::openVocabulary(const QString &path, Vocabulary &&vocabulary)
+{
+    frmDoc *document = m_needs.documents.create();
+    GridContent::fill(*document->Rutor(), std::move(vocabulary));
+    document->setCaption(GridRules::fileTitle(path));
+    document->setDirty(false);
+    document->setDocName(path);
+    m_needs.recentFiles.AddFile(path);
+    document->showDocument();
+}
+
+void FileCommands::SaveVocabulary(frmDoc &document, const QString &path)
+{
+    const int rows = document.Rutor()->Rows();
+    const BusyStatus busy(m_needs.status, 716, path, qint64(rows) * 2);
+    const Vocabulary vocabulary = GridContent::read(*document.Rutor());
+    m_needs.status.setProgress(rows);
+    const bool saved = VocabularyFile(path).save(
+        vocabulary, m_codePage, [this, rows](qint64 done) { m_needs.status.setProgress(rows + done); });
+    if (!saved)
+        return;
+    document.setCaption(GridRules::fileTitle(path));
+    document.setDirty(false);
+    document.setDocName(path);
+}

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "document/rules/CodePage.h"
+
+#include <QObject>
+
+class AlertBox;
+class DocumentList;
+class FilePrompts;
+class clsMRUFileList;
+class frmDoc;
+class modSBFunc;
+struct Vocabulary;
+
+/// The commands that act on documents as files: New, Open, Save, Save As, Close, with the reading and writing of
+/// vocabularies, their messages and the question before changes are lost.
+class FileCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What the commands work with.
+    struct Needs
+    {
+        DocumentList &documents;
+        clsMRUFileList &recentFiles;
+        modSBFunc &status;
+        AlertBox &alert;
+        FilePrompts &prompts;
+    };
+
+    /// codePage is the character set of vocabulary files.
+    FileCommands(const Needs &needs, const CodePage &codePage, QObject *parent = nullptr);
+
+    void newDocument();
+    void open();
+    void save();
+    void saveAs();
+    void closeActive();
+
+    /// Closes every document, each asking for unsaved changes. False when the user refused one; the ones before it are
+    /// closed then.
+    bool closeAll();
+
+    /// Reads a file into a new document window. Every failure is told to the user here; a file that cannot be read
+    /// leaves no window.
+    void LoadVocabulary(const QString &path);
+
+    /// Writes a document to a file, replacing the one of that name whole or not at all. A failure is not reported: the
+    /// document keeps its caption, its path and its changes.
+    void SaveVocabulary(frmDoc &document, const QString &path);
+
+private:
+    bool confirmClose(frmDoc &document);
+    void saveUnder(frmDoc &document, const QString &path);
+    QString pathOrAsk(const frmDoc &document);
+    void openVocabulary(const QString &path, Vocabulary &&vocabulary);
+    void alertFile(const QString &prompt, int helpId);
+    void onCreated(frmDoc *document);
+
+    Needs m_needs;
+    CodePage m_codePage;
+};

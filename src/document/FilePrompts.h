@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+/// Asks the user for the name of a vocabulary file. The program shows the common dialogs; tests answer themselves.
+class FilePrompts
+{
+public:
+    virtual ~FilePrompts() = default;
+
+    /// The path of an existing file, or an empty text when the user cancelled.
+    virtual QString askOpen() = 0;
+    /// The path to save under, or an empty text when the user cancelled. proposed is the name offered.
+    virtual QString askSave(const QString &proposed) = 0;
+};

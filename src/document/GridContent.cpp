@@ -1,0 +1,56 @@
+#include "document/GridContent.h"
+
+#include "document/ctlGrid.h"
+#include "document/rules/Vocabulary.h"
+
+namespace {
+
+VocabularyFont fontOf(const ctlGrid &grid)
+{
+    const QFont font = grid.Font();
+    return {font.family(), font.pointSizeF(), font.bold(), font.italic(), grid.ForeColor()};
+}
+
+void applyFont(ctlGrid &grid, const VocabularyFont &stored)
+{
+    QFont font(stored.name);
+    font.setPointSizeF(stored.size);
+    font.setBold(stored.bold);
+    font.setItalic(stored.italic);
+    grid.setGridFont(font);
+    grid.setForeColor(stored.color);
+}
+
+} // namespace
+
+namespace GridContent {
+
+Vocabulary read(const ctlGrid &grid)
+{
+    Vocabulary vocabulary;
+    vocabulary.font = fontOf(grid);
+    vocabulary.columnWidths = {grid.ColWidth(0), grid.ColWidth(1), grid.ColWidth(2)};
+    const int rows = grid.Rows();
+    vocabulary.first.reserve(size_t(rows));
+    vocabulary.second.reserve(size_t(rows));
+    vocabulary.heights.reserve(size_t(rows));
+    for (int row = 0; row < rows; ++row)
+        vocabulary.append(grid.word(row, 1), grid.word(row, 2), grid.RowHeight(row));
+    return vocabulary;
+}
+
+void fill(ctlGrid &grid, Vocabulary &&vocabulary)
+{
+    grid.setRedraw(false);
+    if (vocabulary.font)
+        applyFont(grid, *vocabulary.font);
+    if (vocabulary.columnWidths) {
+        for (int col = 0; col < 3; ++col)
+            grid.setColWidth(col, (*vocabulary.columnWidths)[size_t(col)]);
+    }
+    vocabulary.append({}, {});
+    grid.setWords(std::move(vocabulary.first), std::move(vocabulary.second), std::move(vocabulary.heights));
+    grid.setRedraw(true);
+}
+
+} // namespace GridContent

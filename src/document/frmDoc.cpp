@@ -1,0 +1,266 @@
+#include "document/frmDoc.h"
+
+#include "document/ctlGrid.h"
+#include "document/rules/GridRules.h"
+#include "document/rules/QuizModeText.h"
+#include "platform/Twips.h"
+#include "resources/StringTable.h"
+#include "services/modSBFunc.h"
+#include "services/rules/ProgramFlags.h"
+#include "services/rules/clsAppProperties.h"
+
+#include <QCloseEvent>
+#include <QFontMetricsF>
+#include <QMdiSubWindow>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+namespace {
+
+constexpr int KeyEnter = 13;
+constexpr int KeyEscape = 27;
+constexpr int ShiftAlone = 1;
+constexpr int RightButton = 2;
+constexpr int RowNumberWidth = 340;
+constexpr int ColumnMargin = 360;
+constexpr int FirstRows = 101;
+constexpr int OwnCursor = 99;
+constexpr int AlignLeftCenter = 1;
+constexpr int AlignRightCenter = 7;
+constexpr int ResizeRowsAndColumns = 3;
+
+QFont settingsFont(const clsAppProperties &settings)
+{
+    QFont font(settings.FontName());
+    font.setPointSizeF(settings.FontSize());
+    font.setBold(settings.FontBold());
+    font.setItalic(settings.FontItalic());
+    return font;
+}
+
+} // namespace
+
+frmDoc::frmDoc(const Shared &shared, QWidget *parent)
+    : QWidget(parent)
+    , m_shared(shared)
+    , m_grid(new ctlGrid(&shared.flags, this))
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_grid);
+    setFocusProxy(m_grid);
+    m_grid->loadProperties(ctlGrid::documentDesign());
+    connectGrid();
+}
+
+void frmDoc::connectGrid()
+{
+    connect(m_grid, &ctlGrid::BeforeEdit, this, [this] { onBeforeEdit(); });
+    connect(m_grid, &ctlGrid::AfterEdit, this,
+            [this](int &row, int &col, const QString &text) { onAfterEdit(row, col, text); });
+    connect(m_grid, &ctlGrid::KeyDown, this, &frmDoc::onKeyDown);
+    connect(m_grid, &ctlGrid::KeyUp, this, [this] { m_shiftAlone = false; });
+    connect(m_grid, &ctlGrid::KeyPress, this, [this](int &keyAscii) { onKeyPress(keyAscii); });
+    connect(m_grid, &ctlGrid::RowColChange, this, &frmDoc::onRowColChange);
+    connect(m_grid, &ctlGrid::SelChange, this, &frmDoc::refreshCellReference);
+    connect(m_grid, &ctlGrid::MouseMove, this, &frmDoc::onMouseMove);
+    connect(m_grid, &ctlGrid::MouseUp, this, [this](int button, int, float x, float y) { onMouseUp(button, x, y); });
+    connect(m_grid, &ctlGrid::Scroll, m_grid, &ctlGrid::RefreshTextPos);
+    connect(m_grid, &ctlGrid::GotFocus, this, [this] { m_shared.flags.gridMode = true; });
+}
+
+void frmDoc::setCaption(const QString &caption)
+{
+    m_caption = caption;
+    setWindowTitle(caption + QStringLiteral("[*]"));
+}
+
+void frmDoc::setUpGrid(const QSize &innerSize)
+{
+    setUpdatesEnabled(false);
+    resize(innerSize);
+    m_grid->setRowNumbers(true);
+    m_grid->setAllowUserResizing(ResizeRowsAndColumns);
+    m_grid->setWordWrap(true);
+    m_grid->setColAlignment(0, AlignRightCenter);
+    m_grid->setColAlignment(1, AlignLeftCenter);
+    m_grid->setColAlignment(2, AlignLeftCenter);
+    const int column = Twips::fromPixelsX(innerSize.width()) / 2 - ColumnMargin;
+    m_grid->setColWidth(0, RowNumberWidth);
+    m_grid->setColWidth(1, std::max(column, ColumnMargin));
+    m_grid->setColWidth(2, std::max(column, ColumnMargin));
+    m_grid->setFillStyle(1);
+    m_grid->setHighLight(1);
+    m_grid->setFocusRect(1);
+    m_grid->setTextMatrix(0, 1, resText(501));
+    m_grid->setTextMatrix(0, 2, resText(502));
+    m_grid->setGridFont(settingsFont(m_shared.settings));
+    m_grid->setForeColor(m_shared.settings.FontColor());
+    m_grid->setRows(FirstRows);
+    m_grid->setCol(1);
+    m_grid->setRow(1);
+    refreshQuizMode();
+}
+
+QWidget *frmDoc::frame() const
+{
+    if (auto *frame = qobject_cast<QMdiSubWindow *>(parentWidget()))
+        return frame;
+    return const_cast<frmDoc *>(this);
+}
+
+void frmDoc::showDocument()
+{
+    setUpdatesEnabled(true);
+    show();
+    frame()->show();
+    m_grid->setFocus();
+}
+
+void frmDoc::commitRunningEdit()
+{
+    if (!m_grid->EditMode())
+        return;
+    m_grid->setText(m_grid->EditText());
+    setDirty(true);
+}
+
+QString frmDoc::language(int column) const
+{
+    return m_grid->TextMatrix(0, column);
+}
+
+GridSelection frmDoc::selection() const
+{
+    return {m_grid->Row(), m_grid->Col(), m_grid->RowSel(), m_grid->ColSel()};
+}
+
+void frmDoc::select(const GridSelection &selection)
+{
+    m_grid->Select(selection.Row, selection.Col, selection.RowSel, selection.ColSel);
+}
+
+void frmDoc::refreshCellReference()
+{
+    m_shared.status.SBSetText(1, modSBFunc::SBT_SUNKEN, GridRules::cellReference(selection()));
+}
+
+void frmDoc::refreshQuizMode()
+{
+    m_shared.status.SBSetText(2, modSBFunc::SBT_SUNKEN,
+                              quizModeText(m_shared.settings.QuizMode(), language(1), language(2)));
+}
+
+void frmDoc::activated()
+{
+    refreshCellReference();
+    refreshQuizMode();
+    m_shared.undo.clear();
+}
+
+void frmDoc::closeEvent(QCloseEvent *event)
+{
+    bool accepted = true;
+    Q_EMIT closeRequested(accepted);
+    event->setAccepted(accepted);
+}
+
+void frmDoc::focusInEvent(QFocusEvent *event)
+{
+    QWidget::focusInEvent(event);
+    m_grid->setFocus();
+}
+
+void frmDoc::rememberEntry()
+{
+    m_shared.undo.entryText = m_grid->Text();
+    m_shared.undo.setKind(UndoKind::Typing, this);
+}
+
+void frmDoc::onBeforeEdit()
+{
+    m_shared.flags.gridMode = false;
+    m_shared.undo.selection.Row = m_grid->Row();
+    m_shared.undo.selection.Col = m_grid->Col();
+    rememberEntry();
+    Q_EMIT editingChanged(true);
+    m_shared.status.ShowStatus(503);
+}
+
+void frmDoc::onAfterEdit(int row, int col, const QString &text)
+{
+    setDirty(true);
+    m_shared.status.ShowStatus(506);
+    m_shared.flags.gridMode = true;
+    Q_EMIT editingChanged(false);
+    if (m_shared.undo.kind() != UndoKind::Replace)
+        m_shared.undo.setKind(UndoKind::Entry, this);
+    growRow(row, col, text);
+    if (row >= m_grid->Rows() - 1)
+        m_grid->AddItem(QString::number(m_grid->Rows()));
+}
+
+void frmDoc::growRow(int row, int col, const QString &text)
+{
+    const QFontMetricsF metrics(m_grid->Font());
+    const int width = int(std::lround(metrics.horizontalAdvance(text) * Twips::perPixelX()));
+    const int height = int(std::lround(metrics.height() * Twips::perPixelY()));
+    const int present = m_grid->RowHeight(row);
+    const int grown = GridRules::grownRowHeight(width, height, m_grid->ColWidth(col), present);
+    if (grown != present)
+        m_grid->setRowHeight(row, grown);
+}
+
+void frmDoc::onKeyDown(int, int shift)
+{
+    m_shiftAlone = shift == ShiftAlone;
+}
+
+void frmDoc::onKeyPress(int keyAscii)
+{
+    if (keyAscii == KeyEnter)
+        walk(m_shiftAlone);
+    else if (keyAscii == KeyEscape)
+        onAfterEdit(m_grid->Row(), m_grid->Col(), m_shared.undo.entryText);
+    else if (keyAscii > KeyEscape)
+        rememberEntry();
+}
+
+void frmDoc::walk(bool backwards)
+{
+    const int rows = m_grid->Rows();
+    const auto step = backwards ? GridRules::afterShiftEnter : GridRules::afterEnter;
+    const GridRules::Cell cell = step(m_grid->Row(), m_grid->Col(), rows);
+    m_grid->setRow(cell.row);
+    m_grid->setCol(cell.col);
+    if (cell.wrapped)
+        m_grid->setTopRow(cell.row);
+    refreshCellReference();
+}
+
+void frmDoc::onRowColChange()
+{
+    if (!m_grid->RowIsVisible(m_grid->Row()))
+        m_grid->showCell(m_grid->Row(), m_grid->Col());
+    refreshCellReference();
+}
+
+void frmDoc::showEditStatus()
+{
+    m_shared.status.ShowStatus(m_grid->EditMode() ? 503 : 506);
+}
+
+void frmDoc::onMouseMove()
+{
+    showEditStatus();
+    m_grid->setMousePointer(OwnCursor);
+}
+
+void frmDoc::onMouseUp(int button, float x, float y)
+{
+    if (button != RightButton)
+        return;
+    const QPoint position(Twips::toPixelsX(int(x)), Twips::toPixelsY(int(y)));
+    Q_EMIT menuRequested(m_grid->mapToGlobal(position));
+}

@@ -1,0 +1,108 @@
+#pragma once
+
+#include "document/rules/UndoRecord.h"
+
+#include <QWidget>
+
+class clsAppProperties;
+class ctlGrid;
+class modSBFunc;
+struct ProgramFlags;
+
+/// The window of one vocabulary: holds its grid, knows whether it has unsaved changes and where it is stored, and keeps
+/// the undo record, the row heights and the status bar in step with what the user does in the grid.
+class frmDoc : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// What every document window of the program shares.
+    struct Shared
+    {
+        ProgramFlags &flags;
+        UndoRecord &undo;
+        modSBFunc &status;
+        clsAppProperties &settings;
+    };
+
+    explicit frmDoc(const Shared &shared, QWidget *parent = nullptr);
+
+    ctlGrid *Rutor() const { return m_grid; }
+
+    /// Whether the vocabulary has changes that are not saved.
+    bool Dirty() const { return isWindowModified(); }
+    void setDirty(bool dirty) { setWindowModified(dirty); }
+
+    /// Full path of the vocabulary file; empty for a document that was never saved.
+    QString DocName() const { return m_docName; }
+    void setDocName(const QString &path) { m_docName = path; }
+
+    /// "Untitled 1", or the file's title.
+    QString Caption() const { return m_caption; }
+    void setCaption(const QString &caption);
+
+    /// The document's slot in the document list.
+    int Tag() const { return m_tag; }
+    void setTag(int slot) { m_tag = slot; }
+
+    /// Where the window stood before the print preview hid it, in twips.
+    int WindowLeft = 0;
+    int WindowTop = 0;
+
+    /// Gives the grid its columns, fonts and 100 empty rows, for an inner area of that many pixels. Drawing is held
+    /// back until showDocument.
+    void setUpGrid(const QSize &innerSize);
+    /// Shows the window, whole, with the focus in its grid.
+    void showDocument();
+    /// The window that stands in the document area: the frame around this one, or this one where there is none.
+    QWidget *frame() const;
+
+    /// Stores the text of a cell that is being edited in the cell. The edit box stays.
+    void commitRunningEdit();
+
+    QString language(int column) const;
+    /// The selected rectangle of cells.
+    GridSelection selection() const;
+    void select(const GridSelection &selection);
+
+    /// Writes the cell reference or the quiz mode to the status bar.
+    void refreshCellReference();
+    void refreshQuizMode();
+
+    /// To be called when this becomes the active document: brings the status texts up to date and ends the undo record,
+    /// which belonged to another one.
+    void activated();
+
+Q_SIGNALS:
+    /// A cell began or ceased to be edited.
+    void editingChanged(bool editing);
+    /// The right mouse button asks for the grid's menu at a point of the screen.
+    void menuRequested(const QPoint &globalPosition);
+    /// The window is about to close; a receiver may refuse.
+    void closeRequested(bool &accepted);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+
+private:
+    void connectGrid();
+    void onBeforeEdit();
+    void onAfterEdit(int row, int col, const QString &text);
+    void onKeyDown(int keyCode, int shift);
+    void onKeyPress(int keyAscii);
+    void onRowColChange();
+    void onMouseMove();
+    void onMouseUp(int button, float x, float y);
+    void growRow(int row, int col, const QString &text);
+    void walk(bool backwards);
+    void rememberEntry();
+    void showEditStatus();
+
+    Shared m_shared;
+    ctlGrid *m_grid;
+    QString m_docName;
+    QString m_caption;
+    int m_tag = 0;
+    bool m_shiftAlone = false;
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "services/AlertBox.h"
+
+#include <deque>
+#include <vector>
+
+/// Answers alert boxes in the user's place and keeps what they showed. Without a prepared answer it says OK, or Cancel
+/// where there is such a button.
+class ScriptedAlertBox : public AlertBox
+{
+public:
+    std::deque<Answer> answers;
+    std::vector<Alert> shown;
+
+    Answer show(QWidget *, const Alert &alert) override
+    {
+        shown.push_back(alert);
+        if (answers.empty())
+            return alert.buttons == Alert::YesNoCancelHelp ? AnswerCancel : AnswerOk;
+        const Answer answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+
+    /// The text of the only box shown; a text that no box shows when there were none or several.
+    QString onlyPrompt() const
+    {
+        return shown.size() == 1 ? shown.front().prompt : QStringLiteral("<%1 boxes>").arg(shown.size());
+    }
+};
