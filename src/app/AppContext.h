@@ -1,0 +1,25 @@
+#pragma once
+
+class AlertBox;
+class DocumentList;
+class FileCommands;
+class UndoRecord;
+class clsAppProperties;
+class clsMRUFileList;
+class frmApp;
+class modSBFunc;
+struct ProgramFlags;
+
+/// What commands work with. The main window fills it in while it loads and hands it to whoever declares commands.
+struct AppContext
+{
+    frmApp &window;
+    ProgramFlags &flags;
+    UndoRecord &undo;
+    clsAppProperties &settings;
+    AlertBox &alert;
+    modSBFunc &status;
+    DocumentList &documents;
+    FileCommands &files;
+    clsMRUFileList &recentFiles;
+};

@@ -1,0 +1,196 @@
+#include "app/AppMenus.h"
+
+#include "app/AppContext.h"
+#include "app/CommandTable.h"
+#include "app/MenuLayout.h"
+#include "app/frmApp.h"
+#include "document/DocumentList.h"
+#include "document/rules/QuizModeText.h"
+#include "resources/StringTable.h"
+#include "services/FormTexts.h"
+#include "services/modSBMenuHelp.h"
+#include "services/rules/clsAppProperties.h"
+#include "services/rules/clsMRUFileList.h"
+
+#include <QMenu>
+#include <QMenuBar>
+
+namespace {
+
+constexpr int LongestCaption = 32;
+constexpr int FirstMode = 1;
+constexpr int LastMode = 5;
+
+/// Dynamic property of the actions that are no command: the string id of their help text.
+const char HelpIdProperty[] = "statusHelpId";
+
+QString modeKey(int mode)
+{
+    return QStringLiteral("mnuMode") + QString::number(mode);
+}
+
+} // namespace
+
+AppMenus::AppMenus(QMenuBar *tbrMenu, CommandTable &table, const AppContext &context, QObject *parent)
+    : QObject(parent)
+    , m_table(table)
+    , m_context(context)
+    , m_help(new modSBMenuHelp(context.status, this))
+    , m_gridMenu(new QMenu(tbrMenu))
+{
+    for (const MenuLayout::Menu &each : MenuLayout::menus())
+        addMenu(tbrMenu, each.key);
+    m_help->watch(tbrMenu);
+    buildGridMenu();
+}
+
+void AppMenus::addMenu(QMenuBar *menuBar, const QString &key)
+{
+    const auto layout = std::find_if(MenuLayout::menus().begin(), MenuLayout::menus().end(),
+                                     [&key](const MenuLayout::Menu &each) { return each.key == key; });
+    QMenu *menu = menuBar->addMenu(resText(layout->captionId));
+    menu->setObjectName(key);
+    menu->setProperty("helpContextId", layout->helpContextId);
+    m_menus.insert(key, menu);
+    addEntries(menu, layout->entries);
+    m_help->watch(menu, [this](const QAction *action) { return helpText(action); });
+    connect(menu, &QMenu::aboutToShow, this, [this, key] { rebuild(key); });
+    rebuild(key);
+}
+
+void AppMenus::addEntries(QMenu *menu, const QStringList &keys)
+{
+    for (const QString &key : keys) {
+        if (key.isEmpty())
+            menu->addSeparator();
+        else
+            menu->addAction(m_table.action(key));
+    }
+}
+
+void AppMenus::buildGridMenu()
+{
+    m_gridMenu->setObjectName(QStringLiteral("oPopUpGrid"));
+    for (const MenuLayout::ContextEntry &entry : MenuLayout::gridMenu()) {
+        if (entry.key.isEmpty()) {
+            m_gridMenu->addSeparator();
+            continue;
+        }
+        QAction *command = m_table.action(entry.command);
+        auto *action = new QAction(command->icon(), resText(entry.captionId), m_gridMenu);
+        action->setObjectName(entry.key);
+        action->setProperty(HelpIdProperty, entry.helpId);
+        connect(action, &QAction::triggered, command, &QAction::trigger);
+        connect(m_gridMenu, &QMenu::aboutToShow, action,
+                [action, command] { action->setEnabled(command->isEnabled()); });
+        m_gridMenu->addAction(action);
+    }
+    m_help->watch(m_gridMenu, [this](const QAction *action) { return helpText(action); });
+}
+
+void AppMenus::watchSystemMenu(QMenu *menu)
+{
+    m_help->watchSystemMenu(menu);
+}
+
+void AppMenus::applyState(AppState state)
+{
+    const bool document = state == AppState::StateDocument || state == AppState::StateEditing;
+    for (const MenuLayout::Menu &each : MenuLayout::menus()) {
+        const bool always = each.key == QStringLiteral("mnuFile") || each.key == QStringLiteral("mnuHelp");
+        menu(each.key)->menuAction()->setVisible(always || document);
+    }
+}
+
+void AppMenus::rebuild(const QString &key)
+{
+    if (key == QStringLiteral("mnuFile"))
+        rebuildFile(menu(key));
+    else if (key == QStringLiteral("mnuMode"))
+        rebuildMode();
+    else if (key == QStringLiteral("mnuWindow"))
+        rebuildWindow(menu(key));
+}
+
+void AppMenus::rebuildFile(QMenu *menu)
+{
+    menu->clear();
+    addEntries(menu, {QStringLiteral("mnuFileNew"), QStringLiteral("mnuFileOpen")});
+    if (m_table.state() != AppState::StateNoDocument) {
+        addEntries(menu, {QStringLiteral("mnuFileClose"), QString(), QStringLiteral("mnuFileSave"),
+                          QStringLiteral("mnuFileSaveAs"), QString(), QStringLiteral("mnuFilePageSetup"),
+                          QStringLiteral("mnuFilePrintPreview"), QStringLiteral("mnuFilePrint")});
+    }
+    QAction *preview = m_table.action(QStringLiteral("mnuFilePrintPreview"));
+    preview->setCheckable(true);
+    preview->setChecked(m_table.state() == AppState::StatePreview);
+    addRecentFiles(menu);
+    menu->addSeparator();
+    addEntries(menu, {QStringLiteral("mnuFileExit")});
+}
+
+void AppMenus::addRecentFiles(QMenu *menu)
+{
+    clsMRUFileList &files = m_context.recentFiles;
+    if (files.FileCount() > 0)
+        menu->addSeparator();
+    for (int i = 1; i <= files.FileCount(); ++i) {
+        QAction *action = m_table.action(QStringLiteral("mnuFileMRU(%1)").arg(i));
+        if (!action || !files.FileExists(i))
+            continue;
+        action->setText(files.MenuCaption(i));
+        menu->addAction(action);
+    }
+}
+
+void AppMenus::rebuildMode()
+{
+    const frmDoc *document = m_context.documents.active();
+    if (!document)
+        return;
+    for (int mode = FirstMode; mode <= LastMode; ++mode) {
+        QAction *action = m_table.action(modeKey(mode));
+        const QString text = quizModeText(mode, document->language(1), document->language(2));
+        action->setText(QStringLiteral("&%1 ").arg(mode) + FormTexts::escapeMnemonic(text));
+        action->setCheckable(true);
+        action->setChecked(mode == m_context.settings.QuizMode());
+    }
+}
+
+void AppMenus::rebuildWindow(QMenu *menu)
+{
+    menu->clear();
+    for (const MenuLayout::Menu &each : MenuLayout::menus()) {
+        if (each.key == menu->objectName())
+            addEntries(menu, each.entries);
+    }
+    bool first = true;
+    for (frmDoc *document : m_context.documents.open()) {
+        if (!document->frame()->isVisible())
+            continue;
+        if (std::exchange(first, false))
+            menu->addSeparator();
+        QString caption = document->Caption();
+        if (caption.size() > LongestCaption)
+            caption = caption.left(LongestCaption) + QStringLiteral("...");
+        QAction *action = menu->addAction(FormTexts::escapeMnemonic(caption));
+        action->setObjectName(QStringLiteral("mnuWin(%1)").arg(document->Tag()));
+        action->setCheckable(true);
+        action->setChecked(document == m_context.documents.active());
+        connect(action, &QAction::triggered, document, [this, document] { m_context.window.activate(document); });
+    }
+}
+
+QString AppMenus::helpText(const QAction *action) const
+{
+    if (const int id = action->property(HelpIdProperty).toInt())
+        return resText(id);
+    const QString key = action->objectName();
+    const Command *command = m_table.find(key);
+    if (!command || !command->helpId)
+        return {};
+    QString text = resText(command->helpId);
+    if (key.startsWith(QStringLiteral("mnuMode")))
+        text += QStringLiteral(" ") + FormTexts::withoutMnemonic(action->text().mid(3));
+    return text;
+}

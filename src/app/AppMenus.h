@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QHash>
+#include <QObject>
+
+class CommandTable;
+class QAction;
+class QMenu;
+class QMenuBar;
+class modSBMenuHelp;
+struct AppContext;
+enum class AppState;
+
+/// The menu bar and the grid's context menu, built from the command table. File, Mode and Window are brought up to date
+/// each time they drop down.
+class AppMenus : public QObject
+{
+    Q_OBJECT
+
+public:
+    AppMenus(QMenuBar *tbrMenu, CommandTable &table, const AppContext &context, QObject *parent = nullptr);
+
+    /// Shows only File and Help where no document can be worked on.
+    void applyState(AppState state);
+
+    /// A drop-down by the key of its title, for example "mnuMode".
+    QMenu *menu(const QString &key) const { return m_menus.value(key); }
+    QMenu *gridMenu() const { return m_gridMenu; }
+
+    /// Lets the status bar follow the highlight in a document window's own menu.
+    void watchSystemMenu(QMenu *menu);
+
+private:
+    void addMenu(QMenuBar *menuBar, const QString &key);
+    void rebuild(const QString &key);
+    void rebuildFile(QMenu *menu);
+    void addRecentFiles(QMenu *menu);
+    void rebuildMode();
+    void rebuildWindow(QMenu *menu);
+    void addEntries(QMenu *menu, const QStringList &keys);
+    void buildGridMenu();
+    QString helpText(const QAction *action) const;
+
+    CommandTable &m_table;
+    const AppContext &m_context;
+    modSBMenuHelp *m_help;
+    QHash<QString, QMenu *> m_menus;
+    QMenu *m_gridMenu;
+};

@@ -1,0 +1,113 @@
+#include "app/AppToolbars.h"
+
+#include "app/AppMenus.h"
+#include "app/CommandTable.h"
+#include "resources/Pictures.h"
+#include "resources/StringTable.h"
+#include "services/FormTexts.h"
+#include "services/modSBFunc.h"
+
+#include <QMainWindow>
+#include <QMenu>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace {
+
+constexpr int Ready = 506;
+const char HoverHelpProperty[] = "hoverHelpId";
+const char PictureProperty[] = "pictureNumber";
+
+} // namespace
+
+AppToolbars::AppToolbars(QMainWindow &window, CommandTable &table, const AppMenus &menus, modSBFunc &status)
+    : QObject(&window)
+    , m_table(table)
+    , m_status(status)
+    , m_standard(addBand(window, QStringLiteral("STANDARD"), MenuLayout::standardButtons()))
+    , m_preview(addBand(window, QStringLiteral("PREVIEW"), MenuLayout::previewButtons()))
+{
+    for (QAction *action : m_standard->actions())
+        m_standardButtons.insert(action->objectName(), action);
+    addDropDown(QStringLiteral("Model"), menus.menu(QStringLiteral("mnuMode")));
+    addDropDown(QStringLiteral("Quiz"), menus.menu(QStringLiteral("mnuQuiz")));
+}
+
+QToolBar *AppToolbars::addBand(QMainWindow &window, const QString &name, const std::vector<MenuLayout::Button> &buttons)
+{
+    auto *bar = new QToolBar(FormTexts::withoutMnemonic(name), &window);
+    bar->setObjectName(name);
+    bar->setMovable(false);
+    bar->setFloatable(false);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    bar->toggleViewAction()->setEnabled(false);
+    for (const MenuLayout::Button &button : buttons) {
+        if (button.key.isEmpty())
+            bar->addSeparator();
+        else
+            addButton(bar, button);
+    }
+    window.addToolBar(bar);
+    return bar;
+}
+
+QAction *AppToolbars::addButton(QToolBar *bar, const MenuLayout::Button &button)
+{
+    QAction *command = m_table.action(button.command);
+    auto *action = new QAction(command->icon(), resText(button.toolTipId), bar);
+    action->setObjectName(button.key);
+    action->setWhatsThis(resText(button.whatsThisId));
+    action->setEnabled(command->isEnabled());
+    connect(action, &QAction::triggered, command, &QAction::trigger);
+    connect(command, &QAction::changed, action, [action, command] { action->setEnabled(command->isEnabled()); });
+    bar->addAction(action);
+
+    QWidget *widget = bar->widgetForAction(action);
+    widget->setProperty(HoverHelpProperty, button.hoverHelpId);
+    widget->setProperty("whatsThisId", button.whatsThisId);
+    widget->setAccessibleName(action->text());
+    widget->installEventFilter(this);
+    return action;
+}
+
+void AppToolbars::addDropDown(const QString &button, QMenu *menu)
+{
+    QAction *action = m_standardButtons.value(button);
+    action->setMenu(menu);
+    if (auto *widget = qobject_cast<QToolButton *>(m_standard->widgetForAction(action)))
+        widget->setPopupMode(QToolButton::MenuButtonPopup);
+}
+
+void AppToolbars::applyState(AppState state)
+{
+    m_standard->setVisible(state != AppState::StatePreview);
+    m_preview->setVisible(state == AppState::StatePreview);
+}
+
+void AppToolbars::setPicture(const QString &button, int pictureNumber)
+{
+    QAction *action = m_standardButtons.value(button);
+    action->setIcon(picture(pictureNumber));
+    action->setProperty(PictureProperty, pictureNumber);
+}
+
+int AppToolbars::pictureOf(const QString &button) const
+{
+    return m_standardButtons.value(button)->property(PictureProperty).toInt();
+}
+
+void AppToolbars::setToolTip(const QString &button, const QString &text)
+{
+    QAction *action = m_standardButtons.value(button);
+    action->setText(FormTexts::withoutMnemonic(text));
+    m_standard->widgetForAction(action)->setAccessibleName(action->text());
+}
+
+bool AppToolbars::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Enter)
+        m_status.ShowStatus(watched->property(HoverHelpProperty).toInt());
+    else if (event->type() == QEvent::Leave)
+        m_status.ShowStatus(Ready);
+    return QObject::eventFilter(watched, event);
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "app/MenuLayout.h"
+
+#include <QHash>
+#include <QObject>
+
+class AppMenus;
+class CommandTable;
+class QAction;
+class QMainWindow;
+class QMenu;
+class QToolBar;
+class modSBFunc;
+enum class AppState;
+
+/// The two bands of buttons below the menu bar: STANDARD, and PREVIEW that takes its place during the print preview.
+class AppToolbars : public QObject
+{
+    Q_OBJECT
+
+public:
+    AppToolbars(QMainWindow &window, CommandTable &table, const AppMenus &menus, modSBFunc &status);
+
+    void applyState(AppState state);
+
+    /// Two buttons of the standard bar show a state by their picture: "Model" the quiz mode, "Quiz" the kind of quiz.
+    void setPicture(const QString &button, int pictureNumber);
+    int pictureOf(const QString &button) const;
+    void setToolTip(const QString &button, const QString &text);
+
+    QToolBar *standard() const { return m_standard; }
+    QToolBar *preview() const { return m_preview; }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QToolBar *addBand(QMainWindow &window, const QString &name, const std::vector<MenuLayout::Button> &buttons);
+    QAction *addButton(QToolBar *bar, const MenuLayout::Button &button);
+    void addDropDown(const QString &button, QMenu *menu);
+
+    CommandTable &m_table;
+    modSBFunc &m_status;
+    QHash<QString, QAction *> m_standardButtons;
+    QToolBar *m_standard;
+    QToolBar *m_preview;
+};

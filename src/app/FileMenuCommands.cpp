@@ -1,0 +1,47 @@
+#include "app/AppCommands.h"
+#include "app/AppContext.h"
+#include "app/CommandTable.h"
+#include "app/frmApp.h"
+#include "document/FileCommands.h"
+#include "resources/Pictures.h"
+#include "services/modSBFunc.h"
+#include "services/rules/clsMRUFileList.h"
+
+namespace {
+
+using enum AppState;
+
+constexpr StateSet NotBusy(StateDocument, StateNoDocument);
+constexpr StateSet DocumentOrEditing(StateDocument, StateEditing);
+constexpr StateSet DocumentOrPreview(StateDocument, StatePreview);
+constexpr StateSet AnyWindow(StateDocument, StateEditing, StatePreview);
+constexpr StateSet Always(StateDocument, StateNoDocument, StateEditing, StatePreview);
+constexpr int RecentFiles = 4;
+constexpr int Ready = 506;
+
+void addRecentFile(CommandTable &table, const AppContext &context, int n)
+{
+    const QString key = QStringLiteral("mnuFileMRU(%1)").arg(n);
+    table.add({key, 400, {}, 13, 0, NotBusy, [&context, n] {
+                   context.files.LoadVocabulary(context.recentFiles.File(n));
+                   context.status.ShowStatus(Ready);
+               }});
+}
+
+} // namespace
+
+void AppCommands::addFileCommands(CommandTable &table, const AppContext &context)
+{
+    FileCommands &files = context.files;
+    table.add({"mnuFileNew", 401, "Ctrl+N", 2, PictureNew, NotBusy, [&files] { files.newDocument(); }});
+    table.add({"mnuFileOpen", 402, "Ctrl+O", 3, PictureOpen, NotBusy, [&files] { files.open(); }});
+    table.add({"mnuFileClose", 403, "Ctrl+W", 4, PictureClose, DocumentOrEditing, [&files] { files.closeActive(); }});
+    table.add({"mnuFileSave", 405, "Ctrl+S", 6, PictureSave, DocumentOrEditing, [&files] { files.save(); }});
+    table.add({"mnuFileSaveAs", 406, "", 7, PictureSaveAs, DocumentOrEditing, [&files] { files.saveAs(); }});
+    table.add({"mnuFilePageSetup", 408, "", 9, PicturePageSetup, AnyWindow, {}});
+    table.add({"mnuFilePrintPreview", 409, "", 10, PicturePreview, DocumentOrPreview, {}});
+    table.add({"mnuFilePrint", 410, "Ctrl+P", 11, PicturePrint, DocumentOrPreview, {}});
+    for (int n = 1; n <= RecentFiles; ++n)
+        addRecentFile(table, context, n);
+    table.add({"mnuFileExit", 417, "", 18, PictureExit, Always, [&context] { context.window.close(); }});
+}

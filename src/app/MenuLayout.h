@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+/// Which commands stand in which menu and toolbar: the order that a user sees. What a command is called and does stands
+/// in the command table.
+namespace MenuLayout {
+
+/// A drop-down of the menu bar. An empty key is a separator.
+struct Menu
+{
+    QString key;
+    int captionId;
+    int helpId;        ///< status text while the pointer is over the menu's title
+    int helpContextId; ///< help topic of the drop-down
+    QStringList entries;
+};
+
+/// One button of a toolbar.
+struct Button
+{
+    QString key; ///< the button's name; empty: a separator
+    int toolTipId;
+    int hoverHelpId; ///< status text while the pointer is over it
+    int whatsThisId;
+    QString command; ///< key of the command that a click runs
+};
+
+/// An entry of the grid's context menu.
+struct ContextEntry
+{
+    QString key; ///< empty: a separator
+    int captionId;
+    QString command;
+    int helpId;
+};
+
+/// The seven menus in the order of the menu bar. File and Window are made anew whenever they drop down; the entries
+/// given here are their fixed ones.
+const std::vector<Menu> &menus();
+
+const std::vector<Button> &standardButtons();
+const std::vector<Button> &previewButtons();
+const std::vector<ContextEntry> &gridMenu();
+
+} // namespace MenuLayout

@@ -1,0 +1,41 @@
+#include "app/WindowArrangement.h"
+
+namespace {
+
+constexpr int DropMargin = 52;
+
+} // namespace
+
+namespace WindowLayout {
+
+std::vector<QRect> tiles(const QRect &area, int count, bool horizontal)
+{
+    std::vector<QRect> places;
+    for (int i = 0; i < count; ++i) {
+        const int extent = horizontal ? area.height() : area.width();
+        const int from = extent * i / count;
+        const int to = extent * (i + 1) / count;
+        places.push_back(horizontal ? QRect(area.left(), area.top() + from, area.width(), to - from)
+                                    : QRect(area.left() + from, area.top(), to - from, area.height()));
+    }
+    return places;
+}
+
+std::vector<QRect> icons(const QRect &area, int count, const QSize &size)
+{
+    const int perRow = std::max(1, area.width() / std::max(1, size.width()));
+    std::vector<QRect> places;
+    for (int i = 0; i < count; ++i) {
+        const QPoint corner(area.left() + i % perRow * size.width(),
+                            area.bottom() + 1 - (i / perRow + 1) * size.height());
+        places.emplace_back(corner, size);
+    }
+    return places;
+}
+
+bool acceptsDrop(int y, int toolbarHeight, int windowHeight, int statusBarHeight)
+{
+    return y > toolbarHeight && y < windowHeight - statusBarHeight - DropMargin;
+}
+
+} // namespace WindowLayout

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QRect>
+
+#include <vector>
+
+/// How the Window menu lays out the document windows.
+enum class WindowArrangement { Cascade, TileHorizontally, TileVertically, ArrangeIcons };
+
+namespace WindowLayout {
+
+/// The places of count windows that share an area as non-overlapping tiles: one below the other when horizontal, else
+/// side by side. The last tile takes what the division leaves.
+std::vector<QRect> tiles(const QRect &area, int count, bool horizontal);
+
+/// The places of count minimised windows of one size, in rows from the area's lower left corner upwards.
+std::vector<QRect> icons(const QRect &area, int count, const QSize &size);
+
+/// Whether files dropped at a height (pixels from the top of the main window) fall into the document area: below the
+/// toolbars, and well above the status bar.
+bool acceptsDrop(int y, int toolbarHeight, int windowHeight, int statusBarHeight);
+
+} // namespace WindowLayout

@@ -1,0 +1,344 @@
+#include "app/frmApp.h"
+
+#include "app/AppCommands.h"
+#include "app/AppMenus.h"
+#include "app/AppToolbars.h"
+#include "document/DocumentList.h"
+#include "document/FileCommands.h"
+#include "document/ctlGrid.h"
+#include "platform/Twips.h"
+#include "resources/Pictures.h"
+#include "resources/StringTable.h"
+#include "services/AlertBox.h"
+#include "services/modSBFunc.h"
+#include "services/rules/RequestedFile.h"
+#include "services/rules/clsAppProperties.h"
+#include "services/rules/clsRegistry.h"
+
+#include <QCloseEvent>
+#include <QFontMetrics>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QScreen>
+#include <QVBoxLayout>
+
+namespace {
+
+enum WindowState { Normal = 0, Minimized = 1, Maximized = 2 };
+
+constexpr int RecentFileCount = 4;
+constexpr int Ready = 506;
+
+int desktopTextWidth(const QString &text)
+{
+    return QFontMetrics(QApplication::font()).horizontalAdvance(text);
+}
+
+void selectRecentFilesKey(clsRegistry &registry)
+{
+    registry.setClassKey(HKEY_CURRENT_USER);
+    registry.setSectionKey(QStringLiteral("Software\\Glosaria\\MRUFiles"));
+}
+
+} // namespace
+
+frmApp::frmApp(const Needs &needs)
+    : m_store(needs.store)
+    , m_recentFiles(desktopTextWidth)
+    , m_area(new QMdiArea)
+{
+    setWindowTitle(QApplication::applicationDisplayName());
+    setAcceptDrops(true);
+    createParts(needs);
+    loadRecentFiles();
+    PositionWindow();
+    m_context->status.createPanels();
+
+    AppCommands::addAll(m_commands, *m_context);
+    for (const Command *command : m_commands.commands())
+        addAction(m_commands.action(command->key));
+    menuBar()->setObjectName(QStringLiteral("tbrMenu"));
+    m_menus = new AppMenus(menuBar(), m_commands, *m_context, this);
+    m_toolbars = new AppToolbars(*this, m_commands, *m_menus, m_context->status);
+    setButtonPicture(QStringLiteral("Model"), PictureMode1 + needs.settings.QuizMode() - 1);
+    setButtonPicture(QStringLiteral("Quiz"), PicturePractice);
+    SetCommandState(AppState::StateNoDocument);
+    needs.undo.clear();
+}
+
+frmApp::~frmApp() = default;
+
+void frmApp::createParts(const Needs &needs)
+{
+    auto *status = new modSBFunc(needs.flags, this);
+    auto *documents = new DocumentList({needs.flags, needs.undo, *status, needs.settings}, this);
+    auto *files =
+        new FileCommands({*documents, m_recentFiles, *status, needs.alert, needs.prompts}, needs.codePage, this);
+    m_context = std::make_unique<AppContext>(AppContext{*this, needs.flags, needs.undo, needs.settings, needs.alert,
+                                                        *status, *documents, *files, m_recentFiles});
+    setCentralWidget(createCentre());
+
+    connect(documents, &DocumentList::created, this, &frmApp::placeDocument);
+    connect(documents, &DocumentList::activeChanged, this, &frmApp::updateState);
+    connect(documents, &DocumentList::removed, this, &frmApp::onRemoved);
+    connect(m_area, &QMdiArea::subWindowActivated, this, [documents](QMdiSubWindow *window) {
+        documents->setActive(window ? qobject_cast<frmDoc *>(window->widget()) : nullptr);
+    });
+    connect(&needs.undo, &UndoRecord::kindChanged, this, &frmApp::onUndoKind);
+}
+
+QWidget *frmApp::createCentre()
+{
+    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    auto *centre = new QWidget(this);
+    auto *layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_area, 1);
+    layout->addWidget(&m_context->status);
+    return centre;
+}
+
+void frmApp::placeDocument(frmDoc *document)
+{
+    QMdiSubWindow *frame = m_area->addSubWindow(document);
+    frame->setAttribute(Qt::WA_DeleteOnClose);
+    frame->setWindowIcon(picture(PictureDocument));
+    frame->resize(m_area->viewport()->size() * 3 / 4);
+    m_menus->watchSystemMenu(frame->systemMenu());
+
+    connect(document, &frmDoc::editingChanged, this, &frmApp::updateState);
+    connect(document, &frmDoc::menuRequested, this,
+            [this](const QPoint &position) { m_menus->gridMenu()->popup(position); });
+}
+
+void frmApp::activate(frmDoc *document)
+{
+    if (auto *frame = qobject_cast<QMdiSubWindow *>(document->frame())) {
+        if (frame->isMinimized())
+            frame->showNormal();
+        m_area->setActiveSubWindow(frame);
+    }
+    document->setFocus();
+}
+
+void frmApp::arrange(WindowArrangement how)
+{
+    QList<QMdiSubWindow *> open;
+    QList<QMdiSubWindow *> icons;
+    for (QMdiSubWindow *window : m_area->subWindowList()) {
+        if (window->isVisible())
+            (window->isMinimized() ? icons : open).append(window);
+    }
+    if (how == WindowArrangement::Cascade) {
+        m_area->cascadeSubWindows();
+        return;
+    }
+    const bool arrangeIcons = how == WindowArrangement::ArrangeIcons;
+    const QList<QMdiSubWindow *> &windows = arrangeIcons ? icons : open;
+    if (windows.isEmpty())
+        return;
+    const QRect area = m_area->viewport()->rect();
+    const std::vector<QRect> places =
+        arrangeIcons ? WindowLayout::icons(area, int(windows.size()), windows.first()->size())
+                     : WindowLayout::tiles(area, int(windows.size()), how == WindowArrangement::TileHorizontally);
+    for (qsizetype i = 0; i < windows.size(); ++i) {
+        if (windows[i]->isMaximized())
+            windows[i]->showNormal();
+        windows[i]->setGeometry(places[size_t(i)]);
+    }
+}
+
+void frmApp::DoMenuClick(const QString &key)
+{
+    m_commands.run(key);
+}
+
+QString frmApp::UndoAction() const
+{
+    return resText(int(m_context->undo.kind()));
+}
+
+void frmApp::onUndoKind(UndoKind kind)
+{
+    const QString caption = resText(int(kind));
+    m_commands.action(QStringLiteral("mnuEditUndo"))->setText(caption);
+    m_commands.setAvailable(QStringLiteral("mnuEditUndo"), kind != UndoKind::None);
+    m_toolbars->setToolTip(QStringLiteral("Undo"), caption);
+    m_context->status.ShowStatus(Ready);
+}
+
+void frmApp::SetCommandState(AppState state)
+{
+    m_commands.applyState(state);
+    m_menus->applyState(state);
+    m_toolbars->applyState(state);
+}
+
+void frmApp::updateState()
+{
+    frmDoc *document = m_context->documents.active();
+    if (!document)
+        SetCommandState(AppState::StateNoDocument);
+    else
+        SetCommandState(document->Rutor()->EditMode() ? AppState::StateEditing : AppState::StateDocument);
+}
+
+void frmApp::onRemoved()
+{
+    if (!m_context->documents.open().empty())
+        return;
+    SetCommandState(AppState::StateNoDocument);
+    m_context->status.SBSetText(1, modSBFunc::SBT_SUNKEN, {});
+    m_context->status.SBSetText(2, modSBFunc::SBT_SUNKEN, {});
+}
+
+int frmApp::buttonPicture(const QString &button) const
+{
+    return m_toolbars->pictureOf(button);
+}
+
+void frmApp::setButtonPicture(const QString &button, int pictureNumber)
+{
+    m_toolbars->setPicture(button, pictureNumber);
+}
+
+int frmApp::toolbarHeight() const
+{
+    return m_area->mapTo(this, QPoint(0, 0)).y();
+}
+
+void frmApp::OpenRequestedFile(const QString &text)
+{
+    if (const std::optional<QString> path = RequestedFile::requestedPath(text))
+        m_context->files.LoadVocabulary(*path);
+}
+
+void frmApp::bringToFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void frmApp::PositionWindow()
+{
+    if (applyPosition())
+        return;
+    useWorkArea();
+    applyPosition();
+}
+
+bool frmApp::applyPosition()
+{
+    const clsAppProperties &settings = m_context->settings;
+    const int state = settings.AppWinState();
+    if (state != Normal && state != Maximized)
+        return false;
+    const QRect place(Twips::toPixelsX(settings.WinPosLeft()), Twips::toPixelsY(settings.WinPosTop()),
+                      Twips::toPixelsX(settings.WinPosRight()), Twips::toPixelsY(settings.WinPosBottom()));
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    const bool reachable = std::any_of(screens.begin(), screens.end(), [&place](const QScreen *screen) {
+        return screen->availableGeometry().intersects(place);
+    });
+    if (!reachable)
+        return false;
+    move(place.topLeft());
+    resize(place.size());
+    setWindowState(state == Maximized ? Qt::WindowMaximized : Qt::WindowNoState);
+    return true;
+}
+
+void frmApp::useWorkArea()
+{
+    clsAppProperties &settings = m_context->settings;
+    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    settings.setAppWinState(Normal);
+    settings.setWinPosLeft(Twips::fromPixelsX(area.left()));
+    settings.setWinPosTop(Twips::fromPixelsY(area.top()));
+    settings.setWinPosRight(Twips::fromPixelsX(area.width()));
+    settings.setWinPosBottom(Twips::fromPixelsY(area.height()));
+}
+
+void frmApp::storePosition()
+{
+    clsAppProperties &settings = m_context->settings;
+    settings.setAppWinState(isMinimized() ? Minimized : isMaximized() ? Maximized : Normal);
+    settings.setWinPosLeft(Twips::fromPixelsX(x()));
+    settings.setWinPosTop(Twips::fromPixelsY(y()));
+    settings.setWinPosRight(Twips::fromPixelsX(width()));
+    settings.setWinPosBottom(Twips::fromPixelsY(height()));
+}
+
+void frmApp::reportRegistryErrors(const std::function<void()> &action)
+{
+    try {
+        action();
+    } catch (const RegistryError &error) {
+        Alert alert;
+        alert.prompt = error.Description();
+        m_context->alert.show(isVisible() ? this : nullptr, alert);
+    }
+}
+
+void frmApp::loadRecentFiles()
+{
+    reportRegistryErrors([this] {
+        clsRegistry registry(m_store);
+        selectRecentFilesKey(registry);
+        if (registry.KeyExists())
+            m_recentFiles.Load(registry);
+    });
+    m_recentFiles.setMaxFileCount(RecentFileCount);
+}
+
+void frmApp::saveSettings()
+{
+    reportRegistryErrors([this] { m_context->settings.SaveProperties(); });
+    reportRegistryErrors([this] {
+        clsRegistry registry(m_store);
+        selectRecentFilesKey(registry);
+        m_recentFiles.Save(registry);
+    });
+}
+
+void frmApp::closeEvent(QCloseEvent *event)
+{
+    if (!m_context->files.closeAll()) {
+        event->ignore();
+        return;
+    }
+    storePosition();
+    saveSettings();
+    event->accept();
+    Q_EMIT closed();
+}
+
+void frmApp::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void frmApp::dropEvent(QDropEvent *event)
+{
+    event->acceptProposedAction();
+    const int y = event->position().toPoint().y();
+    if (!WindowLayout::acceptsDrop(y, toolbarHeight(), height(), m_context->status.height()))
+        return;
+    // A message of a file must not keep the program that the files were dragged from waiting.
+    QStringList paths;
+    for (const QUrl &url : event->mimeData()->urls())
+        paths.append(url.toLocalFile());
+    QMetaObject::invokeMethod(
+        this,
+        [this, paths] {
+            std::for_each(paths.begin(), paths.end(), [this](const QString &path) { OpenRequestedFile(path); });
+        },
+        Qt::QueuedConnection);
+}

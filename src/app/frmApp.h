@@ -1,0 +1,108 @@
+#pragma once
+
+#include "app/AppContext.h"
+#include "app/CommandTable.h"
+#include "app/WindowArrangement.h"
+#include "document/rules/UndoRecord.h"
+#include "services/rules/clsMRUFileList.h"
+
+#include <QMainWindow>
+
+#include <memory>
+
+class AppMenus;
+class AppToolbars;
+class CodePage;
+class FilePrompts;
+class QMdiArea;
+class RegistryStore;
+class frmDoc;
+
+/// The program's one frame window: holds the document windows, the menus, the toolbars and the status bar, keeps the
+/// application's state, and takes files that are dropped on it or handed over by a second copy.
+class frmApp : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// What the program hands to its main window; all of it outlives the window.
+    struct Needs
+    {
+        ProgramFlags &flags;
+        UndoRecord &undo;
+        clsAppProperties &settings;
+        RegistryStore &store;
+        AlertBox &alert;
+        FilePrompts &prompts;
+        const CodePage &codePage;
+    };
+
+    explicit frmApp(const Needs &needs);
+    ~frmApp() override;
+
+    /// Runs the command with that key exactly as a menu click does.
+    void DoMenuClick(const QString &key);
+
+    /// The caption of the Undo command.
+    QString UndoAction() const;
+
+    /// Switches menus, toolbars and commands to a state.
+    void SetCommandState(AppState state);
+    AppState state() const { return m_commands.state(); }
+
+    /// Restores size, place and state of the window from the settings; what cannot be applied is replaced by the work
+    /// area of the screen.
+    void PositionWindow();
+
+    /// Opens a vocabulary that was named from outside: on the command line, by a second copy, or by a dropped file.
+    /// What is not named like a vocabulary is ignored.
+    void OpenRequestedFile(const QString &text);
+
+    /// Shows the window, restores it if it is minimised, and brings it to the front.
+    void bringToFront();
+
+    /// Makes a document's window the active one.
+    void activate(frmDoc *document);
+    void arrange(WindowArrangement how);
+
+    /// The picture by which a button of the standard toolbar shows its state.
+    int buttonPicture(const QString &button) const;
+    void setButtonPicture(const QString &button, int pictureNumber);
+
+    const AppContext &context() const { return *m_context; }
+    const CommandTable &commands() const { return m_commands; }
+    QMdiArea *documentArea() const { return m_area; }
+    /// Height in pixels of the menu bar and the toolbars above the document area.
+    int toolbarHeight() const;
+
+Q_SIGNALS:
+    /// The window has closed and its settings are stored: the program can end.
+    void closed();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    void createParts(const Needs &needs);
+    QWidget *createCentre();
+    void placeDocument(frmDoc *document);
+    void onRemoved();
+    void updateState();
+    void onUndoKind(UndoKind kind);
+    bool applyPosition();
+    void useWorkArea();
+    void storePosition();
+    void loadRecentFiles();
+    void saveSettings();
+    void reportRegistryErrors(const std::function<void()> &action);
+
+    RegistryStore &m_store;
+    clsMRUFileList m_recentFiles;
+    QMdiArea *m_area;
+    std::unique_ptr<AppContext> m_context;
+    CommandTable m_commands;
+    AppMenus *m_menus = nullptr;
+    AppToolbars *m_toolbars = nullptr;
+};

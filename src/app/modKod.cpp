@@ -1,0 +1,130 @@
+#include "app/modKod.h"
+
+#include "app/CommonFilePrompts.h"
+#include "app/frmApp.h"
+#include "document/rules/CodePage.h"
+#include "platform/InstancePlace.h"
+#include "platform/RegistryFile.h"
+#include "platform/SingleInstance.h"
+#include "print/QtDialogs.h"
+#include "print/QtPrinter.h"
+#include "quiz/frmSplash.h"
+#include "resources/StringTable.h"
+#include "services/modMsgBox.h"
+#include "services/rules/CommandLine.h"
+#include "services/rules/ProgramFlags.h"
+#include "services/rules/clsAppProperties.h"
+#include "services/rules/clsRegistry.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <QSessionManager>
+#include <QTextStream>
+#include <QTimer>
+
+namespace {
+
+constexpr int ShowMainAfter = 2000;    // milliseconds
+constexpr int CloseSplashAfter = 3000; // milliseconds
+constexpr int UsageError = 2;
+
+/// Everything that lives as long as the program and belongs to no window.
+struct Program
+{
+    RegistryFile store;
+    clsAppProperties settings{store, QApplication::applicationFilePath()};
+    ProgramFlags flags;
+    UndoRecord undo;
+    modMsgBox alert{[](int) {}};
+    QtPrinter printer;
+    QtDialogs dialogs{printer, [](const QString &, int, int) { return false; }};
+    CommonFilePrompts prompts{dialogs, alert};
+    CodePage codePage{CodePage::nameFor(QLocale())};
+};
+
+void readSettings(Program &program)
+{
+    try {
+        program.settings.ReadProperties();
+    } catch (const RegistryError &error) {
+        Alert alert;
+        alert.prompt = error.Description();
+        program.alert.show(nullptr, alert);
+    }
+}
+
+/// The user is asked for unsaved changes when the desktop session ends, as when the window closes.
+void askAtEnd(QApplication &application, frmApp &window)
+{
+    QObject::connect(
+        &application, &QGuiApplication::commitDataRequest, &window,
+        [&window](QSessionManager &session) {
+            if (session.allowsInteraction() && !window.close())
+                session.cancel();
+        },
+        Qt::DirectConnection);
+}
+
+void listen(SingleInstance &instance, frmApp &window)
+{
+    QObject::connect(&instance, &SingleInstance::activated, &window, &frmApp::bringToFront);
+    QObject::connect(&instance, &SingleInstance::received, &window, &frmApp::OpenRequestedFile);
+}
+
+/// The main window shows while the splash still stands before it; the file named on the command line opens when the
+/// splash has gone.
+void showInTurn(frmSplash &splash, frmApp &window, const CommandLine &commandLine)
+{
+    const int showAfter = commandLine.splash ? ShowMainAfter : 0;
+    const int closeAfter = commandLine.splash ? CloseSplashAfter : 0;
+    if (commandLine.splash)
+        splash.show();
+    QTimer::singleShot(showAfter, &window, [&window] { window.show(); });
+    QTimer::singleShot(closeAfter, &window, [&splash, &window, text = commandLine.text] {
+        splash.close();
+        if (!text.isEmpty())
+            window.OpenRequestedFile(text);
+    });
+}
+
+} // namespace
+
+bool modKod::answer(const CommandLine &commandLine, int &exitCode)
+{
+    exitCode = 0;
+    if (!commandLine.unknownOption.isEmpty()) {
+        exitCode = UsageError;
+        QTextStream(stderr) << resText(12602).arg(commandLine.unknownOption) << '\n' << resText(12601) << '\n';
+    } else if (commandLine.help) {
+        QTextStream(stdout) << resText(12600) << '\n';
+    } else if (commandLine.version) {
+        QTextStream(stdout) << "Glosaria " << GLOSARIA_VERSION << '\n';
+    } else {
+        return false;
+    }
+    return true;
+}
+
+int modKod::run(QApplication &application, const CommandLine &commandLine)
+{
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    SingleInstance instance(InstancePlace::socketPath());
+    if (instance.start(commandLine.text) == SingleInstance::Role::Second)
+        return 0;
+    Program program;
+    readSettings(program);
+
+    frmSplash splash(QVersionNumber::fromString(QApplication::applicationVersion()));
+    splash.setLoadStatus(frmSplash::StartUp);
+    splash.Form_Load();
+    frmApp window({program.flags, program.undo, program.settings, program.store, program.alert, program.prompts,
+                   program.codePage});
+    program.alert.setMainWindow(&window);
+    program.prompts.setOwner(&window);
+    QObject::connect(&window, &frmApp::closed, &application, &QApplication::quit);
+    listen(instance, window);
+    askAtEnd(application, window);
+    showInTurn(splash, window, commandLine);
+    QGuiApplication::restoreOverrideCursor();
+    return QApplication::exec();
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+struct CommandLine;
+class QApplication;
+
+/// The program from its start to its end.
+namespace modKod {
+
+/// What can be answered without a display: the help text, the version, or that an option is unknown. True when it was;
+/// exitCode is that of the process then.
+bool answer(const CommandLine &commandLine, int &exitCode);
+
+/// Runs as the only copy on the user's desktop, or hands the command line to the copy that runs already and returns.
+/// Returns the exit code of the process.
+int run(QApplication &application, const CommandLine &commandLine);
+
+} // namespace modKod
