@@ -7,6 +7,7 @@
 namespace {
 
 constexpr double TypeStep = 0.9;
+constexpr double LineHeight = 1.2; ///< of the type's height: marks above and below letters need room
 
 double textWidth(const QString &text, const QFont &font)
 {
@@ -59,7 +60,7 @@ QSize FittedLabel::sizeHint() const
     const QFontMetricsF metrics(scaledFont(m_preferred));
     const QMargins margins = contentsMargins();
     return QSize(int(std::ceil(metrics.horizontalAdvance(m_fullText) / UsableWidth)) + margins.left() + margins.right(),
-                 int(std::ceil(metrics.height())) + margins.top() + margins.bottom());
+                 int(std::ceil(metrics.height() * LineHeight)) + margins.top() + margins.bottom());
 }
 
 QSize FittedLabel::minimumSizeHint() const

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QRadioButton>
+
+/// One option of Multiple Choice, "1 " to "3 " and a text that is fitted to the button's width; what does not fit
+/// stands in the tooltip.
+class AnswerOption : public QRadioButton
+{
+    Q_OBJECT
+
+public:
+    explicit AnswerOption(QWidget *parent = nullptr);
+
+    const QString &FullText() const { return m_fullText; }
+    /// Shows a text behind the number, which is the option's key.
+    void setFullText(int number, const QString &text);
+
+    /// The same height for every script, so that the window keeps still.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    /// The whole row takes a click, not only its text.
+    bool hitButton(const QPoint &position) const override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    double roomForText() const;
+    void fit();
+
+    int m_number = 0;
+    QString m_fullText;
+};

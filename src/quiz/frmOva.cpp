@@ -1,0 +1,319 @@
+#include "quiz/frmOva.h"
+
+#include "platform/SoundPlayer.h"
+#include "quiz/QuizColours.h"
+#include "quiz/QuizLook.h"
+#include "quiz/QuizSpeech.h"
+#include "resources/Pictures.h"
+#include "resources/StringTable.h"
+#include "services/rules/clsAppProperties.h"
+
+#include "ui_frmOva.h"
+
+#include <QGuiApplication>
+#include <QInputMethod>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+namespace {
+
+/// The hourglass while it lives.
+class Hourglass
+{
+public:
+    Hourglass() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~Hourglass() { QGuiApplication::restoreOverrideCursor(); }
+    Q_DISABLE_COPY_MOVE(Hourglass)
+};
+
+void showCount(QLabel *number, QLabel *title, const QString &name, int count, const QColor &colour)
+{
+    number->setNum(count);
+    number->setAccessibleName(resText(12009).arg(name).arg(count));
+    number->setVisible(true);
+    title->setVisible(true);
+    if (!colour.isValid())
+        return;
+    QPalette palette;
+    if (count > 0)
+        palette.setColor(QPalette::WindowText, colour);
+    number->setPalette(palette);
+}
+
+} // namespace
+
+frmOva::frmOva(clsAppProperties &settings, RandomSource &random, SoundPlayer &errorSound, QWidget *parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::frmOva>())
+    , m_settings(settings)
+    , m_random(random)
+    , m_errorSound(errorSound)
+{
+    m_ui->setupUi(this);
+    m_optAnswer =
+        std::make_unique<AnswerOptions>(std::array{m_ui->optAnswer0, m_ui->optAnswer1, m_ui->optAnswer2}, nullptr);
+}
+
+frmOva::~frmOva() = default;
+
+void frmOva::Form_Load(const WordSource &words, QWidget &document, const QString &documentTitle)
+{
+    m_session = std::make_unique<QuizSession>(QuizKind(m_quizType), m_settings);
+    {
+        const Hourglass hourglass;
+        if (!m_session->fByggMatriser(words, m_random)) {
+            m_session.reset();
+            return;
+        }
+    }
+    m_document = &document;
+    m_documentState = document.windowState();
+    document.setWindowState(m_documentState | Qt::WindowMinimized);
+    m_tag = QStringLiteral("1");
+    layOut();
+    setWindowTitle(windowTitle() + QStringLiteral(" - ") + documentTitle);
+    connectControls();
+    connectSession();
+    m_session->fShowQuestion();
+    takeRoom();
+}
+
+void frmOva::connectControls()
+{
+    connect(m_ui->btnCheck, &QPushButton::clicked, this, &frmOva::btnCheck_Click);
+    connect(m_ui->btnHint, &QPushButton::clicked, this, &frmOva::btnHint_Click);
+    connect(m_ui->btnRep, &QPushButton::clicked, this, &frmOva::btnRep_Click);
+    connect(m_ui->btnCancel, &QPushButton::clicked, this, &frmOva::reject);
+    connect(m_ui->chkAuto, &QCheckBox::clicked, this, &frmOva::chkAuto_Click);
+    connect(m_ui->chkError, &QCheckBox::clicked, m_session.get(), &QuizSession::setHintIsError);
+    connect(m_ui->chkBeep, &QCheckBox::clicked, m_session.get(), &QuizSession::setBeepOnError);
+    connect(m_optAnswer.get(), &AnswerOptions::chosen, m_session.get(), &QuizSession::choose);
+    connect(m_ui->txtTime, &QLineEdit::textEdited, m_session.get(), &QuizSession::setAutoSeconds);
+    connect(m_ui->txtSvar, &QLineEdit::textChanged, m_session.get(), &QuizSession::setAnswerText);
+    connect(&m_tmrSvar, &clsTimer::ThatTime, m_session.get(), &QuizSession::revealTick);
+    connect(&m_tmrAutoSvar, &clsTimer::ThatTime, m_session.get(), &QuizSession::autoTick);
+    for (QWidget *control :
+         std::initializer_list<QWidget *>{m_ui->btnCheck, m_ui->btnHint, m_ui->txtSvar, m_ui->txtTime, m_ui->optAnswer0,
+                                          m_ui->optAnswer1, m_ui->optAnswer2})
+        control->installEventFilter(this);
+}
+
+void frmOva::connectSession()
+{
+    connect(m_session.get(), &QuizSession::revealIntervalChanged, &m_tmrSvar, &clsTimer::setInterval);
+    connect(m_session.get(), &QuizSession::autoIntervalChanged, &m_tmrAutoSvar, &clsTimer::setInterval);
+    connect(m_session.get(), &QuizSession::roundStarted, this, &frmOva::showRoundStart);
+    connect(m_session.get(), &QuizSession::questionShown, this, &frmOva::showQuestion);
+    connect(m_session.get(), &QuizSession::answerRevealed, this, &frmOva::showAnswer);
+    connect(m_session.get(), &QuizSession::judged, this, &frmOva::showVerdict);
+    connect(m_session.get(), &QuizSession::roundEnded, this, &frmOva::showRoundEnd);
+}
+
+void frmOva::btnCheck_Click()
+{
+    if (m_session->done()) {
+        accept();
+        return;
+    }
+    QGuiApplication::inputMethod()->commit();
+    m_session->check();
+}
+
+void frmOva::btnHint_Click()
+{
+    QGuiApplication::inputMethod()->commit();
+    m_session->hint();
+}
+
+void frmOva::btnRep_Click()
+{
+    m_session->fRepeatErrors();
+}
+
+void frmOva::chkAuto_Click(bool on)
+{
+    m_ui->chkError->setEnabled(on);
+    m_ui->txtTime->setEnabled(on);
+    m_optAnswer->setChoosingChecks(on);
+    m_session->setAutomatic(on);
+    // Without a delay nothing would be shown automatically: ask for one.
+    if (on && m_session->kind() == QuizKind::Practice && m_settings.AutoTimerInterval() == 0) {
+        m_ui->txtTime->setFocus(Qt::OtherFocusReason);
+        m_ui->txtTime->selectAll();
+    }
+}
+
+void frmOva::showQuestion()
+{
+    const Question &question = m_session->question();
+    m_ui->lblLang1->setFullText(question.askedLanguage());
+    m_ui->lblLang2->setFullText(question.answerLanguage());
+    m_ui->lblFraga->setFullText(question.askedWord());
+    m_ui->btnCheck->setText(resText(QuizLook::of(m_session->kind()).check));
+    switch (m_session->kind()) {
+    case QuizKind::Practice:
+        m_ui->lblNote->setRoomFor(question.correctAnswer());
+        showAnswer();
+        break;
+    case QuizKind::MultipleChoice:
+        m_optAnswer->offer(question);
+        break;
+    case QuizKind::QuestionAndAnswer:
+        m_ui->txtSvar->setText(m_session->answerText());
+        m_ui->txtSvar->setAccessibleName(resText(12012).arg(question.answerLanguage()));
+        break;
+    }
+    focusAnswer();
+    speak(QuizSpeech::state(*m_session));
+    setUpdatesEnabled(true);
+}
+
+void frmOva::showAnswer()
+{
+    if (m_session->kind() == QuizKind::Practice) {
+        m_ui->lblNote->setFullText(m_session->answerText());
+        return;
+    }
+    m_ui->txtSvar->setText(m_session->answerText());
+    m_ui->txtSvar->setFocus(Qt::OtherFocusReason);
+    m_ui->txtSvar->end(false);
+}
+
+void frmOva::showVerdict(bool correct)
+{
+    setUpdatesEnabled(false);
+    m_ui->picMark->clear();
+    const Question &question = m_session->question();
+    m_ui->lblPrev->setFullText(question.askedWord());
+    m_ui->lblAns->setFullText(m_session->givenAnswer());
+    m_ui->lblCorr->setFullText(question.correctAnswer());
+    m_ui->picMark->setMark(correct ? PictureRight : PictureWrong);
+    setResultVisible(true, !correct);
+    showCounters();
+    m_spokenVerdict = QuizSpeech::verdict(*m_session, correct);
+    if (!correct && m_session->beepOnError())
+        m_errorSound.play();
+}
+
+void frmOva::showCounters()
+{
+    const std::array numbers = {m_ui->lblResult0, m_ui->lblResult1, m_ui->lblResult2, m_ui->lblResult3};
+    const std::array titles = {m_ui->lblResultTitel0, m_ui->lblResultTitel1, m_ui->lblResultTitel2,
+                               m_ui->lblResultTitel3};
+    const std::array counts = {m_session->questionCount(), m_session->correctCount() + m_session->errorCount(),
+                               m_session->correctCount(), m_session->errorCount()};
+    const std::array colours = {QColor(), QColor(), QuizColours::Right, QuizColours::Wrong};
+    for (size_t i = 0; i < numbers.size(); ++i) {
+        if (i == 0 || counts[i] > 0 || m_session->done())
+            showCount(numbers[i], titles[i], titles[i]->text(), counts[i], colours[i]);
+    }
+    m_ui->picProgress->setCounts(counts[0], counts[2], counts[3]);
+}
+
+void frmOva::showRoundStart()
+{
+    setUpdatesEnabled(false);
+    showForKind();
+    hideResults();
+    m_ui->btnHint->setEnabled(true);
+    m_ui->btnRep->setEnabled(false);
+}
+
+void frmOva::showRoundEnd()
+{
+    for (QWidget *control :
+         std::initializer_list<QWidget *>{m_ui->lblFraga, m_ui->txtSvar, m_ui->lblLang1, m_ui->lblLang2, m_ui->lblNote})
+        control->hide();
+    m_optAnswer->setVisible(false);
+    m_ui->lblSum->show();
+    m_ui->lblScore->setText(resText(12006).arg(m_session->correctCount()).arg(m_session->questionCount()));
+    m_ui->lblScore->show();
+    showCounters();
+    m_ui->btnRep->setEnabled(m_session->canRepeat());
+    m_ui->btnHint->setEnabled(false);
+    m_ui->btnCheck->setText(resText(921));
+    m_ui->btnCheck->setFocus(Qt::OtherFocusReason);
+    speak(QuizSpeech::state(*m_session));
+    setUpdatesEnabled(true);
+}
+
+QWidget *frmOva::answerControl() const
+{
+    if (m_session->done() || m_session->kind() == QuizKind::Practice)
+        return m_ui->btnCheck;
+    if (m_session->kind() == QuizKind::MultipleChoice)
+        return m_optAnswer->option(0);
+    return m_ui->txtSvar;
+}
+
+void frmOva::focusAnswer()
+{
+    // A delay that is being typed is not interrupted by the next question.
+    if (focusWidget() != m_ui->txtTime)
+        answerControl()->setFocus(Qt::OtherFocusReason);
+}
+
+void frmOva::speak(const QString &text)
+{
+    const QString verdict = std::exchange(m_spokenVerdict, QString());
+    if (m_speaker && m_speaker != answerControl())
+        m_speaker->setAccessibleDescription(QString());
+    m_speaker = answerControl();
+    m_speaker->setAccessibleDescription(verdict.isEmpty() ? text : verdict + u' ' + text);
+}
+
+void frmOva::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        Form_Activate();
+}
+
+void frmOva::Form_Activate()
+{
+    if (m_ui->txtSvar->isVisible()) {
+        m_ui->txtSvar->selectAll();
+        m_ui->txtSvar->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void frmOva::keyPressEvent(QKeyEvent *event)
+{
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (!plain || !m_optAnswer->chooseByDigit(event->key()))
+        QDialog::keyPressEvent(event);
+}
+
+bool frmOva::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return QDialog::eventFilter(watched, event);
+    const auto *key = static_cast<QKeyEvent *>(event);
+    if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter)
+        return false;
+    if (watched == m_ui->txtTime) {
+        answerControl()->setFocus(Qt::OtherFocusReason);
+        return true;
+    }
+    // A key held down a little too long must not answer the next question.
+    return key->isAutoRepeat();
+}
+
+void frmOva::done(int result)
+{
+    m_tmrSvar.setInterval(0);
+    m_tmrAutoSvar.setInterval(0);
+    QDialog::done(result);
+    Form_Terminate();
+}
+
+void frmOva::Form_Terminate()
+{
+    QWidget *document = std::exchange(m_document, nullptr);
+    if (!document)
+        return;
+    document->setWindowState(m_documentState);
+    if (auto *window = qobject_cast<QMdiSubWindow *>(document); window && window->mdiArea())
+        window->mdiArea()->setActiveSubWindow(window);
+    document->setFocus(Qt::OtherFocusReason);
+}

@@ -1,0 +1,160 @@
+#include "quiz/frmOva.h"
+
+#include "quiz/QuizLook.h"
+#include "resources/StringTable.h"
+#include "services/FormTexts.h"
+
+#include "ui_frmOva.h"
+
+#include <QRegularExpressionValidator>
+
+namespace {
+
+// Sizes of type, as multiples of the window's.
+constexpr double AskedType = 2.6;
+constexpr double NoteType = 2.0;
+constexpr double AnswerType = 1.6;
+constexpr double OptionType = 1.35;
+constexpr double SmallestType = 1.0;
+
+constexpr int InitialWidth = 620; ///< pixels
+
+/// A number of seconds, with a decimal point or comma.
+const QRegularExpression SecondsPattern(QStringLiteral("[0-9]*[.,]?[0-9]*"));
+
+void scaleType(QWidget *control, double factor)
+{
+    QFont font = control->font();
+    font.setPointSizeF(QFontInfo(font).pointSizeF() * factor);
+    control->setFont(font);
+}
+
+void setBold(QWidget *control)
+{
+    QFont font = control->font();
+    font.setBold(true);
+    control->setFont(font);
+}
+
+void setMuted(QWidget *control)
+{
+    QPalette palette = control->palette();
+    palette.setColor(QPalette::WindowText, palette.color(QPalette::PlaceholderText));
+    control->setPalette(palette);
+}
+
+void keepRoom(QWidget *control)
+{
+    QSizePolicy policy = control->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    control->setSizePolicy(policy);
+}
+
+void dress(QWidget *control, int textId, int whatsThisId)
+{
+    control->setVisible(textId != 0);
+    if (textId == 0)
+        return;
+    FormTexts::setCaption(control, textId);
+    FormTexts::setWhatsThis(control, whatsThisId);
+}
+
+} // namespace
+
+void frmOva::layOut()
+{
+    FormTexts::apply(this);
+    dressTypes();
+    dressKind();
+    showForKind();
+    hideResults();
+}
+
+void frmOva::takeRoom()
+{
+    // The room stays when the round ends and the question makes way for the summary.
+    m_ui->picQuestion->setMinimumHeight(m_ui->picQuestion->sizeHint().height());
+    resize(sizeHint().expandedTo(QSize(InitialWidth, 0)));
+}
+
+void frmOva::dressTypes()
+{
+    m_ui->lblFraga->setTypeSizes(AskedType, SmallestType);
+    m_ui->lblNote->setTypeSizes(NoteType, SmallestType);
+    m_ui->lblSum->setTypeSizes(AskedType, SmallestType);
+    m_ui->lblSum->setFullText(resText(915));
+    scaleType(m_ui->lblScore, OptionType);
+    scaleType(m_ui->txtSvar, AnswerType);
+    for (int i = 0; i < AnswerOptions::Count; ++i)
+        scaleType(m_optAnswer->option(i), OptionType);
+    for (QWidget *muted : std::initializer_list<QWidget *>{
+             m_ui->lblLang1, m_ui->lblLang2, m_ui->lblPrevTitel, m_ui->lblAnsTitel, m_ui->lblCorrTitel,
+             m_ui->lblResultTitel0, m_ui->lblResultTitel1, m_ui->lblResultTitel2, m_ui->lblResultTitel3})
+        setMuted(muted);
+    for (QWidget *steady : std::initializer_list<QWidget *>{
+             m_ui->lblPrevTitel, m_ui->lblPrev, m_ui->lblAnsTitel, m_ui->lblAns, m_ui->lblCorrTitel, m_ui->lblCorr,
+             m_ui->lblResultTitel1, m_ui->lblResultTitel2, m_ui->lblResultTitel3, m_ui->lblResult1, m_ui->lblResult2,
+             m_ui->lblResult3})
+        keepRoom(steady);
+    for (QWidget *number : {m_ui->lblResult0, m_ui->lblResult1, m_ui->lblResult2, m_ui->lblResult3})
+        setBold(number);
+}
+
+void frmOva::dressKind()
+{
+    const QuizLook &look = QuizLook::of(m_session->kind());
+    const bool practice = m_session->kind() == QuizKind::Practice;
+    FormTexts::setCaption(this, look.title);
+    setProperty("helpContextId", look.helpTopic);
+    for (QWidget *control : findChildren<QWidget *>()) {
+        if (qobject_cast<QAbstractButton *>(control) || qobject_cast<QLineEdit *>(control))
+            control->setProperty("helpContextId", look.helpTopic);
+    }
+    dress(m_ui->btnCheck, look.check, look.checkHelp);
+    dress(m_ui->btnHint, look.hint, look.hintHelp);
+    dress(m_ui->chkAuto, look.automatic, look.automaticHelp);
+    dress(m_ui->chkError, look.error, look.errorHelp);
+    m_ui->chkAuto->setChecked(m_session->automatic());
+    m_ui->chkError->setChecked(m_session->hintIsError());
+    m_ui->chkBeep->setChecked(m_session->beepOnError());
+    m_ui->btnRep->setEnabled(false);
+    m_optAnswer->setChoosingChecks(m_session->automatic());
+    m_ui->txtTime->setVisible(practice);
+    m_ui->lblSeconds->setVisible(practice);
+    m_ui->txtTime->setText(m_session->autoSeconds());
+    m_ui->txtTime->setValidator(new QRegularExpressionValidator(SecondsPattern, m_ui->txtTime));
+    m_ui->txtTime->setEnabled(m_session->automatic());
+    m_ui->chkError->setEnabled(!practice || m_session->automatic());
+    m_ui->txtSvar->setPlaceholderText(resText(922));
+}
+
+void frmOva::showForKind()
+{
+    m_ui->lblSum->hide();
+    m_ui->lblScore->hide();
+    m_ui->lblLang1->show();
+    m_ui->lblLang2->show();
+    m_ui->lblFraga->show();
+    m_ui->lblNote->setVisible(m_session->kind() == QuizKind::Practice);
+    m_optAnswer->setVisible(m_session->kind() == QuizKind::MultipleChoice);
+    m_ui->txtSvar->setVisible(m_session->kind() == QuizKind::QuestionAndAnswer);
+}
+
+void frmOva::hideResults()
+{
+    setResultVisible(false, false);
+    m_ui->picMark->clear();
+    for (QWidget *counter : {m_ui->lblResult1, m_ui->lblResult2, m_ui->lblResult3, m_ui->lblResultTitel1,
+                             m_ui->lblResultTitel2, m_ui->lblResultTitel3})
+        counter->hide();
+    showCounters();
+}
+
+void frmOva::setResultVisible(bool previous, bool correct)
+{
+    for (QWidget *label :
+         std::initializer_list<QWidget *>{m_ui->lblPrevTitel, m_ui->lblPrev, m_ui->lblAnsTitel, m_ui->lblAns})
+        label->setVisible(previous);
+    m_ui->lblCorrTitel->setVisible(correct);
+    m_ui->lblCorr->setVisible(correct);
+}
