@@ -61,6 +61,8 @@ double AnswerOption::roomForText() const
 
 void AnswerOption::fit()
 {
+    if (m_number == 0)
+        return;
     const QString shown = fittedText(m_fullText, font(), roomForText());
     setToolTip(shown == m_fullText ? QString() : m_fullText);
     QString caption = FormTexts::escapeMnemonic(shown);

@@ -191,6 +191,7 @@ void frmOva::showVerdict(bool correct)
     setResultVisible(true, !correct);
     showCounters();
     m_spokenVerdict = QuizSpeech::verdict(*m_session, correct);
+    m_ui->picMark->setAccessibleName(m_spokenVerdict);
     if (!correct && m_session->beepOnError())
         m_errorSound.play();
 }
