@@ -3,6 +3,8 @@
 class AlertBox;
 class DocumentList;
 class FileCommands;
+class RandomSource;
+class SoundPlayer;
 class UndoRecord;
 class clsAppProperties;
 class clsMRUFileList;
@@ -22,4 +24,6 @@ struct AppContext
     DocumentList &documents;
     FileCommands &files;
     clsMRUFileList &recentFiles;
+    RandomSource &random;
+    SoundPlayer &errorSound;
 };

@@ -1,8 +1,12 @@
 #include "app/AppCommands.h"
 #include "app/AppContext.h"
 #include "app/CommandTable.h"
+#include "app/frmApp.h"
+#include "quiz/frmSplash.h"
 #include "resources/Pictures.h"
+#include "services/modSBFunc.h"
 
+#include <QApplication>
 #include <QWhatsThis>
 
 namespace {
@@ -10,12 +14,30 @@ namespace {
 using enum AppState;
 
 constexpr StateSet Always(StateDocument, StateNoDocument, StateEditing, StatePreview);
+constexpr int HelpButtonForHelp = 504;
+constexpr int Ready = 506;
+
+void showAbout(const AppContext &context)
+{
+    modSBFunc &status = context.status;
+    frmSplash about(QVersionNumber::fromString(QApplication::applicationVersion()), &context.window);
+    about.setLoadStatus(frmSplash::About);
+    about.Form_Load();
+    QObject::connect(&about, &frmSplash::statusRequested, &status, &modSBFunc::ShowStatus);
+    QObject::connect(&about, &frmSplash::linkHovered, &status, [&status](const QString &target) {
+        status.ShowStatus(0);
+        status.SBSetText(0, modSBFunc::SBT_SUNKEN, target);
+    });
+    status.ShowStatus(HelpButtonForHelp);
+    about.exec();
+    status.ShowStatus(Ready);
+}
 
 } // namespace
 
-void AppCommands::addHelpCommands(CommandTable &table, const AppContext &)
+void AppCommands::addHelpCommands(CommandTable &table, const AppContext &context)
 {
     table.add({"mnuHelpTopic", 455, "", 56, PictureHelpTopics, Always, {}});
-    table.add({"mnuHelpAbout", 457, "", 58, PictureAbout, Always, {}});
+    table.add({"mnuHelpAbout", 457, "", 58, PictureAbout, Always, [&context] { showAbout(context); }});
     table.add({"Help", 1017, "Shift+F1", 224, PictureWhatsThis, Always, [] { QWhatsThis::enterWhatsThisMode(); }});
 }

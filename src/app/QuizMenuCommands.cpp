@@ -3,6 +3,8 @@
 #include "app/CommandTable.h"
 #include "app/frmApp.h"
 #include "document/DocumentList.h"
+#include "quiz/GridWords.h"
+#include "quiz/frmOva.h"
 #include "resources/Pictures.h"
 #include "services/modSBFunc.h"
 #include "services/rules/clsAppProperties.h"
@@ -14,6 +16,7 @@ using enum AppState;
 constexpr StateSet Document(StateDocument);
 constexpr StateSet DocumentOrEditing(StateDocument, StateEditing);
 constexpr int Ready = 506;
+constexpr int NoQuiz = 12013;
 constexpr int LastMode = 5;
 
 void setQuizMode(const AppContext &context, int mode)
@@ -23,6 +26,22 @@ void setQuizMode(const AppContext &context, int mode)
     context.window.setButtonPicture(QStringLiteral("Model"), PictureMode1 + mode - 1);
     if (frmDoc *document = context.documents.active())
         document->refreshQuizMode();
+}
+
+/// The quiz window shows itself only when enough words were found.
+void startQuiz(const AppContext &context, QuizKind kind)
+{
+    context.window.setButtonPicture(QStringLiteral("Quiz"), PicturePractice + int(kind));
+    const frmDoc *document = context.documents.active();
+    if (!document)
+        return;
+    frmOva quiz(context.settings, context.random, context.errorSound, &context.window);
+    quiz.setQuizType(qint16(kind));
+    quiz.Form_Load(GridWords(*document->Rutor()), *document->frame(), document->Caption());
+    if (quiz.Tag() == u"1")
+        quiz.exec();
+    else
+        context.status.ShowStatus(NoQuiz);
 }
 
 /// The "Model" button steps through the modes in a ring.
@@ -56,9 +75,12 @@ void AppCommands::addQuizCommands(CommandTable &table, const AppContext &context
     }
     table.add({"Model", 1015, "", 221, PictureMode1, Document,
                [&context, &table] { table.run(nextModeKey(context.settings.QuizMode())); }});
-    table.add({"mnuQuizStudy", 446, "", 47, PicturePractice, Document, {}});
-    table.add({"mnuQuizMultiple", 447, "", 48, PictureMultipleChoice, Document, {}});
-    table.add({"mnuQuizQA", 448, "", 49, PictureQuestionAnswer, Document, {}});
+    table.add({"mnuQuizStudy", 446, "", 47, PicturePractice, Document,
+               [&context] { startQuiz(context, QuizKind::Practice); }});
+    table.add({"mnuQuizMultiple", 447, "", 48, PictureMultipleChoice, Document,
+               [&context] { startQuiz(context, QuizKind::MultipleChoice); }});
+    table.add({"mnuQuizQA", 448, "", 49, PictureQuestionAnswer, Document,
+               [&context] { startQuiz(context, QuizKind::QuestionAndAnswer); }});
     table.add({"Quiz", 1016, "", 222, PicturePractice, Document,
                [&context, &table] { table.run(quizKey(context.window.buttonPicture(QStringLiteral("Quiz")))); }});
 }

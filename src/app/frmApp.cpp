@@ -77,8 +77,9 @@ void frmApp::createParts(const Needs &needs)
     auto *documents = new DocumentList({needs.flags, needs.undo, *status, needs.settings}, this);
     auto *files =
         new FileCommands({*documents, m_recentFiles, *status, needs.alert, needs.prompts}, needs.codePage, this);
-    m_context = std::make_unique<AppContext>(AppContext{*this, needs.flags, needs.undo, needs.settings, needs.alert,
-                                                        *status, *documents, *files, m_recentFiles});
+    m_context =
+        std::make_unique<AppContext>(AppContext{*this, needs.flags, needs.undo, needs.settings, needs.alert, *status,
+                                                *documents, *files, m_recentFiles, needs.random, needs.errorSound});
     setCentralWidget(createCentre());
 
     connect(documents, &DocumentList::created, this, &frmApp::placeDocument);

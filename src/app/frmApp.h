@@ -35,6 +35,8 @@ public:
         AlertBox &alert;
         FilePrompts &prompts;
         const CodePage &codePage;
+        RandomSource &random;
+        SoundPlayer &errorSound;
     };
 
     explicit frmApp(const Needs &needs);

@@ -6,9 +6,12 @@
 #include "platform/InstancePlace.h"
 #include "platform/RegistryFile.h"
 #include "platform/SingleInstance.h"
+#include "platform/SoundPlayer.h"
 #include "print/QtDialogs.h"
 #include "print/QtPrinter.h"
 #include "quiz/frmSplash.h"
+#include "quiz/rules/RandomSource.h"
+#include "resources/ResourceFiles.h"
 #include "resources/StringTable.h"
 #include "services/modMsgBox.h"
 #include "services/rules/CommandLine.h"
@@ -40,6 +43,8 @@ struct Program
     QtDialogs dialogs{printer, [](const QString &, int, int) { return false; }};
     CommonFilePrompts prompts{dialogs, alert};
     CodePage codePage{CodePage::nameFor(QLocale())};
+    SeededRandom random;
+    DesktopSoundPlayer errorSound{ResourceFiles::contents(ResourceFiles::ErrorSound)};
 };
 
 void readSettings(Program &program)
@@ -118,7 +123,7 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     splash.setLoadStatus(frmSplash::StartUp);
     splash.Form_Load();
     frmApp window({program.flags, program.undo, program.settings, program.store, program.alert, program.prompts,
-                   program.codePage});
+                   program.codePage, program.random, program.errorSound});
     program.alert.setMainWindow(&window);
     program.prompts.setOwner(&window);
     QObject::connect(&window, &frmApp::closed, &application, &QApplication::quit);

@@ -1,0 +1,62 @@
+#include "quiz/frmLang.h"
+
+#include "document/ctlGrid.h"
+#include "document/frmDoc.h"
+#include "resources/StringTable.h"
+#include "services/FormTexts.h"
+
+#include "ui_frmLang.h"
+
+namespace {
+
+constexpr int LanguageId = 901;
+
+} // namespace
+
+frmLang::frmLang(frmDoc &document, QWidget *parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::frmLang>())
+    , m_document(document)
+{
+    m_ui->setupUi(this);
+    m_txtLang = {m_ui->txtLang0, m_ui->txtLang1};
+    for (QLineEdit *box : m_txtLang)
+        box->installEventFilter(this);
+    connect(m_ui->btnOK, &QPushButton::clicked, this, &frmLang::btnOK_Click);
+    connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
+    Form_Load();
+}
+
+frmLang::~frmLang() = default;
+
+void frmLang::Form_Load()
+{
+    setWindowIcon(m_document.windowIcon());
+    m_ui->lblLang0->setText(resText(LanguageId) + QStringLiteral(" &1"));
+    m_ui->lblLang1->setText(resText(LanguageId) + QStringLiteral(" &2"));
+    FormTexts::apply(this);
+    for (size_t i = 0; i < m_txtLang.size(); ++i) {
+        m_loadedNames[i] = m_document.Rutor()->TextMatrix(0, int(i) + 1);
+        m_txtLang[i]->setText(m_loadedNames[i]);
+    }
+}
+
+void frmLang::btnOK_Click()
+{
+    for (size_t i = 0; i < m_txtLang.size(); ++i) {
+        const QString typed = m_txtLang[i]->text();
+        m_document.Rutor()->setTextMatrix(0, int(i) + 1, typed.isEmpty() ? m_loadedNames[i] : typed);
+    }
+    m_document.refreshQuizMode();
+    m_document.setDirty(true);
+    accept();
+}
+
+bool frmLang::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *box = qobject_cast<QLineEdit *>(watched);
+    // Selected once the box has handled its focus, so that the click that brought it does not take the selection away.
+    if (box && event->type() == QEvent::FocusIn)
+        QMetaObject::invokeMethod(box, &QLineEdit::selectAll, Qt::QueuedConnection);
+    return QDialog::eventFilter(watched, event);
+}
