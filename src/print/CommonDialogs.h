@@ -3,20 +3,8 @@
 #include <QStringList>
 
 #include <optional>
-#include <stdexcept>
 
 class QWidget;
-
-/// The printer, or the dialog that chooses it, failed; what() is for the user, in UTF-8.
-class PrinterError : public std::runtime_error
-{
-public:
-    explicit PrinterError(const QString &text)
-        : std::runtime_error(text.toStdString())
-    {
-    }
-    QString text() const { return QString::fromUtf8(what()); }
-};
 
 /// What a file dialog is asked to show.
 struct FileRequest
@@ -73,7 +61,7 @@ public:
     virtual bool fileExists(const QString &path) = 0;
     virtual bool confirmReplace(QWidget *owner, const QString &title, const QString &path) = 0;
 
-    /// Both carry the chosen printer and its settings over to the program's printer; throw PrinterError.
+    /// Both carry the chosen printer and its settings over to the program's printer, and throw PrinterError.
     virtual std::optional<PrintChoice> choosePages(const PrintRequest &request) = 0;
     virtual bool setUpPrinter(QWidget *owner) = 0;
 

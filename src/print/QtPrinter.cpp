@@ -1,7 +1,6 @@
 #include "print/QtPrinter.h"
 
 #include "platform/Twips.h"
-#include "print/CommonDialogs.h"
 #include "print/PaintedSurface.h"
 #include "resources/StringTable.h"
 
@@ -121,22 +120,23 @@ void QtPrinter::setDocName(const QString &name)
         device.setOutputFileName(QFileInfo(device.outputFileName()).path() + u'/' + name + QStringLiteral(".pdf"));
 }
 
-void QtPrinter::beginDoc()
+void QtPrinter::startPage()
 {
+    if (m_painter) {
+        if (!printer().newPage() || printer().printerState() == QPrinter::Error)
+            fail();
+        return;
+    }
     m_painter = std::make_unique<QPainter>();
     if (!m_painter->begin(&printer()))
         fail();
     m_surface = std::make_unique<PaintedSurface>(*m_painter);
 }
 
-void QtPrinter::newPage()
-{
-    if (!printer().newPage() || printer().printerState() == QPrinter::Error)
-        fail();
-}
-
 void QtPrinter::endDoc()
 {
+    if (!m_painter)
+        return;
     const bool ended = m_painter->end() && printer().printerState() != QPrinter::Error;
     if (!ended || (writesFile() && !isWholePdf(printer().outputFileName())))
         fail();
@@ -153,11 +153,6 @@ void QtPrinter::fail()
     m_surface.reset();
     m_painter.reset();
     throw PrinterError(writesFile() ? resText(12404).arg(printer().outputFileName()) : resText(12403));
-}
-
-bool QtPrinter::uncollated() const
-{
-    return !printer().collateCopies();
 }
 
 bool QtPrinter::lastPageFirst() const

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "print/PrinterDevice.h"
+#include "print/rules/PrinterDevice.h"
 
 #include <QPrinter>
 
@@ -33,11 +33,9 @@ public:
     void drawText(int x, int y, const QString &text, bool rightToLeft) override;
 
     void setDocName(const QString &name) override;
-    void beginDoc() override;
-    void newPage() override;
+    void startPage() override;
     void endDoc() override;
 
-    bool uncollated() const override;
     bool lastPageFirst() const override;
     bool wantsPage(int page) const override;
 

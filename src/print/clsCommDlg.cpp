@@ -1,6 +1,7 @@
 #include "print/clsCommDlg.h"
 
 #include "print/rules/FileDialogRules.h"
+#include "print/rules/PrinterDevice.h"
 #include "resources/StringTable.h"
 #include "services/AlertBox.h"
 

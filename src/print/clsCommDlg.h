@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <stdexcept>
+
 class AlertBox;
 class QWidget;
 
