@@ -43,5 +43,6 @@ void PaintedSurface::setForeColor(QRgb color)
 void PaintedSurface::drawText(int x, int y, const QString &text, bool rightToLeft)
 {
     m_painter.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-    m_painter.drawText(QPointF(x, y + m_ascent), text);
+    const qreal left = rightToLeft ? x - m_painter.fontMetrics().horizontalAdvance(text) : x;
+    m_painter.drawText(QPointF(left, y + m_ascent), text);
 }

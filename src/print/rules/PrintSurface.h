@@ -42,7 +42,7 @@ public:
     virtual ~PrintSurface() = default;
     virtual void setFont(const PrintFont &font) = 0;
     virtual void setForeColor(QRgb color) = 0;
-    /// Draws one line of text with its top left corner at (x, y). rightToLeft is the direction of the whole line; words
-    /// of the other direction find their place in it.
+    /// Draws one line of text that begins at x, its top at y. A line that reads from right to left begins at its right
+    /// end; words of the other direction find their place in either.
     virtual void drawText(int x, int y, const QString &text, bool rightToLeft) = 0;
 };

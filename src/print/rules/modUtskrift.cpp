@@ -1,7 +1,7 @@
 #include "print/rules/modUtskrift.h"
 
+#include "print/rules/LineBreaker.h"
 #include "print/rules/PrinterDevice.h"
-#include "print/rules/WordBreaks.h"
 
 #include <QColor>
 
@@ -43,6 +43,8 @@ modUtskrift::modUtskrift(PrinterDevice &printer, PageStarted pageStarted)
 {
 }
 
+modUtskrift::~modUtskrift() = default;
+
 void modUtskrift::PrintLayout(Mode mode, const PrintSource &document)
 {
     readDocument(document);
@@ -68,7 +70,7 @@ void modUtskrift::readDocument(const PrintSource &document)
     m_lineHeight = m_measure->TextHeight() + LineSpacing;
     m_column2Left = m_printer.Width() / 2 + Column2Offset;
     m_columnGap = m_measure->TextWidth(QStringLiteral("ZZZZZZZZ"));
-    m_blankWidth = m_measure->TextWidth(QStringLiteral(" "));
+    m_lineBreaker = std::make_unique<LineBreaker>(*m_measure);
 }
 
 void modUtskrift::findPages()
@@ -168,79 +170,31 @@ void modUtskrift::PrintPageFooter()
 
 void modUtskrift::printHeading(const QString &text, int left, int right)
 {
-    if (!m_device)
-        return;
-    const bool rightToLeft = text.isRightToLeft();
-    const int x = rightToLeft ? right - m_columnGap - m_boldMeasure->TextWidth(text) : left;
-    draw(std::max(left, x), m_currentY, text, rightToLeft);
+    if (m_device)
+        printLine(text, *m_boldMeasure, left, right, text.isRightToLeft());
 }
 
 void modUtskrift::PrintWrapped(const QString &text, int left, int right)
 {
-    const int limit = right - m_columnGap;
-    m_currentX = left;
-    if (WordBreaks::hasRightToLeft(text))
-        return printMirrored(text, left, limit);
-    for (qsizetype start = 0, end = 0; start < text.size(); start = end + 1) {
-        end = text.indexOf(u' ', start);
-        if (end < 0)
-            end = text.size();
-        printWord(text.mid(start, end - start), left, limit);
-        m_currentX += m_blankWidth;
-    }
-}
-
-// A word of a script written without blanks is broken where its lines may break when it does not fit the column.
-void modUtskrift::printWord(const QString &word, int left, int limit)
-{
-    const int width = m_measure->TextWidth(word);
-    if (left + width > limit) {
-        const QStringList pieces = WordBreaks::pieces(word);
-        if (pieces.size() > 1) {
-            for (const QString &piece : pieces)
-                printWord(piece, left, limit);
-            return;
-        }
-    }
-    wraps(width, left, limit);
-    draw(m_currentX, m_currentY, word);
-    m_currentX += width;
-}
-
-/// Begins a new line when the word does not fit any more.
-bool modUtskrift::wraps(int width, int left, int limit)
-{
-    if (m_currentX + width <= limit)
-        return false;
-    m_currentY += m_lineHeight;
-    m_currentX = left;
-    return true;
-}
-
-// A text with right-to-left words breaks its lines at the same widths, but each line is drawn as a whole, so that its
-// words come in their reading order. One that begins with such a word reads from the right: its lines end at the
-// column's right limit, where the words of other texts stop.
-void modUtskrift::printMirrored(const QString &text, int left, int limit)
-{
+    const int width = right - m_columnGap - left;
+    if (!m_device && m_lineBreaker->surelyFits(text, width))
+        return;
+    const QStringList lines = m_lineBreaker->lines(text, width);
     const bool rightToLeft = text.isRightToLeft();
-    const auto drawLine = [&](const QString &line, int y) {
-        if (!m_device || line.isEmpty())
-            return;
-        const int x = rightToLeft ? std::max(left, limit - m_measure->TextWidth(line)) : left;
-        draw(x, y, line, rightToLeft);
-    };
-    QString line;
-    for (const QString &word : text.split(u' ')) {
-        const int width = m_measure->TextWidth(word);
-        const int y = m_currentY;
-        if (wraps(width, left, limit)) {
-            drawLine(line, y);
-            line.clear();
-        }
-        line += line.isEmpty() ? word : u' ' + word;
-        m_currentX += width + m_blankWidth;
+    for (const QString &line : lines) {
+        if (m_device)
+            printLine(line, *m_measure, left, right, rightToLeft);
+        m_currentY += m_lineHeight;
     }
-    drawLine(line, m_currentY);
+    m_currentY -= m_lineHeight;
+}
+
+// A text that reads from the right begins where the words of other texts end. One that is too wide runs over to the
+// right as others do.
+void modUtskrift::printLine(const QString &line, const TextMeasure &measure, int left, int right, bool rightToLeft)
+{
+    draw(rightToLeft ? std::max(right - m_columnGap, left + measure.TextWidth(line)) : left, m_currentY, line,
+         rightToLeft);
 }
 
 void modUtskrift::draw(int x, int y, const QString &text, bool rightToLeft)

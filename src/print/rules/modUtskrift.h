@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+class LineBreaker;
 class PrinterDevice;
 
 /// The one page layout for the printer and the preview. Everything is laid out in twips of the printed page with the
@@ -18,6 +19,7 @@ public:
     using PageStarted = std::function<void(int page)>;
 
     explicit modUtskrift(PrinterDevice &printer, PageStarted pageStarted = {});
+    ~modUtskrift();
 
     /// The pages that PrintMode draws, from 1; FromPage 0 stands for all.
     int FromPage = 0;
@@ -53,10 +55,8 @@ private:
     void PrintPageHeader();
     void PrintPageFooter();
     void PrintWrapped(const QString &text, int left, int right);
-    void printMirrored(const QString &text, int left, int limit);
     void printHeading(const QString &text, int left, int right);
-    void printWord(const QString &word, int left, int limit);
-    bool wraps(int width, int left, int limit);
+    void printLine(const QString &line, const TextMeasure &measure, int left, int right, bool rightToLeft);
     void draw(int x, int y, const QString &text, bool rightToLeft = false);
     void setColor(QRgb color);
     void setBold(bool bold);
@@ -75,15 +75,14 @@ private:
     QRgb m_textColor = 0;
     std::unique_ptr<TextMeasure> m_measure;
     std::unique_ptr<TextMeasure> m_boldMeasure;
+    std::unique_ptr<LineBreaker> m_lineBreaker;
     int m_lastRow = 0;
     int m_lineHeight = 0;
     int m_column2Left = 0;
     int m_columnGap = 0; ///< kept free before a column's right limit
-    int m_blankWidth = 0;
 
     // The page being laid out.
     PrintSurface *m_device = nullptr; ///< null while pages are only counted
     int m_page = 0;
-    int m_currentX = 0;
     int m_currentY = 0;
 };
