@@ -37,6 +37,8 @@ public:
     /// Draws a page (from 0) of the laid out document.
     void drawPage(int page, PrintSurface &device);
 
+    /// The title line of the last run.
+    const QString &PageTitle() const { return m_pageTitle; }
     /// The number of pages of the last run minus 1.
     int PageIndex() const { return int(m_pageStarts.size()) - 1; }
     int pageCount() const { return int(m_pageStarts.size()); }

@@ -1,0 +1,77 @@
+#include "print/PreviewPages.h"
+
+#include "platform/Twips.h"
+#include "print/PrintHost.h"
+#include "print/rules/modUtskrift.h"
+
+PreviewPages::PreviewPages(modUtskrift &layout, PrintHost &host)
+    : m_layout(layout)
+    , m_host(host)
+{
+}
+
+PreviewPages::~PreviewPages()
+{
+    delete m_window;
+}
+
+frmPrtPrev *PreviewPages::build(int page)
+{
+    closeAll();
+    m_window = new frmPrtPrev(m_layout, m_host.clientArea());
+    show(page);
+    return m_window;
+}
+
+// The window may be the sender of the signal that is being handled.
+void PreviewPages::closeAll()
+{
+    m_positions.clear();
+    if (!m_window)
+        return;
+    m_window->hide();
+    m_window->deleteLater();
+    m_window = nullptr;
+}
+
+int PreviewPages::count() const
+{
+    return m_window ? m_layout.pageCount() : 0;
+}
+
+int PreviewPages::visiblePage() const
+{
+    return m_window ? m_window->page() : -1;
+}
+
+void PreviewPages::show(int page)
+{
+    m_window->setPage(page);
+    m_window->move(m_positions.value(page, startPosition()));
+    m_window->show();
+    m_window->setFocus();
+}
+
+void PreviewPages::placeAgain()
+{
+    m_positions.clear();
+    if (m_window)
+        m_window->move(startPosition());
+}
+
+void PreviewPages::moveTo(QPoint position)
+{
+    m_positions.insert(visiblePage(), position);
+    m_window->move(position);
+}
+
+// Centred, less the height of the toolbars; a page that is larger than the area begins above it.
+QPoint PreviewPages::startPosition() const
+{
+    constexpr int leastLeft = 45; // twips
+    const QSize area = m_host.clientArea()->size();
+    int left = area.width() / 2 - m_window->width() / 2;
+    if (left < 0)
+        left = Twips::toPixelsX(leastLeft);
+    return {left, area.height() / 2 - m_window->height() / 2 - m_host.toolbarHeight()};
+}

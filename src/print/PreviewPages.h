@@ -1,0 +1,42 @@
+#pragma once
+
+#include "print/frmPrtPrev.h"
+
+#include <QHash>
+#include <QPointer>
+
+class PrintHost;
+class modUtskrift;
+
+/// The page windows of the preview as one list. However many pages there are, only the one that is looked at has a
+/// window; the others are remembered by where they were scrolled to.
+class PreviewPages
+{
+public:
+    PreviewPages(modUtskrift &layout, PrintHost &host);
+    ~PreviewPages();
+
+    /// Makes the window for the laid out pages and shows one of them (from 0). The window before it is gone then.
+    frmPrtPrev *build(int page);
+    void closeAll();
+    int count() const;
+
+    /// The page in the window, from 0; -1 when there is none.
+    int visiblePage() const;
+    /// Hides the visible page and shows another, where it was last.
+    void show(int page);
+
+    /// The visible page's window.
+    frmPrtPrev *window() const { return m_window; }
+    /// Puts every page back to where it stands at first, as after a resize of the client area.
+    void placeAgain();
+    void moveTo(QPoint position);
+
+private:
+    QPoint startPosition() const;
+
+    modUtskrift &m_layout;
+    PrintHost &m_host;
+    QPointer<frmPrtPrev> m_window;
+    QHash<int, QPoint> m_positions; ///< of the pages that were moved, in pixels of the client area
+};

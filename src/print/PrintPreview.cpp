@@ -1,0 +1,195 @@
+#include "print/PrintPreview.h"
+
+#include "platform/Twips.h"
+#include "print/BusyWindow.h"
+#include "print/PrintHost.h"
+#include "print/rules/modUtskrift.h"
+
+#include <QEvent>
+
+#include <algorithm>
+
+namespace {
+
+constexpr double FullSize = 1.0;
+constexpr double ThirdSize = 3.0;
+constexpr int ClickToZoom = 505;
+constexpr int GapBelow = 2000;  // twips between the bottom of a page scrolled to its end and the area's lower edge
+constexpr int GapAbove = 7;     // pixels for each unit of the divisor, above a page scrolled to its beginning
+constexpr int LinesOfArea = 12; // a small step is this part of the area's height
+
+} // namespace
+
+PrintPreview::PrintPreview(modUtskrift &layout, PrintHost &host, QObject *parent)
+    : QObject(parent)
+    , m_layout(layout)
+    , m_host(host)
+    , m_pages(layout, host)
+{
+}
+
+PrintPreview::~PrintPreview() = default;
+
+void PrintPreview::open(std::unique_ptr<PrintSource> document)
+{
+    const BusyWindow busy(m_host.window());
+    m_host.enterPreview();
+    m_document = std::move(document);
+    m_zoomDivisor = ThirdSize;
+    m_host.clientArea()->installEventFilter(this);
+    build(0);
+}
+
+void PrintPreview::close()
+{
+    if (!isOpen())
+        return;
+    m_host.clientArea()->removeEventFilter(this);
+    m_host.leavePreview();
+    m_pages.closeAll();
+    m_document.reset();
+    Q_EMIT closed();
+}
+
+void PrintPreview::rebuild(int page)
+{
+    const BusyWindow busy(m_host.window());
+    build(page);
+}
+
+void PrintPreview::build(int page)
+{
+    m_pages.closeAll();
+    m_layout.ZoomDivisor = m_zoomDivisor;
+    m_layout.PrintLayout(modUtskrift::PreviewMode, *m_document);
+    frmPrtPrev *window = m_pages.build(std::clamp(page, 0, m_layout.PageIndex()));
+    connect(window, &frmPrtPrev::zoomInRequested, this, [this] { zoom(m_zoomDivisor - 1); });
+    connect(window, &frmPrtPrev::zoomOutRequested, this, [this] { zoom(m_zoomDivisor + 1); });
+    connect(window, &frmPrtPrev::keyPressed, this, &PrintPreview::onKeyPressed);
+    connect(window, &frmPrtPrev::keyReleased, this, &PrintPreview::onKeyReleased);
+    connect(window, &frmPrtPrev::wheelTurned, this, &PrintPreview::onWheel);
+    connect(window, &frmPrtPrev::mouseMoved, this, [this] { Q_EMIT statusText(ClickToZoom); });
+    showPage(m_pages.visiblePage());
+}
+
+void PrintPreview::zoom(double divisor)
+{
+    if (divisor < FullSize || divisor > ThirdSize)
+        return;
+    m_zoomDivisor = divisor;
+    rebuild(m_pages.visiblePage());
+}
+
+void PrintPreview::showPage(int page)
+{
+    if (page < 0 || page >= m_pages.count())
+        return;
+    m_pages.show(page);
+    Q_EMIT buttonsChanged(page > 0, page < m_pages.count() - 1);
+}
+
+void PrintPreview::nextPage()
+{
+    showPage(m_pages.visiblePage() + 1);
+}
+
+void PrintPreview::previousPage()
+{
+    showPage(m_pages.visiblePage() - 1);
+}
+
+int PrintPreview::areaHeight() const
+{
+    return m_host.clientArea()->height();
+}
+
+int PrintPreview::topWhenScrolledUp() const
+{
+    return int(GapAbove * m_zoomDivisor);
+}
+
+int PrintPreview::topWhenScrolledDown() const
+{
+    return areaHeight() - Twips::toPixelsY(GapBelow) - pageWindow()->height();
+}
+
+// Both go as far as the page's end in one step, but not past what has not been seen yet.
+void PrintPreview::pageDown()
+{
+    const frmPrtPrev *page = pageWindow();
+    if (page->y() + page->height() <= areaHeight())
+        return nextPage();
+    const int step = areaHeight() - areaHeight() / LinesOfArea;
+    m_pages.moveTo({page->x(), std::max(topWhenScrolledDown(), page->y() - step)});
+}
+
+void PrintPreview::pageUp()
+{
+    const frmPrtPrev *page = pageWindow();
+    if (page->y() >= 0)
+        return previousPage();
+    const int step = areaHeight() - areaHeight() / LinesOfArea;
+    m_pages.moveTo({page->x(), std::min(topWhenScrolledUp(), page->y() + step)});
+}
+
+// Keeps within the ends that the page keys scroll to; what is wholly visible does not move.
+void PrintPreview::scrollBy(int dx, int dy)
+{
+    const QRect page = pageWindow()->geometry();
+    const QRect area = m_host.clientArea()->rect();
+    QPoint position = page.topLeft();
+    if (page.height() > area.height() || page.top() < 0)
+        position.ry() = std::clamp(page.top() + dy, std::min(topWhenScrolledDown(), page.top()),
+                                   std::max(topWhenScrolledUp(), page.top()));
+    if (page.width() > area.width())
+        position.rx() = std::clamp(page.left() + dx, area.width() - page.width(), std::max(0, page.left()));
+    m_pages.moveTo(position);
+}
+
+void PrintPreview::onKeyReleased(int key)
+{
+    key == Qt::Key_PageDown ? pageDown() : pageUp();
+}
+
+void PrintPreview::onKeyPressed(int key)
+{
+    const int step = areaHeight() / LinesOfArea;
+    switch (key) {
+    case Qt::Key_Down:
+        return scrollBy(0, -step);
+    case Qt::Key_Up:
+        return scrollBy(0, step);
+    case Qt::Key_Right:
+        return scrollBy(-step, 0);
+    case Qt::Key_Left:
+        return scrollBy(step, 0);
+    case Qt::Key_Home:
+        return showPage(0);
+    case Qt::Key_End:
+        return showPage(m_pages.count() - 1);
+    case Qt::Key_Plus:
+        return zoom(m_zoomDivisor - 1);
+    case Qt::Key_Minus:
+        return zoom(m_zoomDivisor + 1);
+    case Qt::Key_Escape:
+        return close();
+    default:
+        return;
+    }
+}
+
+void PrintPreview::onWheel(int pixels)
+{
+    const QRect page = pageWindow()->geometry();
+    if (!m_host.clientArea()->rect().contains(page))
+        scrollBy(0, pixels);
+    else if (pixels != 0)
+        pixels < 0 ? nextPage() : previousPage();
+}
+
+bool PrintPreview::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Resize)
+        m_pages.placeAgain();
+    return QObject::eventFilter(watched, event);
+}

@@ -1,0 +1,88 @@
+#include "print/frmPrtPrev.h"
+
+#include "platform/Twips.h"
+#include "print/PaintedSurface.h"
+#include "print/rules/modUtskrift.h"
+#include "resources/StringTable.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+namespace {
+
+/// Keys that turn or scroll pages when they come up; every other key acts when it goes down.
+bool actsOnRelease(int key)
+{
+    return key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+}
+
+} // namespace
+
+frmPrtPrev::frmPrtPrev(modUtskrift &layout, QWidget *parent)
+    : QWidget(parent)
+    , m_layout(layout)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    resize(Twips::toPixelsX(layout.pageWidth()), Twips::toPixelsY(layout.pageHeight()));
+}
+
+void frmPrtPrev::setPage(int page)
+{
+    m_page = page;
+    setAccessibleName(resText(12406).arg(page + 1).arg(m_layout.pageCount()));
+    update();
+}
+
+// Paper is white in every palette.
+void frmPrtPrev::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::white);
+    painter.setPen(Qt::gray);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    painter.scale(1 / Twips::perPixelX(), 1 / Twips::perPixelY());
+    PaintedSurface surface(painter);
+    m_layout.drawPage(m_page, surface);
+}
+
+void frmPrtPrev::keyPressEvent(QKeyEvent *event)
+{
+    if (!actsOnRelease(event->key()))
+        Q_EMIT keyPressed(event->key());
+}
+
+void frmPrtPrev::keyReleaseEvent(QKeyEvent *event)
+{
+    if (actsOnRelease(event->key()))
+        Q_EMIT keyReleased(event->key());
+}
+
+void frmPrtPrev::mouseMoveEvent(QMouseEvent *)
+{
+    Q_EMIT mouseMoved();
+}
+
+void frmPrtPrev::mousePressEvent(QMouseEvent *)
+{
+    setFocus(Qt::MouseFocusReason);
+}
+
+void frmPrtPrev::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    if (event->modifiers() & Qt::ControlModifier)
+        Q_EMIT zoomOutRequested();
+    else
+        Q_EMIT zoomInRequested();
+}
+
+void frmPrtPrev::wheelEvent(QWheelEvent *event)
+{
+    Q_EMIT wheelTurned(event->angleDelta().y() / 2);
+}
