@@ -103,6 +103,11 @@ int PrintPreview::areaHeight() const
     return m_host.clientArea()->height();
 }
 
+int PrintPreview::areaStep() const
+{
+    return areaHeight() - areaHeight() / LinesOfArea;
+}
+
 int PrintPreview::topWhenScrolledUp() const
 {
     return int(GapAbove * m_zoomDivisor);
@@ -113,14 +118,15 @@ int PrintPreview::topWhenScrolledDown() const
     return areaHeight() - Twips::toPixelsY(GapBelow) - pageWindow()->height();
 }
 
-// Both go as far as the page's end in one step, but not past what has not been seen yet.
+// Both go to the page's end in one step, unless that would pass over something that has not been seen: then nearly the
+// height of the area.
 void PrintPreview::pageDown()
 {
     const frmPrtPrev *page = pageWindow();
     if (page->y() + page->height() <= areaHeight())
         return nextPage();
-    const int step = areaHeight() - areaHeight() / LinesOfArea;
-    m_pages.moveTo({page->x(), std::max(topWhenScrolledDown(), page->y() - step)});
+    const int end = topWhenScrolledDown();
+    m_pages.moveTo({page->x(), page->y() - end > areaHeight() ? page->y() - areaStep() : end});
 }
 
 void PrintPreview::pageUp()
@@ -128,8 +134,8 @@ void PrintPreview::pageUp()
     const frmPrtPrev *page = pageWindow();
     if (page->y() >= 0)
         return previousPage();
-    const int step = areaHeight() - areaHeight() / LinesOfArea;
-    m_pages.moveTo({page->x(), std::min(topWhenScrolledUp(), page->y() + step)});
+    const int end = topWhenScrolledUp();
+    m_pages.moveTo({page->x(), end - page->y() > areaHeight() ? page->y() + areaStep() : end});
 }
 
 // Keeps within the ends that the page keys scroll to; what is wholly visible does not move.

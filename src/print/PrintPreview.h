@@ -63,6 +63,7 @@ private:
     int topWhenScrolledUp() const;
     int topWhenScrolledDown() const;
     int areaHeight() const;
+    int areaStep() const;
 
     modUtskrift &m_layout;
     PrintHost &m_host;

@@ -3,66 +3,13 @@
 #include "print/QtDialogs.h"
 #include "print/QtPrinter.h"
 #include "print/rules/FileDialogRules.h"
-#include "services/AlertBox.h"
+#include "support/ScriptedDialogs.h"
 
 #include <QAbstractItemView>
 #include <QFileDialog>
 #include <QMessageBox>
 
 namespace {
-
-/// Answers as a user would, and keeps what it was asked.
-class ScriptedDialogs : public CommonDialogs
-{
-public:
-    QStringList chosen; ///< names chosen one after the other; then Cancel
-    QStringList existing;
-    QStringList replaced; ///< what confirmReplace was asked
-    QList<bool> replaceAnswers;
-    std::optional<PrintChoice> pages;
-    QString printerFault;
-    bool helpThere = true;
-    QString helpAsked;
-    FileRequest file;
-    PrintRequest print;
-
-    std::optional<FileChoice> openFile(const FileRequest &request) override { return saveFile(request); }
-    std::optional<FileChoice> saveFile(const FileRequest &request) override
-    {
-        file = request;
-        return chosen.isEmpty() ? std::nullopt : std::optional(FileChoice{chosen.takeFirst(), 0});
-    }
-    bool fileExists(const QString &path) override { return existing.contains(path); }
-    bool confirmReplace(QWidget *, const QString &, const QString &path) override
-    {
-        replaced.append(path);
-        return replaceAnswers.takeFirst();
-    }
-    std::optional<PrintChoice> choosePages(const PrintRequest &request) override
-    {
-        print = request;
-        if (!printerFault.isEmpty())
-            throw PrinterError(printerFault);
-        return pages;
-    }
-    bool setUpPrinter(QWidget *) override { return pages.has_value(); }
-    bool callHelp(QWidget *, const QString &helpFile, int command, int key) override
-    {
-        helpAsked = QStringLiteral("%1 %2 %3").arg(helpFile).arg(command).arg(key);
-        return helpThere;
-    }
-};
-
-class SilentAlertBox : public AlertBox
-{
-public:
-    QList<Alert> shown;
-    Answer show(QWidget *, const Alert &alert) override
-    {
-        shown.append(alert);
-        return AnswerOk;
-    }
-};
 
 class CommDlg : public ::testing::Test
 {

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "print/CommonDialogs.h"
+#include "print/rules/PrinterDevice.h"
+#include "services/AlertBox.h"
+
+#include <functional>
+
+/// Answers the common dialogs as a user would, and keeps what it was asked.
+class ScriptedDialogs : public CommonDialogs
+{
+public:
+    QStringList chosen; ///< names chosen one after the other; then Cancel
+    QStringList existing;
+    QStringList replaced; ///< what confirmReplace was asked
+    QList<bool> replaceAnswers;
+    std::optional<PrintChoice> pages; ///< empty: the print dialogs are cancelled
+    QString printerFault;
+    std::function<void()> duringSetup; ///< what the user does in the page setup
+    bool helpThere = true;
+    QString helpAsked;
+    FileRequest file;
+    PrintRequest print;
+
+    std::optional<FileChoice> openFile(const FileRequest &request) override { return saveFile(request); }
+    std::optional<FileChoice> saveFile(const FileRequest &request) override
+    {
+        file = request;
+        return chosen.isEmpty() ? std::nullopt : std::optional(FileChoice{chosen.takeFirst(), 0});
+    }
+    bool fileExists(const QString &path) override { return existing.contains(path); }
+    bool confirmReplace(QWidget *, const QString &, const QString &path) override
+    {
+        replaced.append(path);
+        return replaceAnswers.takeFirst();
+    }
+    std::optional<PrintChoice> choosePages(const PrintRequest &request) override
+    {
+        print = request;
+        if (!printerFault.isEmpty())
+            throw PrinterError(printerFault);
+        return pages;
+    }
+    bool setUpPrinter(QWidget *) override
+    {
+        if (duringSetup)
+            duringSetup();
+        return duringSetup != nullptr;
+    }
+    bool callHelp(QWidget *, const QString &helpFile, int command, int key) override
+    {
+        helpAsked = QStringLiteral("%1 %2 %3").arg(helpFile).arg(command).arg(key);
+        return helpThere;
+    }
+};
+
+/// Keeps the alerts that were shown; every one is answered with OK.
+class SilentAlertBox : public AlertBox
+{
+public:
+    QList<Alert> shown;
+    Answer show(QWidget *, const Alert &alert) override
+    {
+        shown.append(alert);
+        return AnswerOk;
+    }
+};
