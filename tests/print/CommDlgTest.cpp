@@ -3,6 +3,7 @@
 #include "print/QtDialogs.h"
 #include "print/QtPrinter.h"
 #include "print/rules/FileDialogRules.h"
+#include "support/ScriptedAlertBox.h"
 #include "support/ScriptedDialogs.h"
 
 #include <QAbstractItemView>
@@ -15,7 +16,7 @@ class CommDlg : public ::testing::Test
 {
 protected:
     ScriptedDialogs dialogs;
-    SilentAlertBox alerts;
+    ScriptedAlertBox alerts;
     clsCommDlg dialog{dialogs, alerts};
 
     void prepareSave(const QString &proposed)
@@ -76,7 +77,7 @@ TEST_F(CommDlg, CancelIsAnErrorAndLeavesTheProperties)
     EXPECT_THROW(dialog.setAction(clsCommDlg::ActionPrint), CommDlgCancelled);
     EXPECT_NO_THROW(dialog.setAction(3));
     EXPECT_NO_THROW(dialog.setAction(4));
-    EXPECT_TRUE(alerts.shown.isEmpty());
+    EXPECT_TRUE(alerts.shown.empty());
 }
 
 TEST_F(CommDlg, PrintOffersThePagesAndTakesTheChoice)
@@ -103,10 +104,10 @@ TEST_F(CommDlg, AFailingPrinterIsReportedAndThrown)
 {
     dialogs.printerFault = QStringLiteral("no paper");
     EXPECT_THROW(dialog.setAction(clsCommDlg::ActionPrint), CommDlgError);
-    ASSERT_EQ(alerts.shown.size(), 1);
-    EXPECT_EQ(alerts.shown.first().title, QStringLiteral("Printer Error"));
-    EXPECT_EQ(alerts.shown.first().prompt, QStringLiteral("no paper"));
-    EXPECT_TRUE(alerts.shown.first().exclamation);
+    ASSERT_EQ(alerts.shown.size(), 1U);
+    EXPECT_EQ(alerts.shown.front().title, QStringLiteral("Printer Error"));
+    EXPECT_EQ(alerts.shown.front().prompt, QStringLiteral("no paper"));
+    EXPECT_TRUE(alerts.shown.front().exclamation);
 }
 
 TEST_F(CommDlg, HelpIsCalledWithTheKeyAsANumber)
@@ -143,7 +144,7 @@ protected:
     QTemporaryDir folder;
     QtPrinter printer;
     QtDialogs dialogs{printer, [](const QString &, int, int) { return false; }};
-    SilentAlertBox alerts;
+    ScriptedAlertBox alerts;
     clsCommDlg dialog{dialogs, alerts};
 
     void SetUp() override

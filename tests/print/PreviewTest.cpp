@@ -2,6 +2,7 @@
 
 #include "print/PrintHost.h"
 #include "support/RecordingPrinter.h"
+#include "support/ScriptedAlertBox.h"
 #include "support/ScriptedDialogs.h"
 
 #include <QSignalSpy>
@@ -39,7 +40,7 @@ protected:
     MainWindow host;
     RecordingPrinter printer;
     ScriptedDialogs dialogs;
-    SilentAlertBox alerts;
+    ScriptedAlertBox alerts;
     PrintCommands commands{printer, dialogs, alerts, host};
     PrintPreview &preview = commands.preview();
     QSignalSpy buttons{&preview, &PrintPreview::buttonsChanged};
@@ -323,7 +324,7 @@ TEST_F(Printing, CancelPrintsNothingAndSaysNothing)
     source.fill(5);
     commands.PrintDocument(source);
     EXPECT_TRUE(printer.sheets.empty());
-    EXPECT_TRUE(alerts.shown.isEmpty());
+    EXPECT_TRUE(alerts.shown.empty());
     EXPECT_TRUE(host.status.isEmpty());
 }
 
@@ -334,9 +335,9 @@ TEST_F(Printing, APrinterThatFailsInTheMiddleIsReported)
     printer.failingSheet = 4;
     commands.PrintDocument(source);
     EXPECT_EQ(printer.sheets.size(), 3U);
-    ASSERT_EQ(alerts.shown.size(), 1);
-    EXPECT_EQ(alerts.shown.first().title, QStringLiteral("Printer Error"));
-    EXPECT_EQ(alerts.shown.first().prompt, QStringLiteral("out of paper"));
+    ASSERT_EQ(alerts.shown.size(), 1U);
+    EXPECT_EQ(alerts.shown.front().title, QStringLiteral("Printer Error"));
+    EXPECT_EQ(alerts.shown.front().prompt, QStringLiteral("out of paper"));
     EXPECT_TRUE(host.frame.updatesEnabled());
     EXPECT_FALSE(QApplication::overrideCursor());
 }

@@ -2,7 +2,6 @@
 
 #include "print/CommonDialogs.h"
 #include "print/rules/PrinterDevice.h"
-#include "services/AlertBox.h"
 
 #include <functional>
 
@@ -51,17 +50,5 @@ public:
     {
         helpAsked = QStringLiteral("%1 %2 %3").arg(helpFile).arg(command).arg(key);
         return helpThere;
-    }
-};
-
-/// Keeps the alerts that were shown; every one is answered with OK.
-class SilentAlertBox : public AlertBox
-{
-public:
-    QList<Alert> shown;
-    Answer show(QWidget *, const Alert &alert) override
-    {
-        shown.append(alert);
-        return AnswerOk;
     }
 };
