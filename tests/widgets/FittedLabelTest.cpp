@@ -4,11 +4,6 @@ namespace {
 
 const QString LongPhrase = QStringLiteral("a phrase that is a good deal longer than the label that has to show it");
 
-double shownWidth(const FittedLabel &label)
-{
-    return QFontMetricsF(label.font()).horizontalAdvance(label.text());
-}
-
 } // namespace
 
 TEST(FittedLabelTest, ATextThatFitsStandsWholeWithoutTooltip)
@@ -20,31 +15,21 @@ TEST(FittedLabelTest, ATextThatFitsStandsWholeWithoutTooltip)
     EXPECT_EQ(QString(), label.toolTip());
 }
 
-TEST(FittedLabelTest, ALongTextEndsInAnEllipsisAndStandsInTheTooltip)
-{
-    FittedLabel label;
-    label.resize(150, 30);
-    label.setFullText(LongPhrase);
-    EXPECT_TRUE(label.text().endsWith(QChar(0x2026)));
-    EXPECT_TRUE(LongPhrase.startsWith(label.text().chopped(1)));
-    EXPECT_LE(shownWidth(label), 150 * FittedLabel::UsableWidth);
-    EXPECT_EQ(LongPhrase, label.toolTip());
-    EXPECT_EQ(LongPhrase, label.accessibleName());
-}
-
-TEST(FittedLabelTest, ResizingFitsAnew)
+TEST(FittedLabelTest, ALongTextIsCutToTheWidthOfTheMomentAndStandsInTheTooltip)
 {
     QWidget window;
     FittedLabel label(&window);
-    label.resize(150, 30);
     window.show();
     label.setFullText(LongPhrase);
     label.resize(1200, 30);
     EXPECT_EQ(LongPhrase, label.text());
     EXPECT_EQ(QString(), label.toolTip());
-    label.resize(100, 30);
+    label.resize(150, 30);
+    EXPECT_TRUE(label.text().endsWith(QChar(0x2026)));
+    EXPECT_TRUE(LongPhrase.startsWith(label.text().chopped(1)));
+    EXPECT_LE(QFontMetricsF(label.font()).horizontalAdvance(label.text()), 150 * FittedLabel::UsableWidth);
     EXPECT_EQ(LongPhrase, label.toolTip());
-    EXPECT_LE(shownWidth(label), 100 * FittedLabel::UsableWidth);
+    EXPECT_EQ(LongPhrase, label.accessibleName());
 }
 
 TEST(FittedLabelTest, TheUsableWidthIsExact)

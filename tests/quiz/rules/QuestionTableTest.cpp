@@ -4,9 +4,9 @@
 
 #include <QSet>
 
-#include <set>
-
 namespace {
+
+constexpr QuizKind Kinds[] = {QuizKind::Practice, QuizKind::MultipleChoice, QuizKind::QuestionAndAnswer};
 
 QStringList column(const QuestionTable &table, const QString &(Question::*field)() const)
 {
@@ -46,16 +46,11 @@ TEST(RandomSourceTest, NumbersReachBothEndsAndNothingElse)
     EXPECT_EQ(6, fixed.iGenRndNumber(6, 4));
     EXPECT_EQ(32767, fixed.iGenRndNumber(32767, 1));
 
-    SeededRandom random(1);
+    SeededRandom random;
     std::array<int, 3> counts{};
     for (int i = 0; i < 3000; ++i)
         ++counts.at(size_t(random.iGenRndNumber(6, 4) - 4));
-    for (int count : counts)
-        EXPECT_NEAR(1000, count, 150);
-}
-
-TEST(RandomSourceTest, TwoProgramRunsDrawDifferentNumbers)
-{
+    EXPECT_THAT(counts, testing::Each(testing::AllOf(testing::Gt(800), testing::Lt(1200))));
     EXPECT_NE(SeededRandom().draw(), SeededRandom().draw());
 }
 
@@ -87,39 +82,29 @@ TEST(QuestionTableTest, NeedsEnoughWordsAndTakesOnlyAsManyAsItCanNumber)
         SCOPED_TRACE(size.words);
         QuestionTable table;
         SeededRandom random(3);
-        const ListWords words = ListWords::numbered(size.words);
-        EXPECT_EQ(size.built, table.fByggMatriser(size.kind, size.mode, words, random));
+        EXPECT_EQ(size.built, table.fByggMatriser(size.kind, size.mode, ListWords::numbered(size.words), random));
         EXPECT_EQ(size.built ? size.words * (size.mode == 5 ? 2 : 1) : 0, table.count());
     }
 }
 
 TEST(QuestionTableTest, OnlyRowsWithAFirstWordCount)
 {
-    const ListWords words(
-        {{u"", u"allein"}, {u"alone", u""}, {u" ", u"Leerzeichen"}, {u"", u""}, {u"last", u"letzte"}});
+    const ListWords words{{u"", u"allein"}, {u"alone", u""}, {u" ", u"Leerzeichen"}, {u"", u""}, {u"last", u"letzte"}};
     SeededRandom random(1);
     QuestionTable table;
     ASSERT_TRUE(table.fByggMatriser(QuizKind::Practice, 1, words, random));
     EXPECT_THAT(column(table, &Question::askedWord), testing::ElementsAre(u"alone", u" ", u"last"));
     EXPECT_THAT(column(table, &Question::correctAnswer), testing::ElementsAre(u"", u"Leerzeichen", u"letzte"));
 
-    QuestionTable none;
-    EXPECT_FALSE(none.fByggMatriser(QuizKind::Practice, 5, ListWords{{u"", u"allein"}}, random));
-}
-
-TEST(QuestionTableTest, AFailedSetUpLeavesTheTableAsItWas)
-{
-    QuestionTable table;
-    SeededRandom random(1);
-    ASSERT_TRUE(table.fByggMatriser(QuizKind::Practice, 1, ListWords::numbered(4), random));
-    EXPECT_FALSE(table.fByggMatriser(QuizKind::MultipleChoice, 1, ListWords::numbered(2), random));
-    EXPECT_EQ(numbered(u'e', 4), column(table, &Question::askedWord));
+    // Without a word there is no quiz, and the table stays as it was.
+    EXPECT_FALSE(table.fByggMatriser(QuizKind::Practice, 5, ListWords{{u"", u"allein"}}, random));
+    EXPECT_EQ(3, table.count());
 }
 
 TEST(QuestionTableTest, EachModeAsksEveryWordInItsDirectionAndOrder)
 {
     constexpr int Words = 60;
-    for (QuizKind kind : {QuizKind::Practice, QuizKind::MultipleChoice, QuizKind::QuestionAndAnswer}) {
+    for (QuizKind kind : Kinds) {
         for (int mode = 1; mode <= 5; ++mode) {
             SCOPED_TRACE(mode);
             QuestionTable table;
@@ -141,19 +126,12 @@ TEST(QuestionTableTest, EachModeAsksEveryWordInItsDirectionAndOrder)
                 EXPECT_EQ(fromEnglish ? u"English" : u"German", question.askedLanguage());
                 EXPECT_EQ(fromEnglish ? u"German" : u"English", question.answerLanguage());
                 EXPECT_EQ((fromEnglish ? u'g' : u'e') + question.askedWord().mid(1), question.correctAnswer());
+                if (kind != QuizKind::MultipleChoice) {
+                    EXPECT_EQ(u"4", question.field(3) + question.field(5) + question.field(6));
+                }
             }
         }
     }
-}
-
-TEST(QuestionTableTest, TheNextQuizHasAnotherOrder)
-{
-    QuestionTable first;
-    QuestionTable second;
-    SeededRandom random(1);
-    first.fByggMatriser(QuizKind::Practice, 3, ListWords::numbered(60), random);
-    second.fByggMatriser(QuizKind::Practice, 3, ListWords::numbered(60), random);
-    EXPECT_NE(column(first, &Question::askedWord), column(second, &Question::askedWord));
 }
 
 TEST(QuestionTableTest, MultipleChoiceOffersTwoOtherWordsOfTheAnswersLanguage)
@@ -162,7 +140,7 @@ TEST(QuestionTableTest, MultipleChoiceOffersTwoOtherWordsOfTheAnswersLanguage)
         QuestionTable table;
         SeededRandom random(5);
         ASSERT_TRUE(table.fByggMatriser(QuizKind::MultipleChoice, 5, ListWords::numbered(words), random));
-        std::set<int> positions;
+        QSet<int> positions;
         QSet<QString> wrong;
         for (int k = 1; k <= table.count(); ++k) {
             const Question &question = table.question(k);
@@ -176,19 +154,6 @@ TEST(QuestionTableTest, MultipleChoiceOffersTwoOtherWordsOfTheAnswersLanguage)
             wrong += options - QSet<QString>{question.correctAnswer()};
         }
         EXPECT_GT(wrong.size(), words);
-        if (words > 3) {
-            EXPECT_EQ((std::set{4, 5, 6}), positions);
-        }
-    }
-}
-
-TEST(QuestionTableTest, OtherKindsHaveOneOption)
-{
-    QuestionTable table;
-    SeededRandom random(5);
-    ASSERT_TRUE(table.fByggMatriser(QuizKind::QuestionAndAnswer, 5, ListWords::numbered(9), random));
-    for (int k = 1; k <= table.count(); ++k) {
-        EXPECT_EQ(u"4", table.question(k).field(3));
-        EXPECT_EQ(QString(), table.question(k).field(5) + table.question(k).field(6));
+        EXPECT_TRUE(words == 3 || positions == (QSet<int>{4, 5, 6}));
     }
 }
