@@ -181,27 +181,53 @@ void frmDoc::rememberEntry()
 void frmDoc::onBeforeEdit()
 {
     m_shared.flags.gridMode = false;
-    m_shared.undo.selection.Row = m_grid->Row();
-    m_shared.undo.selection.Col = m_grid->Col();
-    rememberEntry();
+    m_textBeforeEdit = m_grid->Text();
+    // a search opens the edit box to show a match: that alone is nothing to undo
+    if (!m_shared.flags.searching()) {
+        m_shared.undo.selection.Row = m_grid->Row();
+        m_shared.undo.selection.Col = m_grid->Col();
+        rememberEntry();
+    }
     Q_EMIT editingChanged(true);
     m_shared.status.ShowStatus(503);
 }
 
 void frmDoc::onAfterEdit(int row, int col, const QString &text)
 {
+    ceasedToEdit();
+    if (!m_shared.flags.searching() || text != m_textBeforeEdit)
+        noteEntry(row, col);
+    makeRoomFor(row, col, text);
+}
+
+void frmDoc::noteEntry(int row, int col)
+{
     setDirty(true);
+    if (m_shared.undo.kind() == UndoKind::Replace)
+        return;
+    m_shared.undo.selection.Row = row;
+    m_shared.undo.selection.Col = col;
+    m_shared.undo.entryText = m_textBeforeEdit;
+    m_shared.undo.setKind(UndoKind::Entry, this);
+}
+
+void frmDoc::ceasedToEdit()
+{
     m_shared.status.ShowStatus(506);
     m_shared.flags.gridMode = true;
     Q_EMIT editingChanged(false);
-    if (m_shared.undo.kind() != UndoKind::Replace)
-        m_shared.undo.setKind(UndoKind::Entry, this);
-    growRow(row, col, text);
-    if (row >= m_grid->Rows() - 1)
-        m_grid->AddItem(QString::number(m_grid->Rows()));
 }
 
-void frmDoc::growRow(int row, int col, const QString &text)
+void frmDoc::endEdit()
+{
+    if (m_grid->EditMode()) {
+        m_grid->setEditMode(false);
+        ceasedToEdit();
+    }
+    m_grid->setFocus();
+}
+
+void frmDoc::makeRoomFor(int row, int col, const QString &text)
 {
     const QFontMetricsF metrics(m_grid->Font());
     const int width = int(std::lround(metrics.horizontalAdvance(text) * Twips::perPixelX()));
@@ -210,6 +236,8 @@ void frmDoc::growRow(int row, int col, const QString &text)
     const int grown = GridRules::grownRowHeight(width, height, m_grid->ColWidth(col), present);
     if (grown != present)
         m_grid->setRowHeight(row, grown);
+    if (row >= m_grid->Rows() - 1)
+        m_grid->AddItem(QString::number(m_grid->Rows()));
 }
 
 void frmDoc::onKeyDown(int, int shift)
@@ -222,7 +250,7 @@ void frmDoc::onKeyPress(int keyAscii)
     if (keyAscii == KeyEnter)
         walk(m_shiftAlone);
     else if (keyAscii == KeyEscape)
-        onAfterEdit(m_grid->Row(), m_grid->Col(), m_shared.undo.entryText);
+        onAfterEdit(m_grid->Row(), m_grid->Col(), m_textBeforeEdit);
     else if (keyAscii > KeyEscape)
         rememberEntry();
 }

@@ -59,6 +59,11 @@ public:
 
     /// Stores the text of a cell that is being edited in the cell. The edit box stays.
     void commitRunningEdit();
+    /// Ends editing; what was typed is kept. The grid gets the focus.
+    void endEdit();
+    /// To be called when a cell has got a new text: makes its row taller if the text needs it, and appends a row when
+    /// the cell stands in the last one.
+    void makeRoomFor(int row, int col, const QString &text);
 
     QString language(int column) const;
     /// The selected rectangle of cells.
@@ -94,13 +99,15 @@ private:
     void onRowColChange();
     void onMouseMove();
     void onMouseUp(int button, float x, float y);
-    void growRow(int row, int col, const QString &text);
+    void noteEntry(int row, int col);
+    void ceasedToEdit();
     void walk(bool backwards);
     void rememberEntry();
     void showEditStatus();
 
     Shared m_shared;
     ctlGrid *m_grid;
+    QString m_textBeforeEdit;
     QString m_docName;
     QString m_caption;
     int m_tag = 0;

@@ -1,0 +1,246 @@
+#include "document/EditCommands.h"
+
+#include "document/ctlGrid.h"
+#include "document/ctlGridEdit.h"
+#include "document/frmDoc.h"
+#include "document/modUndo.h"
+#include "services/rules/ProgramFlags.h"
+
+#include <QClipboard>
+
+namespace {
+
+constexpr int Columns = 2;
+
+/// The edit box's own undo, which the next one takes back. False when there is nothing to undo.
+bool undoInEditBox(frmDoc &document)
+{
+    ctlGridEdit &box = *document.Rutor()->hwndText();
+    if (!box.canUndoText())
+        return false;
+    box.undoText();
+    return true;
+}
+
+void keepLastRowEmpty(ctlGrid &grid)
+{
+    const int last = grid.Rows() - 1;
+    if (!grid.TextMatrix(last, 1).isEmpty() || !grid.TextMatrix(last, 2).isEmpty())
+        grid.setRows(grid.Rows() + 1);
+}
+
+/// The cells that a clipboard text takes when it is pasted into a selection.
+GridSelection pastedCells(const GridSelection &selection, const std::vector<ClipText::Row> &rows)
+{
+    if (selection.rowCount() > 1 || selection.colCount() > 1)
+        return selection;
+    size_t fields = 1;
+    for (const ClipText::Row &row : rows)
+        fields = std::max(fields, row.size());
+    const int top = selection.top();
+    const int left = selection.left();
+    return {top, left, top + int(rows.size()) - 1, int(std::min(size_t(Columns), size_t(left) + fields - 1))};
+}
+
+} // namespace
+
+EditCommands::EditCommands(UndoRecord &record, const ProgramFlags &flags, QClipboard &clipboard)
+    : m_record(record)
+    , m_flags(flags)
+    , m_clipboard(clipboard)
+{
+}
+
+void EditCommands::Copy(frmDoc &document)
+{
+    ctlGrid &grid = *document.Rutor();
+    m_clipboard.clear();
+    if (!m_flags.gridMode) {
+        grid.hwndText()->copyText();
+        return;
+    }
+    m_clipboard.setText(grid.Clip());
+    grid.setFocus();
+}
+
+void EditCommands::Cut(frmDoc &document)
+{
+    ctlGrid &grid = *document.Rutor();
+    if (m_flags.gridMode) {
+        recordCells(document, document.selection());
+        m_clipboard.setText(grid.Clip());
+        emptySelection(document);
+        document.setDirty(true);
+        grid.setFocus();
+    } else {
+        grid.hwndText()->cutText();
+    }
+    m_record.setKind(UndoKind::Cut, &document);
+}
+
+void EditCommands::Paste(frmDoc &document)
+{
+    if (!m_flags.gridMode) {
+        document.Rutor()->hwndText()->pasteText();
+        m_record.setKind(UndoKind::Paste, &document);
+        return;
+    }
+    document.Rutor()->setFocus();
+    const std::vector<ClipText::Row> rows = ClipText::parse(m_clipboard.text());
+    if (rows.empty())
+        return;
+    fillCells(document, pastedCells(document.selection(), rows), rows);
+    document.setDirty(true);
+    m_record.setKind(UndoKind::Paste, &document);
+}
+
+void EditCommands::fillCells(frmDoc &document, const GridSelection &cells, const std::vector<ClipText::Row> &rows)
+{
+    ctlGrid &grid = *document.Rutor();
+    const int rowsBefore = grid.Rows();
+    grid.setRedraw(false);
+    grid.setRows(std::max(rowsBefore, cells.bottom() + 1));
+    recordCells(document, cells);
+    for (int row = cells.top(); row <= cells.bottom() && row - cells.top() < int(rows.size()); ++row) {
+        const ClipText::Row &fields = rows[size_t(row - cells.top())];
+        for (int col = cells.left(); col <= cells.right() && col - cells.left() < int(fields.size()); ++col)
+            grid.setTextMatrix(row, col, fields[size_t(col - cells.left())]);
+    }
+    keepLastRowEmpty(grid);
+    m_record.addedRows = grid.Rows() - rowsBefore;
+    grid.setRedraw(true);
+}
+
+void EditCommands::Clear(frmDoc &document)
+{
+    recordCells(document, document.selection());
+    emptySelection(document);
+    m_record.setKind(UndoKind::Clear, &document);
+}
+
+void EditCommands::Insert(frmDoc &document)
+{
+    m_record.selection = document.selection();
+    document.Rutor()->insertRows(m_record.selection.top(), m_record.selection.rowCount());
+    document.select(m_record.selection);
+    m_record.setKind(UndoKind::Insert, &document);
+}
+
+void EditCommands::Delete(frmDoc &document)
+{
+    ctlGrid &grid = *document.Rutor();
+    const GridSelection selection = document.selection();
+    recordCells(document, selection);
+    const int rowsBefore = grid.Rows();
+    const bool everyRow = selection.rowCount() == rowsBefore - 1;
+    m_record.removedRows = selection.rowCount() - (everyRow ? 1 : 0);
+    grid.setRedraw(false);
+    grid.removeRows(selection.top(), m_record.removedRows);
+    if (everyRow) {
+        for (int col = 1; col <= Columns; ++col)
+            grid.setTextMatrix(1, col, QString());
+    }
+    keepLastRowEmpty(grid);
+    m_record.addedRows = grid.Rows() - rowsBefore + m_record.removedRows;
+    document.select(selection);
+    grid.setRedraw(true);
+    document.setDirty(true);
+    m_record.setKind(UndoKind::Delete, &document);
+}
+
+void EditCommands::Undo(frmDoc &document)
+{
+    if (m_record.belongsTo(&document) && !reverse(document))
+        return;
+    m_record.clear();
+}
+
+/// False when the edit box reversed its typing: it can take that back, so the record stays.
+bool EditCommands::reverse(frmDoc &document)
+{
+    switch (m_record.kind()) {
+    case UndoKind::Insert:
+        document.select(m_record.selection);
+        document.Rutor()->removeRows(m_record.selection.top(), m_record.selection.rowCount());
+        break;
+    case UndoKind::Delete:
+        undoDelete(document);
+        break;
+    case UndoKind::Clear:
+        undoCells(document);
+        break;
+    case UndoKind::Cut:
+    case UndoKind::Paste:
+        if (m_flags.gridMode)
+            undoCells(document);
+        else
+            undoInEditBox(document);
+        break;
+    case UndoKind::Entry:
+        document.Rutor()->setRow(m_record.selection.Row);
+        document.Rutor()->setCol(m_record.selection.Col);
+        document.Rutor()->setText(m_record.entryText);
+        break;
+    case UndoKind::Typing:
+        return !undoInEditBox(document);
+    case UndoKind::Sort:
+    case UndoKind::Replace:
+        modUndo::UndoSnapshotRestore(document, m_record);
+        break;
+    case UndoKind::None:
+        break;
+    }
+    return true;
+}
+
+void EditCommands::undoCells(frmDoc &document)
+{
+    ctlGrid &grid = *document.Rutor();
+    grid.setRedraw(false);
+    restoreCells(grid);
+    grid.setRows(grid.Rows() - m_record.addedRows);
+    document.select(m_record.selection);
+    grid.setRedraw(true);
+    grid.setFocus();
+}
+
+void EditCommands::undoDelete(frmDoc &document)
+{
+    ctlGrid &grid = *document.Rutor();
+    grid.setRedraw(false);
+    grid.setRows(grid.Rows() - m_record.addedRows);
+    grid.insertRows(m_record.selection.top(), m_record.removedRows);
+    restoreCells(grid);
+    document.select(m_record.selection);
+    grid.setRedraw(true);
+    document.setDirty(true);
+}
+
+void EditCommands::recordCells(frmDoc &document, const GridSelection &cells)
+{
+    const ctlGrid &grid = *document.Rutor();
+    m_record.selection = document.selection();
+    m_record.overwritten = {cells, {}};
+    m_record.overwritten.words.reserve(size_t(cells.rowCount()) * size_t(cells.colCount()));
+    for (int row = cells.top(); row <= cells.bottom(); ++row) {
+        for (int col = cells.left(); col <= cells.right(); ++col)
+            m_record.overwritten.words.push_back(grid.TextMatrix(row, col));
+    }
+    m_record.addedRows = m_record.removedRows = 0;
+}
+
+void EditCommands::restoreCells(ctlGrid &grid) const
+{
+    const GridSelection &cells = m_record.overwritten.cells;
+    auto word = m_record.overwritten.words.cbegin();
+    for (int row = cells.top(); row <= cells.bottom(); ++row) {
+        for (int col = cells.left(); col <= cells.right(); ++col)
+            grid.setTextMatrix(row, col, *word++);
+    }
+}
+
+void EditCommands::emptySelection(frmDoc &document)
+{
+    const GridSelection selection = document.selection();
+    document.Rutor()->setClip(ClipText::emptyClip(selection.rowCount(), selection.colCount()));
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "document/rules/ClipText.h"
+#include "document/rules/UndoRecord.h"
+
+class QClipboard;
+class ctlGrid;
+class frmDoc;
+struct ProgramFlags;
+
+/// The commands of the Edit menu that change a document, and their undo. While the grid is browsing they act on its
+/// selection, while a cell is being edited on the edit box. Each leaves a record of what it did, Copy excepted.
+class EditCommands
+{
+public:
+    /// All three outlive the object.
+    EditCommands(UndoRecord &record, const ProgramFlags &flags, QClipboard &clipboard);
+
+    void Copy(frmDoc &document);
+    void Cut(frmDoc &document);
+    /// A single selected cell takes the whole clipboard text from there on, as far as it reaches; a larger selection is
+    /// filled and nothing beyond it. Without a text on the clipboard nothing happens in the grid.
+    void Paste(frmDoc &document);
+    void Clear(frmDoc &document);
+    /// Inserts as many empty rows as are selected above them.
+    void Insert(frmDoc &document);
+    /// Deletes the selected rows. When they are all rows, the last of them stays, emptied.
+    void Delete(frmDoc &document);
+    /// Reverses what the record names, if it belongs to this document.
+    void Undo(frmDoc &document);
+
+private:
+    void recordCells(frmDoc &document, const GridSelection &cells);
+    void restoreCells(ctlGrid &grid) const;
+    void emptySelection(frmDoc &document);
+    void fillCells(frmDoc &document, const GridSelection &cells, const std::vector<ClipText::Row> &rows);
+
+    bool reverse(frmDoc &document);
+    void undoCells(frmDoc &document);
+    void undoDelete(frmDoc &document);
+
+    UndoRecord &m_record;
+    const ProgramFlags &m_flags;
+    QClipboard &m_clipboard;
+};

@@ -1,0 +1,259 @@
+#include "document/EditCommands.h"
+
+#include "document/ctlGridEdit.h"
+#include "support/OpenDocument.h"
+#include "widgets/FlexGridView.h"
+
+#include <QClipboard>
+
+namespace {
+
+using Words = OpenDocument::Words;
+
+class Editing : public ::testing::Test, protected OpenDocument
+{
+protected:
+    Editing()
+        : OpenDocument(Words{{"a", "b"}, {"c", "d"}, {"e", "f"}})
+    {
+    }
+
+    void paste(const QString &text)
+    {
+        clipboard.setText(text);
+        commands.Paste(document);
+    }
+    void expectUndone(const Words &expected)
+    {
+        commands.Undo(document);
+        EXPECT_EQ(words(), expected);
+        EXPECT_EQ(undo.kind(), UndoKind::None);
+    }
+
+    QClipboard &clipboard = *QGuiApplication::clipboard();
+    EditCommands commands{undo, flags, clipboard};
+    const Words before = words();
+};
+
+TEST_F(Editing, CopyPutsTheCellsOnTheClipboard)
+{
+    select(2, 2, 1, 1);
+    commands.Copy(document);
+    EXPECT_EQ(clipboard.text(), "a\tb\rc\td");
+    EXPECT_EQ(undo.kind(), UndoKind::None);
+    EXPECT_FALSE(document.Dirty());
+}
+
+TEST_F(Editing, CutEmptiesTheSelection)
+{
+    select(1, 2, 3, 2);
+    commands.Cut(document);
+    EXPECT_EQ(clipboard.text(), "b\rd\rf");
+    EXPECT_EQ(words(), (Words{{"a", ""}, {"c", ""}, {"e", ""}, {}}));
+    EXPECT_EQ(undo.kind(), UndoKind::Cut);
+    EXPECT_TRUE(document.Dirty());
+    select(1, 1, 1, 1);
+    expectUndone(before);
+    EXPECT_EQ(document.selection(), (GridSelection{1, 2, 3, 2}));
+}
+
+TEST_F(Editing, ClearLeavesDirtyAlone)
+{
+    select(3, 2, 2, 1);
+    commands.Clear(document);
+    EXPECT_EQ(words(), (Words{{"a", "b"}, {}, {}, {}}));
+    EXPECT_EQ(undo.kind(), UndoKind::Clear);
+    expectUndone(before);
+    EXPECT_FALSE(document.Dirty());
+}
+
+TEST_F(Editing, InsertMovesTheSelectedRowsDown)
+{
+    grid.setRowHeight(2, 900);
+    select(3, 1, 2, 1);
+    commands.Insert(document);
+    EXPECT_EQ(words(), (Words{{"a", "b"}, {}, {}, {"c", "d"}, {"e", "f"}, {}}));
+    EXPECT_EQ(grid.RowHeight(4), 900);
+    EXPECT_EQ(grid.TextMatrix(4, 0), "4");
+    EXPECT_EQ(undo.kind(), UndoKind::Insert);
+    EXPECT_FALSE(document.Dirty());
+    select(1, 1, 1, 1);
+    expectUndone(before);
+    EXPECT_EQ(document.selection(), (GridSelection{3, 1, 2, 1}));
+}
+
+TEST_F(Editing, DeleteAndItsUndoGiveBackTheSelectedCells)
+{
+    select(2, 1, 3, 1);
+    commands.Delete(document);
+    EXPECT_EQ(words(), (Words{{"a", "b"}, {}}));
+    EXPECT_TRUE(document.Dirty());
+    expectUndone({{"a", "b"}, {"c", ""}, {"e", ""}, {}});
+}
+
+TEST_F(Editing, DeleteOfEveryRowLeavesAnEmptyOne)
+{
+    select(4, 2, 1, 1);
+    commands.Delete(document);
+    EXPECT_EQ(words(), (Words{{}}));
+    expectUndone(before);
+}
+
+TEST_F(Editing, DeleteOfTheLastRowLeavesAnEmptyOneBehind)
+{
+    select(4, 1, 4, 2);
+    commands.Delete(document);
+    EXPECT_EQ(words(), before);
+    expectUndone(before);
+}
+
+TEST_F(Editing, PasteIntoOneCellReachesAsFarAsTheText)
+{
+    struct Case
+    {
+        int row, col;
+        QString text;
+        Words result;
+    };
+    const Case cases[] = {
+        {1, 1, "x", {{"x", "b"}, {"c", "d"}, {"e", "f"}, {}}},
+        {2, 1, "x\ty\nz\n", {{"a", "b"}, {"x", "y"}, {"z", "f"}, {}}},
+        {2, 2, "x\ty\r\nz\r\n", {{"a", "b"}, {"c", "x"}, {"e", "z"}, {}}},
+        {3, 1, "x\ty\tw\r\r1\t2\r3", {{"a", "b"}, {"c", "d"}, {"x", "y"}, {"", "f"}, {"1", "2"}, {"3", ""}, {}}},
+        {4, 2, "x", {{"a", "b"}, {"c", "d"}, {"e", "f"}, {"", "x"}, {}}},
+        {1, 1, "\"x\ny\"\tz", {{"x y", "z"}, {"c", "d"}, {"e", "f"}, {}}},
+        {1, 1, "\t", {{"", ""}, {"c", "d"}, {"e", "f"}, {}}},
+    };
+    for (const Case &test : cases) {
+        SCOPED_TRACE(test.text.toStdString());
+        setWords({{"a", "b"}, {"c", "d"}, {"e", "f"}});
+        if (test.row == 3)
+            grid.setTextMatrix(4, 2, "f"); // a row without a field keeps what it has
+        const Words present = words();
+        select(test.row, test.col, test.row, test.col);
+        paste(test.text);
+        EXPECT_EQ(words(), test.result);
+        EXPECT_EQ(undo.kind(), UndoKind::Paste);
+        expectUndone(present);
+        EXPECT_EQ(document.selection(), (GridSelection{test.row, test.col, test.row, test.col}));
+    }
+}
+
+TEST_F(Editing, PasteFillsALargerSelectionOnly)
+{
+    select(1, 1, 2, 1);
+    paste("x\ty\nz\nw");
+    EXPECT_EQ(words(), (Words{{"x", "b"}, {"z", "d"}, {"e", "f"}, {}}));
+    EXPECT_TRUE(document.Dirty());
+    expectUndone(before);
+    select(2, 1, 4, 2);
+    paste("x\n\t\nz");
+    EXPECT_EQ(words(), (Words{{"a", "b"}, {"x", "d"}, {"", ""}, {"z", ""}, {}}));
+    expectUndone(before);
+}
+
+TEST_F(Editing, PasteOfNothingChangesNothing)
+{
+    clipboard.clear();
+    commands.Paste(document);
+    EXPECT_EQ(words(), before);
+    EXPECT_EQ(undo.kind(), UndoKind::None);
+    EXPECT_FALSE(document.Dirty());
+}
+
+TEST_F(Editing, WhileACellIsEditedTheCommandsActOnTheEditBox)
+{
+    QTest::keyClicks(grid.hwndGrid(), "xyz");
+    ASSERT_TRUE(grid.EditMode());
+    grid.SelectEditText(0, 2);
+    commands.Copy(document);
+    EXPECT_EQ(clipboard.text(), "xy");
+    commands.Cut(document);
+    EXPECT_EQ(grid.EditText(), "z");
+    EXPECT_EQ(undo.kind(), UndoKind::Cut);
+    commands.Undo(document);
+    EXPECT_EQ(grid.EditText(), "xyz");
+    grid.SelectEditText(3, 0);
+    commands.Paste(document);
+    EXPECT_EQ(grid.EditText(), "xyzxy");
+    EXPECT_EQ(words(), before);
+    QTest::keyClick(grid.hwndText(), Qt::Key_Return);
+    EXPECT_EQ(grid.TextMatrix(1, 1), "xyzxy");
+    EXPECT_EQ(undo.kind(), UndoKind::Entry);
+    expectUndone(before);
+}
+
+TEST_F(Editing, UndoOfTypingTogglesAndEndsWhenThereIsNoTyping)
+{
+    QTest::mouseDClick(grid.hwndGrid()->viewport(), Qt::LeftButton, {}, {100, 30});
+    ASSERT_TRUE(grid.EditMode());
+    const QString text = grid.EditText();
+    QTest::keyClicks(grid.hwndText(), "xy");
+    EXPECT_EQ(undo.kind(), UndoKind::Typing);
+    for (const QString &expected : {text, QString(text + "xy"), text}) {
+        commands.Undo(document);
+        EXPECT_EQ(grid.EditText(), expected);
+        EXPECT_EQ(undo.kind(), UndoKind::Typing);
+    }
+    QTest::keyClick(grid.hwndText(), Qt::Key_Return);
+    grid.setEditMode(true);
+    commands.Undo(document);
+    EXPECT_EQ(undo.kind(), UndoKind::None);
+}
+
+TEST_F(Editing, UndoActsOnTheDocumentOfTheRecordOnly)
+{
+    commands.Clear(document);
+    OpenDocument other(Words{{"1", "2"}});
+    const Words otherWords = other.words();
+    commands.Undo(other.document);
+    EXPECT_EQ(other.words(), otherWords);
+    EXPECT_EQ(undo.kind(), UndoKind::None);
+}
+
+TEST_F(Editing, UndoGivesBackEveryWordOnRandomChanges)
+{
+    std::mt19937 engine(5);
+    const QStringList texts{"", "w", "\"x", "y\"", "p\tq", "long word"};
+    const auto text = [&] { return texts[int(engine() % unsigned(texts.size()))]; };
+    for (int round = 0; round < 600; ++round) {
+        Words random(engine() % 5);
+        for (auto &row : random)
+            row = {text(), text()};
+        setWords(random);
+        const Words present = words();
+        const auto anyRow = [&] { return 1 + int(engine() % present.size()); };
+        select(anyRow(), 1 + int(engine() % 2), anyRow(), 1 + int(engine() % 2));
+        const GridSelection selection = document.selection();
+        const int kind = int(engine() % 5);
+        switch (kind) {
+        case 0:
+            commands.Cut(document);
+            break;
+        case 1:
+            paste(text() + (engine() % 2 ? "\n" : "\t") + text() + "\r" + text());
+            break;
+        case 2:
+            commands.Clear(document);
+            break;
+        case 3:
+            commands.Insert(document);
+            break;
+        default:
+            commands.Delete(document);
+        }
+        Words expected = present;
+        for (int row = 1; kind == 4 && row < int(present.size()) + 1; ++row) {
+            for (int col = 1; col <= 2; ++col) {
+                if (row >= selection.top() && row <= selection.bottom() &&
+                    (col < selection.left() || col > selection.right()))
+                    expected[size_t(row) - 1][size_t(col) - 1].clear();
+            }
+        }
+        commands.Undo(document);
+        ASSERT_EQ(words(), expected) << "round " << round << " kind " << kind;
+        ASSERT_EQ(document.selection(), selection);
+    }
+}
+
+} // namespace

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "document/ctlGrid.h"
+#include "document/frmDoc.h"
+#include "platform/RegistryTree.h"
+#include "services/modSBFunc.h"
+#include "services/rules/ProgramFlags.h"
+#include "services/rules/clsAppProperties.h"
+
+#include <array>
+#include <random>
+
+/// A document window with a vocabulary, shown in a main window, and all that the program shares with it.
+struct OpenDocument
+{
+    using Words = std::vector<std::array<QString, 2>>;
+
+    /// The words and an empty last row. Nothing has changed since, and there is nothing to undo.
+    explicit OpenDocument(const Words &words = {})
+    {
+        window.resize(900, 700);
+        document.setParent(&window);
+        document.setUpGrid(window.size());
+        setWords(words);
+        window.show();
+        document.showDocument();
+        window.activateWindow();
+        undo.clear();
+        document.setDirty(false);
+    }
+
+    void setWords(const Words &words)
+    {
+        grid.setRows(1);
+        grid.setRows(int(words.size()) + 2);
+        for (int i = 0; i < int(words.size()); ++i) {
+            for (int col = 0; col < 2; ++col)
+                grid.setTextMatrix(i + 1, col + 1, words[size_t(i)][size_t(col)]);
+        }
+        grid.Select(1, 1, 1, 1);
+    }
+
+    /// Every data row, the empty last one included.
+    Words words() const
+    {
+        Words words;
+        for (int row = 1; row < grid.Rows(); ++row)
+            words.push_back({grid.TextMatrix(row, 1), grid.TextMatrix(row, 2)});
+        return words;
+    }
+
+    void select(int row, int col, int rowSel, int colSel) { grid.Select(row, col, rowSel, colSel); }
+
+    ProgramFlags flags;
+    UndoRecord undo;
+    modSBFunc status{flags};
+    RegistryTree store;
+    clsAppProperties settings{store, QStringLiteral("/usr/bin/glosaria")};
+    QWidget window;
+    frmDoc document{{flags, undo, status, settings}};
+    ctlGrid &grid = *document.Rutor();
+};
