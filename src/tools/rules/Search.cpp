@@ -4,13 +4,13 @@ void Search::ResetSearch()
 {
     CurRow = CurCol = CurPos = 1;
     MatchCount = 0;
+    FoundAny = false;
 }
 
 void Search::EndRegion()
 {
     ResetSearch();
     SearchDone = true;
-    FoundAny = false;
 }
 
 TextFinder Search::finder() const

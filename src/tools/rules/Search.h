@@ -30,7 +30,7 @@ public:
     int CurCol = 1;
     int CurPos = 1;
     int MatchCount = 0;      ///< matches since the last reset
-    bool FoundAny = false;   ///< a match since the last end of the region
+    bool FoundAny = false;   ///< a match since the last reset
     bool SearchDone = false; ///< the region was searched to its end
 
     /// Begins again at the first row.

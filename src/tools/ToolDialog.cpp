@@ -1,0 +1,65 @@
+#include "tools/ToolDialog.h"
+
+#include "document/ctlGrid.h"
+#include "document/frmDoc.h"
+#include "platform/Twips.h"
+#include "tools/rules/DialogPlace.h"
+
+#include <QScreen>
+#include <QShowEvent>
+#include <QStyle>
+
+ToolDialog::ToolDialog(frmDoc &document, QWidget *owner)
+    : QDialog(owner)
+    , m_document(document)
+{
+    setWindowIcon(document.windowIcon());
+}
+
+QPoint ToolDialog::preferredPlace(const QRect &owner, const QSize &frame) const
+{
+    QRect centred(QPoint(), frame);
+    centred.moveCenter(owner.center());
+    return centred.topLeft();
+}
+
+void ToolDialog::place()
+{
+    const QRect owner = parentWidget()->window()->frameGeometry();
+    const QSize frame = frameSize();
+    move(DialogPlace::topLeft(
+        {frame, preferredPlace(owner, frame), owner, screen()->availableGeometry(), shownSelection()}));
+}
+
+bool ToolDialog::hidesSelection() const
+{
+    return frameGeometry().intersects(shownSelection());
+}
+
+void ToolDialog::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    if (!event->spontaneous())
+        place();
+}
+
+/// The part of the selection that is shown, in pixels of the screen.
+QRect ToolDialog::shownSelection() const
+{
+    const ctlGrid &grid = *m_document.Rutor();
+    const GridSelection selection = m_document.selection();
+    const int top = std::clamp(grid.TopRow(), selection.top(), selection.bottom());
+    const QPoint topLeft(Twips::toPixelsX(grid.ColPos(selection.left())), Twips::toPixelsY(grid.RowPos(top)));
+    const QPoint bottomRight(Twips::toPixelsX(grid.ColPos(selection.right()) + grid.ColWidth(selection.right())),
+                             Twips::toPixelsY(grid.RowPos(selection.bottom()) + grid.RowHeight(selection.bottom())));
+    const QRect shown = QRect(topLeft, bottomRight - QPoint(1, 1)) & grid.rect();
+    return shown.translated(grid.mapToGlobal(QPoint()));
+}
+
+/// The dialog's size with its frame, also before the window system has given it one.
+QSize ToolDialog::frameSize() const
+{
+    const QSize extra = frameGeometry().size() - size();
+    const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+    return size() + (extra.isNull() ? QSize(0, titleBar) : extra);
+}

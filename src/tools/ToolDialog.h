@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QDialog>
+
+class frmDoc;
+
+/// A dialog about the active document: it takes the document's icon and opens where the user still sees the selected
+/// cells.
+class ToolDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    ToolDialog(frmDoc &document, QWidget *owner);
+
+protected:
+    frmDoc &document() const { return m_document; }
+    /// Where the dialog goes unless it would hide the selection there: the middle of the owner. frame is its size with
+    /// the frame.
+    virtual QPoint preferredPlace(const QRect &owner, const QSize &frame) const;
+    /// Moves the dialog to that place, or beside the selection.
+    void place();
+    bool hidesSelection() const;
+
+    void showEvent(QShowEvent *event) override;
+
+private:
+    QRect shownSelection() const;
+    QSize frameSize() const;
+
+    frmDoc &m_document;
+};

@@ -1,0 +1,249 @@
+#include "tools/frmFindReplace.h"
+
+#include "ui_frmFindReplace.h"
+
+#include "document/frmDoc.h"
+#include "document/modUndo.h"
+#include "platform/Twips.h"
+#include "resources/StringTable.h"
+#include "services/AlertBox.h"
+#include "services/FormTexts.h"
+#include "services/rules/ProgramFlags.h"
+#include "tools/DocumentCells.h"
+#include "tools/rules/ReplaceAll.h"
+
+namespace {
+
+constexpr int ReplaceHeight = 700; ///< twips that the replace layout is higher
+constexpr int BottomMargin = 400;  ///< twips between the dialog and the lower edge of the main window
+
+/// Shows the hourglass pointer while it lives.
+class Hourglass
+{
+public:
+    Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~Hourglass() { QApplication::restoreOverrideCursor(); }
+    Q_DISABLE_COPY_MOVE(Hourglass)
+};
+
+} // namespace
+
+frmFindReplace::frmFindReplace(frmDoc &document, const Needs &needs, QWidget *owner)
+    : ToolDialog(document, owner)
+    , m_ui(std::make_unique<Ui::frmFindReplace>())
+    , m_needs(needs)
+    , m_snapshot(modUndo::takeSnapshot(*document.Rutor()))
+{
+    m_ui->setupUi(this);
+    FormTexts::apply(this);
+    setUpControls();
+    setLayoutFor(needs.flags.ReplaceMode);
+    connectControls();
+    needs.flags.FindMode = true;
+}
+
+frmFindReplace::~frmFindReplace() = default;
+
+void frmFindReplace::setUpControls()
+{
+    FormTexts::setCaption(m_ui->optScope1, QStringLiteral("&1 ") + FormTexts::escapeMnemonic(document().language(1)));
+    FormTexts::setCaption(m_ui->optScope2, QStringLiteral("&2 ") + FormTexts::escapeMnemonic(document().language(2)));
+    m_ui->txtFind->setText(document().Rutor()->Text());
+    m_ui->txtFind->selectAll();
+    restart();
+}
+
+void frmFindReplace::connectControls()
+{
+    connect(m_ui->btnFind, &QPushButton::clicked, this, [this] { FindNext(Find); });
+    connect(m_ui->btnReplace, &QPushButton::clicked, this, [this] {
+        if (m_replaceLayout)
+            FindNext(ReplaceAndFind);
+        else
+            widen();
+    });
+    connect(m_ui->btnReplaceAll, &QPushButton::clicked, this, &frmFindReplace::ReplaceAllMatches);
+    connect(m_ui->btnCancel, &QPushButton::clicked, this, &frmFindReplace::reject);
+    connect(m_ui->txtFind, &QLineEdit::textChanged, this, &frmFindReplace::restart);
+    for (QAbstractButton *option :
+         {static_cast<QAbstractButton *>(m_ui->chkCase), static_cast<QAbstractButton *>(m_ui->chkWord),
+          static_cast<QAbstractButton *>(m_ui->optScope0), static_cast<QAbstractButton *>(m_ui->optScope1),
+          static_cast<QAbstractButton *>(m_ui->optScope2)})
+        connect(option, &QAbstractButton::clicked, this, &frmFindReplace::restart);
+}
+
+void frmFindReplace::restart()
+{
+    m_search.ResetSearch();
+    const bool searchable = !m_ui->txtFind->text().isEmpty();
+    for (QPushButton *button : {m_ui->btnFind, m_ui->btnReplace, m_ui->btnReplaceAll})
+        button->setEnabled(searchable);
+}
+
+void frmFindReplace::setLayoutFor(bool replace)
+{
+    m_replaceLayout = replace;
+    FormTexts::setCaption(this, replace ? 7001 : 7000);
+    FormTexts::setWhatsThis(this, replace ? 20051 : 20043);
+    FormTexts::setHelpContextId(this, replace ? 1170 : 1160);
+    FormTexts::setCaption(m_ui->btnReplace, replace ? 7007 : 7008);
+    FormTexts::setWhatsThis(m_ui->btnReplace, replace ? 20053 : 20049);
+    const QSize whole = sizeWithReplace(true);
+    const QSize find = sizeWithReplace(false);
+    const int replaceHeight = std::max(whole.height(), find.height() + Twips::toPixelsY(ReplaceHeight));
+    sizeWithReplace(replace);
+    setFixedSize(whole.width(), replace ? replaceHeight : find.height());
+}
+
+QSize frmFindReplace::sizeWithReplace(bool shown)
+{
+    m_ui->lblReplace->setVisible(shown);
+    m_ui->txtReplace->setVisible(shown);
+    m_ui->btnReplaceAll->setVisible(shown);
+    layout()->activate();
+    return layout()->totalSizeHint();
+}
+
+void frmFindReplace::widen()
+{
+    setLayoutFor(true);
+    m_needs.flags.FindMode = false;
+    m_needs.flags.ReplaceMode = true;
+    m_ui->txtReplace->setFocus();
+    place();
+}
+
+void frmFindReplace::showAgain(bool replace)
+{
+    if (replace && !m_replaceLayout)
+        widen();
+    show();
+    raise();
+    activateWindow();
+}
+
+QPoint frmFindReplace::preferredPlace(const QRect &owner, const QSize &frame) const
+{
+    return {owner.right() + 1 - frame.width(), owner.bottom() + 1 - frame.height() - Twips::toPixelsY(BottomMargin)};
+}
+
+void frmFindReplace::ReadOptions()
+{
+    m_search.SearchFlags = m_ui->optScope0->isChecked()   ? SearchFlag::WholeDocument
+                           : m_ui->optScope1->isChecked() ? SearchFlag::Language1
+                                                          : SearchFlag::Language2;
+    if (m_ui->chkCase->isChecked())
+        m_search.SearchFlags |= SearchFlag::MatchCase;
+    if (m_ui->chkWord->isChecked())
+        m_search.SearchFlags |= SearchFlag::WholeWords;
+    m_search.FindWhat = m_ui->txtFind->text();
+    m_ReplaceWith = m_ui->txtReplace->text();
+}
+
+void frmFindReplace::FindNext(Mode mode)
+{
+    std::optional<Search::Match> match;
+    {
+        const Hourglass hourglass;
+        if (mode == ReplaceAndFind)
+            replaceMatch();
+        keepTyped();
+        ReadOptions();
+        match = m_search.FindNext(GridCells(*document().Rutor()));
+        if (match)
+            showMatch(*match);
+    }
+    if (!match)
+        endRegion(resText(m_search.FoundAny ? 7014 : 7013));
+}
+
+void frmFindReplace::replaceMatch()
+{
+    ctlGrid &grid = *document().Rutor();
+    const Qt::CaseSensitivity sensitivity =
+        m_search.SearchFlags & SearchFlag::MatchCase ? Qt::CaseSensitive : Qt::CaseInsensitive;
+    const bool isMatch = grid.EditMode() && grid.Row() == m_search.CurRow && grid.Col() == m_search.CurCol &&
+                         !m_search.FindWhat.isEmpty() && grid.SelText().compare(m_search.FindWhat, sensitivity) == 0;
+    if (!isMatch)
+        return;
+    grid.setSelText(m_ReplaceWith);
+    grid.setTextMatrix(m_search.CurRow, m_search.CurCol, grid.EditText());
+    noteReplacement();
+    m_search.SkipReplacement(m_ReplaceWith);
+}
+
+void frmFindReplace::noteReplacement()
+{
+    m_ReplaceWasMade = true;
+    document().setDirty(true);
+}
+
+void frmFindReplace::showMatch(const Search::Match &match)
+{
+    ctlGrid &grid = *document().Rutor();
+    grid.setRow(match.row);
+    grid.setCol(match.col);
+    if (!grid.RowIsVisible(match.row))
+        grid.setTopRow(match.row);
+    grid.setEditMode(true);
+    grid.SelectEditText(match.start, match.length);
+    if (hidesSelection())
+        place();
+}
+
+void frmFindReplace::ReplaceAllMatches()
+{
+    int count = 0;
+    {
+        const Hourglass hourglass;
+        document().endEdit();
+        ReadOptions();
+        ctlGrid &grid = *document().Rutor();
+        grid.setRedraw(false);
+        DocumentCells cells(document());
+        count = ReplaceAll(m_search, m_ReplaceWith).run(cells);
+        grid.setRedraw(true);
+        if (count > 0)
+            noteReplacement();
+    }
+    endRegion(resText(7014) + u' ' + QString::number(count) + resText(7015));
+}
+
+void frmFindReplace::endRegion(const QString &message)
+{
+    m_needs.alert.show(this, {message, resText(507), Alert::Ok, 0, true});
+    m_search.EndRegion();
+}
+
+/// What the user has typed into the cell editor is stored, so that the search sees it and keeps it.
+void frmFindReplace::keepTyped()
+{
+    ctlGrid &grid = *document().Rutor();
+    if (grid.EditMode() && grid.EditText() != grid.Text())
+        document().commitRunningEdit();
+}
+
+void frmFindReplace::leaveDocument()
+{
+    m_ReplaceWasMade = false;
+    close();
+}
+
+void frmFindReplace::done(int result)
+{
+    if (m_open) {
+        m_open = false;
+        document().endEdit();
+        m_needs.flags.FindMode = m_needs.flags.ReplaceMode = false;
+        if (m_ReplaceWasMade)
+            leaveUndoStep();
+    }
+    ToolDialog::done(result);
+}
+
+void frmFindReplace::leaveUndoStep()
+{
+    m_needs.undo.selection = document().selection();
+    m_needs.undo.snapshot = std::move(m_snapshot);
+    m_needs.undo.setKind(UndoKind::Replace, &document());
+}

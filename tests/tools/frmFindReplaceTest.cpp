@@ -1,0 +1,203 @@
+#include "tools/frmFindReplace.h"
+
+#include "document/EditCommands.h"
+#include "document/ctlGridEdit.h"
+#include "services/FormTexts.h"
+#include "support/OpenDocument.h"
+#include "support/ScriptedAlertBox.h"
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QRadioButton>
+
+namespace {
+
+using Words = OpenDocument::Words;
+
+class FindReplace : public ::testing::Test, protected OpenDocument
+{
+protected:
+    FindReplace()
+        : OpenDocument(Words{{"cat", "Katze"}, {"the cat sat", "die Katze saß"}, {"cats", "a"}})
+    {
+    }
+
+    void open(bool replace)
+    {
+        (replace ? flags.ReplaceMode : flags.FindMode) = true;
+        dialog = std::make_unique<frmFindReplace>(document, frmFindReplace::Needs{flags, undo, alert}, &window);
+        dialog->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+    }
+    template <typename T> T *control(const char *name) { return dialog->findChild<T *>(QString::fromLatin1(name)); }
+    QPushButton *button(const char *name) { return control<QPushButton>(name); }
+    void click(const char *name) { QTest::mouseClick(control<QAbstractButton>(name), Qt::LeftButton); }
+    void type(const char *box, const QString &text)
+    {
+        control<QLineEdit>(box)->selectAll();
+        QTest::keyClick(control<QLineEdit>(box), Qt::Key_Delete);
+        QTest::keyClicks(control<QLineEdit>(box), text);
+    }
+    /// What the cell editor shows, as "row,col:[selected text]start".
+    std::string shown() const
+    {
+        if (!grid.EditMode())
+            return "nothing";
+        return QStringLiteral("%1,%2:[%3]%4")
+            .arg(grid.Row())
+            .arg(grid.Col())
+            .arg(grid.SelText())
+            .arg(grid.hwndText()->selectionStart())
+            .toStdString();
+    }
+
+    ScriptedAlertBox alert;
+    std::unique_ptr<frmFindReplace> dialog;
+};
+
+TEST_F(FindReplace, OpensWithTheCurrentCellsText)
+{
+    open(false);
+    EXPECT_EQ(dialog->windowTitle(), "Find");
+    EXPECT_EQ(control<QLineEdit>("txtFind")->selectedText(), "cat");
+    EXPECT_EQ(button("btnReplace")->text(), "&Replace...");
+    EXPECT_FALSE(control<QLineEdit>("txtReplace")->isVisible());
+    EXPECT_FALSE(button("btnReplaceAll")->isVisible());
+    EXPECT_EQ(control<QRadioButton>("optScope1")->text(), "&1 Language 1");
+    EXPECT_EQ(FormTexts::helpContextId(button("btnFind")), 1160);
+    type("txtFind", "");
+    for (const char *name : {"btnFind", "btnReplace", "btnReplaceAll"})
+        EXPECT_FALSE(button(name)->isEnabled()) << name;
+}
+
+TEST_F(FindReplace, WidensIntoTheReplaceLayout)
+{
+    open(false);
+    const int height = dialog->height();
+    click("btnReplace");
+    EXPECT_EQ(dialog->windowTitle(), "Replace");
+    EXPECT_EQ(button("btnReplace")->text(), "&Replace");
+    EXPECT_TRUE(control<QLineEdit>("txtReplace")->isVisible());
+    EXPECT_EQ(FormTexts::helpContextId(dialog.get()), 1170);
+    EXPECT_EQ(FormTexts::helpContextId(button("btnFind")), 1170);
+    EXPECT_GE(dialog->height() - height, 46); // 700 twips
+    EXPECT_TRUE(flags.ReplaceMode);
+    EXPECT_FALSE(flags.FindMode);
+    EXPECT_EQ(shown(), "nothing");
+}
+
+TEST_F(FindReplace, ShowsMatchAfterMatchAndReportsTheEnd)
+{
+    open(false);
+    for (const char *expected : {"1,1:[cat]0", "2,1:[cat]4", "3,1:[cat]0"}) {
+        QTest::keyClick(control<QLineEdit>("txtFind"), Qt::Key_Return);
+        EXPECT_EQ(shown(), expected);
+    }
+    EXPECT_TRUE(alert.shown.empty());
+    click("btnFind");
+    EXPECT_EQ(alert.onlyPrompt(), "The specified region has been searched.");
+    EXPECT_EQ(alert.shown.back().title, "Glosaria Alert");
+    EXPECT_TRUE(alert.shown.back().sound);
+    click("btnFind");
+    EXPECT_EQ(shown(), "1,1:[cat]0");
+
+    type("txtFind", "KATZE");
+    click("chkCase");
+    click("btnFind");
+    EXPECT_EQ(alert.shown.back().prompt, "The search string was not found.");
+    click("chkCase");
+    click("btnFind");
+    EXPECT_EQ(shown(), "1,2:[Katze]0");
+    click("optScope1");
+    click("btnFind");
+    EXPECT_EQ(alert.shown.size(), 3U);
+
+    dialog->close();
+    EXPECT_FALSE(grid.EditMode());
+    EXPECT_TRUE(flags.gridMode);
+    EXPECT_FALSE(flags.searching());
+    EXPECT_EQ(undo.kind(), UndoKind::None);
+    EXPECT_FALSE(document.Dirty());
+}
+
+TEST_F(FindReplace, ReplacesTheSelectedMatchOnly)
+{
+    open(true);
+    type("txtFind", "cat");
+    type("txtReplace", "dog");
+    click("btnReplace");
+    EXPECT_EQ(grid.TextMatrix(1, 1), "cat"); // there was no match yet
+    EXPECT_EQ(shown(), "1,1:[cat]0");
+    click("btnReplace");
+    EXPECT_EQ(grid.TextMatrix(1, 1), "dog");
+    EXPECT_EQ(shown(), "2,1:[cat]4");
+    click("btnFind");
+    EXPECT_EQ(grid.TextMatrix(2, 1), "the cat sat");
+    grid.SelectEditText(0, 2);
+    click("btnReplace");
+    EXPECT_EQ(grid.TextMatrix(3, 1), "cats");
+    QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_TRUE(document.Dirty());
+    EXPECT_EQ(undo.kind(), UndoKind::Replace);
+}
+
+TEST_F(FindReplace, ReplaceAllIsOneUndoStep)
+{
+    grid.setTextMatrix(4, 1, "tomcat");
+    const Words before = words();
+    const QString longWord(200, u'x');
+    open(true);
+    type("txtFind", "cat");
+    click("btnFind"); // the match shown first counts as well
+    type("txtReplace", longWord);
+    click("btnReplaceAll");
+    EXPECT_EQ(alert.onlyPrompt(), "The specified region has been searched. 4 replacements were made.");
+    EXPECT_EQ(words(), (Words{{longWord, "Katze"},
+                              {"the " + longWord + " sat", "die Katze saß"},
+                              {longWord + "s", "a"},
+                              {"tom" + longWord, ""},
+                              {}}));
+    EXPECT_GT(grid.RowHeight(1), 285);
+    dialog->close();
+    EXPECT_EQ(undo.kind(), UndoKind::Replace);
+    EXPECT_TRUE(document.Dirty());
+    EditCommands(undo, flags, *QGuiApplication::clipboard()).Undo(document);
+    Words expected = before;
+    expected.emplace_back();
+    EXPECT_EQ(words(), expected);
+    EXPECT_EQ(undo.kind(), UndoKind::None);
+}
+
+TEST_F(FindReplace, KeepsWhatIsTypedIntoTheMatch)
+{
+    open(false);
+    type("txtFind", "a");
+    click("btnFind");
+    QTest::keyClicks(grid.hwndText(), "u");
+    EXPECT_EQ(grid.EditText(), "cut");
+    click("btnFind");
+    EXPECT_EQ(shown(), "2,1:[a]5");
+    EXPECT_EQ(grid.TextMatrix(1, 1), "cut");
+    EXPECT_EQ(undo.kind(), UndoKind::Entry);
+    EXPECT_EQ(undo.entryText, "cat");
+    QTest::keyClicks(grid.hwndText(), "o");
+    dialog->close();
+    EXPECT_EQ(grid.TextMatrix(2, 1), "the cot sat");
+    EXPECT_TRUE(document.Dirty());
+}
+
+TEST_F(FindReplace, LeavesNoUndoStepToAnotherDocument)
+{
+    open(true);
+    type("txtFind", "cat");
+    click("btnReplaceAll");
+    undo.clear();
+    dialog->leaveDocument();
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_FALSE(flags.searching());
+    EXPECT_EQ(undo.kind(), UndoKind::None);
+    EXPECT_TRUE(document.Dirty());
+}
+
+} // namespace

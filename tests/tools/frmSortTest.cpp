@@ -1,0 +1,120 @@
+#include "tools/frmSort.h"
+
+#include "document/EditCommands.h"
+#include "support/OpenDocument.h"
+#include "tools/modSorting.h"
+#include "tools/rules/SortOrder.h"
+
+#include <QCheckBox>
+#include <QClipboard>
+
+namespace {
+
+using namespace SortFlag;
+using Words = OpenDocument::Words;
+
+const QLocale English(QLocale::English);
+
+class Sorting : public ::testing::Test, protected OpenDocument
+{
+protected:
+    Sorting()
+        : OpenDocument(Words{{"b", "2"}, {"", "x"}, {"c", "10"}, {"a", "9"}})
+    {
+    }
+
+    /// What the user does in the dialog that SortVocabulary shows.
+    void sortWith(const std::function<void(QDialog &)> &answer)
+    {
+        QTimer::singleShot(0, qApp, [&answer] {
+            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            ASSERT_TRUE(dialog && QTest::qWaitForWindowActive(dialog));
+            answer(*dialog);
+        });
+        modSorting::SortVocabulary(document, undo, English, &window);
+    }
+    static void click(QDialog &dialog, const char *name)
+    {
+        QTest::mouseClick(dialog.findChild<QAbstractButton *>(QString::fromLatin1(name)), Qt::LeftButton);
+    }
+};
+
+TEST_F(Sorting, SortsAsTheDialogIsAnswered)
+{
+    const Words before = words();
+    grid.setRowHeight(1, 600);
+    select(3, 2, 3, 2);
+    sortWith([](QDialog &dialog) {
+        EXPECT_FALSE(dialog.findChild<QCheckBox *>("chkSelection")->isEnabled());
+        click(dialog, "optLang1");
+        click(dialog, "optOrder1");
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    EXPECT_EQ(words(), (Words{{"", "x"}, {"c", "10"}, {"a", "9"}, {"b", "2"}, {}}));
+    EXPECT_EQ(grid.RowHeight(4), 600);
+    EXPECT_EQ(grid.TextMatrix(4, 0), "4");
+    EXPECT_EQ(document.selection(), (GridSelection{3, 2, 3, 2}));
+    EXPECT_EQ(undo.kind(), UndoKind::Sort);
+    EXPECT_TRUE(document.Dirty());
+    select(1, 1, 1, 1);
+    EditCommands(undo, flags, *QGuiApplication::clipboard()).Undo(document);
+    EXPECT_EQ(words(), before);
+    EXPECT_EQ(grid.RowHeight(4), 600);
+    EXPECT_EQ(document.selection(), (GridSelection{3, 2, 3, 2}));
+}
+
+TEST_F(Sorting, SortsOnlyTheSelectedRows)
+{
+    select(4, 2, 3, 1);
+    sortWith([](QDialog &dialog) {
+        click(dialog, "chkSelection");
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    EXPECT_EQ(words(), (Words{{"b", "2"}, {"", "x"}, {"a", "9"}, {"c", "10"}, {}}));
+}
+
+TEST_F(Sorting, CancelChangesNothing)
+{
+    const Words before = words();
+    select(1, 1, 4, 1);
+    sortWith([](QDialog &dialog) {
+        EXPECT_FALSE(dialog.findChild<QCheckBox *>("chkSelection")->isEnabled());
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    EXPECT_EQ(words(), before);
+    EXPECT_EQ(undo.kind(), UndoKind::None);
+}
+
+TEST_F(Sorting, OfASortedVocabularyIsNoChange)
+{
+    setWords({{"a", ""}, {"b", ""}});
+    modSorting::sortBy(Language1 | Ascending | Vocabulary, document, undo, English);
+    EXPECT_FALSE(document.Dirty());
+    EXPECT_EQ(undo.kind(), UndoKind::Sort);
+}
+
+TEST_F(Sorting, IsUndoneExactlyOnRandomWords)
+{
+    std::mt19937 engine(9);
+    const QStringList texts{"", "a", "A", "b", "10", "9", "ä", "\tx"};
+    for (int round = 0; round < 100; ++round) {
+        Words random(engine() % 12);
+        for (auto &row : random)
+            row = {texts[int(engine() % 8)], texts[int(engine() % 8)]};
+        setWords(random);
+        const Words before = words();
+        const int last = grid.Rows() - 1;
+        select(1 + int(engine() % unsigned(last)), 2, 1 + int(engine() % unsigned(last)), 1);
+        const int how = (engine() % 2 ? Language1 : Language2) | (engine() % 2 ? Ascending : Descending) |
+                          (engine() % 2 ? Selection : Vocabulary);
+        modSorting::sortBy(how, document, undo, English);
+        Words sorted = words(), rows = before;
+        std::sort(sorted.begin(), sorted.end());
+        std::sort(rows.begin(), rows.end());
+        ASSERT_EQ(sorted, rows);
+        EditCommands(undo, flags, *QGuiApplication::clipboard()).Undo(document);
+        ASSERT_EQ(words(), before);
+    }
+}
+
+} // namespace
