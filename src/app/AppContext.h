@@ -2,6 +2,7 @@
 
 class AlertBox;
 class DocumentList;
+class EditCommands;
 class FileCommands;
 class RandomSource;
 class SoundPlayer;
@@ -23,6 +24,7 @@ struct AppContext
     modSBFunc &status;
     DocumentList &documents;
     FileCommands &files;
+    EditCommands &edit;
     clsMRUFileList &recentFiles;
     RandomSource &random;
     SoundPlayer &errorSound;

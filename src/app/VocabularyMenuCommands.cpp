@@ -6,22 +6,33 @@
 #include "quiz/frmLang.h"
 #include "resources/Pictures.h"
 #include "services/modSBFunc.h"
+#include "tools/frmColRow.h"
+#include "tools/frmFont.h"
+#include "tools/modSorting.h"
 
 namespace {
 
 constexpr StateSet Document(AppState::StateDocument);
-constexpr int HelpButtonForHelp = 504;
+constexpr int DialogOpen = 504;
 constexpr int Ready = 506;
 
-void nameLanguages(const AppContext &context)
+/// A command that shows a modal dialog about the active document.
+std::function<void()> withDialog(const AppContext &context, const std::function<void(frmDoc &)> &show)
 {
-    frmDoc *document = context.documents.active();
-    if (!document)
-        return;
-    frmLang dialog(*document, &context.window);
-    context.status.ShowStatus(HelpButtonForHelp);
-    dialog.exec();
-    context.status.ShowStatus(Ready);
+    return [&context, show] {
+        frmDoc *document = context.documents.active();
+        if (!document)
+            return;
+        context.status.ShowStatus(DialogOpen);
+        show(*document);
+        context.status.ShowStatus(Ready);
+    };
+}
+
+std::function<void()> withSizeDialog(const AppContext &context, frmColRow::Mode mode)
+{
+    return withDialog(context,
+                      [&context, mode](frmDoc &document) { frmColRow(document, mode, &context.window).exec(); });
 }
 
 } // namespace
@@ -29,9 +40,17 @@ void nameLanguages(const AppContext &context)
 void AppCommands::addVocabularyCommands(CommandTable &table, const AppContext &context)
 {
     table.add({"mnuVocabularyLanguage", 432, "Ctrl+L", 33, PictureLanguages, Document,
-               [&context] { nameLanguages(context); }});
-    table.add({"mnuVocabularyRowHeight", 434, "", 35, PictureRowHeight, Document, {}});
-    table.add({"mnuVocabularyColumnWidth", 435, "", 36, PictureColumnWidth, Document, {}});
-    table.add({"mnuVocabularyFont", 437, "", 38, PictureFont, Document, {}});
-    table.add({"mnuVocabularySort", 438, "", 39, PictureSort, Document, {}});
+               withDialog(context, [&context](frmDoc &document) { frmLang(document, &context.window).exec(); })});
+    table.add({"mnuVocabularyRowHeight", 434, "", 35, PictureRowHeight, Document,
+               withSizeDialog(context, frmColRow::RowHeight)});
+    table.add({"mnuVocabularyColumnWidth", 435, "", 36, PictureColumnWidth, Document,
+               withSizeDialog(context, frmColRow::ColumnWidth)});
+    table.add(
+        {"mnuVocabularyFont", 437, "", 38, PictureFont, Document, withDialog(context, [&context](frmDoc &document) {
+             frmFont(document, context.settings, context.alert, &context.window).exec();
+         })});
+    table.add(
+        {"mnuVocabularySort", 438, "", 39, PictureSort, Document, withDialog(context, [&context](frmDoc &document) {
+             modSorting::SortVocabulary(document, context.undo, QLocale(), &context.window);
+         })});
 }

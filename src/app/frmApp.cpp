@@ -15,6 +15,7 @@
 #include "services/rules/clsAppProperties.h"
 #include "services/rules/clsRegistry.h"
 
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QFontMetrics>
 #include <QMdiArea>
@@ -48,6 +49,7 @@ void selectRecentFilesKey(clsRegistry &registry)
 frmApp::frmApp(const Needs &needs)
     : m_store(needs.store)
     , m_recentFiles(desktopTextWidth)
+    , m_editCommands(needs.undo, needs.flags, *QGuiApplication::clipboard())
     , m_area(new QMdiArea)
 {
     setWindowTitle(QApplication::applicationDisplayName());
@@ -77,9 +79,9 @@ void frmApp::createParts(const Needs &needs)
     auto *documents = new DocumentList({needs.flags, needs.undo, *status, needs.settings}, this);
     auto *files =
         new FileCommands({*documents, m_recentFiles, *status, needs.alert, needs.prompts}, needs.codePage, this);
-    m_context =
-        std::make_unique<AppContext>(AppContext{*this, needs.flags, needs.undo, needs.settings, needs.alert, *status,
-                                                *documents, *files, m_recentFiles, needs.random, needs.errorSound});
+    m_context = std::make_unique<AppContext>(AppContext{*this, needs.flags, needs.undo, needs.settings, needs.alert,
+                                                        *status, *documents, *files, m_editCommands, m_recentFiles,
+                                                        needs.random, needs.errorSound});
     setCentralWidget(createCentre());
 
     connect(documents, &DocumentList::created, this, &frmApp::placeDocument);

@@ -3,6 +3,7 @@
 #include "app/AppContext.h"
 #include "app/CommandTable.h"
 #include "app/WindowArrangement.h"
+#include "document/EditCommands.h"
 #include "document/rules/UndoRecord.h"
 #include "services/rules/clsMRUFileList.h"
 
@@ -102,6 +103,7 @@ private:
 
     RegistryStore &m_store;
     clsMRUFileList m_recentFiles;
+    EditCommands m_editCommands;
     QMdiArea *m_area;
     std::unique_ptr<AppContext> m_context;
     CommandTable m_commands;
