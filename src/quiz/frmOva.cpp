@@ -54,7 +54,10 @@ frmOva::frmOva(clsAppProperties &settings, RandomSource &random, SoundPlayer &er
         std::make_unique<AnswerOptions>(std::array{m_ui->optAnswer0, m_ui->optAnswer1, m_ui->optAnswer2}, nullptr);
 }
 
-frmOva::~frmOva() = default;
+frmOva::~frmOva()
+{
+    Form_Terminate();
+}
 
 void frmOva::Form_Load(const WordSource &words, QWidget &document, const QString &documentTitle)
 {
@@ -163,8 +166,8 @@ void frmOva::showQuestion()
         m_ui->txtSvar->setAccessibleName(resText(12012).arg(question.answerLanguage()));
         break;
     }
-    focusAnswer();
     speak(QuizSpeech::state(*m_session));
+    focusAnswer();
     setUpdatesEnabled(true);
 }
 
@@ -233,8 +236,8 @@ void frmOva::showRoundEnd()
     m_ui->btnRep->setEnabled(m_session->canRepeat());
     m_ui->btnHint->setEnabled(false);
     m_ui->btnCheck->setText(resText(921));
-    m_ui->btnCheck->setFocus(Qt::OtherFocusReason);
     speak(QuizSpeech::state(*m_session));
+    m_ui->btnCheck->setFocus(Qt::OtherFocusReason);
     setUpdatesEnabled(true);
 }
 
