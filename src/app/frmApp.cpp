@@ -24,6 +24,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
@@ -32,6 +33,7 @@ enum WindowState { Normal = 0, Minimized = 1, Maximized = 2 };
 
 constexpr int RecentFileCount = 4;
 constexpr int Ready = 506;
+constexpr int FrameDelay = 50; // milliseconds
 
 int desktopTextWidth(const QString &text)
 {
@@ -253,6 +255,7 @@ bool frmApp::applyPosition()
         return false;
     move(place.topLeft());
     resize(place.size());
+    m_restoredSize = place.size();
     setWindowState(state == Maximized ? Qt::WindowMaximized : Qt::WindowNoState);
     return true;
 }
@@ -268,14 +271,28 @@ void frmApp::useWorkArea()
     settings.setWinPosBottom(Twips::fromPixelsY(area.height()));
 }
 
+void frmApp::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    QTimer::singleShot(FrameDelay, this, &frmApp::makeRoomForFrame);
+}
+
+/// How thick the frame is can be told only after the window manager has put it round the window.
+void frmApp::makeRoomForFrame()
+{
+    if (size() == m_restoredSize && windowState() == Qt::WindowNoState)
+        resize(m_restoredSize - (frameSize() - size()));
+    m_restoredSize = {};
+}
+
 void frmApp::storePosition()
 {
     clsAppProperties &settings = m_context->settings;
     settings.setAppWinState(isMinimized() ? Minimized : isMaximized() ? Maximized : Normal);
     settings.setWinPosLeft(Twips::fromPixelsX(x()));
     settings.setWinPosTop(Twips::fromPixelsY(y()));
-    settings.setWinPosRight(Twips::fromPixelsX(width()));
-    settings.setWinPosBottom(Twips::fromPixelsY(height()));
+    settings.setWinPosRight(Twips::fromPixelsX(frameSize().width()));
+    settings.setWinPosBottom(Twips::fromPixelsY(frameSize().height()));
 }
 
 void frmApp::reportRegistryErrors(const std::function<void()> &action)

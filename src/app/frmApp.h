@@ -83,6 +83,7 @@ Q_SIGNALS:
     void closed();
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
@@ -96,6 +97,7 @@ private:
     void onUndoKind(UndoKind kind);
     bool applyPosition();
     void useWorkArea();
+    void makeRoomForFrame();
     void storePosition();
     void loadRecentFiles();
     void saveSettings();
@@ -109,4 +111,5 @@ private:
     CommandTable m_commands;
     AppMenus *m_menus = nullptr;
     AppToolbars *m_toolbars = nullptr;
+    QSize m_restoredSize; ///< with the window manager's frame; empty once that was taken off
 };
