@@ -72,10 +72,11 @@ QAction *AppToolbars::addButton(QToolBar *bar, const MenuLayout::Button &button)
 
 void AppToolbars::addDropDown(const QString &button, QMenu *menu)
 {
-    QAction *action = m_standardButtons.value(button);
-    action->setMenu(menu);
-    if (auto *widget = qobject_cast<QToolButton *>(m_standard->widgetForAction(action)))
+    // The button's menu, not its action's: an action would take the menu away from the menu bar.
+    if (auto *widget = qobject_cast<QToolButton *>(m_standard->widgetForAction(m_standardButtons.value(button)))) {
+        widget->setMenu(menu);
         widget->setPopupMode(QToolButton::MenuButtonPopup);
+    }
 }
 
 void AppToolbars::applyState(AppState state)

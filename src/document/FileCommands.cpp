@@ -162,6 +162,12 @@ void FileCommands::alertFile(const QString &prompt, int helpId)
 
 void FileCommands::LoadVocabulary(const QString &path)
 {
+    load(path);
+    m_needs.status.ShowStatus(Ready);
+}
+
+void FileCommands::load(const QString &path)
+{
     if (m_needs.documents.findByPath(path))
         return alertFile(resText(710) + path + resText(711), AlreadyOpenTopic);
     VocabularyFile file(path);
@@ -172,16 +178,19 @@ void FileCommands::LoadVocabulary(const QString &path)
         return alertFile(withTitle(722, path), NewerTopic);
     if (header.outcome == Outcome::Ok && header.olderVersion)
         alertFile(withTitle(721, path), OlderTopic);
-
-    VocabularyCodec::DecodeResult result;
-    if (header.outcome == Outcome::Ok) {
-        const BusyStatus busy(m_needs.status, 715, path, file.size() * 2);
-        result = file.read(m_codePage, [this](qint64 done) { m_needs.status.setProgress(done); });
-        if (result.outcome == Outcome::Ok)
-            openVocabulary(path, std::move(result.vocabulary));
-    }
-    if (result.outcome != Outcome::Ok)
+    if (header.outcome != Outcome::Ok || !readInto(file, path))
         alertFile(resText(712) + path, 0);
+}
+
+bool FileCommands::readInto(const VocabularyFile &file, const QString &path)
+{
+    const BusyStatus busy(m_needs.status, 715, path, file.size() * 2);
+    VocabularyCodec::DecodeResult result =
+        file.read(m_codePage, [this](qint64 done) { m_needs.status.setProgress(done); });
+    if (result.outcome != Outcome::Ok)
+        return false;
+    openVocabulary(path, std::move(result.vocabulary));
+    return true;
 }
 
 void FileCommands::openVocabulary(const QString &path, Vocabulary &&vocabulary)

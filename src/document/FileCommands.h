@@ -7,6 +7,7 @@
 class AlertBox;
 class DocumentList;
 class FilePrompts;
+class VocabularyFile;
 class clsMRUFileList;
 class frmDoc;
 class modSBFunc;
@@ -54,6 +55,9 @@ private:
     bool confirmClose(frmDoc &document);
     void saveUnder(frmDoc &document, const QString &path);
     QString pathOrAsk(const frmDoc &document);
+    void load(const QString &path);
+    /// Reads the rows of a file and opens them; false when they cannot be read.
+    bool readInto(const VocabularyFile &file, const QString &path);
     void openVocabulary(const QString &path, Vocabulary &&vocabulary);
     void alertFile(const QString &prompt, int helpId);
     void onCreated(frmDoc *document);

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "app/frmApp.h"
+#include "document/DocumentList.h"
+#include "document/rules/CodePage.h"
+#include "platform/RegistryTree.h"
+#include "services/rules/ProgramFlags.h"
+#include "services/rules/clsAppProperties.h"
+#include "support/ScriptedAlertBox.h"
+#include "support/ScriptedPrompts.h"
+
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+#include <QToolButton>
+
+/// The main window with stand-ins for what comes from outside, shown on the offscreen platform.
+struct MainWindowFixture : ::testing::Test
+{
+    QTemporaryDir folder;
+    RegistryTree store;
+    clsAppProperties settings{store, QStringLiteral("/usr/bin/glosaria")};
+    ProgramFlags flags;
+    UndoRecord undo;
+    ScriptedAlertBox alert;
+    ScriptedPrompts prompts;
+    CodePage codePage;
+    std::unique_ptr<frmApp> window;
+
+    void SetUp() override
+    {
+        window = std::make_unique<frmApp>(frmApp::Needs{flags, undo, settings, store, alert, prompts, codePage});
+        window->show();
+        QApplication::setActiveWindow(window.get());
+    }
+    DocumentList &documents() { return window->context().documents; }
+    frmDoc *newDocument()
+    {
+        window->DoMenuClick(QStringLiteral("mnuFileNew"));
+        return documents().active();
+    }
+    QMenu *menu(const QString &key) { return window->menuBar()->findChild<QMenu *>(key); }
+    /// The captions of a menu as it drops down, without mnemonics; "-" for a separator, "(x)" for a disabled entry.
+    QStringList entries(const QString &key)
+    {
+        Q_EMIT menu(key)->aboutToShow();
+        QStringList list;
+        for (const QAction *action : menu(key)->actions()) {
+            const QString text = action->isSeparator() ? QStringLiteral("-") : action->text().remove(QLatin1Char('&'));
+            list.append(action->isEnabled() || action->isSeparator() ? text : QStringLiteral("(%1)").arg(text));
+        }
+        return list;
+    }
+    QStringList menuTitles()
+    {
+        QStringList titles;
+        for (const QAction *action : window->menuBar()->actions()) {
+            if (action->isVisible())
+                titles.append(action->text().remove(QLatin1Char('&')));
+        }
+        return titles;
+    }
+    QToolButton *button(const QString &band, const QString &key)
+    {
+        auto *bar = window->findChild<QToolBar *>(band);
+        for (QAction *action : bar->actions()) {
+            if (action->objectName() == key)
+                return qobject_cast<QToolButton *>(bar->widgetForAction(action));
+        }
+        return nullptr;
+    }
+    /// A vocabulary of the current version without any word.
+    QString writeVocabulary(const QString &name)
+    {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("Glosaria\r\n3.1.0\r\n[Font Info]\r\n\"Arial\"\r\n10\r\n#FALSE#\r\n#FALSE#\r\n0\r\n[Vocabulary]\r\n"
+                   "English\r\nGerman\r\n");
+        return file.fileName();
+    }
+};

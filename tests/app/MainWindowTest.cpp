@@ -1,0 +1,106 @@
+#include "MainWindowFixture.h"
+
+#include "services/modSBFunc.h"
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMimeData>
+
+namespace {
+
+struct MainWindowTest : MainWindowFixture
+{
+    void drop(const QString &path, int y)
+    {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(path)});
+        QDragEnterEvent enter(QPoint(300, y), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window.get(), &enter);
+        EXPECT_TRUE(enter.isAccepted());
+        QDropEvent event(QPointF(300, y), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window.get(), &event);
+        QCoreApplication::processEvents();
+    }
+};
+
+} // namespace
+
+TEST_F(MainWindowTest, TilesShareTheAreaWithoutOverlap)
+{
+    for (int i = 0; i < 3; ++i)
+        newDocument();
+    for (const char *key : {"mnuWindow(1)", "mnuWindow(2)"}) {
+        window->DoMenuClick(QLatin1String(key));
+        QRegion covered;
+        for (const QMdiSubWindow *each : window->documentArea()->subWindowList()) {
+            EXPECT_FALSE(covered.intersects(each->geometry())) << key;
+            covered += each->geometry();
+        }
+        EXPECT_EQ(covered, QRegion(window->documentArea()->viewport()->rect())) << key;
+    }
+}
+
+TEST_F(MainWindowTest, RecentFilesAreKeptFromRunToRun)
+{
+    const QString one = writeVocabulary("one.gla");
+    const QString two = writeVocabulary("two & more.gla");
+    window->OpenRequestedFile(one);
+    window->OpenRequestedFile('"' + two + '"');
+    EXPECT_EQ(documents().open().size(), 2u);
+    window->close();
+    SetUp();
+    const QStringList file = entries("mnuFile");
+    ASSERT_EQ(file.size(), 7) << "New, Open, separator, two files, separator, Exit";
+    EXPECT_TRUE(file[3].startsWith("1 ") && file[3].endsWith("two  more.gla")) << file[3].toStdString();
+    window->DoMenuClick("mnuFileMRU(2)");
+    ASSERT_EQ(documents().open().size(), 1u);
+    EXPECT_EQ(documents().open().front()->DocName(), one);
+}
+
+TEST_F(MainWindowTest, OnlyVocabulariesDroppedOnTheDocumentAreaOpen)
+{
+    const QString file = writeVocabulary("dropped.GLA");
+    drop(file, window->toolbarHeight());
+    drop(file, window->height() - window->context().status.height() - 52);
+    drop(folder.filePath("notes.txt"), window->height() / 2);
+    EXPECT_TRUE(documents().open().empty());
+    EXPECT_TRUE(alert.shown.empty());
+    drop(file, window->height() / 2);
+    EXPECT_EQ(documents().open().size(), 1u);
+}
+
+TEST_F(MainWindowTest, ItsPlaceIsRestoredOrReplacedByTheWorkArea)
+{
+    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_EQ(settings.WinPosRight(), area.width() * 15) << "the first run covers the work area";
+    window->resize(700, 500);
+    window->move(40, 30);
+    const QPoint place = window->pos();
+    const QSize withFrame = window->frameSize();
+    window->close();
+    clsAppProperties stored(store, QString());
+    stored.ReadProperties();
+    EXPECT_EQ(stored.WinPosRight(), withFrame.width() * 15);
+    EXPECT_EQ(stored.WinPosTop(), place.y() * 15);
+    SetUp();
+    EXPECT_EQ(window->pos(), place);
+    for (const int state : {1, 7}) {
+        settings.setAppWinState(state);
+        window->PositionWindow();
+        EXPECT_EQ(settings.AppWinState(), 0);
+        EXPECT_EQ(settings.WinPosRight(), area.width() * 15);
+    }
+}
+
+TEST_F(MainWindowTest, ADocumentCanRefuseTheEnd)
+{
+    newDocument()->setDirty(true);
+    bool ended = false;
+    QObject::connect(window.get(), &frmApp::closed, window.get(), [&ended] { ended = true; });
+    EXPECT_FALSE(window->close());
+    EXPECT_FALSE(ended);
+    alert.answers = {AlertBox::AnswerNo};
+    window->DoMenuClick("mnuFileExit");
+    EXPECT_TRUE(ended);
+    EXPECT_TRUE(store.keyExists(HKEY_CURRENT_USER, "Software\\Glosaria\\MRUFiles"));
+}
