@@ -116,9 +116,8 @@ void frmApp::placeDocument(frmDoc *document)
     frame->resize(m_area->viewport()->size() * 3 / 4);
     m_menus->watchSystemMenu(frame->systemMenu());
 
-    connect(document, &frmDoc::editingChanged, this, [this](bool editing) {
-        SetCommandState(editing ? AppState::StateEditing : AppState::StateDocument);
-    });
+    connect(document, &frmDoc::editingChanged, this,
+            [this](bool editing) { SetCommandState(editing ? AppState::StateEditing : AppState::StateDocument); });
     connect(document, &frmDoc::menuRequested, this,
             [this](const QPoint &position) { m_menus->gridMenu()->popup(position); });
 }

@@ -3,8 +3,11 @@
 #include "app/CommonFilePrompts.h"
 #include "app/frmApp.h"
 #include "document/rules/CodePage.h"
+#include "platform/CommonControls.h"
+#include "platform/FileAssociation.h"
 #include "platform/InstancePlace.h"
 #include "platform/RegistryFile.h"
+#include "platform/SignalWatcher.h"
 #include "platform/SingleInstance.h"
 #include "platform/SoundPlayer.h"
 #include "print/QtDialogs.h"
@@ -47,20 +50,41 @@ struct Program
     DesktopSoundPlayer errorSound{ResourceFiles::contents(ResourceFiles::ErrorSound)};
 };
 
+void showAlert(AlertBox &alertBox, const QString &prompt)
+{
+    Alert alert;
+    alert.prompt = prompt;
+    alertBox.show(nullptr, alert);
+}
+
+/// A desktop that does not learn of the file type is no reason to trouble the user.
+void registerFileType()
+{
+    FileAssociation association;
+    association.programPath = QApplication::applicationFilePath();
+    association.programName = QApplication::applicationName();
+    association.typeName = resText(12603);
+    association.programIcon = ResourceFiles::contents(ResourceFiles::ApplicationIcon);
+    association.typeIcon = ResourceFiles::contents(ResourceFiles::DocumentIcon);
+    association.registerType();
+}
+
 void readSettings(Program &program)
 {
     try {
         program.settings.ReadProperties();
     } catch (const RegistryError &error) {
-        Alert alert;
-        alert.prompt = error.Description();
-        program.alert.show(nullptr, alert);
+        showAlert(program.alert, error.Description());
     }
+    if (program.settings.firstRun())
+        registerFileType();
 }
 
-/// The user is asked for unsaved changes when the desktop session ends, as when the window closes.
-void askAtEnd(QApplication &application, frmApp &window)
+/// The user is asked for unsaved changes when the desktop session or the process is told to end, as when the window
+/// closes.
+void askAtEnd(QApplication &application, frmApp &window, SignalWatcher &watcher)
 {
+    QObject::connect(&watcher, &SignalWatcher::endRequested, &window, &QWidget::close);
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &window,
         [&window](QSessionManager &session) {
@@ -117,6 +141,11 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     if (instance.start(commandLine.text) == SingleInstance::Role::Second)
         return 0;
     Program program;
+    if (!CommonControls::isRecentEnough(CommonControls::version())) {
+        showAlert(program.alert, resText(723));
+        return 0;
+    }
+    SignalWatcher watcher;
     readSettings(program);
 
     frmSplash splash(QVersionNumber::fromString(QApplication::applicationVersion()));
@@ -128,7 +157,7 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     program.prompts.setOwner(&window);
     QObject::connect(&window, &frmApp::closed, &application, &QApplication::quit);
     listen(instance, window);
-    askAtEnd(application, window);
+    askAtEnd(application, window, watcher);
     showInTurn(splash, window, commandLine);
     QGuiApplication::restoreOverrideCursor();
     return QApplication::exec();

@@ -4,6 +4,8 @@
 #include "document/DocumentList.h"
 #include "document/rules/CodePage.h"
 #include "platform/RegistryTree.h"
+#include "platform/SoundPlayer.h"
+#include "quiz/rules/RandomSource.h"
 #include "services/rules/ProgramFlags.h"
 #include "services/rules/clsAppProperties.h"
 #include "support/ScriptedAlertBox.h"
@@ -25,11 +27,14 @@ struct MainWindowFixture : ::testing::Test
     ScriptedAlertBox alert;
     ScriptedPrompts prompts;
     CodePage codePage;
+    SeededRandom random{1};
+    DesktopSoundPlayer silence{QByteArray()};
     std::unique_ptr<frmApp> window;
 
     void SetUp() override
     {
-        window = std::make_unique<frmApp>(frmApp::Needs{flags, undo, settings, store, alert, prompts, codePage});
+        window = std::make_unique<frmApp>(
+            frmApp::Needs{flags, undo, settings, store, alert, prompts, codePage, random, silence});
         window->show();
         QApplication::setActiveWindow(window.get());
     }
