@@ -59,7 +59,7 @@ frmApp::frmApp(const Needs &needs)
     createParts(needs);
     loadRecentFiles();
     PositionWindow();
-    m_context->status.createPanels();
+    m_context->status.createPanels(width());
 
     AppCommands::addAll(m_commands, *m_context);
     for (const Command *command : m_commands.commands())

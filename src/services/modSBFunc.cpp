@@ -23,9 +23,9 @@ modSBFunc::modSBFunc(const ProgramFlags &flags, QWidget *parent)
     m_panels[3]->setFrameStyle(QFrame::NoFrame);
 }
 
-void modSBFunc::createPanels()
+void modSBFunc::createPanels(int barWidth)
 {
-    m_rightEdges[2] = std::max(m_rightEdges[1], width() - SizeGripWidth);
+    m_rightEdges[2] = std::max(m_rightEdges[1], barWidth - SizeGripWidth);
     placePanels();
     m_panels[0]->setText(resText(506));
 }

@@ -32,7 +32,7 @@ TEST_F(MenusAndToolbarsTest, StatesFollowTheActiveDocument)
     EXPECT_FALSE(button("STANDARD", "Find")->isEnabled());
     EXPECT_TRUE(button("STANDARD", "Save")->isEnabled());
 
-    document->Rutor()->setEditMode(false);
+    document->endEdit();
     EXPECT_EQ(window->state(), AppState::StateDocument);
     window->DoMenuClick("mnuFileClose");
     EXPECT_EQ(window->state(), AppState::StateNoDocument);

@@ -15,7 +15,7 @@ struct StatusBarTest : ::testing::Test
     StatusBarTest()
     {
         bar.resize(900, 20);
-        bar.createPanels();
+        bar.createPanels(900);
     }
 };
 
