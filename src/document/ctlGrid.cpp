@@ -2,6 +2,7 @@
 
 #include "document/ctlGridEdit.h"
 #include "platform/Twips.h"
+#include "resources/StringTable.h"
 #include "services/rules/ProgramFlags.h"
 #include "widgets/FlexGridColours.h"
 #include "widgets/FlexGridView.h"
@@ -10,6 +11,8 @@
 
 namespace {
 
+constexpr int EditBoxName = 12800;
+constexpr int GridName = 12801;
 constexpr int Enter = 13;
 constexpr int Escape = 27;
 constexpr int Space = 32;
@@ -32,6 +35,7 @@ ctlGrid::ctlGrid(const ProgramFlags *flags, QWidget *parent)
     , m_flags(flags)
     , m_text1(new ctlGridEdit(this))
 {
+    setAccessibleName(resText(GridName));
     m_text1->hide();
     connectEditBox();
 }
@@ -85,6 +89,7 @@ void ctlGrid::dressEditBox()
     colours.setColor(QPalette::Base, ground);
     colours.setColor(QPalette::Text, FlexGridColours::text(ForeColor(), palette(), ground));
     m_text1->setPalette(colours);
+    m_text1->setAccessibleName(resText(EditBoxName).arg(QChar(u'A' + Col() - 1)).arg(Row()));
 }
 
 bool ctlGrid::EditMode() const

@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QValidator>
 
 namespace {
@@ -130,6 +131,14 @@ void ctlGridEdit::mouseReleaseEvent(QMouseEvent *event)
     QLineEdit::mouseReleaseEvent(event);
     if (event->button() == Qt::LeftButton)
         Q_EMIT clicked();
+}
+
+void ctlGridEdit::paintEvent(QPaintEvent *event)
+{
+    QLineEdit::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(palette().highlight().color());
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 bool ctlGridEdit::focusNextPrevChild(bool)

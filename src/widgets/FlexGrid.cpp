@@ -1,6 +1,7 @@
 #include "widgets/FlexGrid.h"
 
 #include "platform/Twips.h"
+#include "widgets/FlexGridAccessible.h"
 #include "widgets/FlexGridView.h"
 
 #include <QMetaProperty>
@@ -96,6 +97,9 @@ void FlexGrid::select(FlexGridSelection wanted)
     const bool entered = otherCell(wanted);
     m_state.selection = wanted;
     draw();
+    if (entered)
+        FlexGridAccessible::announceCurrentCell(*m_view);
+    FlexGridAccessible::announceSelection(*m_view);
     if (entered) {
         Q_EMIT EnterCell();
         Q_EMIT RowColChange();
@@ -103,8 +107,10 @@ void FlexGrid::select(FlexGridSelection wanted)
     Q_EMIT SelChange();
 }
 
-void FlexGrid::keepSelectionInside()
+void FlexGrid::restructured()
 {
+    layOutAgain();
+    FlexGridAccessible::announceReset(*m_view);
     select(m_state.selection);
 }
 

@@ -320,7 +320,8 @@ protected:
 private:
     void connectView();
     void select(FlexGridSelection wanted);
-    void keepSelectionInside();
+    /// Rows or columns came, went or moved: lays out, tells screen readers, keeps the selection inside.
+    void restructured();
     FlexGridSelection insideOf(FlexGridSelection wanted) const;
     void draw();
     void layOutAgain();

@@ -1,5 +1,6 @@
 #include "widgets/FlexGrid.h"
 
+#include "widgets/FlexGridAccessible.h"
 #include "widgets/FlexGridSort.h"
 #include "widgets/FlexGridText.h"
 #include "widgets/FlexGridView.h"
@@ -14,8 +15,7 @@ void FlexGrid::setRows(int rows)
     if (rows <= Row())
         leavingCell();
     m_state.cells.setRows(rows);
-    layOutAgain();
-    keepSelectionInside();
+    restructured();
     propertyChanged("Rows");
 }
 
@@ -25,8 +25,7 @@ void FlexGrid::setCols(int cols)
     if (cols <= Col())
         leavingCell();
     m_state.cells.setCols(cols);
-    layOutAgain();
-    keepSelectionInside();
+    restructured();
     propertyChanged("Cols");
 }
 
@@ -34,16 +33,14 @@ void FlexGrid::setFixedRows(int rows)
 {
     m_state.fixedRows = std::clamp(rows, 0, Rows());
     setRowNumbers(m_rowNumbers);
-    layOutAgain();
-    keepSelectionInside();
+    restructured();
     propertyChanged("FixedRows");
 }
 
 void FlexGrid::setFixedCols(int cols)
 {
     m_state.fixedCols = std::clamp(cols, 0, Cols());
-    layOutAgain();
-    keepSelectionInside();
+    restructured();
     propertyChanged("FixedCols");
 }
 
@@ -51,6 +48,7 @@ void FlexGrid::setTextMatrix(int row, int col, const QString &text)
 {
     m_state.cells.setText(row, col, text);
     draw();
+    FlexGridAccessible::announceText(*m_view, row, col);
 }
 
 QString FlexGrid::TextArray(int index) const
@@ -96,8 +94,7 @@ bool FlexGrid::insertRows(int index, int count)
     if (index <= Row())
         leavingCell();
     m_state.cells.insertRows(std::min(index, Rows()), count);
-    layOutAgain();
-    keepSelectionInside();
+    restructured();
     return true;
 }
 
@@ -108,8 +105,7 @@ bool FlexGrid::removeRows(int index, int count)
     if (index <= Row())
         leavingCell();
     m_state.cells.removeRows(index, count);
-    layOutAgain();
-    keepSelectionInside();
+    restructured();
     return true;
 }
 
@@ -126,7 +122,7 @@ void FlexGrid::setRowPosition(int row, int position)
         return;
     leavingCell();
     m_state.cells.moveRow(row, position);
-    layOutAgain();
+    restructured();
 }
 
 void FlexGrid::setColPosition(int col, int position)
@@ -135,7 +131,7 @@ void FlexGrid::setColPosition(int col, int position)
         return;
     leavingCell();
     m_state.cells.moveColumn(col, position);
-    layOutAgain();
+    restructured();
 }
 
 void FlexGrid::setRowNumbers(bool numbers)
@@ -150,8 +146,7 @@ void FlexGrid::setWords(std::vector<QString> &&first, std::vector<QString> &&sec
     leavingCell();
     m_state.cells.setWords(std::move(first), std::move(second), std::move(heights));
     m_state.fixedRows = std::min(m_state.fixedRows, Rows());
-    layOutAgain();
-    keepSelectionInside();
+    restructured();
 }
 
 QString FlexGrid::Clip() const
@@ -215,5 +210,5 @@ void FlexGrid::reorderRows(int first, const std::vector<int> &order)
 {
     leavingCell();
     m_state.cells.reorderRows(first, order);
-    layOutAgain();
+    restructured();
 }

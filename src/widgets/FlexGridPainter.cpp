@@ -6,6 +6,9 @@
 
 #include <QPainter>
 
+#include <algorithm>
+#include <cmath>
+
 FlexGridPainter::FlexGridPainter(const FlexGridState &state, const QPalette &palette, bool focused)
     : m_state(state)
     , m_palette(palette)
@@ -88,18 +91,42 @@ void FlexGridPainter::paintLines(QPainter &painter, const QRect &rect, bool fixe
     const int kind = fixed ? look.GridLinesFixed : look.GridLines;
     if (kind == FlexGridLook::NoLines)
         return;
-    const int width = look.GridLineWidth;
-    const int leading = m_state.rightToLeft ? rect.right() - width + 1 : rect.left();
-    const int trailing = m_state.rightToLeft ? rect.left() : rect.right() - width + 1;
+    const Qt::Edge leading = m_state.rightToLeft ? Qt::RightEdge : Qt::LeftEdge;
+    const Qt::Edge trailing = m_state.rightToLeft ? Qt::LeftEdge : Qt::RightEdge;
     QColor after = FlexGridColours::ground(fixed ? look.GridColorFixed : look.GridColor, m_palette);
     if (kind != FlexGridLook::FlatLines) {
         const QColor before = kind == FlexGridLook::InsetLines ? m_palette.dark().color() : m_palette.light().color();
         after = kind == FlexGridLook::InsetLines ? m_palette.light().color() : m_palette.dark().color();
-        painter.fillRect(rect.left(), rect.top(), rect.width(), width, before);
-        painter.fillRect(leading, rect.top(), width, rect.height(), before);
+        paintEdge(painter, rect, Qt::TopEdge, before);
+        paintEdge(painter, rect, leading, before);
     }
-    painter.fillRect(rect.left(), rect.bottom() - width + 1, rect.width(), width, after);
-    painter.fillRect(trailing, rect.top(), width, rect.height(), after);
+    paintEdge(painter, rect, Qt::BottomEdge, after);
+    paintEdge(painter, rect, trailing, after);
+}
+
+void FlexGridPainter::paintEdge(QPainter &painter, const QRect &rect, Qt::Edge edge, const QColor &colour) const
+{
+    // laid on the device's own pixels, so that all lines are equally thick at a scale such as 1.25
+    const double scale = painter.device()->devicePixelRatioF();
+    const double width = std::max(1.0, std::round(m_state.look.GridLineWidth * scale)) / scale;
+    const auto onPixel = [scale](int value) { return std::round(value * scale) / scale; };
+    QRectF line(QPointF(onPixel(rect.left()), onPixel(rect.top())),
+                QPointF(onPixel(rect.left() + rect.width()), onPixel(rect.top() + rect.height())));
+    switch (edge) {
+    case Qt::TopEdge:
+        line.setHeight(width);
+        break;
+    case Qt::LeftEdge:
+        line.setWidth(width);
+        break;
+    case Qt::RightEdge:
+        line.setLeft(line.right() - width);
+        break;
+    case Qt::BottomEdge:
+        line.setTop(line.bottom() - width);
+        break;
+    }
+    painter.fillRect(line, colour);
 }
 
 void FlexGridPainter::paintPicture(QPainter &painter, const QRect &rect, const FlexGridCellFormat &format) const

@@ -29,6 +29,7 @@ private:
     void paintCell(QPainter &painter, int row, int col, const QRect &rect) const;
     Colours coloursOf(int row, int col, const FlexGridCellFormat *format) const;
     void paintLines(QPainter &painter, const QRect &rect, bool fixed) const;
+    void paintEdge(QPainter &painter, const QRect &rect, Qt::Edge edge, const QColor &colour) const;
     void paintPicture(QPainter &painter, const QRect &rect, const FlexGridCellFormat &format) const;
     void paintText(QPainter &painter, int row, int col, const QRect &rect, const FlexGridCellFormat *format,
                    const Colours &colours) const;

@@ -1,7 +1,7 @@
 #include "widgets/FlexGridView.h"
 
 #include "platform/Twips.h"
-#include "widgets/FlexGridCellText.h"
+#include "widgets/FlexGridAccessible.h"
 #include "widgets/FlexGridPainter.h"
 
 #include <QPainter>
@@ -26,6 +26,7 @@ FlexGridView::FlexGridView(const FlexGridState &state, QWidget *parent)
     : QAbstractScrollArea(parent)
     , m_state(state)
 {
+    FlexGridAccessible::install();
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_InputMethodEnabled);
     viewport()->setMouseTracking(true);

@@ -18,6 +18,10 @@ class FlexGridView : public QAbstractScrollArea
 public:
     FlexGridView(const FlexGridState &state, QWidget *parent);
 
+    const FlexGridState &state() const { return m_state; }
+    /// Asks the owner for a selection, as mouse and keys do.
+    void wantSelection(const FlexGridSelection &selection) { Q_EMIT selectionWanted(selection); }
+
     /// Sizes or numbers of rows and columns changed: brings the scroll bars up to date and draws.
     void layOutAgain();
     /// While held back nothing is laid out or drawn.

@@ -1,5 +1,6 @@
 #include "widgets/FlexGridView.h"
 
+#include "widgets/FlexGridAccessible.h"
 #include "widgets/FlexGridKeys.h"
 
 #include <QInputMethodEvent>
@@ -17,6 +18,9 @@ void FlexGridView::focusInEvent(QFocusEvent *event)
     QAbstractScrollArea::focusInEvent(event);
     viewport()->update();
     Q_EMIT focusArrived();
+    // after the toolkit's own word that the whole table has the focus
+    QMetaObject::invokeMethod(
+        this, [this] { FlexGridAccessible::announceCurrentCell(*this); }, Qt::QueuedConnection);
 }
 
 void FlexGridView::focusOutEvent(QFocusEvent *event)
