@@ -89,8 +89,9 @@ void ctlGridEdit::keyPressEvent(QKeyEvent *event)
             return;
         }
     }
-    if (taken)
-        return;
+    const bool isTab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+    if (taken || isTab)
+        return; // an ignored tab would move the focus
     if (event->matches(QKeySequence::Undo))
         undoText();
     else if (event->matches(QKeySequence::Paste))
@@ -131,6 +132,16 @@ void ctlGridEdit::mouseReleaseEvent(QMouseEvent *event)
     QLineEdit::mouseReleaseEvent(event);
     if (event->button() == Qt::LeftButton)
         Q_EMIT clicked();
+}
+
+void ctlGridEdit::focusOutEvent(QFocusEvent *event)
+{
+    // the selection stays, so that a search can replace it from its own window
+    const int start = selectionStart();
+    const int length = selectionLength();
+    QLineEdit::focusOutEvent(event);
+    if (start >= 0)
+        setSelection(start, length);
 }
 
 void ctlGridEdit::paintEvent(QPaintEvent *event)

@@ -179,12 +179,11 @@ void FlexGrid::restoreClip(const QString &text)
 
 void FlexGrid::fillSelection(const QString &text, bool lastRowMayBeEmpty)
 {
-    const FlexGridSelection &selection = m_state.selection;
-    const std::vector<std::vector<QString>> rows = FlexGridText::rowsOf(text, lastRowMayBeEmpty);
-    for (size_t i = 0; i < rows.size() && selection.top() + int(i) <= selection.bottom(); ++i) {
-        for (size_t j = 0; j < rows[i].size() && selection.left() + int(j) <= selection.right(); ++j)
-            m_state.cells.setText(selection.top() + int(i), selection.left() + int(j), rows[i][j]);
-    }
+    const FlexGridSelection selection = m_state.selection;
+    FlexGridText::readCells(text, lastRowMayBeEmpty, [&](int row, int col, const QString &cell) {
+        if (selection.contains(selection.top() + row, selection.left() + col))
+            m_state.cells.setText(selection.top() + row, selection.left() + col, cell);
+    });
     draw();
 }
 

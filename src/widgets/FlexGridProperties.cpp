@@ -181,6 +181,7 @@ void FlexGrid::setScrollBars(int bars)
     const auto policy = [bars](int bit) { return bars & bit ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff; };
     m_view->setHorizontalScrollBarPolicy(policy(1));
     m_view->setVerticalScrollBarPolicy(policy(2));
+    layOutAgain();
 }
 
 void FlexGrid::setScrollTrack(bool track)

@@ -1,7 +1,5 @@
 #include "widgets/FlexGridText.h"
 
-#include <QStringList>
-
 #include <algorithm>
 
 namespace {
@@ -30,21 +28,31 @@ QString withoutLineBreaks(const QString &text)
     return line;
 }
 
-std::vector<std::vector<QString>> rowsOf(const QString &clip, bool lastRowMayBeEmpty)
+Extent readCells(const QString &clip, bool lastRowMayBeEmpty,
+                 const std::function<void(int row, int col, const QString &text)> &take)
 {
-    QString text = clip;
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\r")).replace(u'\n', u'\r');
-    if (!lastRowMayBeEmpty && text.endsWith(u'\r'))
-        text.chop(1);
-
-    std::vector<std::vector<QString>> rows;
-    for (const QStringView line : qTokenize(text, u'\r')) {
-        std::vector<QString> cells;
-        for (const QStringView cell : qTokenize(line, u'\t'))
-            cells.push_back(withoutLineBreaks(cell.toString()));
-        rows.push_back(std::move(cells));
+    Extent extent;
+    int col = 0;
+    qsizetype begin = 0;
+    for (qsizetype i = 0; i <= clip.size(); ++i) {
+        const bool atEnd = i == clip.size();
+        const QChar c = atEnd ? QChar(u'\r') : clip.at(i);
+        if (c != u'\t' && c != u'\r' && c != u'\n')
+            continue;
+        const bool nothingLeft = atEnd && begin == i && col == 0 && extent.rows > 0;
+        if (nothingLeft && !lastRowMayBeEmpty)
+            break;
+        take(extent.rows, col, clip.mid(begin, i - begin));
+        extent.cols = std::max(extent.cols, ++col);
+        if (c != u'\t') {
+            ++extent.rows;
+            col = 0;
+        }
+        if (c == u'\r' && i + 1 < clip.size() && clip.at(i + 1) == u'\n')
+            ++i;
+        begin = i + 1;
     }
-    return rows;
+    return extent;
 }
 
 } // namespace FlexGridText

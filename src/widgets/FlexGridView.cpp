@@ -60,22 +60,37 @@ void FlexGridView::setHeldBack(bool heldBack)
         layOutAgain();
 }
 
+QSize FlexGridView::roomBesideBars() const
+{
+    const QSize whole = maximumViewportSize();
+    QSize room = whole;
+    // each bar takes room that may make the other one necessary
+    for (int pass = 0; pass < 2; ++pass) {
+        if (fixedWidth() + scrollableWidth() > room.width() && m_state.look.ScrollBars & 1)
+            room.setHeight(whole.height() - horizontalScrollBar()->sizeHint().height());
+        if (largestTopRow(room.height()) > m_state.fixedRows && m_state.look.ScrollBars & 2)
+            room.setWidth(whole.width() - verticalScrollBar()->sizeHint().width());
+    }
+    return room;
+}
+
 void FlexGridView::updateScrollBars()
 {
-    const int pages = largestTopRow();
-    verticalScrollBar()->setRange(m_state.fixedRows, pages);
-    verticalScrollBar()->setPageStep(std::max(1, m_state.cells.rows() - pages));
+    const QSize room = roomBesideBars();
+    const int lastPage = largestTopRow(room.height());
+    verticalScrollBar()->setRange(m_state.fixedRows, lastPage);
+    verticalScrollBar()->setPageStep(std::max(1, m_state.cells.rows() - lastPage));
     m_topRow = verticalScrollBar()->value();
 
-    const int width = cellArea().width();
+    const int width = std::max(0, room.width() - fixedWidth());
     horizontalScrollBar()->setRange(0, bounded(std::max<qint64>(0, scrollableWidth() - width)));
     horizontalScrollBar()->setPageStep(std::max(SideStep, width - SideStep));
 }
 
-int FlexGridView::largestTopRow() const
+int FlexGridView::largestTopRow(int height) const
 {
     int row = m_state.cells.rows() - 1;
-    qint64 left = cellArea().height() - rowPixels(row);
+    qint64 left = height - fixedHeight() - rowPixels(row);
     while (row > m_state.fixedRows && left >= rowPixels(row - 1))
         left -= rowPixels(--row);
     return std::max(row, m_state.fixedRows);

@@ -99,18 +99,14 @@ protected:
 
 private:
     enum class Drag { None, Cells, Rows, Cols, RowBorder, ColBorder };
-    /// What lies under the mouse: the border that can be dragged, -1 if none.
-    struct Borders
-    {
-        int row = -1;
-        int col = -1;
-    };
 
     using Bands = std::vector<FlexGridBand>;
 
     void updateScrollBars();
     void layOutIfNeeded();
-    int largestTopRow() const;
+    /// The viewport's size when only the scroll bars that are needed are shown.
+    QSize roomBesideBars() const;
+    int largestTopRow(int height) const;
     int rowsOnPage() const;
     int fixedHeight() const;
     int fixedWidth() const;
@@ -131,7 +127,9 @@ private:
     void move(int row, int col, bool extend);
     FlexGridSelection widened(FlexGridSelection selection) const;
 
-    Borders bordersAt(const QPoint &position) const;
+    /// The row or column whose border can be dragged from a position, -1 if none.
+    int borderColAt(const QPoint &position) const;
+    int borderRowAt(const QPoint &position) const;
     void startDrag(const QPoint &position, bool extend);
     void startHeaderDrag(int row, int col, bool extend);
     void dragTo(const QPoint &position);

@@ -40,8 +40,9 @@ void FlexGridView::keyPressEvent(QKeyEvent *event)
     Q_EMIT keyPressed(FlexGridKeys::virtualKey(*event), FlexGridKeys::shiftBits(event->modifiers()));
     if (navigate(*event))
         return;
+    const bool isTab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
     if (!FlexGridKeys::typesCharacter(*event)) {
-        event->ignore();
+        event->setAccepted(isTab); // otherwise the parent would move the focus
         return;
     }
     for (const char32_t character : event->text().toUcs4())

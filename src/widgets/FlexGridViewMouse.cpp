@@ -20,62 +20,64 @@ constexpr int CustomPointer = 99;
 
 } // namespace
 
-FlexGridView::Borders FlexGridView::bordersAt(const QPoint &position) const
+int FlexGridView::borderColAt(const QPoint &position) const
 {
-    Borders borders;
-    const int resizing = m_state.look.AllowUserResizing;
-    const auto isNear = [](int mouse, int border) { return std::abs(mouse - border) <= BorderReach; };
-    if (resizing & FlexGridLook::ResizeCols && position.y() < fixedHeight()) {
-        qint64 left = 0;
-        for (int col = 0; col < m_state.cells.cols(); ++col) {
-            const int x = m_state.rightToLeft ? viewport()->width() - 1 - position.x() : position.x();
-            left = colLeft(col);
-            const bool shown = col < m_state.fixedCols || left + colPixels(col) >= fixedWidth();
-            const int border =
-                int(std::clamp<qint64>(left + colPixels(col), -1 - BorderReach, viewport()->width() * 2));
-            if (shown && isNear(x, border) && (borders.col < 0 || x >= border))
-                borders.col = col;
+    int found = -1;
+    if (!(m_state.look.AllowUserResizing & FlexGridLook::ResizeCols) || position.y() >= fixedHeight())
+        return found;
+    const int x = m_state.rightToLeft ? viewport()->width() - position.x() : position.x();
+    for (int col = 0; col < m_state.cells.cols(); ++col) {
+        const qint64 border = colLeft(col) + colPixels(col);
+        const bool shown = col < m_state.fixedCols || border >= fixedWidth();
+        // of borders at the same place the last one is meant when the mouse stands behind it
+        if (shown && std::abs(x - border) <= BorderReach && (found < 0 || x >= border))
+            found = col;
+    }
+    return found;
+}
+
+int FlexGridView::borderRowAt(const QPoint &position) const
+{
+    int found = -1;
+    const int col = colAt(position.x());
+    if (!(m_state.look.AllowUserResizing & FlexGridLook::ResizeRows) || col < 0 || col >= m_state.fixedCols)
+        return found;
+    for (const Bands &bands : {fixedRowBands(), shownRowBands()}) {
+        for (const FlexGridBand &band : bands) {
+            if (std::abs(position.y() - band.end()) <= BorderReach && (found < 0 || position.y() >= band.end()))
+                found = band.index;
         }
     }
-    if (resizing & FlexGridLook::ResizeRows && colAt(position.x()) < m_state.fixedCols && borders.col < 0 &&
-        cellArea().left() >= 0 && colAt(position.x()) >= 0) {
-        for (const Bands &bands : {fixedRowBands(), shownRowBands()}) {
-            for (const FlexGridBand &band : bands) {
-                if (isNear(position.y(), band.end()) && (borders.row < 0 || position.y() >= band.end()))
-                    borders.row = band.index;
-            }
-        }
-    }
-    return borders;
+    return found;
 }
 
 void FlexGridView::mousePressEvent(QMouseEvent *event)
 {
-    const int shift = FlexGridKeys::shiftBits(event->modifiers());
-    Q_EMIT mousePressed(FlexGridKeys::buttonBits(event->button()), shift, event->position());
     const QPoint position = event->position().toPoint();
+    m_mouseRow = rowAt(position.y());
+    m_mouseCol = colAt(position.x());
+    Q_EMIT mousePressed(FlexGridKeys::buttonBits(event->button()), FlexGridKeys::shiftBits(event->modifiers()),
+                        event->position());
     if (event->button() == Qt::LeftButton) {
         startDrag(position, event->modifiers() & Qt::ShiftModifier);
     } else if (event->button() == Qt::RightButton) {
-        const int row = rowAt(position.y());
-        const int col = colAt(position.x());
-        if (row >= m_state.fixedRows && col >= m_state.fixedCols && !m_state.selection.contains(row, col))
-            Q_EMIT selectionWanted(widened({row, col, row, col}));
+        const bool onData = m_mouseRow >= m_state.fixedRows && m_mouseCol >= m_state.fixedCols;
+        if (onData && !m_state.selection.contains(m_mouseRow, m_mouseCol))
+            Q_EMIT selectionWanted(widened({m_mouseRow, m_mouseCol, m_mouseRow, m_mouseCol}));
     }
 }
 
 void FlexGridView::startDrag(const QPoint &position, bool extend)
 {
     m_dragPosition = position;
-    const Borders borders = bordersAt(position);
-    if (borders.col >= 0) {
+    m_dragged = borderColAt(position);
+    if (m_dragged >= 0) {
         m_drag = Drag::ColBorder;
-        m_dragged = borders.col;
         return;
     }
-    if (borders.row >= 0) {
+    m_dragged = borderRowAt(position);
+    if (m_dragged >= 0) {
         m_drag = Drag::RowBorder;
-        m_dragged = borders.row;
         return;
     }
     const int row = rowAt(position.y());
@@ -104,7 +106,7 @@ void FlexGridView::startHeaderDrag(int row, int col, bool extend)
         wanted.col = extend ? std::max(m_state.selection.col, m_state.fixedCols) : col;
         wanted.colSel = col;
     }
-    Q_EMIT selectionWanted(wanted);
+    Q_EMIT selectionWanted(widened(wanted));
 }
 
 void FlexGridView::mouseMoveEvent(QMouseEvent *event)
@@ -159,7 +161,7 @@ void FlexGridView::dragSelectionTo(const QPoint &position)
         wanted.rowSel = row < 0 ? m_state.cells.rows() - 1 : row;
     if (m_drag != Drag::Rows)
         wanted.colSel = col < 0 ? m_state.cells.cols() - 1 : col;
-    Q_EMIT selectionWanted(m_drag == Drag::Cells ? widened(wanted) : wanted);
+    Q_EMIT selectionWanted(widened(wanted));
 }
 
 void FlexGridView::timerEvent(QTimerEvent *event)
@@ -202,13 +204,14 @@ void FlexGridView::mouseDoubleClickEvent(QMouseEvent *event)
     if (event->button() != Qt::LeftButton)
         return;
     const QPoint position = event->position().toPoint();
-    const Borders borders = bordersAt(position);
+    const int borderCol = borderColAt(position);
+    const int borderRow = borderRowAt(position);
     const int row = rowAt(position.y());
     const int col = colAt(position.x());
-    if (borders.col >= 0)
-        Q_EMIT colWidthWanted(borders.col, fittingColPixels(borders.col));
-    else if (borders.row >= 0)
-        Q_EMIT rowHeightWanted(borders.row, fittingRowPixels(borders.row));
+    if (borderCol >= 0)
+        Q_EMIT colWidthWanted(borderCol, fittingColPixels(borderCol));
+    else if (borderRow >= 0)
+        Q_EMIT rowHeightWanted(borderRow, fittingRowPixels(borderRow));
     else if (row >= m_state.fixedRows && col >= m_state.fixedCols)
         Q_EMIT cellDoubleClicked();
 }
@@ -229,10 +232,10 @@ void FlexGridView::applyPointer()
 {
     if (m_drag == Drag::RowBorder || m_drag == Drag::ColBorder)
         return;
-    const Borders borders = bordersAt(viewport()->mapFromGlobal(QCursor::pos()));
-    if (borders.col >= 0)
+    const QPoint mouse = viewport()->mapFromGlobal(QCursor::pos());
+    if (borderColAt(mouse) >= 0)
         viewport()->setCursor(Qt::SplitHCursor);
-    else if (borders.row >= 0)
+    else if (borderRowAt(mouse) >= 0)
         viewport()->setCursor(Qt::SplitVCursor);
     else
         viewport()->setCursor(ownPointer());
