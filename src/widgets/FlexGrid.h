@@ -105,8 +105,8 @@ public:
     /// Sorts whole rows: those from Row to RowSel, or all when the two are equal. Keys are the columns from Col to
     /// ColSel from left to right. Equal rows keep their order.
     void setSort(int kind);
-    /// Gives rows a new order: row first + i becomes what row order[i] was, with all it has. order holds each of the rows
-    /// from first on once.
+    /// Gives rows a new order: row first + i becomes what row order[i] was, with all it has. order holds each of the
+    /// rows from first on once.
     void reorderRows(int first, const std::vector<int> &order);
     /// Moves a row or a column with all it has.
     void setRowPosition(int row, int position);
@@ -146,8 +146,6 @@ public:
     /// Fills the selection, and nothing beyond it, from such a text. CR, LF and CR LF all separate rows, one at the end
     /// adds none; cells for which there is no field keep their text.
     void setClip(const QString &text);
-    /// Puts back what Clip returned for this selection, also when the last row was empty.
-    void restoreClip(const QString &text);
 
     // --- Sizes and places
     int RowHeight(int row) const { return m_state.cells.rowHeight(row); }
@@ -326,7 +324,6 @@ private:
     void draw();
     void layOutAgain();
     void fillFromDataSource();
-    void fillSelection(const QString &text, bool lastRowMayBeEmpty);
     template <typename T> void changeLook(T &field, const T &value, const char *name);
     void applyFrame();
     FlexGridCellFormat currentFormat() const;

@@ -169,18 +169,8 @@ QString FlexGrid::Clip() const
 
 void FlexGrid::setClip(const QString &text)
 {
-    fillSelection(text, false);
-}
-
-void FlexGrid::restoreClip(const QString &text)
-{
-    fillSelection(text, true);
-}
-
-void FlexGrid::fillSelection(const QString &text, bool lastRowMayBeEmpty)
-{
     const FlexGridSelection selection = m_state.selection;
-    FlexGridText::readCells(text, lastRowMayBeEmpty, [&](int row, int col, const QString &cell) {
+    FlexGridText::readCells(text, [&](int row, int col, const QString &cell) {
         if (selection.contains(selection.top() + row, selection.left() + col))
             m_state.cells.setText(selection.top() + row, selection.left() + col, cell);
     });

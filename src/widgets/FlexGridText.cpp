@@ -28,10 +28,9 @@ QString withoutLineBreaks(const QString &text)
     return line;
 }
 
-Extent readCells(const QString &clip, bool lastRowMayBeEmpty,
-                 const std::function<void(int row, int col, const QString &text)> &take)
+void readCells(const QString &clip, const std::function<void(int row, int col, const QString &text)> &take)
 {
-    Extent extent;
+    int row = 0;
     int col = 0;
     qsizetype begin = 0;
     for (qsizetype i = 0; i <= clip.size(); ++i) {
@@ -39,20 +38,17 @@ Extent readCells(const QString &clip, bool lastRowMayBeEmpty,
         const QChar c = atEnd ? QChar(u'\r') : clip.at(i);
         if (c != u'\t' && c != u'\r' && c != u'\n')
             continue;
-        const bool nothingLeft = atEnd && begin == i && col == 0 && extent.rows > 0;
-        if (nothingLeft && !lastRowMayBeEmpty)
+        if (atEnd && begin == i && col == 0 && row > 0)
             break;
-        take(extent.rows, col, clip.mid(begin, i - begin));
-        extent.cols = std::max(extent.cols, ++col);
+        take(row, col++, clip.mid(begin, i - begin));
         if (c != u'\t') {
-            ++extent.rows;
+            ++row;
             col = 0;
         }
         if (c == u'\r' && i + 1 < clip.size() && clip.at(i + 1) == u'\n')
             ++i;
         begin = i + 1;
     }
-    return extent;
 }
 
 } // namespace FlexGridText

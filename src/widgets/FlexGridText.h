@@ -11,18 +11,8 @@ namespace FlexGridText {
 /// keeps line breaks out of cells.
 QString withoutLineBreaks(const QString &text);
 
-/// How many rows a text of cells has and how many cells its longest row.
-struct Extent
-{
-    int rows = 0;
-    int cols = 0;
-    bool operator==(const Extent &) const = default;
-};
-
 /// Takes a text of cells apart and hands over each cell with its row and column, counted from 0: tabs separate the
-/// cells of a row; CR, LF and CR LF all separate rows. lastRowMayBeEmpty: a separator at the very end is followed by an
-/// empty row (so read what Clip returned); otherwise it only ends the last row. The empty text is one empty cell.
-Extent readCells(const QString &clip, bool lastRowMayBeEmpty,
-                 const std::function<void(int row, int col, const QString &text)> &take);
+/// cells of a row; CR, LF and CR LF all separate rows, and one at the end adds none. The empty text is one empty cell.
+void readCells(const QString &clip, const std::function<void(int row, int col, const QString &text)> &take);
 
 } // namespace FlexGridText

@@ -78,29 +78,6 @@ TEST(FlexGridClipTest, FillsTheSelectionAndNothingElse)
     }
 }
 
-TEST(FlexGridClipTest, RestoringPutsBackWhatWasRead)
-{
-    for (const QStringList &rows : {QStringList{"\ta\t", "\t\t", "\t\t"}, QStringList{"\t\t", "\t\t", "\tx\ty"}}) {
-        for (const FlexGridSelection &selection : {FlexGridSelection{1, 1, 3, 1}, {1, 2, 2, 1}, {2, 2, 2, 2}}) {
-            FlexGrid grid;
-            fill(grid, rows);
-            grid.Select(selection.row, selection.col, selection.rowSel, selection.colSel);
-            const QString before = everyCell(grid);
-            const QString clip = grid.Clip();
-            grid.setClip(QStringLiteral("1\t2\r3\t4\r5\t6"));
-            grid.restoreClip(clip);
-            EXPECT_EQ(everyCell(grid), before);
-        }
-    }
-}
-
-TEST(FlexGridClipTest, TellsTheExtentOfAText)
-{
-    const auto none = [](int, int, const QString &) {};
-    EXPECT_EQ(FlexGridText::readCells(QStringLiteral("a\tb\r\nc\r\n"), false, none), (FlexGridText::Extent{2, 2}));
-    EXPECT_EQ(FlexGridText::readCells(QStringLiteral("a\tb\r\nc\r\n"), true, none), (FlexGridText::Extent{3, 2}));
-}
-
 TEST(FlexGridRows, ComeAndGo)
 {
     FlexGrid grid;
