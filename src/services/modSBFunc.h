@@ -21,9 +21,9 @@ public:
     /// While one of the flags says that the find/replace dialog is open, status texts by id are held back.
     modSBFunc(const ProgramFlags &flags, QWidget *parent = nullptr);
 
-    /// Sets the panel edges for the bar's present width (they stay when the bar is resized later) and the initial
+    /// Sets the panel edges for a bar of this width in pixels (they stay when the bar is resized later) and the initial
     /// texts.
-    void createPanels();
+    void createPanels(int barWidth);
 
     /// Shows a text in a panel. Only panels 0 to 2 in the default style are taken as they are; every other request goes
     /// to panel 0 in the default style, so that help texts meant for other places land there.

@@ -14,7 +14,7 @@ class frmLangTest : public testing::Test
 protected:
     frmLangTest()
     {
-        status.createPanels();
+        status.createPanels(900);
         document.setUpGrid(QSize(400, 300));
         document.Rutor()->setTextMatrix(0, 1, QStringLiteral("English"));
         document.setDirty(false);
