@@ -11,6 +11,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArrayView bytes(data, qsizetype(size));
     const HandOff::Parsed parsed = HandOff::parse(bytes);
+    if (parsed.state != HandOff::State::Malformed) {
+        const HandOff::Parsed half = HandOff::parse(bytes.first(bytes.size() / 2));
+        require(half.state != HandOff::State::Malformed, "the start of a message is no error");
+    }
     if (parsed.state != HandOff::State::Complete) {
         require(parsed.text.isEmpty(), "only a whole message has a text");
         return 0;
