@@ -79,7 +79,7 @@ TEST(CodePage, LettersHaveTheirBytes)
         {"windows-1257", QStringLiteral("ąž"), "\xE0\xFE"},
         {"windows-1258", QStringLiteral("a\u0301đ"), "\x61\xEC\xF0"},
         {"windows-874", QStringLiteral("บ้าน"), "\xBA\xE9\xD2\xB9"},
-        {"windows-932", QStringLiteral("家ソ\\~∵ｱ"), "\x89\xC6\x83\x5C\x5C\x7E\x81\xE6\xB1"},
+        {"windows-932", QStringLiteral("家ソ\\~纊ｱ"), "\x89\xC6\x83\x5C\x5C\x7E\xFA\x5C\xB1"},
         {"windows-936", QStringLiteral("房子€"), "\xB7\xBF\xD7\xD3\x80"},
         {"windows-949", QStringLiteral("집똠"), "\xC1\xFD\x8C\x63"},
         {"windows-950", QStringLiteral("功許"), "\xA5\x5C\xB3\x5C"},

@@ -87,14 +87,6 @@ TEST_F(VocabularyFileTest, FailedSaveKeepsTheOldFile)
     EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(), 1);
 }
 
-TEST_F(VocabularyFileTest, ReadOnlyFolder)
-{
-    ASSERT_EQ(::chmod(qPrintable(m_folder.path()), 0555), 0);
-    EXPECT_TRUE(OrdinaryUser::run([this] { return !VocabularyFile(path()).save(withRows(1), CodePage()); }));
-    EXPECT_FALSE(QFile::exists(path()));
-    ASSERT_EQ(::chmod(qPrintable(m_folder.path()), 0755), 0);
-}
-
 TEST(VocabularySamples, AllCanBeRead)
 {
     const QDir folder(QStringLiteral(SOURCE_FOLDER "/samples"));
