@@ -29,6 +29,7 @@ struct FrmDocTest : ::testing::Test
         document->showDocument();
         QApplication::setActiveWindow(document);
         documents.setActive(document);
+        QCoreApplication::processEvents();
         grid->setTextMatrix(1, 1, QStringLiteral("house"));
         grid->Select(1, 1, 1, 1);
     }
