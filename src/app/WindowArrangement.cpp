@@ -1,5 +1,7 @@
 #include "app/WindowArrangement.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int DropMargin = 52;
@@ -19,6 +21,14 @@ std::vector<QRect> tiles(const QRect &area, int count, bool horizontal)
                                     : QRect(area.left() + from, area.top(), to - from, area.height()));
     }
     return places;
+}
+
+QRect nextPlace(const QRect &area, int number, int step)
+{
+    const QSize size = area.size() * 3 / 4;
+    const int room = std::min(area.width() - size.width(), area.height() - size.height());
+    const int offset = number % (room / step + 1) * step;
+    return {area.topLeft() + QPoint(offset, offset), size};
 }
 
 std::vector<QRect> icons(const QRect &area, int count, const QSize &size)

@@ -13,6 +13,11 @@ namespace WindowLayout {
 /// side by side. The last tile takes what the division leaves.
 std::vector<QRect> tiles(const QRect &area, int count, bool horizontal);
 
+/// The place of a new window in an area: three quarters of its size, a step (pixels) further down and to the right than
+/// the window made before it; number counts the windows from 0. Steps that would leave the area begin again at its
+/// corner.
+QRect nextPlace(const QRect &area, int number, int step);
+
 /// The places of count minimised windows of one size, in rows from the area's lower left corner upwards.
 std::vector<QRect> icons(const QRect &area, int count, const QSize &size);
 

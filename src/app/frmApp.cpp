@@ -24,6 +24,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
+#include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -113,7 +114,9 @@ void frmApp::placeDocument(frmDoc *document)
     QMdiSubWindow *frame = m_area->addSubWindow(document);
     frame->setAttribute(Qt::WA_DeleteOnClose);
     frame->setWindowIcon(picture(PictureDocument));
-    frame->resize(m_area->viewport()->size() * 3 / 4);
+    const int step =
+        style()->pixelMetric(QStyle::PM_TitleBarHeight) + style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+    frame->setGeometry(WindowLayout::nextPlace(m_area->viewport()->rect(), document->Tag(), step));
     m_menus->watchSystemMenu(frame->systemMenu());
 
     connect(document, &frmDoc::editingChanged, this,

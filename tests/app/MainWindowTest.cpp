@@ -25,6 +25,16 @@ struct MainWindowTest : MainWindowFixture
 
 } // namespace
 
+TEST_F(MainWindowTest, NewDocumentsCascadeInsideTheArea)
+{
+    QPoint last(-1, -1);
+    for (int i = 0; i < 30; ++i) {
+        const QRect place = newDocument()->frame()->geometry();
+        EXPECT_TRUE(window->documentArea()->viewport()->rect().contains(place)) << i;
+        EXPECT_NE(place.topLeft(), std::exchange(last, place.topLeft())) << i;
+    }
+}
+
 TEST_F(MainWindowTest, TilesShareTheAreaWithoutOverlap)
 {
     for (int i = 0; i < 3; ++i)
