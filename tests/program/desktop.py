@@ -50,6 +50,8 @@ class Desktop:
             "QT_QPA_PLATFORM": "xcb",
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
         }
+        sanitizers = ("ASAN_OPTIONS", "UBSAN_OPTIONS")
+        self._environment.update({name: os.environ[name] for name in sanitizers if name in os.environ})
         self._add_folder("XDG_RUNTIME_DIR", self._folder / "run")
         self.fresh_home()
         try:

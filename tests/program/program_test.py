@@ -1,0 +1,56 @@
+#!/usr/bin/env python3
+"""Runs the built program as a user does: program_test.py <program> [unittest arguments]."""
+
+import pathlib
+import shutil
+import sys
+import unittest
+
+from desktop import Desktop
+
+DESKTOP = None
+SAMPLES = pathlib.Path(__file__).resolve().parents[2] / "samples"
+
+
+class ProgramCase(unittest.TestCase):
+    """Each case finds a first run: an empty home."""
+
+    def setUp(self):
+        self.home = DESKTOP.fresh_home()
+        self.addCleanup(DESKTOP.end_programs)
+
+    def sample(self, name):
+        """A copy of a sample that the case may change."""
+        return pathlib.Path(shutil.copy(SAMPLES / name, self.home))
+
+
+class DocumentCase(ProgramCase):
+    """What becomes of a file that the user opens and edits."""
+
+    def open(self, file):
+        program = DESKTOP.start(file)
+        DESKTOP.wait(lambda: DESKTOP.find("table") and DESKTOP.cell(0, 0), "the words")
+        return program
+
+    def test_an_edited_word_is_saved_and_nothing_else_changes(self):
+        file = self.sample("german-basics.gla")
+        before = file.read_bytes().split(b"\r\n")
+        program = self.open(file)
+        DESKTOP.type("the human being")
+        DESKTOP.key("Return", "ctrl+s")
+        expected = b"the human being   [0000000285]"
+        DESKTOP.wait(lambda: expected in file.read_bytes(), "the saved word")
+        self.assertEqual(DESKTOP.quit(program), 0)
+
+        after = file.read_bytes().split(b"\r\n")
+        first_pair = before.index(b"[Vocabulary]") + 3
+        self.assertEqual(after, before[:first_pair] + [expected] + before[first_pair + 1:])
+
+        self.open(file)
+        self.assertEqual(DESKTOP.cell(0, 0), "the human being")
+        self.assertEqual(DESKTOP.cell(0, 1), "der Mensch")
+
+
+if __name__ == "__main__":
+    with Desktop(sys.argv.pop(1)) as DESKTOP:
+        unittest.main(verbosity=2, warnings="ignore")
