@@ -4,6 +4,7 @@ class AlertBox;
 class DocumentList;
 class EditCommands;
 class FileCommands;
+class PrintCommands;
 class RandomSource;
 class SoundPlayer;
 class UndoRecord;
@@ -26,6 +27,7 @@ struct AppContext
     FileCommands &files;
     EditCommands &edit;
     clsMRUFileList &recentFiles;
+    PrintCommands &print;
     RandomSource &random;
     SoundPlayer &errorSound;
 };

@@ -13,8 +13,6 @@ using enum AppState;
 
 constexpr StateSet NotBusy(StateDocument, StateNoDocument);
 constexpr StateSet DocumentOrEditing(StateDocument, StateEditing);
-constexpr StateSet DocumentOrPreview(StateDocument, StatePreview);
-constexpr StateSet AnyWindow(StateDocument, StateEditing, StatePreview);
 constexpr StateSet Always(StateDocument, StateNoDocument, StateEditing, StatePreview);
 constexpr int RecentFiles = 4;
 constexpr int Ready = 506;
@@ -38,9 +36,6 @@ void AppCommands::addFileCommands(CommandTable &table, const AppContext &context
     table.add({"mnuFileClose", 403, "Ctrl+W", 4, PictureClose, DocumentOrEditing, [&files] { files.closeActive(); }});
     table.add({"mnuFileSave", 405, "Ctrl+S", 6, PictureSave, DocumentOrEditing, [&files] { files.save(); }});
     table.add({"mnuFileSaveAs", 406, "", 7, PictureSaveAs, DocumentOrEditing, [&files] { files.saveAs(); }});
-    table.add({"mnuFilePageSetup", 408, "", 9, PicturePageSetup, AnyWindow, {}});
-    table.add({"mnuFilePrintPreview", 409, "", 10, PicturePreview, DocumentOrPreview, {}});
-    table.add({"mnuFilePrint", 410, "Ctrl+P", 11, PicturePrint, DocumentOrPreview, {}});
     for (int n = 1; n <= RecentFiles; ++n)
         addRecentFile(table, context, n);
     table.add({"mnuFileExit", 417, "", 18, PictureExit, Always, [&context] { context.window.close(); }});

@@ -2,11 +2,13 @@
 
 #include "app/AppCommands.h"
 #include "app/AppMenus.h"
+#include "app/AppPrintHost.h"
 #include "app/AppToolbars.h"
 #include "document/DocumentList.h"
 #include "document/FileCommands.h"
 #include "document/ctlGrid.h"
 #include "platform/Twips.h"
+#include "print/PrintCommands.h"
 #include "resources/Pictures.h"
 #include "resources/StringTable.h"
 #include "services/AlertBox.h"
@@ -24,6 +26,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
+#include <QStackedWidget>
 #include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -54,6 +57,9 @@ frmApp::frmApp(const Needs &needs)
     , m_recentFiles(desktopTextWidth)
     , m_editCommands(needs.undo, needs.flags, *QGuiApplication::clipboard())
     , m_area(new QMdiArea)
+    , m_views(new QStackedWidget)
+    , m_printHost(std::make_unique<AppPrintHost>(*this, *m_views))
+    , m_print(std::make_unique<PrintCommands>(needs.printer, needs.dialogs, needs.alert, *m_printHost))
 {
     setWindowTitle(QApplication::applicationDisplayName());
     setAcceptDrops(true);
@@ -84,7 +90,7 @@ void frmApp::createParts(const Needs &needs)
         new FileCommands({*documents, m_recentFiles, *status, needs.alert, needs.prompts}, needs.codePage, this);
     m_context = std::make_unique<AppContext>(AppContext{*this, needs.flags, needs.undo, needs.settings, needs.alert,
                                                         *status, *documents, *files, m_editCommands, m_recentFiles,
-                                                        needs.random, needs.errorSound});
+                                                        *m_print, needs.random, needs.errorSound});
     setCentralWidget(createCentre());
 
     connect(documents, &DocumentList::created, this, &frmApp::placeDocument);
@@ -94,6 +100,17 @@ void frmApp::createParts(const Needs &needs)
         documents->setActive(window ? qobject_cast<frmDoc *>(window->widget()) : nullptr);
     });
     connect(&needs.undo, &UndoRecord::kindChanged, this, &frmApp::onUndoKind);
+    connectPreview();
+}
+
+void frmApp::connectPreview()
+{
+    const PrintPreview &preview = m_print->preview();
+    connect(&preview, &PrintPreview::buttonsChanged, this, [this](bool previous, bool next) {
+        m_commands.setAvailable(QStringLiteral("Previous"), previous);
+        m_commands.setAvailable(QStringLiteral("Next"), next);
+    });
+    connect(&preview, &PrintPreview::statusText, &m_context->status, &modSBFunc::ShowStatus);
 }
 
 QWidget *frmApp::createCentre()
@@ -104,7 +121,9 @@ QWidget *frmApp::createCentre()
     auto *layout = new QVBoxLayout(centre);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(m_area, 1);
+    m_views->insertWidget(0, m_area);
+    m_views->setCurrentWidget(m_area);
+    layout->addWidget(m_views, 1);
     layout->addWidget(&m_context->status);
     return centre;
 }
@@ -191,7 +210,9 @@ void frmApp::SetCommandState(AppState state)
 void frmApp::updateState()
 {
     frmDoc *document = m_context->documents.active();
-    if (!document)
+    if (m_print->preview().isOpen())
+        SetCommandState(AppState::StatePreview);
+    else if (!document)
         SetCommandState(AppState::StateNoDocument);
     else
         SetCommandState(document->Rutor()->EditMode() ? AppState::StateEditing : AppState::StateDocument);
@@ -223,8 +244,11 @@ int frmApp::toolbarHeight() const
 
 void frmApp::OpenRequestedFile(const QString &text)
 {
-    if (const std::optional<QString> path = RequestedFile::requestedPath(text))
-        m_context->files.LoadVocabulary(*path);
+    const std::optional<QString> path = RequestedFile::requestedPath(text);
+    if (!path)
+        return;
+    m_print->preview().close();
+    m_context->files.LoadVocabulary(*path);
 }
 
 void frmApp::bringToFront()
@@ -333,6 +357,7 @@ void frmApp::saveSettings()
 
 void frmApp::closeEvent(QCloseEvent *event)
 {
+    m_print->preview().close();
     if (!m_context->files.closeAll()) {
         event->ignore();
         return;

@@ -14,8 +14,13 @@
 class AppMenus;
 class AppToolbars;
 class CodePage;
+class CommonDialogs;
 class FilePrompts;
+class PrintCommands;
+class PrintHost;
+class PrinterDevice;
 class QMdiArea;
+class QStackedWidget;
 class RegistryStore;
 class frmDoc;
 
@@ -35,6 +40,8 @@ public:
         RegistryStore &store;
         AlertBox &alert;
         FilePrompts &prompts;
+        PrinterDevice &printer;
+        CommonDialogs &dialogs;
         const CodePage &codePage;
         RandomSource &random;
         SoundPlayer &errorSound;
@@ -95,6 +102,7 @@ private:
     void onRemoved();
     void updateState();
     void onUndoKind(UndoKind kind);
+    void connectPreview();
     bool applyPosition();
     void useWorkArea();
     void makeRoomForFrame();
@@ -107,6 +115,9 @@ private:
     clsMRUFileList m_recentFiles;
     EditCommands m_editCommands;
     QMdiArea *m_area;
+    QStackedWidget *m_views; ///< the document area, and the print preview in its place
+    std::unique_ptr<PrintHost> m_printHost;
+    std::unique_ptr<PrintCommands> m_print;
     std::unique_ptr<AppContext> m_context;
     CommandTable m_commands;
     AppMenus *m_menus = nullptr;

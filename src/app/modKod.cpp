@@ -152,7 +152,7 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     splash.setLoadStatus(frmSplash::StartUp);
     splash.Form_Load();
     frmApp window({program.flags, program.undo, program.settings, program.store, program.alert, program.prompts,
-                   program.codePage, program.random, program.errorSound});
+                   program.printer, program.dialogs, program.codePage, program.random, program.errorSound});
     program.alert.setMainWindow(&window);
     program.prompts.setOwner(&window);
     QObject::connect(&window, &frmApp::closed, &application, &QApplication::quit);
