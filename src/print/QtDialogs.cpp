@@ -3,12 +3,14 @@
 #include "print/QtPrinter.h"
 #include "resources/StringTable.h"
 
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
+#include <QPushButton>
 #include <QStandardPaths>
 
 namespace {
@@ -18,6 +20,18 @@ void hideMargins(const QPageSetupDialog &dialog)
 {
     if (const auto *margin = dialog.findChild<QWidget *>(QStringLiteral("topMargin")))
         margin->parentWidget()->hide();
+}
+
+/// Pages and copies show at once, not only behind the dialog's own button.
+void showOptions(const QPrintDialog &dialog)
+{
+    const auto *buttons = dialog.findChild<QDialogButtonBox *>();
+    if (!buttons)
+        return;
+    for (QAbstractButton *button : buttons->buttons()) {
+        if (buttons->buttonRole(button) == QDialogButtonBox::ResetRole)
+            button->click();
+    }
 }
 
 PrintChoice choiceOf(const QPrintDialog &dialog, const QPrinter &printer)
@@ -108,6 +122,7 @@ std::optional<PrintChoice> QtDialogs::choosePages(const PrintRequest &request)
     dialog.setMinMax(request.minPage, request.maxPage);
     dialog.setFromTo(request.fromPage, request.toPage);
     dialog.setPrintRange(request.pageNumbers ? QAbstractPrintDialog::PageRange : QAbstractPrintDialog::AllPages);
+    showOptions(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     const PrintChoice choice = choiceOf(dialog, printer);

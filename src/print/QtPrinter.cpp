@@ -4,11 +4,13 @@
 #include "print/PaintedSurface.h"
 #include "resources/StringTable.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPageRanges>
 #include <QPainter>
+#include <QPrintEngine>
 #include <QPrinterInfo>
 
 #include <cmath>
@@ -36,6 +38,22 @@ void useTwips(QPrinter &printer)
     printer.setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Point);
 }
 
+/// The options that go to the print server with a job, as names and values in turn.
+constexpr auto ServerOptions = QPrintEngine::PrintEnginePropertyKey(0xfe00);
+
+/// Takes an option away from the printer and returns its value.
+QString takeServerOption(QPrinter &printer, const QString &name)
+{
+    QStringList options = printer.printEngine()->property(ServerOptions).toStringList();
+    const qsizetype at = options.indexOf(name);
+    if (at < 0 || at + 1 >= options.size())
+        return {};
+    const QString value = options.at(at + 1);
+    options.remove(at, 2);
+    printer.printEngine()->setProperty(ServerOptions, options);
+    return value;
+}
+
 /// Whether a PDF file was written to its end; the platform does not tell when a disk has filled up.
 bool isWholePdf(const QString &path)
 {
@@ -56,6 +74,7 @@ QPrinter &QtPrinter::printer() const
 {
     if (!m_printer) {
         m_printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        m_printer->setCreator(QCoreApplication::applicationName());
         useTwips(*m_printer);
     }
     return *m_printer;
@@ -72,6 +91,9 @@ void QtPrinter::settle()
         throw PrinterError(resText(12401).arg(printer().printerName()));
     useTwips(printer());
     printer().setCopyCount(1);
+    // The server would choose among the pages of the job, which holds the chosen pages of every copy already.
+    takeServerOption(printer(), QStringLiteral("page-ranges"));
+    m_pageSet = takeServerOption(printer(), QStringLiteral("page-set"));
 }
 
 int QtPrinter::Width() const
@@ -162,6 +184,9 @@ bool QtPrinter::lastPageFirst() const
 
 bool QtPrinter::wantsPage(int page) const
 {
+    const bool odd = page % 2 != 0;
+    if (m_pageSet == (odd ? QStringLiteral("even") : QStringLiteral("odd")))
+        return false;
     const QPageRanges ranges = printer().pageRanges();
     return printer().printRange() != QPrinter::PageRange || ranges.isEmpty() || ranges.contains(page);
 }

@@ -19,8 +19,8 @@ public:
 
     /// The printer as its dialogs need it, made when first asked for.
     QPrinter &printer() const;
-    /// Undoes what a dialog changed apart from the user's choices: resolution, margins and copies, which the print
-    /// command makes itself. Throws PrinterError when the printer does not exist.
+    /// To be called after a dialog: brings resolution and margins back, and takes over what the program does itself,
+    /// copies and the choice of pages. Throws PrinterError when the printer does not exist.
     void settle();
 
     int Width() const override;
@@ -44,6 +44,7 @@ private:
     bool writesFile() const;
 
     mutable std::unique_ptr<QPrinter> m_printer;
+    QString m_pageSet; ///< "odd" or "even": only those pages are wanted
     std::unique_ptr<QPainter> m_painter;
     std::unique_ptr<PaintedSurface> m_surface;
 };
