@@ -8,7 +8,9 @@
 #include "quiz/rules/RandomSource.h"
 #include "services/rules/ProgramFlags.h"
 #include "services/rules/clsAppProperties.h"
+#include "support/RecordingPrinter.h"
 #include "support/ScriptedAlertBox.h"
+#include "support/ScriptedDialogs.h"
 #include "support/ScriptedPrompts.h"
 
 #include <QMenu>
@@ -26,6 +28,8 @@ struct MainWindowFixture : ::testing::Test
     UndoRecord undo;
     ScriptedAlertBox alert;
     ScriptedPrompts prompts;
+    RecordingPrinter printer;
+    ScriptedDialogs dialogs;
     CodePage codePage;
     SeededRandom random{1};
     DesktopSoundPlayer silence{QByteArray()};
@@ -34,7 +38,7 @@ struct MainWindowFixture : ::testing::Test
     void SetUp() override
     {
         window = std::make_unique<frmApp>(
-            frmApp::Needs{flags, undo, settings, store, alert, prompts, codePage, random, silence});
+            frmApp::Needs{flags, undo, settings, store, alert, prompts, printer, dialogs, codePage, random, silence});
         window->show();
         QApplication::setActiveWindow(window.get());
     }

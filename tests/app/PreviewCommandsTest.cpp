@@ -1,0 +1,114 @@
+#include "MainWindowFixture.h"
+
+#include "document/ctlGrid.h"
+#include "print/PrintCommands.h"
+#include "services/modSBFunc.h"
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+namespace {
+
+struct PreviewCommandsTest : MainWindowFixture
+{
+    /// A document whose words fill a number of pages.
+    frmDoc *document(int pages)
+    {
+        frmDoc *made = newDocument();
+        ctlGrid &grid = *made->Rutor();
+        grid.setRows(49 * pages);
+        for (int row = 1; row < grid.Rows(); ++row)
+            grid.setTextMatrix(row, 1, QStringLiteral("%1 %2").arg(made->Caption()).arg(row));
+        return made;
+    }
+    PrintPreview &preview() { return window->context().print.preview(); }
+};
+
+} // namespace
+
+TEST_F(PreviewCommandsTest, ThePreviewTakesTheDocumentsPlaceAndGivesItBack)
+{
+    std::vector<std::pair<frmDoc *, QRect>> places;
+    for (int i = 0; i < 3; ++i) {
+        frmDoc *made = document(2);
+        made->frame()->move(20 + 31 * i, 10 + 17 * i);
+        places.emplace_back(made, made->frame()->geometry());
+    }
+    frmDoc *active = places[1].first;
+    window->activate(active);
+    active->Rutor()->setRow(5);
+    window->DoMenuClick("mnuFilePrintPreview");
+    EXPECT_EQ(window->state(), AppState::StatePreview);
+    EXPECT_EQ(menuTitles(), (QStringList{"File", "Help"}));
+    for (const auto &[made, place] : places)
+        EXPECT_FALSE(made->frame()->isVisible());
+    EXPECT_EQ(window->context().status.text(0) + window->context().status.text(1), QString());
+    EXPECT_TRUE(preview().pageWindow()->isVisible());
+    EXPECT_FALSE(button("PREVIEW", "Previous")->isEnabled());
+    EXPECT_TRUE(button("PREVIEW", "Next")->isEnabled());
+    window->DoMenuClick("Next");
+    EXPECT_EQ(preview().visiblePage(), 1);
+    EXPECT_TRUE(button("PREVIEW", "Previous")->isEnabled());
+    EXPECT_FALSE(button("PREVIEW", "Next")->isEnabled());
+
+    window->DoMenuClick("Close");
+    EXPECT_EQ(window->state(), AppState::StateDocument);
+    for (const auto &[made, place] : places) {
+        EXPECT_TRUE(made->frame()->isVisible());
+        EXPECT_EQ(made->frame()->geometry(), place);
+    }
+    EXPECT_EQ(documents().active(), active);
+    EXPECT_EQ(window->documentArea()->activeSubWindow(), active->frame());
+    EXPECT_EQ(window->context().status.text(1), QStringLiteral(" A5"));
+}
+
+TEST_F(PreviewCommandsTest, MaximisedAndMinimisedDocumentsStaySo)
+{
+    frmDoc *small = document(1);
+    frmDoc *large = document(1);
+    small->frame()->showMinimized();
+    large->frame()->showMaximized();
+    window->activate(large);
+    window->DoMenuClick("mnuFilePrintPreview");
+    window->DoMenuClick("mnuFilePrintPreview");
+    EXPECT_TRUE(small->frame()->isMinimized());
+    EXPECT_TRUE(large->frame()->isMaximized());
+    EXPECT_EQ(large->frame()->size(), window->documentArea()->viewport()->size());
+    large->frame()->showNormal();
+    EXPECT_NE(large->frame()->size(), window->documentArea()->viewport()->size());
+}
+
+TEST_F(PreviewCommandsTest, UndoOutlivesThePreview)
+{
+    frmDoc *made = document(1);
+    undo.setKind(UndoKind::Clear, made);
+    window->DoMenuClick("mnuFilePrintPreview");
+    window->DoMenuClick("Close");
+    EXPECT_EQ(undo.kind(), UndoKind::Clear);
+}
+
+TEST_F(PreviewCommandsTest, PrintsTheActiveDocument)
+{
+    document(1);
+    frmDoc *active = document(2);
+    dialogs.pages = PrintChoice{1, 1, 2, false, false, true};
+    window->DoMenuClick("mnuFilePrint");
+    ASSERT_EQ(printer.pageNumbers(), std::vector<int>({1, 2}));
+    EXPECT_EQ(printer.docName, QStringLiteral("Glosaria - ") + active->Caption());
+    EXPECT_TRUE(printer.sheets.front().find(active->Caption() + QStringLiteral(" 1")));
+    EXPECT_EQ(window->context().status.text(0), QStringLiteral("Ready"));
+}
+
+TEST_F(PreviewCommandsTest, OpeningAFileAndLeavingTheProgramEndThePreview)
+{
+    document(1);
+    window->DoMenuClick("mnuFilePrintPreview");
+    window->OpenRequestedFile(writeVocabulary("other.gla"));
+    EXPECT_FALSE(preview().isOpen());
+    EXPECT_EQ(documents().active()->Caption(), QStringLiteral("other"));
+    EXPECT_EQ(window->state(), AppState::StateDocument);
+    window->DoMenuClick("mnuFilePrintPreview");
+    window->DoMenuClick("mnuFileExit");
+    EXPECT_FALSE(preview().isOpen());
+    EXPECT_FALSE(window->isVisible());
+}
