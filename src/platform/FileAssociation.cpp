@@ -99,11 +99,12 @@ bool FileAssociation::registerType() const
     if (isInstalled())
         return true;
     const QString folder = UserFolders::sharedData() + QLatin1Char('/');
+    const std::pair<QString, QByteArray> files[] = {
+        {MimePackage, mimePackage()}, {ProgramIcon, programIcon}, {TypeIcon, typeIcon}, {DesktopEntry, desktopEntry()}};
     bool changed = false;
-    const bool written = ensureContent(folder + MimePackage, mimePackage(), changed) &
-                         ensureContent(folder + ProgramIcon, programIcon, changed) &
-                         ensureContent(folder + TypeIcon, typeIcon, changed) &
-                         ensureContent(folder + DesktopEntry, desktopEntry(), changed);
+    bool written = true;
+    for (const auto &[name, content] : files)
+        written = ensureContent(folder + name, content, changed) && written;
     if (changed) {
         DetachedProcess::start(QStringLiteral("update-mime-database"), {folder + QStringLiteral("mime")});
         DetachedProcess::start(QStringLiteral("update-desktop-database"), {folder + QStringLiteral("applications")});

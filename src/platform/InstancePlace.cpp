@@ -14,7 +14,7 @@ namespace {
 /// The display of the session; one X display has several screens.
 QString displayName()
 {
-    const QString wayland = qEnvironmentVariable("WAYLAND_DISPLAY");
+    QString wayland = qEnvironmentVariable("WAYLAND_DISPLAY");
     if (!wayland.isEmpty())
         return wayland;
     const QString display = qEnvironmentVariable("DISPLAY");
@@ -66,7 +66,7 @@ namespace InstancePlace {
 QString socketPath()
 {
     for (const QString &folder : candidateFolders()) {
-        const QString path = folder + QLatin1Char('/') + socketName();
+        QString path = folder + QLatin1Char('/') + socketName();
         if (QFile::encodeName(path).size() <= LongestPath && makePrivate(folder))
             return path;
     }

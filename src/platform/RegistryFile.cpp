@@ -1,34 +1,17 @@
 #include "platform/RegistryFile.h"
 
 #include "platform/AtomicFile.h"
+#include "platform/FolderLock.h"
 #include "platform/RegistryText.h"
 #include "platform/UserFolders.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QLockFile>
 
 namespace {
 
 constexpr int LockWait = 2000; // ms
 constexpr qint64 LargestFile = 64 << 20;
-
-/// Holds the lock beside the store. Where no lock file can be made the store is used without one.
-class StoreLock
-{
-public:
-    explicit StoreLock(const QString &path)
-        : m_lock(path + QStringLiteral(".lock"))
-    {
-        m_held = m_lock.tryLock(LockWait) || m_lock.error() != QLockFile::LockFailedError;
-    }
-
-    bool isHeld() const { return m_held; }
-
-private:
-    QLockFile m_lock;
-    bool m_held = false;
-};
 
 } // namespace
 
@@ -38,7 +21,7 @@ RegistryFile::RegistryFile(const QString &path)
     if (load(m_tree) != State::Damaged)
         return;
     // Another copy may just have set it aside and begun a new one.
-    const StoreLock lock(m_path);
+    const FolderLock lock(QFileInfo(m_path).absolutePath(), LockWait);
     if (load(m_tree) == State::Damaged)
         setAside();
 }
@@ -75,10 +58,11 @@ bool RegistryFile::setAside() const
     return QFile::rename(m_path, name);
 }
 
-bool RegistryFile::change(const std::function<bool(RegistryTree &tree)> &edit)
+bool RegistryFile::change(const Edit &edit)
 {
-    QDir().mkpath(QFileInfo(m_path).absolutePath());
-    const StoreLock lock(m_path);
+    const QString folder = QFileInfo(m_path).absolutePath();
+    QDir().mkpath(folder);
+    const FolderLock lock(folder, LockWait);
     if (!lock.isHeld())
         return false;
     RegistryTree current;

@@ -2,6 +2,8 @@
 
 #include "platform/RegistryTree.h"
 
+#include <functional>
+
 /// The store on the disk. Every change reads the file again under a lock, so that two copies of the program keep each
 /// other's keys, and replaces the file as a whole. A damaged file is set aside under another name beside it, and the
 /// store starts empty.
@@ -22,11 +24,12 @@ public:
     bool deleteValue(int root, const QString &key, const QString &name) override;
 
 private:
+    using Edit = std::function<bool(RegistryTree &tree)>;
     enum class State { Whole, Damaged, Unreadable };
 
     State load(RegistryTree &tree) const;
     bool setAside() const;
-    bool change(const std::function<bool(RegistryTree &tree)> &edit);
+    bool change(const Edit &edit);
 
     QString m_path;
     RegistryTree m_tree;

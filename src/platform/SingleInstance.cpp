@@ -1,11 +1,12 @@
 #include "platform/SingleInstance.h"
 
+#include "platform/FolderLock.h"
 #include "platform/HandOff.h"
 
 #include <QDeadlineTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QLocalSocket>
-#include <QLockFile>
 #include <QPointer>
 #include <QThread>
 #include <QTimer>
@@ -46,8 +47,7 @@ SingleInstance::~SingleInstance()
     if (!m_server.isListening())
         return;
     // Closing removes the socket, which must not by then be that of a copy which found nobody here.
-    QLockFile lock(m_socketPath + QStringLiteral(".lock"));
-    lock.tryLock(ClosingLockWait);
+    const FolderLock lock(QFileInfo(m_socketPath).path(), ClosingLockWait);
     m_server.close();
 }
 
@@ -88,9 +88,8 @@ SingleInstance::Answer SingleInstance::ActivatePreviousInstance(const QString &c
 
 bool SingleInstance::becomeFirst(bool atAnyRate)
 {
-    QLockFile lock(m_socketPath + QStringLiteral(".lock"));
-    lock.setStaleLockTime(0);
-    if (!lock.tryLock(0) && !atAnyRate)
+    const FolderLock lock(QFileInfo(m_socketPath).path(), 0);
+    if (!lock.isHeld() && !atAnyRate)
         return false;
     // Another copy may have become the first between the refusal and the lock.
     QLocalSocket probe;

@@ -6,6 +6,8 @@
 #include <QDir>
 
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -17,9 +19,7 @@ protected:
     QString path() const { return m_folder.filePath(QStringLiteral("below/registry")); }
     QStringList names() const
     {
-        QStringList names = QDir(m_folder.filePath(QStringLiteral("below"))).entryList(QDir::Files, QDir::Name);
-        names.removeAll(QStringLiteral("registry.lock"));
-        return names;
+        return QDir(m_folder.filePath(QStringLiteral("below"))).entryList(QDir::Files | QDir::Hidden, QDir::Name);
     }
     void put(const QByteArray &bytes) const
     {
@@ -73,6 +73,31 @@ TEST_F(RegistryFileTest, TwoCopiesKeepEachOthersValues)
     EXPECT_TRUE(set(first, "c", QStringLiteral("third")));
     const RegistryFile third(path());
     EXPECT_EQ(text(third, "a") + text(third, "b") + text(third, "c"), QStringLiteral("firstsecondthird"));
+}
+
+TEST_F(RegistryFileTest, ValuesWrittenAtTheSameMomentAreAllKept)
+{
+    constexpr int Copies = 4;
+    constexpr int ValuesEach = 10;
+    for (int copy = 0; copy < Copies; ++copy) {
+        if (::fork() != 0)
+            continue;
+        RegistryFile store(path());
+        bool whole = true;
+        for (int i = 0; i < ValuesEach; ++i)
+            whole = set(store, qPrintable(QStringLiteral("%1-%2").arg(copy).arg(i)), QStringLiteral("x")) && whole;
+        ::_exit(whole ? 0 : 1);
+    }
+    for (int copy = 0; copy < Copies; ++copy) {
+        int status = -1;
+        ASSERT_GT(::wait(&status), 0);
+        EXPECT_EQ(status, 0);
+    }
+    const RegistryFile store(path());
+    for (int i = 0; i < Copies * ValuesEach; ++i) {
+        const QString name = QStringLiteral("%1-%2").arg(i / ValuesEach).arg(i % ValuesEach);
+        EXPECT_EQ(text(store, qPrintable(name)), QStringLiteral("x")) << qPrintable(name);
+    }
 }
 
 TEST_F(RegistryFileTest, DamagedFilesAreKeptUnderAnotherName)
