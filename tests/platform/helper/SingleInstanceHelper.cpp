@@ -1,40 +1,23 @@
-// One copy of a program: single_instance_helper <socket path> <command line> [answer ms] says on its output what
-// happens to it, and runs while it is the first copy.
+// One copy of a program: it says on its output what happens to it, and runs while it is the first copy. Arguments: the
+// socket's path, the command line, and how long to wait for an answer (ms).
 #include "platform/SingleInstance.h"
 
 #include <QCoreApplication>
-
-#include <cstdio>
-
-namespace {
-
-void say(const QString &line)
-{
-    std::puts(qPrintable(line));
-    std::fflush(stdout);
-}
-
-} // namespace
+#include <QTextStream>
 
 int main(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    SingleInstanceLimits limits;
-    limits.stall = 300;
-    if (arguments.size() > 3)
-        limits.answer = arguments.at(3).toInt();
-    SingleInstance instance(arguments.value(1), limits);
-    QObject::connect(&instance, &SingleInstance::activated, [] { say(QStringLiteral("activated")); });
-    QObject::connect(&instance, &SingleInstance::received, [](const QString &text) {
+    const auto say = [](const QString &line) { QTextStream(stdout) << line << Qt::endl; };
+    SingleInstance instance(arguments.at(1), {arguments.at(3).toInt(), 300});
+    QObject::connect(&instance, &SingleInstance::activated, [&] { say(QStringLiteral("activated")); });
+    QObject::connect(&instance, &SingleInstance::received, [&](const QString &text) {
         say(QStringLiteral("received ") + text);
         if (text == QStringLiteral("quit"))
             QCoreApplication::quit();
     });
-    if (instance.start(arguments.value(2)) == SingleInstance::Role::Second) {
-        say(QStringLiteral("second"));
-        return 0;
-    }
-    say(QStringLiteral("first"));
-    return QCoreApplication::exec();
+    const bool isFirst = instance.start(arguments.at(2)) == SingleInstance::Role::First;
+    say(isFirst ? QStringLiteral("first") : QStringLiteral("second"));
+    return isFirst ? QCoreApplication::exec() : 0;
 }

@@ -5,12 +5,8 @@
 
 TEST(CommandLine, ArgumentsMakeOneAbsolutePath)
 {
-    struct Case
-    {
-        const char *arguments; // separated by |
-        const char *text;
-    };
-    const Case cases[] = {
+    // The arguments, separated by |, and the text.
+    const char *const cases[][2] = {
         {"", ""},
         {"/a/b.gla", "/a/b.gla"},
         {"b.gla", "/cwd/b.gla"},
@@ -26,12 +22,12 @@ TEST(CommandLine, ArgumentsMakeOneAbsolutePath)
         {"-", "/cwd/-"},
         {"file:///a/my%20words.gla", "/a/my words.gla"},
     };
-    for (const Case &each : cases) {
-        const QStringList arguments = QString::fromUtf8(each.arguments).split(QLatin1Char('|'), Qt::SkipEmptyParts);
+    for (const auto &[given, text] : cases) {
+        const QStringList arguments = QString::fromUtf8(given).split(QLatin1Char('|'), Qt::SkipEmptyParts);
         const CommandLine line = CommandLine::parse(arguments, QStringLiteral("/cwd"));
-        EXPECT_EQ(line.text.toStdString(), each.text);
-        EXPECT_EQ(line.splash, !arguments.contains(QStringLiteral("--no-splash"))) << each.arguments;
-        EXPECT_TRUE(!line.help && !line.version && line.unknownOption.isEmpty()) << each.arguments;
+        EXPECT_EQ(line.text.toStdString(), text);
+        EXPECT_EQ(line.splash, !arguments.contains(QStringLiteral("--no-splash"))) << given;
+        EXPECT_TRUE(!line.help && !line.version && line.unknownOption.isEmpty()) << given;
     }
 }
 
@@ -51,12 +47,8 @@ TEST(RequestedFile, TextsFromOutside)
     const QString root = QDir(folder.path()).canonicalPath();
     QFile file(root + QStringLiteral("/My Words.gla"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    struct Case
-    {
-        const char *text; // @ stands for the folder
-        const char *path; // null: ignored
-    };
-    const Case cases[] = {
+    // The text, and the path that it asks for; null: it is ignored. @ stands for the folder.
+    const char *const cases[][2] = {
         {"@/My Words.gla", "@/My Words.gla"},
         {"\"@/My Words.gla\"", "@/My Words.gla"},
         {"\"@/My Words.gla", "@/My Words.gla"},
@@ -70,10 +62,10 @@ TEST(RequestedFile, TextsFromOutside)
         {"\"", nullptr},
         {"", nullptr},
     };
-    for (const Case &each : cases) {
-        const QString text = QString::fromUtf8(each.text).replace(QLatin1Char('@'), root);
-        const std::optional<QString> path = RequestedFile::requestedPath(text);
-        ASSERT_EQ(path.has_value(), each.path != nullptr) << each.text;
-        EXPECT_EQ(path.value_or(QString()), QString::fromUtf8(each.path).replace(QLatin1Char('@'), root));
+    const auto inFolder = [&root](const char *text) { return QString::fromUtf8(text).replace(QLatin1Char('@'), root); };
+    for (const auto &[text, expected] : cases) {
+        const std::optional<QString> path = RequestedFile::requestedPath(inFolder(text));
+        ASSERT_EQ(path.has_value(), expected != nullptr) << text;
+        EXPECT_EQ(path.value_or(QString()), inFolder(expected));
     }
 }
