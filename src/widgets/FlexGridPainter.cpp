@@ -185,9 +185,13 @@ void FlexGridPainter::paintFocus(QPainter &painter, const QRect &rect) const
     const int width = m_state.look.FocusRect;
     if (width == FlexGridLook::NoFocusRect || !m_state.hasData())
         return;
-    const QColor colour = m_focused ? m_palette.highlight().color() : m_palette.mid().color();
+    QColor colour = m_palette.highlight().color();
+    if (!m_focused) {
+        colour = m_palette.text().color();
+        colour.setAlphaF(0.5F);
+    }
+    painter.setPen(colour);
     for (int i = 0; i < width; ++i) {
-        painter.setPen(colour);
         painter.drawRect(rect.adjusted(i, i, -1 - i, -1 - i));
     }
 }
