@@ -8,6 +8,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <tuple>
 
 namespace {
 
@@ -49,7 +50,23 @@ void FlexGridView::layOutIfNeeded()
     if (!m_layoutPending)
         return;
     m_layoutPending = false;
-    updateScrollBars();
+    const auto ranges = [this] {
+        return std::tuple(verticalScrollBar()->minimum(), verticalScrollBar()->maximum(),
+                          horizontalScrollBar()->maximum());
+    };
+    const auto before = ranges();
+    if (updateScrollBars())
+        Q_EMIT scrolled();
+    // the scroll area shows, hides and places its bars when one of them says that its range changed
+    if (ranges() != before)
+        Q_EMIT horizontalScrollBar()->rangeChanged(0, horizontalScrollBar()->maximum());
+}
+
+bool FlexGridView::event(QEvent *event)
+{
+    if (event->type() == QEvent::Resize && updateScrollBars())
+        Q_EMIT scrolled();
+    return QAbstractScrollArea::event(event);
 }
 
 void FlexGridView::setHeldBack(bool heldBack)
@@ -74,8 +91,13 @@ QSize FlexGridView::roomBesideBars() const
     return room;
 }
 
-void FlexGridView::updateScrollBars()
+bool FlexGridView::updateScrollBars()
 {
+    // both ranges are set before the scroll area hears of either: it would lay out with one that is out of date
+    const QSignalBlocker quietVertical(verticalScrollBar());
+    const QSignalBlocker quietHorizontal(horizontalScrollBar());
+    const int leftBefore = horizontalScrollBar()->value();
+    const int topBefore = m_topRow;
     const QSize room = roomBesideBars();
     const int lastPage = largestTopRow(room.height());
     verticalScrollBar()->setRange(m_state.fixedRows, lastPage);
@@ -85,6 +107,7 @@ void FlexGridView::updateScrollBars()
     const int width = std::max(0, room.width() - fixedWidth());
     horizontalScrollBar()->setRange(0, bounded(std::max<qint64>(0, scrollableWidth() - width)));
     horizontalScrollBar()->setPageStep(std::max(SideStep, width - SideStep));
+    return m_topRow != topBefore || horizontalScrollBar()->value() != leftBefore;
 }
 
 int FlexGridView::largestTopRow(int height) const
@@ -343,5 +366,6 @@ void FlexGridView::paintEvent(QPaintEvent *)
 
 void FlexGridView::resizeEvent(QResizeEvent *)
 {
-    layOutAgain();
+    viewport()->update();
+    Q_EMIT laidOut();
 }

@@ -79,6 +79,7 @@ Q_SIGNALS:
     void mouseReleased(int button, int shift, const QPointF &position);
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -102,7 +103,8 @@ private:
 
     using Bands = std::vector<FlexGridBand>;
 
-    void updateScrollBars();
+    /// Sets the ranges of both scroll bars; whether that scrolled the cells.
+    bool updateScrollBars();
     void layOutIfNeeded();
     /// The viewport's size when only the scroll bars that are needed are shown.
     QSize roomBesideBars() const;

@@ -248,6 +248,17 @@ TEST_F(ShownGrid, ScrollsByRowsAndKnowsWhatIsSeen)
     EXPECT_EQ(grid.ColPos(1), 1500);
 }
 
+TEST_F(ShownGrid, ShowsNoScrollBarThatIsNotNeeded)
+{
+    for (const QSize &size : {QSize(360, 220), QSize(430, 220), QSize(415, 220), QSize(430, 300)}) {
+        grid.resize(size);
+        const bool narrow = size.width() < 400 + grid.hwndGrid()->verticalScrollBar()->width();
+        EXPECT_EQ(grid.hwndGrid()->horizontalScrollBar()->isVisible(), narrow);
+        grid.setTopRow(200);
+        EXPECT_TRUE(grid.RowIsVisible(200));
+    }
+}
+
 TEST_F(ShownGrid, HoldsDrawingBackAndIsRightAfterwards)
 {
     grid.setRedraw(false);
