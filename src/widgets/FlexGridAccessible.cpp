@@ -142,7 +142,9 @@ QAccessibleInterface *FlexGridAccessible::focusChild() const
 QAccessibleInterface *FlexGridAccessible::cellAt(int row, int column) const
 {
     const FlexGridState &state = view().state();
-    return row < 0 || column < 0 ? nullptr : cell(state.fixedRows + row, state.fixedCols + column);
+    const bool inside = row >= 0 && row < state.cells.rows() - state.fixedRows && column >= 0 &&
+                        column < state.cells.cols() - state.fixedCols;
+    return inside ? cell(state.fixedRows + row, state.fixedCols + column) : nullptr;
 }
 
 int FlexGridAccessible::selectedCellCount() const
