@@ -1,30 +1,12 @@
 #include "document/ctlGrid.h"
 
-#include <QPainter>
-#include <QPainterPath>
+#include "resources/Pictures.h"
 
 namespace {
 
-constexpr int PointerSize = 32; // logical pixels
-constexpr int PointerScale = 2; // drawn finer, for screens that show it so
+/// Device pixels on every screen: some platforms do not scale the hot spot of a finer image along.
+constexpr QSize PointerSize(24, 24);
 constexpr int CustomPointer = 99;
-
-/// The grid's own mouse pointer: a thick cross with an outline that shows on every ground.
-QPixmap pointerImage()
-{
-    QPixmap image(PointerSize * PointerScale, PointerSize * PointerScale);
-    image.setDevicePixelRatio(PointerScale);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QPainterPath cross;
-    cross.addRect(14, 7, 4, 18);
-    cross.addRect(7, 14, 18, 4);
-    painter.setPen(QPen(Qt::black, 2));
-    painter.setBrush(Qt::white);
-    painter.drawPath(cross.simplified());
-    return image;
-}
 
 } // namespace
 
@@ -40,7 +22,7 @@ QVariantMap ctlGrid::documentDesign()
             {QStringLiteral("ForeColorFixed"), FlexGridLook::ButtonTextColour},
             {QStringLiteral("BackColorSel"), FlexGridLook::HighlightColour},
             {QStringLiteral("ForeColorSel"), FlexGridLook::HighlightTextColour},
-            {QStringLiteral("MouseIcon"), pointerImage()},
+            {QStringLiteral("MouseIcon"), picture(PictureGridCursor).pixmap(PointerSize, 1.0)},
             {QStringLiteral("MousePointer"), CustomPointer},
             {QStringLiteral("Font"), font}};
 }

@@ -106,7 +106,7 @@ TEST_F(Sorting, IsUndoneExactlyOnRandomWords)
         const int last = grid.Rows() - 1;
         select(1 + int(engine() % unsigned(last)), 2, 1 + int(engine() % unsigned(last)), 1);
         const int how = (engine() % 2 ? Language1 : Language2) | (engine() % 2 ? Ascending : Descending) |
-                          (engine() % 2 ? Selection : Vocabulary);
+                        (engine() % 2 ? Selection : Vocabulary);
         modSorting::sortBy(how, document, undo, English);
         Words sorted = words(), rows = before;
         std::sort(sorted.begin(), sorted.end());
