@@ -2,6 +2,8 @@
 
 #include "app/CommonFilePrompts.h"
 #include "app/frmApp.h"
+#include "app/frmRecovery.h"
+#include "document/RecoveryKeeper.h"
 #include "document/rules/CodePage.h"
 #include "platform/CommonControls.h"
 #include "platform/FileAssociation.h"
@@ -10,6 +12,7 @@
 #include "platform/SignalWatcher.h"
 #include "platform/SingleInstance.h"
 #include "platform/SoundPlayer.h"
+#include "platform/UserFolders.h"
 #include "print/QtDialogs.h"
 #include "print/QtPrinter.h"
 #include "quiz/frmSplash.h"
@@ -82,12 +85,16 @@ void readSettings(Program &program)
 
 /// The user is asked for unsaved changes when the desktop session or the process is told to end, as when the window
 /// closes.
-void askAtEnd(QApplication &application, frmApp &window, SignalWatcher &watcher)
+void askAtEnd(QApplication &application, frmApp &window, SignalWatcher &watcher, RecoveryKeeper &keeper)
 {
-    QObject::connect(&watcher, &SignalWatcher::endRequested, &window, &QWidget::close);
+    QObject::connect(&watcher, &SignalWatcher::endRequested, &window, [&window, &keeper] {
+        keeper.flush();
+        window.close();
+    });
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &window,
-        [&window](QSessionManager &session) {
+        [&window, &keeper](QSessionManager &session) {
+            keeper.flush();
             if (session.allowsInteraction() && !window.close())
                 session.cancel();
         },
@@ -100,17 +107,26 @@ void listen(SingleInstance &instance, frmApp &window)
     QObject::connect(&instance, &SingleInstance::received, &window, &frmApp::OpenRequestedFile);
 }
 
-/// The main window shows while the splash still stands before it; the file named on the command line opens when the
-/// splash has gone.
-void showInTurn(frmSplash &splash, frmApp &window, const CommandLine &commandLine)
+/// Asks what is to become of the copies that a crash left behind, if there are any.
+void offerRecovery(RecoveryKeeper &keeper, AlertBox &alert, QWidget &window)
+{
+    std::vector<RecoveryFolder::Orphan> orphans = keeper.orphans();
+    if (!orphans.empty())
+        frmRecovery(keeper, std::move(orphans), alert, &window).exec();
+}
+
+/// The main window shows while the splash still stands before it. When the splash has gone, what was left behind by a
+/// crash is offered, and the file named on the command line opens.
+void showInTurn(frmSplash &splash, frmApp &window, const CommandLine &commandLine, const std::function<void()> &offer)
 {
     const int showAfter = commandLine.splash ? ShowMainAfter : 0;
     const int closeAfter = commandLine.splash ? CloseSplashAfter : 0;
     if (commandLine.splash)
         splash.show();
     QTimer::singleShot(showAfter, &window, [&window] { window.show(); });
-    QTimer::singleShot(closeAfter, &window, [&splash, &window, text = commandLine.text] {
+    QTimer::singleShot(closeAfter, &window, [&splash, &window, offer, text = commandLine.text] {
         splash.close();
+        offer();
         if (!text.isEmpty())
             window.OpenRequestedFile(text);
     });
@@ -157,8 +173,10 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     program.prompts.setOwner(&window);
     QObject::connect(&window, &frmApp::closed, &application, &QApplication::quit);
     listen(instance, window);
-    askAtEnd(application, window, watcher);
-    showInTurn(splash, window, commandLine);
+    RecoveryKeeper keeper(window.context().documents, window.context().files,
+                          UserFolders::state() + QStringLiteral("/recovery"));
+    askAtEnd(application, window, watcher, keeper);
+    showInTurn(splash, window, commandLine, [&] { offerRecovery(keeper, program.alert, window); });
     QGuiApplication::restoreOverrideCursor();
     return QApplication::exec();
 }

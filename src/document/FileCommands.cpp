@@ -82,6 +82,7 @@ void FileCommands::newDocument()
     document->setCaption(m_needs.documents.nextUntitledCaption());
     document->setDirty(false);
     document->showDocument();
+    Q_EMIT opened(document);
 }
 
 void FileCommands::open()
@@ -129,10 +130,22 @@ QString FileCommands::pathOrAsk(const frmDoc &document)
 
 void FileCommands::saveUnder(frmDoc &document, const QString &path)
 {
-    if (path.isEmpty())
+    if (path.isEmpty() || (path == document.DocName() && !mayOverwrite(document)))
         return;
     SaveVocabulary(document, path);
     m_needs.recentFiles.AddFile(path);
+}
+
+bool FileCommands::mayOverwrite(const frmDoc &document)
+{
+    const FileStamp now = FileStamp::of(document.DocName());
+    if (!now.exists() || now == document.fileStamp)
+        return true;
+    Alert alert;
+    alert.prompt = resText(12610).arg(document.DocName());
+    alert.buttons = Alert::YesNo;
+    alert.sound = true;
+    return m_needs.alert.show(nullptr, alert) == AlertBox::AnswerYes;
 }
 
 bool FileCommands::confirmClose(frmDoc &document)
@@ -148,6 +161,8 @@ bool FileCommands::confirmClose(frmDoc &document)
     const AlertBox::Answer answer = m_needs.alert.show(nullptr, alert);
     if (answer == AlertBox::AnswerYes)
         saveUnder(document, pathOrAsk(document));
+    else if (answer == AlertBox::AnswerNo)
+        Q_EMIT givenUp(&document);
     return answer != AlertBox::AnswerCancel;
 }
 
@@ -200,8 +215,10 @@ void FileCommands::openVocabulary(const QString &path, Vocabulary &&vocabulary)
     document->setCaption(GridRules::fileTitle(path));
     document->setDirty(false);
     document->setDocName(path);
+    document->fileStamp = FileStamp::of(path);
     m_needs.recentFiles.AddFile(path);
     document->showDocument();
+    Q_EMIT opened(document);
 }
 
 void FileCommands::SaveVocabulary(frmDoc &document, const QString &path)
@@ -210,11 +227,13 @@ void FileCommands::SaveVocabulary(frmDoc &document, const QString &path)
     const BusyStatus busy(m_needs.status, 716, path, qint64(rows) * 2);
     const Vocabulary vocabulary = GridContent::read(*document.Rutor());
     m_needs.status.setProgress(rows);
-    const bool saved = VocabularyFile(path).save(
+    const bool written = VocabularyFile(path).save(
         vocabulary, m_codePage, [this, rows](qint64 done) { m_needs.status.setProgress(rows + done); });
-    if (!saved)
+    if (!written)
         return;
     document.setCaption(GridRules::fileTitle(path));
     document.setDirty(false);
     document.setDocName(path);
+    document.fileStamp = FileStamp::of(path);
+    Q_EMIT saved(&document);
 }

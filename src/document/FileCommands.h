@@ -51,9 +51,18 @@ public:
     /// document keeps its caption, its path and its changes.
     void SaveVocabulary(frmDoc &document, const QString &path);
 
+Q_SIGNALS:
+    /// A document was made or read and is shown.
+    void opened(frmDoc *document);
+    /// The document's words are in its file.
+    void saved(frmDoc *document);
+    /// The user closes the document and does not want its changes.
+    void givenUp(frmDoc *document);
+
 private:
     bool confirmClose(frmDoc &document);
     void saveUnder(frmDoc &document, const QString &path);
+    bool mayOverwrite(const frmDoc &document);
     QString pathOrAsk(const frmDoc &document);
     void load(const QString &path);
     /// Reads the rows of a file and opens them; false when they cannot be read.

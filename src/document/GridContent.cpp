@@ -41,6 +41,12 @@ Vocabulary read(const ctlGrid &grid)
 
 void fill(ctlGrid &grid, Vocabulary &&vocabulary)
 {
+    vocabulary.append({}, {});
+    fillAll(grid, std::move(vocabulary));
+}
+
+void fillAll(ctlGrid &grid, Vocabulary &&vocabulary)
+{
     grid.setRedraw(false);
     if (vocabulary.font)
         applyFont(grid, *vocabulary.font);
@@ -48,7 +54,6 @@ void fill(ctlGrid &grid, Vocabulary &&vocabulary)
         for (int col = 0; col < 3; ++col)
             grid.setColWidth(col, (*vocabulary.columnWidths)[size_t(col)]);
     }
-    vocabulary.append({}, {});
     grid.setWords(std::move(vocabulary.first), std::move(vocabulary.second), std::move(vocabulary.heights));
     grid.setRedraw(true);
 }

@@ -13,4 +13,7 @@ Vocabulary read(const ctlGrid &grid);
 /// stays as it is in the grid.
 void fill(ctlGrid &grid, Vocabulary &&vocabulary);
 
+/// The same with the rows just as they are: the last empty one is among them.
+void fillAll(ctlGrid &grid, Vocabulary &&vocabulary);
+
 } // namespace GridContent

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/rules/FileStamp.h"
 #include "document/rules/UndoRecord.h"
 
 #include <QWidget>
@@ -36,6 +37,9 @@ public:
     /// Full path of the vocabulary file; empty for a document that was never saved.
     QString DocName() const { return m_docName; }
     void setDocName(const QString &path) { m_docName = path; }
+
+    /// The file as it was when it was read or saved last.
+    FileStamp fileStamp;
 
     /// "Untitled 1", or the file's title.
     QString Caption() const { return m_caption; }

@@ -9,21 +9,38 @@
 
 namespace {
 
-QMessageBox::StandardButtons buttonsOf(Alert::Buttons buttons)
+/// What the buttons are, which of them Enter presses, and which Escape.
+struct ButtonSet
 {
-    return buttons == Alert::YesNoCancelHelp ? QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel
-                                             : QMessageBox::StandardButtons(QMessageBox::Ok);
+    QMessageBox::StandardButtons all;
+    QMessageBox::StandardButton enter;
+    QMessageBox::StandardButton escape;
+    bool help;
+};
+
+ButtonSet setOf(Alert::Buttons buttons)
+{
+    switch (buttons) {
+    case Alert::YesNo:
+        return {QMessageBox::Yes | QMessageBox::No, QMessageBox::No, QMessageBox::No, false};
+    case Alert::YesNoCancelHelp:
+        return {QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes, QMessageBox::Cancel, true};
+    default:
+        return {QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok, buttons == Alert::OkHelp};
+    }
 }
 
-AlertBox::Answer answerOf(int button, Alert::Buttons buttons)
+AlertBox::Answer answerOf(int button)
 {
     switch (button) {
     case QMessageBox::Yes:
         return AlertBox::AnswerYes;
     case QMessageBox::No:
         return AlertBox::AnswerNo;
+    case QMessageBox::Cancel:
+        return AlertBox::AnswerCancel;
     default:
-        return buttons == Alert::YesNoCancelHelp ? AlertBox::AnswerCancel : AlertBox::AnswerOk;
+        return AlertBox::AnswerOk;
     }
 }
 
@@ -44,11 +61,11 @@ AlertBox::Answer modMsgBox::show(QWidget *owner, const Alert &alert)
         box.setIcon(QMessageBox::Warning);
     else
         box.setIconPixmap(QApplication::windowIcon().pixmap(QSize(48, 48), box.devicePixelRatio()));
-    box.setStandardButtons(buttonsOf(alert.buttons));
-    const bool question = alert.buttons == Alert::YesNoCancelHelp;
-    box.setDefaultButton(question ? QMessageBox::Yes : QMessageBox::Ok);
-    box.setEscapeButton(question ? QMessageBox::Cancel : QMessageBox::Ok);
-    if (alert.buttons != Alert::Ok) {
+    const ButtonSet buttons = setOf(alert.buttons);
+    box.setStandardButtons(buttons.all);
+    box.setDefaultButton(buttons.enter);
+    box.setEscapeButton(buttons.escape);
+    if (buttons.help) {
         // Without its own connections the button does not end the box.
         QPushButton *help = box.addButton(QMessageBox::Help);
         help->disconnect();
@@ -58,5 +75,5 @@ AlertBox::Answer modMsgBox::show(QWidget *owner, const Alert &alert)
     }
     if (alert.sound)
         QApplication::beep();
-    return answerOf(box.exec(), alert.buttons);
+    return answerOf(box.exec());
 }

@@ -129,6 +129,9 @@ public:
     /// and not found here.
     const QString &word(int row, int col) const { return m_state.cells.word(row, col); }
 
+    /// Goes up whenever a text may have changed or a row got another place.
+    quint64 revision() const { return m_state.cells.revision(); }
+
     // --- Current cell and selection
     int Row() const { return m_state.selection.row; }
     int Col() const { return m_state.selection.col; }

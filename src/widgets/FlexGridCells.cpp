@@ -56,6 +56,8 @@ std::vector<int> orderOfMove(int first, int count, int from, int to)
 
 void FlexGridCells::setRows(int rows)
 {
+    if (rows < m_rows)
+        ++m_revision;
     m_rows = rows;
     for (Column &column : m_columns)
         cut(column.texts, rows);
@@ -71,6 +73,7 @@ void FlexGridCells::setCols(int cols)
 
 void FlexGridCells::clear()
 {
+    ++m_revision;
     for (Column &column : m_columns)
         column.texts.clear();
     formats.clear();
@@ -108,6 +111,7 @@ void FlexGridCells::setText(int row, int col, const QString &text)
             return;
         texts.resize(size_t(row) + 1);
     }
+    ++m_revision;
     texts[size_t(row)] = FlexGridText::withoutLineBreaks(text);
 }
 
@@ -115,6 +119,7 @@ void FlexGridCells::setWords(std::vector<QString> &&first, std::vector<QString> 
 {
     setCols(std::max(cols(), 3));
     setRows(0);
+    ++m_revision;
     m_rows = int(std::max({first.size(), second.size(), heights.size()}));
     for (std::vector<QString> *texts : {&first, &second}) {
         for (QString &text : *texts)
@@ -160,6 +165,8 @@ void FlexGridCells::setColWidth(int col, int twips)
 
 void FlexGridCells::insertRows(int at, int count)
 {
+    if (at < m_rows) // further empty rows at the end change nothing
+        ++m_revision;
     for (Column &column : m_columns)
         insertInto(column.texts, at, count, QString());
     insertInto(m_heights, at, count, DefaultRowHeight);
@@ -169,6 +176,7 @@ void FlexGridCells::insertRows(int at, int count)
 
 void FlexGridCells::removeRows(int at, int count)
 {
+    ++m_revision;
     for (Column &column : m_columns)
         removeFrom(column.texts, at, count);
     removeFrom(m_heights, at, count);
@@ -185,12 +193,14 @@ void FlexGridCells::moveRow(int from, int to)
 void FlexGridCells::moveColumn(int from, int to)
 {
     const std::vector<int> order = orderOfMove(0, cols(), from, to);
+    ++m_revision;
     reorder(m_columns, 0, order, Column());
     formats.reorderCols(order);
 }
 
 void FlexGridCells::reorderRows(int first, const std::vector<int> &order)
 {
+    ++m_revision;
     for (Column &column : m_columns)
         reorder(column.texts, first, order, QString());
     reorder(m_heights, first, order, DefaultRowHeight);

@@ -41,6 +41,9 @@ public:
     void numberRowsFrom(int firstRow);
     bool isNumber(int row, int col) const { return col == 0 && m_numbersFrom >= 0 && row >= m_numbersFrom; }
 
+    /// Goes up whenever a text may have changed or a row got another place.
+    quint64 revision() const { return m_revision; }
+
     QString text(int row, int col) const;
     /// The text that is kept for the cell, without a copy; a computed row number is none.
     const QString &word(int row, int col) const;
@@ -71,6 +74,7 @@ public:
 
 private:
     int m_rows = 0;
+    quint64 m_revision = 0;
     int m_numbersFrom = -1;
     int m_rowHeightMin = 0;
     std::vector<Column> m_columns;

@@ -17,7 +17,9 @@ public:
     {
         shown.push_back(alert);
         if (answers.empty())
-            return alert.buttons == Alert::YesNoCancelHelp ? AnswerCancel : AnswerOk;
+            return alert.buttons == Alert::YesNoCancelHelp ? AnswerCancel
+                   : alert.buttons == Alert::YesNo         ? AnswerNo
+                                                           : AnswerOk;
         const Answer answer = answers.front();
         answers.pop_front();
         return answer;

@@ -1,0 +1,93 @@
+#include "app/frmRecovery.h"
+
+#include "document/RecoveryKeeper.h"
+#include "resources/StringTable.h"
+#include "services/AlertBox.h"
+#include "services/FormTexts.h"
+#include "ui_frmRecovery.h"
+
+#include <QFileInfo>
+#include <QLocale>
+
+frmRecovery::frmRecovery(RecoveryKeeper &keeper, std::vector<RecoveryFolder::Orphan> orphans, AlertBox &alert,
+                         QWidget *parent)
+    : QDialog(parent)
+    , m_keeper(keeper)
+    , m_orphans(std::move(orphans))
+    , m_alert(alert)
+    , m_ui(std::make_unique<Ui::frmRecovery>())
+{
+    m_ui->setupUi(this);
+    FormTexts::apply(this);
+    fill();
+    connect(m_ui->btnRecover, &QPushButton::clicked, this, &frmRecovery::recoverSelected);
+    connect(m_ui->btnDiscard, &QPushButton::clicked, this, &frmRecovery::discardSelected);
+    connect(m_ui->btnLater, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_ui->lstCopies, &QTreeWidget::itemSelectionChanged, this, [this] {
+        m_ui->btnRecover->setEnabled(!selectedRows().isEmpty());
+        m_ui->btnDiscard->setEnabled(!selectedRows().isEmpty());
+    });
+    m_ui->lstCopies->selectAll();
+}
+
+frmRecovery::~frmRecovery() = default;
+
+void frmRecovery::fill()
+{
+    m_ui->lstCopies->setHeaderLabels({resText(12613), resText(12614), resText(12615)});
+    for (const RecoveryFolder::Orphan &orphan : m_orphans) {
+        const QString folder = orphan.copy.docName.isEmpty() ? resText(12619) : QFileInfo(orphan.copy.docName).path();
+        const QString time = QLocale().toString(orphan.copy.time, QLocale::ShortFormat);
+        new QTreeWidgetItem(m_ui->lstCopies, {orphan.copy.caption, folder, time});
+    }
+    for (int column = 0; column < m_ui->lstCopies->columnCount(); ++column)
+        m_ui->lstCopies->resizeColumnToContents(column);
+}
+
+/// From the last to the first, so that rows can be taken out in that order.
+QList<int> frmRecovery::selectedRows() const
+{
+    QList<int> rows;
+    for (int row = m_ui->lstCopies->topLevelItemCount() - 1; row >= 0; --row) {
+        if (m_ui->lstCopies->topLevelItem(row)->isSelected())
+            rows.append(row);
+    }
+    return rows;
+}
+
+void frmRecovery::takeOut(const QList<int> &rows)
+{
+    for (const int row : rows) {
+        delete m_ui->lstCopies->takeTopLevelItem(row);
+        m_orphans.erase(m_orphans.begin() + row);
+    }
+    if (m_orphans.empty())
+        accept();
+}
+
+void frmRecovery::recoverSelected()
+{
+    const QList<int> rows = selectedRows();
+    for (const int row : rows)
+        m_keeper.recover(m_orphans[size_t(row)]);
+    takeOut(rows);
+}
+
+bool frmRecovery::confirmDiscard(const QList<int> &rows)
+{
+    Alert alert;
+    alert.prompt = rows.size() == 1 ? resText(12621).arg(m_orphans[size_t(rows.first())].copy.caption)
+                                    : resText(12620).arg(rows.size());
+    alert.buttons = Alert::YesNo;
+    return m_alert.show(this, alert) == AlertBox::AnswerYes;
+}
+
+void frmRecovery::discardSelected()
+{
+    const QList<int> rows = selectedRows();
+    if (!confirmDiscard(rows))
+        return;
+    for (const int row : rows)
+        m_keeper.discard(m_orphans[size_t(row)]);
+    takeOut(rows);
+}

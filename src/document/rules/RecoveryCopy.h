@@ -1,0 +1,20 @@
+#pragma once
+
+#include "document/rules/Vocabulary.h"
+
+#include <QByteArray>
+#include <QDateTime>
+
+/// A changed document as it is kept against a crash: everything that its window held, with every row, and what it was
+/// called.
+struct RecoveryCopy
+{
+    QString caption;
+    QString docName; ///< path of its file; empty for a document that was never saved
+    QDateTime time;  ///< when the copy was made
+    Vocabulary vocabulary;
+
+    QByteArray toBytes() const;
+    /// No value for bytes that are no whole copy.
+    static std::optional<RecoveryCopy> fromBytes(const QByteArray &bytes);
+};

@@ -1,0 +1,199 @@
+#include "document/DocumentList.h"
+#include "document/FileCommands.h"
+#include "document/RecoveryKeeper.h"
+#include "document/ctlGrid.h"
+#include "platform/RegistryTree.h"
+#include "services/modSBFunc.h"
+#include "services/rules/clsAppProperties.h"
+#include "services/rules/clsMRUFileList.h"
+#include "support/ScriptedAlertBox.h"
+#include "support/ScriptedPrompts.h"
+
+#include <QDir>
+
+namespace {
+
+/// A running program as far as its documents go. What it leaves behind is found by another one over the same folder.
+struct Program
+{
+    explicit Program(const QString &folder)
+        : keeper(documents, files, folder)
+    {
+    }
+    ~Program() { crash(); }
+
+    frmDoc *newDocument()
+    {
+        files.newDocument();
+        documents.setActive(documents.open().back());
+        return documents.active();
+    }
+    void crash()
+    {
+        for (frmDoc *document : std::vector<frmDoc *>(documents.open()))
+            delete document;
+    }
+
+    RegistryTree store;
+    clsAppProperties settings{store, QString()};
+    ProgramFlags flags;
+    UndoRecord undo;
+    modSBFunc status{flags};
+    ScriptedAlertBox alert;
+    ScriptedPrompts prompts;
+    clsMRUFileList recent{[](const QString &text) { return int(text.size()); }};
+    DocumentList documents{{flags, undo, status, settings}};
+    FileCommands files{{documents, recent, status, alert, prompts}, CodePage()};
+    RecoveryKeeper keeper;
+};
+
+struct RecoveryTest : ::testing::Test
+{
+    QTemporaryDir home;
+    QString folder = home.filePath(QStringLiteral("recovery"));
+    std::unique_ptr<Program> run = std::make_unique<Program>(folder);
+
+    size_t copies() const { return size_t(QDir(folder).entryList({QStringLiteral("*.copy")}).size()); }
+    void restart()
+    {
+        run.reset();
+        run = std::make_unique<Program>(folder);
+    }
+};
+
+} // namespace
+
+TEST_F(RecoveryTest, WhatWasChangedComesBackUnderItsName)
+{
+    frmDoc *document = run->newDocument();
+    run->keeper.flush();
+    EXPECT_EQ(copies(), 0u) << "nothing has changed";
+    ctlGrid &grid = *document->Rutor();
+    grid.setTextMatrix(3, 2, QStringLiteral("só aqui 猫"));
+    grid.setRowHeight(3, 777);
+    run->keeper.flush();
+    EXPECT_EQ(copies(), 1u) << "by content, also while the document is not marked as changed";
+    grid.setTextMatrix(3, 2, QStringLiteral("later"));
+    run->keeper.flush();
+    EXPECT_EQ(copies(), 1u);
+    EXPECT_TRUE(run->keeper.orphans().empty()) << "a running program's own copies are not offered";
+    {
+        Program second(folder);
+        EXPECT_TRUE(second.keeper.orphans().empty()) << "nor to another program";
+    }
+
+    restart();
+    std::vector<RecoveryFolder::Orphan> orphans = run->keeper.orphans();
+    ASSERT_EQ(orphans.size(), 1u);
+    EXPECT_EQ(orphans.front().copy.caption, QStringLiteral("Untitled 1"));
+    EXPECT_LT(orphans.front().copy.time.secsTo(QDateTime::currentDateTime()), 60);
+    run->keeper.recover(orphans.front());
+    ASSERT_EQ(run->documents.open().size(), 1u);
+    const frmDoc &recovered = *run->documents.open().front();
+    EXPECT_EQ(recovered.Caption(), QStringLiteral("Untitled 1"));
+    EXPECT_TRUE(recovered.Dirty());
+    EXPECT_EQ(recovered.Rutor()->Rows(), 101);
+    EXPECT_EQ(recovered.Rutor()->TextMatrix(3, 2), QStringLiteral("later"));
+    EXPECT_EQ(recovered.Rutor()->RowHeight(3), 777);
+
+    restart();
+    EXPECT_EQ(run->keeper.orphans().size(), 1u) << "a second crash loses nothing";
+    run->keeper.discard(run->keeper.orphans().front());
+    EXPECT_EQ(copies(), 0u);
+}
+
+TEST_F(RecoveryTest, AWordThatIsStillBeingTypedIsKeptToo)
+{
+    frmDoc *document = run->newDocument();
+    QApplication::setActiveWindow(document);
+    document->Rutor()->Select(2, 1, 2, 1);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("unfinished"));
+    run->keeper.flush();
+    restart();
+    ASSERT_EQ(run->keeper.orphans().size(), 1u);
+    EXPECT_EQ(run->keeper.orphans().front().copy.vocabulary.first[2], QStringLiteral("unfinished"));
+}
+
+TEST_F(RecoveryTest, TheCopyGoesWhenTheChangesAreSavedOrGivenUp)
+{
+    frmDoc *document = run->newDocument();
+    document->Rutor()->setTextMatrix(1, 1, QStringLiteral("word"));
+    document->setDirty(true);
+    run->keeper.flush();
+    run->prompts.savePath = home.filePath(QStringLiteral("kept.gla"));
+    run->files.save();
+    EXPECT_EQ(copies(), 0u);
+    run->keeper.flush();
+    EXPECT_EQ(copies(), 0u);
+
+    document->Rutor()->setTextMatrix(1, 1, QStringLiteral("other"));
+    document->setDirty(true);
+    run->keeper.flush();
+    EXPECT_EQ(copies(), 1u);
+    run->alert.answers = {AlertBox::AnswerNo};
+    run->files.closeActive();
+    EXPECT_EQ(copies(), 0u);
+}
+
+TEST_F(RecoveryTest, AnUnsavedDocumentThatClosesLeavesItsCopy)
+{
+    struct Case
+    {
+        const char *name;
+        bool dirty;
+    };
+    for (const Case &c : {Case{"the save dialog was cancelled", true}, Case{"no question was asked", false}}) {
+        frmDoc *document = run->newDocument();
+        document->Rutor()->setTextMatrix(1, 1, QLatin1String(c.name));
+        document->setDirty(c.dirty);
+        run->alert.answers = {AlertBox::AnswerYes};
+        run->files.closeActive();
+        EXPECT_TRUE(run->documents.open().empty());
+        run->alert.answers.clear();
+        restart();
+        ASSERT_EQ(run->keeper.orphans().size(), 1u) << c.name;
+        EXPECT_EQ(run->keeper.orphans().front().copy.vocabulary.first[1], QLatin1String(c.name));
+        run->keeper.discard(run->keeper.orphans().front());
+    }
+}
+
+TEST_F(RecoveryTest, DamagedCopiesAreNeitherOfferedNorDeleted)
+{
+    frmDoc *document = run->newDocument();
+    document->Rutor()->setTextMatrix(1, 1, QStringLiteral("word"));
+    run->keeper.flush();
+    restart();
+    const QString path = run->keeper.orphans().front().path;
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray whole = file.readAll();
+    for (qsizetype size = 0; size < whole.size(); size += 7)
+        EXPECT_FALSE(RecoveryCopy::fromBytes(whole.left(size))) << size;
+    EXPECT_FALSE(RecoveryCopy::fromBytes(whole + 'x'));
+    file.close();
+    file.resize(whole.size() / 2);
+    EXPECT_TRUE(run->keeper.orphans().empty());
+    EXPECT_EQ(copies(), 1u);
+}
+
+TEST_F(RecoveryTest, AFileChangedBySomebodyElseIsReplacedOnlyWithAYes)
+{
+    frmDoc *document = run->newDocument();
+    run->prompts.savePath = home.filePath(QStringLiteral("shared.gla"));
+    run->files.save();
+    QFile other(run->prompts.savePath);
+    ASSERT_TRUE(other.open(QIODevice::Append));
+    other.write("theirs");
+    other.close();
+    document->setDirty(true);
+    run->files.save();
+    EXPECT_EQ(run->alert.shown.size(), 1u);
+    EXPECT_TRUE(document->Dirty());
+    ASSERT_TRUE(other.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(other.readAll().endsWith("theirs"));
+    run->alert.answers = {AlertBox::AnswerYes};
+    run->files.save();
+    EXPECT_FALSE(document->Dirty());
+    run->files.save();
+    EXPECT_EQ(run->alert.shown.size(), 2u) << "not asked again";
+}
