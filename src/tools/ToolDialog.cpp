@@ -6,7 +6,6 @@
 #include "tools/rules/DialogPlace.h"
 
 #include <QScreen>
-#include <QShowEvent>
 #include <QStyle>
 
 ToolDialog::ToolDialog(frmDoc &document, QWidget *owner)
@@ -36,11 +35,14 @@ bool ToolDialog::hidesSelection() const
     return frameGeometry().intersects(shownSelection());
 }
 
-void ToolDialog::showEvent(QShowEvent *event)
+void ToolDialog::setVisible(bool visible)
 {
-    QDialog::showEvent(event);
-    if (!event->spontaneous())
+    // the window manager keeps a place that the window has before it is shown
+    if (visible && isHidden()) {
+        adjustSize();
         place();
+    }
+    QDialog::setVisible(visible);
 }
 
 /// The part of the selection that is shown, in pixels of the screen.

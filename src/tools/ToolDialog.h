@@ -13,6 +13,8 @@ class ToolDialog : public QDialog
 public:
     ToolDialog(frmDoc &document, QWidget *owner);
 
+    void setVisible(bool visible) override;
+
 protected:
     frmDoc &document() const { return m_document; }
     /// Where the dialog goes unless it would hide the selection there: the middle of the owner. frame is its size with
@@ -21,8 +23,6 @@ protected:
     /// Moves the dialog to that place, or beside the selection.
     void place();
     bool hidesSelection() const;
-
-    void showEvent(QShowEvent *event) override;
 
 private:
     QRect shownSelection() const;
