@@ -220,11 +220,10 @@ void frmDoc::ceasedToEdit()
 
 void frmDoc::endEdit()
 {
-    if (m_grid->EditMode()) {
-        m_grid->setEditMode(false);
-        ceasedToEdit();
-    }
-    m_grid->setFocus();
+    if (!m_grid->EditMode())
+        return;
+    m_grid->setEditMode(false);
+    ceasedToEdit();
 }
 
 void frmDoc::makeRoomFor(int row, int col, const QString &text)

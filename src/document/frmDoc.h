@@ -63,7 +63,7 @@ public:
 
     /// Stores the text of a cell that is being edited in the cell. The edit box stays.
     void commitRunningEdit();
-    /// Ends editing; what was typed is kept. The grid gets the focus.
+    /// Ends editing; what was typed is kept.
     void endEdit();
     /// To be called when a cell has got a new text: makes its row taller if the text needs it, and appends a row when
     /// the cell stands in the last one.

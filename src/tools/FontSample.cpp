@@ -18,7 +18,7 @@ FontSample::FontSample(QWidget *parent)
 
 QSize FontSample::sizeHint() const
 {
-    return {fontMetrics().averageCharWidth() * 44, fontMetrics().height() * 4};
+    return {fontMetrics().averageCharWidth() * 44, fontMetrics().height() * 5};
 }
 
 void FontSample::setText(const QString &text)

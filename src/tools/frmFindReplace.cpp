@@ -225,7 +225,7 @@ void frmFindReplace::keepTyped()
 
 void frmFindReplace::leaveDocument()
 {
-    m_ReplaceWasMade = false;
+    m_leaving = true;
     close();
 }
 
@@ -235,7 +235,9 @@ void frmFindReplace::done(int result)
         m_open = false;
         document().endEdit();
         m_needs.flags.FindMode = m_needs.flags.ReplaceMode = false;
-        if (m_ReplaceWasMade)
+        if (!m_leaving)
+            document().Rutor()->setFocus();
+        if (!m_leaving && m_ReplaceWasMade)
             leaveUndoStep();
     }
     ToolDialog::done(result);

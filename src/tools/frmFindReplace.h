@@ -71,5 +71,6 @@ private:
     UndoRecord::Snapshot m_snapshot; ///< every word when the dialog opened
     bool m_ReplaceWasMade = false;
     bool m_open = true;
+    bool m_leaving = false; ///< closing because of another document
     bool m_replaceLayout = false;
 };

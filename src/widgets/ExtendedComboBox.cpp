@@ -67,7 +67,9 @@ QIcon ExtendedComboBox::swatch(QColor color) const
     pixmap.setDevicePixelRatio(devicePixelRatioF());
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
-    painter.setPen(palette().color(QPalette::Mid));
+    QColor border = palette().color(QPalette::Text);
+    border.setAlphaF(0.4F);
+    painter.setPen(border);
     painter.setBrush(color);
     painter.drawRect(QRectF(0.5, 0.5, size.width() - 1, size.height() - 1));
     return QIcon(pixmap);

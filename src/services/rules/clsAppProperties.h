@@ -55,7 +55,7 @@ public:
     bool ErrorBeep() const { return m_values.ErrorBeep; }
     void setErrorBeep(bool beep) { m_values.ErrorBeep = beep; }
 
-    static constexpr int LargestFontSize = 1638;
+    static constexpr int LargestFontSize = 2048;
 
     /// Takes the stored settings. Without any, which is a first run, it takes the defaults and registers the file type.
     /// Throws RegistryError when that fails; the settings are usable all the same.
