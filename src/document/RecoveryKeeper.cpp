@@ -10,7 +10,8 @@ namespace {
 RecoveryCopy copyOf(const frmDoc &document)
 {
     const ctlGrid &grid = *document.Rutor();
-    RecoveryCopy copy{document.Caption(), document.DocName(), QDateTime::currentDateTime(), GridContent::read(grid)};
+    RecoveryCopy copy{document.Caption(), document.DocName(), document.fileStamp, QDateTime::currentDateTime(),
+                      GridContent::read(grid)};
     if (grid.EditMode()) {
         auto &column = grid.Col() == 1 ? copy.vocabulary.first : copy.vocabulary.second;
         column[size_t(grid.Row())] = grid.EditText();
@@ -98,6 +99,7 @@ void RecoveryKeeper::recover(const RecoveryFolder::Orphan &orphan)
     GridContent::fillAll(*document->Rutor(), Vocabulary(orphan.copy.vocabulary));
     document->setCaption(orphan.copy.caption);
     document->setDocName(orphan.copy.docName);
+    document->fileStamp = orphan.copy.fileStamp;
     document->setDirty(true);
     const State now = stateOf(*document);
     m_kept.insert(document, {{}, now, path});

@@ -179,9 +179,18 @@ TEST_F(RecoveryTest, DamagedCopiesAreNeitherOfferedNorDeleted)
 TEST_F(RecoveryTest, AFileChangedBySomebodyElseIsReplacedOnlyWithAYes)
 {
     frmDoc *document = run->newDocument();
-    run->prompts.savePath = home.filePath(QStringLiteral("shared.gla"));
+    const QString path = home.filePath(QStringLiteral("shared.gla"));
+    run->prompts.savePath = path;
     run->files.save();
-    QFile other(run->prompts.savePath);
+    document->Rutor()->setTextMatrix(1, 1, QStringLiteral("word"));
+    run->keeper.flush();
+    restart();
+    run->keeper.recover(run->keeper.orphans().front());
+    document = run->documents.open().front();
+    run->documents.setActive(document);
+    run->files.save();
+    EXPECT_TRUE(run->alert.shown.empty()) << "a crash does not make the file another one";
+    QFile other(path);
     ASSERT_TRUE(other.open(QIODevice::Append));
     other.write("theirs");
     other.close();

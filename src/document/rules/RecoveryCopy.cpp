@@ -64,7 +64,7 @@ QByteArray RecoveryCopy::toBytes() const
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream.setVersion(QDataStream::Qt_6_0);
-    stream << Signature << caption << docName << time;
+    stream << Signature << caption << docName << fileStamp.size << fileStamp.changed << time;
     write(stream, vocabulary);
     stream << EndMark;
     return bytes;
@@ -80,7 +80,7 @@ std::optional<RecoveryCopy> RecoveryCopy::fromBytes(const QByteArray &bytes)
     stream >> signature;
     if (signature != Signature)
         return {};
-    stream >> copy.caption >> copy.docName >> copy.time;
+    stream >> copy.caption >> copy.docName >> copy.fileStamp.size >> copy.fileStamp.changed >> copy.time;
     read(stream, copy.vocabulary);
     stream >> end;
     if (stream.status() != QDataStream::Ok || end != EndMark || !stream.atEnd() || !isUsable(copy.vocabulary))

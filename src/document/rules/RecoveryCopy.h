@@ -1,17 +1,18 @@
 #pragma once
 
+#include "document/rules/FileStamp.h"
 #include "document/rules/Vocabulary.h"
 
 #include <QByteArray>
-#include <QDateTime>
 
 /// A changed document as it is kept against a crash: everything that its window held, with every row, and what it was
 /// called.
 struct RecoveryCopy
 {
     QString caption;
-    QString docName; ///< path of its file; empty for a document that was never saved
-    QDateTime time;  ///< when the copy was made
+    QString docName;     ///< path of its file; empty for a document that was never saved
+    FileStamp fileStamp; ///< that file as the document was read from it
+    QDateTime time;      ///< when the copy was made
     Vocabulary vocabulary;
 
     QByteArray toBytes() const;
