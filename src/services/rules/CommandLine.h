@@ -17,5 +17,6 @@ struct CommandLine
     QString text;
 
     /// arguments come without the program's name; a relative path belongs to folder. After "--" nothing is an option.
+    /// The window toolkit's own options are passed over.
     static CommandLine parse(const QStringList &arguments, const QString &folder);
 };

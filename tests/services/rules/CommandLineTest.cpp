@@ -18,6 +18,7 @@ TEST(CommandLine, ArgumentsMakeOneAbsolutePath)
         {"\"", "\""},
         {"--no-splash|b.gla", "/cwd/b.gla"},
         {"b.gla|--no-splash", "/cwd/b.gla"},
+        {"-session|id_1|--style=fusion|b.gla|-platform", "/cwd/b.gla"},
         {"--|--help.gla", "/cwd/--help.gla"},
         {"-", "/cwd/-"},
         {"file:///a/my%20words.gla", "/a/my words.gla"},
