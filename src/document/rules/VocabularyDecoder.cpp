@@ -68,8 +68,11 @@ LineFeeds lineFeedsIn(QByteArrayView bytes)
 
 enum class DeclaredEncoding { None, Utf8, Unknown };
 
-DeclaredEncoding declaredEncoding(LineReader lines)
+/// Older files have no sections, and any line in them may be a word.
+DeclaredEncoding declaredEncoding(LineReader lines, bool olderVersion)
 {
+    if (olderVersion)
+        return DeclaredEncoding::None;
     while (!lines.atEnd()) {
         const QByteArrayView line = lines.next();
         if (line == "[Vocabulary]")
@@ -98,22 +101,23 @@ std::optional<int> rowHeight(QByteArrayView digits)
 class Decoder
 {
 public:
-    Decoder(QByteArrayView bytes, const CodePage &codePage, const Progress &progress)
+    Decoder(QByteArrayView bytes, bool olderVersion, const CodePage &codePage, const Progress &progress)
         : m_lines(bytes)
-        , m_declared(declaredEncoding(m_lines))
+        , m_olderVersion(olderVersion)
+        , m_declared(declaredEncoding(m_lines, olderVersion))
         , m_letters(bytes, m_declared == DeclaredEncoding::Utf8, codePage)
         , m_feeds(lineFeedsIn(bytes))
         , m_ticks(progress, bytes.size())
     {
     }
 
-    bool run(bool olderVersion, Vocabulary &vocabulary)
+    bool run(Vocabulary &vocabulary)
     {
         if (m_declared == DeclaredEncoding::Unknown)
             return false;
         m_lines.next();
         m_lines.next();
-        return (olderVersion || readSections(vocabulary)) && readRows(vocabulary);
+        return (m_olderVersion || readSections(vocabulary)) && readRows(vocabulary);
     }
 
 private:
@@ -258,6 +262,7 @@ private:
     }
 
     LineReader m_lines;
+    const bool m_olderVersion;
     const DeclaredEncoding m_declared;
     const LetterReader m_letters;
     const LineFeeds m_feeds;
@@ -286,7 +291,7 @@ DecodeResult decode(QByteArrayView bytes, const CodePage &codePage, const Progre
     const Header header = readHeader(bytes);
     DecodeResult result{header.outcome, header.olderVersion, {}};
     if (header.outcome == Outcome::Ok &&
-        !Decoder(bytes, codePage, progress).run(header.olderVersion, result.vocabulary)) {
+        !Decoder(bytes, header.olderVersion, codePage, progress).run(result.vocabulary)) {
         result.outcome = Outcome::Failed;
         result.vocabulary = Vocabulary();
     }

@@ -138,7 +138,8 @@ TEST(VocabularyCodec, WrongFilesAreRefused)
 
 TEST(VocabularyCodec, OlderFilesHoldOnlyRows)
 {
-    const DecodeResult result = decodeWestern("Glosaria\r\n2\r\nOne\r\nTwo\r\nhouse\r\nHaus\r\na   [0000000300]\r\nb");
+    const DecodeResult result =
+        decodeWestern("Glosaria\r\n2\r\nOne\r\nTwo\r\n[Encoding]\r\nHaus\r\na   [0000000300]\r\nb");
     EXPECT_EQ(result.outcome, Outcome::Ok);
     EXPECT_TRUE(result.olderVersion);
     EXPECT_FALSE(result.vocabulary.font || result.vocabulary.columnWidths);

@@ -1,0 +1,85 @@
+// What a document window adds to loading and saving: from the file into a grid that shows itself, and back.
+
+#include "support/SampleVocabulary.h"
+
+#include "document/GridContent.h"
+#include "document/ctlGrid.h"
+#include "document/rules/VocabularyFile.h"
+#include "services/rules/ProgramFlags.h"
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+
+#include <malloc.h>
+
+namespace {
+
+/// A sample on the disk and a grid set up as a document's.
+class Document
+{
+public:
+    explicit Document(qsizetype pairs)
+        : m_grid(&m_flags)
+    {
+        if (!VocabularyFile(path()).save(SampleVocabulary::make(pairs), m_codePage))
+            qFatal("The sample cannot be written");
+        m_grid.loadProperties(ctlGrid::documentDesign());
+        m_grid.setRowNumbers(true);
+        m_grid.resize(800, 600);
+        m_grid.show();
+    }
+
+    void open()
+    {
+        VocabularyFile file(path());
+        file.readHeader();
+        GridContent::fill(m_grid, file.read(m_codePage).vocabulary);
+        m_size = file.size();
+    }
+
+    void showIt() { m_grid.grab(); }
+    bool save() { return VocabularyFile(path()).save(GridContent::read(m_grid), m_codePage); }
+    double size() const { return double(m_size); }
+
+private:
+    QString path() const { return m_folder.filePath(QStringLiteral("words.gla")); }
+
+    QTemporaryDir m_folder;
+    ProgramFlags m_flags;
+    CodePage m_codePage;
+    ctlGrid m_grid;
+    qint64 m_size = 0;
+};
+
+double heapInUse()
+{
+    const struct mallinfo2 info = ::mallinfo2();
+    return double(info.uordblks + info.hblkhd);
+}
+
+void openInGrid(benchmark::State &state)
+{
+    Document document(state.range(0));
+    document.showIt();
+    const double before = heapInUse();
+    for (auto _ : state) {
+        document.open();
+        document.showIt();
+    }
+    state.counters["memory"] = (heapInUse() - before) / document.size();
+}
+
+void saveFromGrid(benchmark::State &state)
+{
+    Document document(state.range(0));
+    document.open();
+    for (auto _ : state) {
+        if (!document.save())
+            state.SkipWithError("not saved");
+    }
+}
+
+} // namespace
+
+BENCHMARK(openInGrid)->Apply(SampleVocabulary::atAllSizes);
+BENCHMARK(saveFromGrid)->Apply(SampleVocabulary::atAllSizes);
