@@ -18,7 +18,7 @@ struct PreviewCommandsTest : MainWindowFixture
         ctlGrid &grid = *made->Rutor();
         grid.setRows(49 * pages);
         for (int row = 1; row < grid.Rows(); ++row)
-            grid.setTextMatrix(row, 1, QStringLiteral("%1 %2").arg(made->Caption()).arg(row));
+            grid.setTextMatrix(row, 1, QString("%1 %2").arg(made->Caption()).arg(row));
         return made;
     }
     PrintPreview &preview() { return window->context().print.preview(); }
@@ -37,6 +37,7 @@ TEST_F(PreviewCommandsTest, ThePreviewTakesTheDocumentsPlaceAndGivesItBack)
     frmDoc *active = places[1].first;
     window->activate(active);
     active->Rutor()->setRow(5);
+    undo.setKind(UndoKind::Clear, active);
     window->DoMenuClick("mnuFilePrintPreview");
     EXPECT_EQ(window->state(), AppState::StatePreview);
     EXPECT_EQ(menuTitles(), (QStringList{"File", "Help"}));
@@ -50,6 +51,10 @@ TEST_F(PreviewCommandsTest, ThePreviewTakesTheDocumentsPlaceAndGivesItBack)
     EXPECT_EQ(preview().visiblePage(), 1);
     EXPECT_TRUE(button("PREVIEW", "Previous")->isEnabled());
     EXPECT_FALSE(button("PREVIEW", "Next")->isEnabled());
+    dialogs.pages = PrintChoice{1, 1, 2, false, false, true};
+    window->DoMenuClick("mnuFilePrint");
+    EXPECT_EQ(printer.pageNumbers(), std::vector<int>({1, 2}));
+    EXPECT_TRUE(printer.sheets.front().find(active->Caption() + " 1"));
 
     window->DoMenuClick("Close");
     EXPECT_EQ(window->state(), AppState::StateDocument);
@@ -59,7 +64,8 @@ TEST_F(PreviewCommandsTest, ThePreviewTakesTheDocumentsPlaceAndGivesItBack)
     }
     EXPECT_EQ(documents().active(), active);
     EXPECT_EQ(window->documentArea()->activeSubWindow(), active->frame());
-    EXPECT_EQ(window->context().status.text(1), QStringLiteral(" A5"));
+    EXPECT_EQ(window->context().status.text(1), " A5");
+    EXPECT_EQ(undo.kind(), UndoKind::Clear);
 }
 
 TEST_F(PreviewCommandsTest, MaximisedAndMinimisedDocumentsStaySo)
@@ -78,34 +84,13 @@ TEST_F(PreviewCommandsTest, MaximisedAndMinimisedDocumentsStaySo)
     EXPECT_NE(large->frame()->size(), window->documentArea()->viewport()->size());
 }
 
-TEST_F(PreviewCommandsTest, UndoOutlivesThePreview)
-{
-    frmDoc *made = document(1);
-    undo.setKind(UndoKind::Clear, made);
-    window->DoMenuClick("mnuFilePrintPreview");
-    window->DoMenuClick("Close");
-    EXPECT_EQ(undo.kind(), UndoKind::Clear);
-}
-
-TEST_F(PreviewCommandsTest, PrintsTheActiveDocument)
-{
-    document(1);
-    frmDoc *active = document(2);
-    dialogs.pages = PrintChoice{1, 1, 2, false, false, true};
-    window->DoMenuClick("mnuFilePrint");
-    ASSERT_EQ(printer.pageNumbers(), std::vector<int>({1, 2}));
-    EXPECT_EQ(printer.docName, QStringLiteral("Glosaria - ") + active->Caption());
-    EXPECT_TRUE(printer.sheets.front().find(active->Caption() + QStringLiteral(" 1")));
-    EXPECT_EQ(window->context().status.text(0), QStringLiteral("Ready"));
-}
-
 TEST_F(PreviewCommandsTest, OpeningAFileAndLeavingTheProgramEndThePreview)
 {
     document(1);
     window->DoMenuClick("mnuFilePrintPreview");
     window->OpenRequestedFile(writeVocabulary("other.gla"));
     EXPECT_FALSE(preview().isOpen());
-    EXPECT_EQ(documents().active()->Caption(), QStringLiteral("other"));
+    EXPECT_EQ(documents().active()->Caption(), QString("other"));
     EXPECT_EQ(window->state(), AppState::StateDocument);
     window->DoMenuClick("mnuFilePrintPreview");
     window->DoMenuClick("mnuFileExit");

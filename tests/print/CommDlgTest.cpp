@@ -9,8 +9,13 @@
 #include <QAbstractItemView>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QRadioButton>
+#include <QSpinBox>
 
 namespace {
+
+constexpr char VocabularyFilter[] = "Glosaria Document (*.gla) | *.gla";
 
 class CommDlg : public ::testing::Test
 {
@@ -19,122 +24,71 @@ protected:
     ScriptedAlertBox alerts;
     clsCommDlg dialog{dialogs, alerts};
 
-    void prepareSave(const QString &proposed)
+    void SetUp() override
     {
-        dialog.Filter = QStringLiteral("Glosaria Document (*.gla) | *.gla");
-        dialog.DefaultExt = QStringLiteral("gla");
-        dialog.FileName = proposed;
+        dialog.DefaultExt = "gla";
+        dialog.FileName = "Untitled 1";
         dialog.flags = 0x80406;
     }
 };
 
 TEST_F(CommDlg, SaveAsGivesEveryNameTheExtension)
 {
-    const struct
-    {
-        const char *chosen;
-        const char *saved;
-        bool different;
-    } cases[] = {
-        {"/home/ann/list.txt", "/home/ann/list.gla", true},     {"/home/ann.b/list", "/home/ann.b/list.gla", false},
-        {"/home/ann/list.GLA", "/home/ann/list.GLA", false},    {"/home/ann/a.b.txt", "/home/ann/a.b.gla", true},
-        {"/home/ann.b/list.txt", "/home/ann.b/list.gla", true}, {"/home/ann/.list", "/home/ann/.list.gla", false},
-        {"/home/ann/list.", "/home/ann/list.gla", false},       {"/home/ann/list.gla", "/home/ann/list.gla", false},
+    const std::tuple<const char *, const char *, bool> cases[] = {
+        {"/ann/list.txt", "/ann/list.gla", true},     {"/ann.b/list", "/ann.b/list.gla", false},
+        {"/ann/list.GLA", "/ann/list.GLA", false},    {"/ann/a.b.txt", "/ann/a.b.gla", true},
+        {"/ann.b/list.txt", "/ann.b/list.gla", true}, {"/ann/.list", "/ann/.list.gla", false},
+        {"/ann/list.", "/ann/list.gla", false},       {"/ann/list.gla", "/ann/list.gla", false},
     };
-    for (const auto &c : cases) {
-        prepareSave(QStringLiteral("Untitled 1"));
-        dialogs.chosen = {QString::fromUtf8(c.chosen)};
+    for (const auto &[chosen, saved, different] : cases) {
+        SetUp();
+        dialogs.chosen = {chosen};
         dialog.setAction(clsCommDlg::ActionSaveAs);
-        EXPECT_EQ(dialog.FileName.toStdString(), c.saved);
-        EXPECT_EQ(dialog.FileTitle, dialog.FileName.section(u'/', -1));
-        EXPECT_EQ(bool(dialog.flags & clsCommDlg::ExtensionDifferent), c.different) << c.chosen;
-        EXPECT_EQ(dialogs.file.fileName, QStringLiteral("Untitled 1.gla"));
+        EXPECT_EQ(dialog.FileName, saved);
+        EXPECT_EQ(dialog.FileTitle, dialog.FileName.section('/', -1));
+        EXPECT_EQ(bool(dialog.flags & clsCommDlg::ExtensionDifferent), different) << chosen;
+        EXPECT_EQ(dialogs.file.fileName, "Untitled 1.gla");
     }
-}
-
-TEST_F(CommDlg, AsksBeforeReplacingTheFileThatWillBeWritten)
-{
-    prepareSave(QStringLiteral("words"));
-    dialogs.existing = {QStringLiteral("/home/list.gla")};
-    dialogs.chosen = {QStringLiteral("/home/list"), QStringLiteral("/home/list.txt")};
-    dialogs.replaceAnswers = {false, true};
-    dialog.setAction(clsCommDlg::ActionSaveAs);
-    EXPECT_EQ(dialogs.replaced, QStringList({QStringLiteral("/home/list.gla"), QStringLiteral("/home/list.gla")}));
-    EXPECT_EQ(dialogs.file.fileName, QStringLiteral("/home/list.gla")) << "No leads back with the name typed";
-    EXPECT_EQ(dialog.FileName, QStringLiteral("/home/list.gla"));
 }
 
 TEST_F(CommDlg, CancelIsAnErrorAndLeavesTheProperties)
 {
     for (const int action : {clsCommDlg::ActionOpen, clsCommDlg::ActionSaveAs, clsCommDlg::ActionPrint}) {
-        prepareSave(QStringLiteral("words"));
         dialog.Copies = 7;
         EXPECT_THROW(dialog.setAction(action), CommDlgCancelled);
-        EXPECT_EQ(dialog.FileName, QStringLiteral("words"));
+        EXPECT_EQ(dialog.FileName, "Untitled 1");
         EXPECT_EQ(dialog.Copies, 7);
     }
     dialog.flags = clsCommDlg::PrintSetup;
     EXPECT_THROW(dialog.setAction(clsCommDlg::ActionPrint), CommDlgCancelled);
-    EXPECT_NO_THROW(dialog.setAction(3));
-    EXPECT_NO_THROW(dialog.setAction(4));
     EXPECT_TRUE(alerts.shown.empty());
-}
-
-TEST_F(CommDlg, PrintOffersThePagesAndTakesTheChoice)
-{
-    dialog.MinPage = 1;
-    dialog.MaxPage = 5;
-    dialog.flags = 0x100014;
-    dialogs.pages = PrintChoice{2, 3, 4, true, false, false};
-    dialog.setAction(clsCommDlg::ActionPrint);
-    EXPECT_EQ(dialogs.print.minPage, 1);
-    EXPECT_EQ(dialogs.print.maxPage, 5);
-    EXPECT_EQ(dialogs.print.toPage, 5);
-    EXPECT_TRUE(dialogs.print.collate);
-    EXPECT_TRUE(dialogs.print.offerPageNumbers);
-    EXPECT_FALSE(dialogs.print.pageNumbers);
-    EXPECT_FALSE(dialogs.print.offerSelection);
-    EXPECT_EQ(dialog.Copies, 2);
-    EXPECT_EQ(dialog.FromPage, 3);
-    EXPECT_EQ(dialog.ToPage, 4);
-    EXPECT_EQ(dialog.flags, 0x100006);
 }
 
 TEST_F(CommDlg, AFailingPrinterIsReportedAndThrown)
 {
-    dialogs.printerFault = QStringLiteral("no paper");
+    dialogs.printerFault = "no paper";
     EXPECT_THROW(dialog.setAction(clsCommDlg::ActionPrint), CommDlgError);
-    ASSERT_EQ(alerts.shown.size(), 1U);
-    EXPECT_EQ(alerts.shown.front().title, QStringLiteral("Printer Error"));
-    EXPECT_EQ(alerts.shown.front().prompt, QStringLiteral("no paper"));
+    EXPECT_EQ(alerts.onlyPrompt(), "no paper");
+    EXPECT_EQ(alerts.shown.front().title, "Printer Error");
     EXPECT_TRUE(alerts.shown.front().exclamation);
 }
 
 TEST_F(CommDlg, HelpIsCalledWithTheKeyAsANumber)
 {
-    dialog.HelpFile = QStringLiteral("help");
+    dialog.HelpFile = "help";
     dialog.HelpCommand = 15;
-    dialog.HelpKey = QStringLiteral("1160");
+    dialog.HelpKey = "1160";
     dialog.setAction(clsCommDlg::ActionHelp);
-    EXPECT_EQ(dialogs.helpAsked, QStringLiteral("help 15 1160"));
+    EXPECT_EQ(dialogs.helpAsked, "help 15 1160");
     dialogs.helpThere = false;
     EXPECT_THROW(dialog.setAction(clsCommDlg::ActionHelp), CommDlgError);
 }
 
 TEST(FileFilter, BecomesThePlatformsFilters)
 {
-    const struct
-    {
-        const char *filter;
-        QStringList filters;
-    } cases[] = {
-        {"Glosaria Document (*.gla) | *.gla", {QStringLiteral("Glosaria Document (*.gla)")}},
-        {"Lists|*.gla; *.txt|All|*", {QStringLiteral("Lists (*.gla *.txt)"), QStringLiteral("All (*)")}},
-        {"Lists|", {}},
-        {"", {}},
-    };
-    for (const auto &c : cases)
-        EXPECT_EQ(FileDialogRules::nameFilters(QString::fromUtf8(c.filter)), c.filters) << c.filter;
+    EXPECT_EQ(FileDialogRules::nameFilters(VocabularyFilter), QStringList{"Glosaria Document (*.gla)"});
+    EXPECT_EQ(FileDialogRules::nameFilters("Lists|*.gla; *.txt|All|*|None|"),
+              (QStringList{"Lists (*.gla *.txt)", "All (*)"}));
 }
 
 /// The real dialogs over a folder of files.
@@ -149,13 +103,11 @@ protected:
 
     void SetUp() override
     {
-        for (const char *name : {"small.gla", "LARGE.GLA", "other.txt"}) {
-            QFile file(folder.filePath(QString::fromUtf8(name)));
-            ASSERT_TRUE(file.open(QFile::WriteOnly));
-        }
+        for (const char *name : {"small.gla", "LARGE.GLA", "other.txt"})
+            ASSERT_TRUE(QFile(folder.filePath(name)).open(QFile::WriteOnly));
         dialog.InitDir = folder.path();
-        dialog.Filter = QStringLiteral("Glosaria Document (*.gla) | *.gla");
-        dialog.DefaultExt = QStringLiteral("gla");
+        dialog.Filter = VocabularyFilter;
+        dialog.DefaultExt = "gla";
     }
 
     /// Runs a step on the next modal window of a kind, once it is up.
@@ -166,6 +118,13 @@ protected:
             window &&QTest::qWaitForWindowExposed(window) ? step(*window) : onNext<Window>(step);
         });
     }
+    static void type(const QWidget &window, const char *box, const QString &text, Qt::Key last)
+    {
+        auto *edit = window.findChild<QLineEdit *>(box);
+        edit->selectAll();
+        QTest::keyClicks(edit, text);
+        QTest::keyClick(edit, last);
+    }
 };
 
 TEST_F(RealDialogs, OpenShowsVocabulariesInCapitalsToo)
@@ -173,42 +132,54 @@ TEST_F(RealDialogs, OpenShowsVocabulariesInCapitalsToo)
     dialog.flags = 0x81004;
     QStringList seen;
     onNext<QFileDialog>([&seen](QFileDialog &window) {
-        auto *view = window.findChild<QAbstractItemView *>(QStringLiteral("listView"));
+        auto *view = window.findChild<QAbstractItemView *>("listView");
         EXPECT_TRUE(QTest::qWaitFor([view] { return view->model()->rowCount(view->rootIndex()) == 2; }));
         for (int row = 0; row < view->model()->rowCount(view->rootIndex()); ++row)
             seen.append(view->model()->index(row, 0, view->rootIndex()).data().toString());
-        auto *name = window.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-        QTest::keyClicks(name, QStringLiteral("small"));
-        QTest::keyClick(name, Qt::Key_Return);
+        type(window, "fileNameEdit", "small", Qt::Key_Return);
     });
     dialog.setAction(clsCommDlg::ActionOpen);
-    EXPECT_THAT(seen, ::testing::UnorderedElementsAre(QStringLiteral("small.gla"), QStringLiteral("LARGE.GLA")));
-    EXPECT_EQ(dialog.FileName, folder.filePath(QStringLiteral("small.gla")));
+    EXPECT_THAT(seen, ::testing::UnorderedElementsAre("small.gla", "LARGE.GLA"));
+    EXPECT_EQ(dialog.FileName, folder.filePath("small.gla"));
 }
 
 TEST_F(RealDialogs, SaveAsAsksAboutTheRealTargetAndGoesBackOnNo)
 {
-    dialog.FileName = QStringLiteral("Untitled 1");
+    dialog.FileName = "Untitled 1";
     dialog.flags = 0x80406;
     onNext<QFileDialog>([this](QFileDialog &window) {
-        auto *name = window.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-        EXPECT_EQ(name->text(), QStringLiteral("Untitled 1.gla"));
+        EXPECT_EQ(window.findChild<QLineEdit *>("fileNameEdit")->text(), "Untitled 1.gla");
         onNext<QMessageBox>([this](QMessageBox &box) {
-            EXPECT_TRUE(box.text().contains(QStringLiteral("small.gla"))) << box.text().toStdString();
-            onNext<QFileDialog>([](QFileDialog &again) {
-                auto *other = again.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-                other->selectAll();
-                QTest::keyClicks(other, QStringLiteral("other.txt"));
-                QTest::keyClick(other, Qt::Key_Return);
-            });
+            EXPECT_TRUE(box.text().contains("small.gla")) << box.text().toStdString();
+            onNext<QFileDialog>([](QFileDialog &again) { type(again, "fileNameEdit", "other.txt", Qt::Key_Return); });
             QTest::mouseClick(box.button(QMessageBox::No), Qt::LeftButton);
         });
-        name->selectAll();
-        QTest::keyClicks(name, QStringLiteral("small"));
-        QTest::keyClick(name, Qt::Key_Return);
+        type(window, "fileNameEdit", "small", Qt::Key_Return);
     });
     dialog.setAction(clsCommDlg::ActionSaveAs);
-    EXPECT_EQ(dialog.FileName, folder.filePath(QStringLiteral("other.gla")));
+    EXPECT_EQ(dialog.FileName, folder.filePath("other.gla"));
+}
+
+TEST_F(RealDialogs, PrintTakesNoPagesThatAreNotThere)
+{
+    printer.printer().setOutputFileName(folder.filePath("out.pdf"));
+    dialog.MinPage = 1;
+    dialog.MaxPage = 5;
+    dialog.flags = 0x100014;
+    onNext<QPrintDialog>([](QPrintDialog &window) {
+        window.findChild<QRadioButton *>("printRange")->click();
+        type(*window.findChild<QSpinBox *>("from"), "qt_spinbox_lineedit", "0", Qt::Key_Tab);
+        type(*window.findChild<QSpinBox *>("to"), "qt_spinbox_lineedit", "9", Qt::Key_Tab);
+        type(*window.findChild<QSpinBox *>("copies"), "qt_spinbox_lineedit", "2", Qt::Key_Tab);
+        window.accept();
+    });
+    dialog.setAction(clsCommDlg::ActionPrint);
+    EXPECT_GE(dialog.FromPage, 1);
+    EXPECT_LE(dialog.ToPage, 5);
+    EXPECT_EQ(dialog.flags, 0x100016);
+    EXPECT_EQ(dialog.Copies, 2);
+    EXPECT_EQ(printer.printer().copyCount(), 1) << "the copies are printed by the program";
+    EXPECT_EQ(printer.printer().resolution(), 1440);
 }
 
 } // namespace

@@ -1,5 +1,5 @@
-#include "print/PrintCommands.h"
 #include "print/QtPrinter.h"
+#include "print/rules/modUtskrift.h"
 #include "support/RecordingPrinter.h"
 
 #include <QProcess>
@@ -22,7 +22,7 @@ protected:
     QtPrinter printer;
     modUtskrift layout{printer};
     PairSource source;
-    QString file = folder.filePath(QStringLiteral("out.pdf"));
+    QString file = folder.filePath("out.pdf");
 
     void print(int copies = 1)
     {
@@ -31,23 +31,17 @@ protected:
             layout.PrintLayout(modUtskrift::PrintMode, source);
         printer.endDoc();
     }
-    QString info(const QString &key) const
+    std::string info(const QString &key) const
     {
-        for (const QString &line : outputOf(QStringLiteral("pdfinfo"), {file}).split(u'\n')) {
-            if (line.startsWith(key + u':'))
-                return line.section(u':', 1).simplified();
-        }
-        return {};
+        const QStringList lines = outputOf("pdfinfo", {file}).split('\n').filter(key + ':');
+        return lines.value(0).section(':', 1).trimmed().toStdString();
     }
     /// The lines of a page (from 1), their blanks drawn together.
     QStringList page(int number) const
     {
         const QString n = QString::number(number);
-        const QString text =
-            outputOf(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), QStringLiteral("-f"), n,
-                                                   QStringLiteral("-l"), n, file, QStringLiteral("-")});
         QStringList lines;
-        for (const QString &line : text.split(u'\n')) {
+        for (const QString &line : outputOf("pdftotext", {"-layout", "-f", n, "-l", n, file, "-"}).split('\n')) {
             if (!line.simplified().isEmpty())
                 lines.append(line.simplified());
         }
@@ -58,21 +52,20 @@ protected:
 TEST_F(PrintedPages, HoldTheWordsInTheirOrder)
 {
     source.fill(120);
-    source.pairs[1] = {QStringLiteral("être à l'heure"), QStringLiteral("pünktlich sein")};
+    source.pairs[1] = {"être à l'heure", "pünktlich sein"};
     print();
-    const int pages = layout.pageCount();
-    EXPECT_EQ(info(QStringLiteral("Pages")).toInt(), pages);
-    EXPECT_THAT(info(QStringLiteral("Page size")).toStdString(), ::testing::HasSubstr("(A4)"));
+    EXPECT_EQ(info("Pages"), std::to_string(layout.pageCount()));
+    EXPECT_THAT(info("Page size"), ::testing::HasSubstr("(A4)"));
     int row = 0;
-    for (int number = 1; number <= pages; ++number) {
+    for (int number = 1; number <= layout.pageCount(); ++number) {
         QStringList lines = page(number);
         ASSERT_GE(lines.size(), 3);
-        EXPECT_EQ(lines.takeFirst(), QStringLiteral("Glosaria - Words"));
-        EXPECT_EQ(lines.takeFirst(), QStringLiteral("English German"));
+        EXPECT_EQ(lines.takeFirst(), "Glosaria - Words");
+        EXPECT_EQ(lines.takeFirst(), "English German");
         EXPECT_EQ(lines.takeLast(), QString::number(number));
         for (const QString &line : lines) {
             const auto &[first, second] = source.pairs.at(size_t(row++));
-            EXPECT_EQ(line, QStringLiteral("%1 %2 %3").arg(row).arg(first, second));
+            EXPECT_EQ(line, QString("%1 %2 %3").arg(row).arg(first, second));
         }
     }
     EXPECT_EQ(row, 120);
@@ -80,75 +73,45 @@ TEST_F(PrintedPages, HoldTheWordsInTheirOrder)
 
 TEST_F(PrintedPages, ARangeInTwoCopiesGivesThoseSheets)
 {
-    source.fill(5);
-    layout.PrintLayout(modUtskrift::PreviewMode, source);
-    while (layout.pageCount() < 5) {
+    do {
         source.fill(source.Rows() + 20);
         layout.PrintLayout(modUtskrift::PreviewMode, source);
-    }
+    } while (layout.pageCount() < 5);
     layout.FromPage = 3;
     layout.ToPage = 4;
     print(2);
-    EXPECT_EQ(info(QStringLiteral("Pages")).toInt(), 4);
+    EXPECT_EQ(info("Pages"), "4");
     for (int sheet = 1; sheet <= 4; ++sheet)
-        EXPECT_EQ(page(sheet).last(), QString::number(sheet % 2 ? 3 : 4));
+        EXPECT_EQ(page(sheet).last(), sheet % 2 ? "3" : "4");
 }
 
 TEST_F(PrintedPages, WrappedWordsStayInTheirColumn)
 {
-    const QString phrase = QStringLiteral("to look forward to something that will happen before very long");
-    source.pairs = {{phrase, QStringLiteral("sich freuen")}, {QStringLiteral("next"), {}}};
+    source.pairs = {{"to look forward to something that will happen before very long", "sich freuen"}, {"next", {}}};
     print();
-    QStringList lines = page(1).mid(2);
-    lines.removeLast();
-    ASSERT_GE(lines.size(), 3);
-    EXPECT_TRUE(lines.first().startsWith(QStringLiteral("1 to look")));
-    EXPECT_TRUE(lines.first().endsWith(QStringLiteral("sich freuen")));
-    EXPECT_EQ(lines.last(), QStringLiteral("2 next"));
-    lines.first().remove(QStringLiteral(" sich freuen"));
-    lines.removeLast();
-    EXPECT_EQ(lines.join(u' '), QStringLiteral("1 ") + phrase);
-}
-
-TEST_F(PrintedPages, LandscapeTurnsTheSheetAndTheColumns)
-{
-    printer.printer().setPageOrientation(QPageLayout::Landscape);
-    printer.settle();
-    source.fill(40);
-    print();
-    EXPECT_GT(printer.Width(), printer.Height());
-    EXPECT_THAT(info(QStringLiteral("Page size")).toStdString(), ::testing::StartsWith("842 x 595"));
-    EXPECT_EQ(layout.pageCount(), 2);
-    EXPECT_EQ(page(2).last(), QStringLiteral("2"));
+    const QString text = page(1).mid(2).join('|');
+    EXPECT_THAT(text.toStdString(),
+                ::testing::MatchesRegex("1 to look [a-z ]+ sich freuen\\|[a-z ]+long\\|2 next\\|1"));
 }
 
 TEST_F(PrintedPages, WordsOfEveryScriptAreThere)
 {
-    source.pairs = {{QStringLiteral("слово"), QStringLiteral("λέξη")},
-                    {QStringLiteral("שלום עולם"), QStringLiteral("مرحبا")},
-                    {QStringLiteral("漢字"), QStringLiteral("คำ")}};
+    source.pairs = {{"слово", "λέξη"}, {"漢字", "שלום"}};
     print();
-    const QString text = page(1).join(u'\n');
-    for (const char *word : {"слово", "λέξη", "漢字"})
-        EXPECT_TRUE(text.contains(QString::fromUtf8(word))) << text.toStdString();
+    const QString text = page(1).join('\n');
+    for (const auto &[first, second] : source.pairs)
+        EXPECT_TRUE(text.contains(first) && text.contains(second)) << text.toStdString();
 }
 
 TEST_F(PrintedPages, AFileThatCannotBeWrittenIsAPrinterError)
 {
     source.fill(5);
-    file = QStringLiteral("/no/such/folder/out.pdf");
-    EXPECT_THROW(print(), PrinterError);
-    file = folder.filePath(QStringLiteral("out.pdf"));
+    for (const char *path : {"/no/such/folder/out.pdf", "/dev/full"}) {
+        file = path;
+        EXPECT_THROW(print(), PrinterError) << path;
+    }
+    file = folder.filePath("out.pdf");
     EXPECT_NO_THROW(print()) << "the next run is not concerned";
 }
-
-#ifdef Q_OS_LINUX
-TEST_F(PrintedPages, ADiskThatFillsUpIsAPrinterError)
-{
-    source.fill(50);
-    file = QStringLiteral("/dev/full");
-    EXPECT_THROW(print(), PrinterError);
-}
-#endif
 
 } // namespace

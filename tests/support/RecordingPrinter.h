@@ -3,9 +3,11 @@
 #include "print/rules/PrintSource.h"
 #include "print/rules/PrinterDevice.h"
 
+#include <QSize>
+
+#include <algorithm>
 #include <vector>
 
-/// A text where a surface was told to draw it.
 struct DrawnText
 {
     int x = 0;
@@ -28,23 +30,11 @@ public:
     {
         texts.push_back({x, y, text, m_font, m_color, rightToLeft});
     }
-    /// The texts drawn on the line at y, joined by blanks.
-    QString line(int y) const
-    {
-        QStringList words;
-        for (const DrawnText &drawn : texts) {
-            if (drawn.y == y)
-                words.append(drawn.text);
-        }
-        return words.join(u' ');
-    }
     const DrawnText *find(const QString &text) const
     {
-        for (const DrawnText &drawn : texts) {
-            if (drawn.text == text)
-                return &drawn;
-        }
-        return nullptr;
+        const auto is = [&text](const DrawnText &drawn) { return drawn.text == text; };
+        const auto found = std::find_if(texts.begin(), texts.end(), is);
+        return found == texts.end() ? nullptr : &*found;
     }
 
 private:
@@ -57,17 +47,16 @@ class RecordingPrinter : public PrinterDevice
 {
 public:
     std::vector<RecordingSurface> sheets;
-    int width = 11900;
-    int height = 16840;
+    QSize size{11900, 16840};
     int failingSheet = 0; ///< from 1
     bool reverse = false;
     QList<int> wanted; ///< empty: every page
     int jobs = 0;
     QString docName;
 
-    int Width() const override { return width; }
-    int Height() const override { return height; }
-    int ScaleHeight() const override { return height; }
+    int Width() const override { return size.width(); }
+    int Height() const override { return size.height(); }
+    int ScaleHeight() const override { return size.height(); }
     std::unique_ptr<TextMeasure> measure(const PrintFont &) const override
     {
         struct FixedMeasure : TextMeasure
@@ -79,18 +68,13 @@ public:
     }
     void setFont(const PrintFont &font) override { sheets.back().setFont(font); }
     void setForeColor(QRgb color) override { sheets.back().setForeColor(color); }
-    void drawText(int x, int y, const QString &text, bool rightToLeft) override
-    {
-        sheets.back().drawText(x, y, text, rightToLeft);
-    }
+    void drawText(int x, int y, const QString &text, bool rtl) override { sheets.back().drawText(x, y, text, rtl); }
     void setDocName(const QString &name) override { docName = name; }
     void startPage() override
     {
-        if (int(sheets.size()) + 1 == failingSheet) {
-            m_open = false;
+        m_open = int(sheets.size()) + 1 != failingSheet;
+        if (!m_open)
             throw PrinterError(QStringLiteral("out of paper"));
-        }
-        m_open = true;
         sheets.emplace_back();
     }
     void endDoc() override { jobs += std::exchange(m_open, false); }
@@ -115,10 +99,8 @@ class PairSource : public PrintSource
 {
 public:
     std::vector<std::pair<QString, QString>> pairs;
-    QString language1 = QStringLiteral("English");
     QString language2 = QStringLiteral("German");
-    PrintFont font{QStringLiteral("Liberation Sans"), 10, false, false};
-    int color = 0x0000ff;
+    int color = 0;
 
     /// Pairs "one n", "zwei n" for n from 1.
     void fill(int count)
@@ -131,12 +113,11 @@ public:
     int Rows() const override { return int(pairs.size()) + 1; }
     QString TextMatrix(int row, int col) const override
     {
-        if (row == 0)
-            return col == 1 ? language1 : language2;
         if (col == 0)
             return QString::number(row);
-        return col == 1 ? pairs[size_t(row) - 1].first : pairs[size_t(row) - 1].second;
+        const auto words = row ? pairs[size_t(row) - 1] : std::pair(QStringLiteral("English"), language2);
+        return col == 1 ? words.first : words.second;
     }
-    PrintFont Font() const override { return font; }
+    PrintFont Font() const override { return {QStringLiteral("Liberation Sans"), 10, false, false}; }
     int ForeColor() const override { return color; }
 };

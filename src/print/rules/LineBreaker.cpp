@@ -51,6 +51,8 @@ public:
     }
     void add(const QString &piece, int width)
     {
+        if (piece.isEmpty())
+            return;
         if (m_used + width > m_width) {
             m_lines.append(QString());
             m_used = 0;
