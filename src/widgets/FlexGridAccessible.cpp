@@ -142,8 +142,7 @@ QAccessibleInterface *FlexGridAccessible::focusChild() const
 QAccessibleInterface *FlexGridAccessible::cellAt(int row, int column) const
 {
     const FlexGridState &state = view().state();
-    const bool inside = row >= 0 && row < state.cells.rows() - state.fixedRows && column >= 0 &&
-                        column < state.cells.cols() - state.fixedCols;
+    const bool inside = row >= 0 && row < rowCount() && column >= 0 && column < columnCount();
     return inside ? cell(state.fixedRows + row, state.fixedCols + column) : nullptr;
 }
 
@@ -168,13 +167,14 @@ QList<QAccessibleInterface *> FlexGridAccessible::selectedCells() const
 QString FlexGridAccessible::columnDescription(int column) const
 {
     const FlexGridState &state = view().state();
-    return state.fixedRows > 0 && column >= 0 ? state.cells.text(0, state.fixedCols + column) : QString();
+    return state.fixedRows > 0 && column >= 0 && column < columnCount() ? state.cells.text(0, state.fixedCols + column)
+                                                                        : QString();
 }
 
 QString FlexGridAccessible::rowDescription(int row) const
 {
     const FlexGridState &state = view().state();
-    return state.fixedCols > 0 && row >= 0 ? state.cells.text(state.fixedRows + row, 0) : QString();
+    return state.fixedCols > 0 && row >= 0 && row < rowCount() ? state.cells.text(state.fixedRows + row, 0) : QString();
 }
 
 int FlexGridAccessible::selectedRowSpan() const
