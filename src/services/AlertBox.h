@@ -27,6 +27,7 @@ public:
     virtual ~AlertBox() = default;
 
     /// Returns when the user has chosen; pressing Help opens the topic and keeps the box. Closing the box counts as
-    /// Cancel where there is one, as No where there is that, else as OK. owner may be null: then the box belongs to the main window.
+    /// Cancel where there is one, as No where there is that, else as OK. owner may be null: then the box belongs to the
+    /// main window.
     virtual Answer show(QWidget *owner, const Alert &alert) = 0;
 };
