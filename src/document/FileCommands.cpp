@@ -71,8 +71,10 @@ void FileCommands::onCreated(frmDoc *document)
 {
     connect(document, &frmDoc::closeRequested, this, [this, document](bool &accepted) {
         accepted = confirmClose(*document);
-        if (accepted)
-            m_needs.documents.remove(document);
+        if (!accepted)
+            return;
+        document->endEdit();
+        m_needs.documents.remove(document);
     });
 }
 

@@ -41,6 +41,9 @@ Vocabulary read(const ctlGrid &grid)
 
 void fill(ctlGrid &grid, Vocabulary &&vocabulary)
 {
+    // Without the pair of language names the grid would have no row to write in.
+    if (vocabulary.rows() == 0)
+        vocabulary.append(grid.TextMatrix(0, 1), grid.TextMatrix(0, 2));
     vocabulary.append({}, {});
     fillAll(grid, std::move(vocabulary));
 }

@@ -93,6 +93,15 @@ TEST_F(FileCommandsTest, ALoadedFileFillsADocumentAndIsSavedAsItWas)
     EXPECT_EQ(document.Caption(), QStringLiteral("Copy"));
 }
 
+TEST_F(FileCommandsTest, AFileWithoutAnyPairCanBeWrittenIn)
+{
+    const QByteArray bytes = vocabulary("3.1.0");
+    files.LoadVocabulary(write(QStringLiteral("bare.gla"), bytes.first(bytes.indexOf("English"))));
+    ASSERT_EQ(documents.open().size(), 1u);
+    EXPECT_EQ(documents.open().front()->Rutor()->Rows(), 2);
+    EXPECT_EQ(documents.open().front()->language(2), resText(502));
+}
+
 TEST_F(FileCommandsTest, EveryFailureHasItsMessageAndLeavesNoWindow)
 {
     struct Case
