@@ -51,7 +51,8 @@ void modSBMenuHelp::watchSystemMenu(QMenu *menu)
 
 bool modSBMenuHelp::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_menuBar && event->type() == QEvent::Leave)
+    // The keys leave the menu bar with the focus, the pointer without.
+    if (watched == m_menuBar && (event->type() == QEvent::Leave || event->type() == QEvent::FocusOut))
         m_status.ShowStatus(Ready);
     return QObject::eventFilter(watched, event);
 }
