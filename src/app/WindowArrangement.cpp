@@ -31,6 +31,14 @@ QRect nextPlace(const QRect &area, int number, int step)
     return {area.topLeft() + QPoint(offset, offset), size};
 }
 
+std::vector<QRect> cascade(const QRect &area, int count, int step)
+{
+    std::vector<QRect> places;
+    for (int i = 0; i < count; ++i)
+        places.push_back(nextPlace(area, i, step));
+    return places;
+}
+
 std::vector<QRect> icons(const QRect &area, int count, const QSize &size)
 {
     const int perRow = std::max(1, area.width() / std::max(1, size.width()));

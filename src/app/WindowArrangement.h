@@ -18,6 +18,9 @@ std::vector<QRect> tiles(const QRect &area, int count, bool horizontal);
 /// corner.
 QRect nextPlace(const QRect &area, int number, int step);
 
+/// The places of count windows that overlap so that every title bar can be seen.
+std::vector<QRect> cascade(const QRect &area, int count, int step);
+
 /// The places of count minimised windows of one size, in rows from the area's lower left corner upwards.
 std::vector<QRect> icons(const QRect &area, int count, const QSize &size);
 

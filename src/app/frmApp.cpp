@@ -20,6 +20,7 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QFontMetrics>
+#include <QLayout>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -42,6 +43,23 @@ constexpr int FrameDelay = 50; // milliseconds
 int desktopTextWidth(const QString &text)
 {
     return QFontMetrics(QApplication::font()).horizontalAdvance(text);
+}
+
+/// A drop that counts as a move would let the other program delete its file.
+void acceptAsCopy(QDropEvent &event)
+{
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
+
+/// The window's own Close would share Ctrl+W with the command, and the key would then do nothing.
+void freeCloseKey(const QMenu &systemMenu)
+{
+    const QList<QAction *> actions = systemMenu.actions();
+    for (QAction *action : actions) {
+        if (action->shortcuts().contains(QKeySequence(Qt::CTRL | Qt::Key_W)))
+            action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F4));
+    }
 }
 
 void selectRecentFilesKey(clsRegistry &registry)
@@ -133,15 +151,34 @@ void frmApp::placeDocument(frmDoc *document)
     QMdiSubWindow *frame = m_area->addSubWindow(document);
     frame->setAttribute(Qt::WA_DeleteOnClose);
     frame->setWindowIcon(picture(PictureDocument));
-    const int step =
-        style()->pixelMetric(QStyle::PM_TitleBarHeight) + style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
-    frame->setGeometry(WindowLayout::nextPlace(m_area->viewport()->rect(), document->Tag(), step));
+    frame->setGeometry(WindowLayout::nextPlace(m_area->viewport()->rect(), document->Tag(), cascadeStep()));
+    frame->layout()->activate(); // the document measures its columns before it is shown
+    freeCloseKey(*frame->systemMenu());
     m_menus->watchSystemMenu(frame->systemMenu());
 
     connect(document, &frmDoc::editingChanged, this,
             [this](bool editing) { SetCommandState(editing ? AppState::StateEditing : AppState::StateDocument); });
     connect(document, &frmDoc::menuRequested, this,
             [this](const QPoint &position) { m_menus->gridMenu()->popup(position); });
+}
+
+int frmApp::cascadeStep() const
+{
+    return style()->pixelMetric(QStyle::PM_TitleBarHeight) + style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+}
+
+std::vector<QRect> frmApp::placesFor(WindowArrangement how, const QList<QMdiSubWindow *> &windows) const
+{
+    const QRect area = m_area->viewport()->rect();
+    const int count = int(windows.size());
+    switch (how) {
+    case WindowArrangement::Cascade:
+        return WindowLayout::cascade(area, count, cascadeStep());
+    case WindowArrangement::ArrangeIcons:
+        return WindowLayout::icons(area, count, windows.first()->size());
+    default:
+        return WindowLayout::tiles(area, count, how == WindowArrangement::TileHorizontally);
+    }
 }
 
 void frmApp::activate(frmDoc *document)
@@ -162,22 +199,16 @@ void frmApp::arrange(WindowArrangement how)
         if (window->isVisible())
             (window->isMinimized() ? icons : open).append(window);
     }
-    if (how == WindowArrangement::Cascade) {
-        m_area->cascadeSubWindows();
-        return;
-    }
-    const bool arrangeIcons = how == WindowArrangement::ArrangeIcons;
-    const QList<QMdiSubWindow *> &windows = arrangeIcons ? icons : open;
+    const QList<QMdiSubWindow *> &windows = how == WindowArrangement::ArrangeIcons ? icons : open;
     if (windows.isEmpty())
         return;
-    const QRect area = m_area->viewport()->rect();
-    const std::vector<QRect> places =
-        arrangeIcons ? WindowLayout::icons(area, int(windows.size()), windows.first()->size())
-                     : WindowLayout::tiles(area, int(windows.size()), how == WindowArrangement::TileHorizontally);
+    const std::vector<QRect> places = placesFor(how, windows);
     for (qsizetype i = 0; i < windows.size(); ++i) {
         if (windows[i]->isMaximized())
             windows[i]->showNormal();
         windows[i]->setGeometry(places[size_t(i)]);
+        if (how == WindowArrangement::Cascade)
+            windows[i]->raise();
     }
 }
 
@@ -371,12 +402,12 @@ void frmApp::closeEvent(QCloseEvent *event)
 void frmApp::dragEnterEvent(QDragEnterEvent *event)
 {
     if (event->mimeData()->hasUrls())
-        event->acceptProposedAction();
+        acceptAsCopy(*event);
 }
 
 void frmApp::dropEvent(QDropEvent *event)
 {
-    event->acceptProposedAction();
+    acceptAsCopy(*event);
     const int y = event->position().toPoint().y();
     if (!WindowLayout::acceptsDrop(y, toolbarHeight(), height(), m_context->status.height()))
         return;

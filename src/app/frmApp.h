@@ -20,6 +20,7 @@ class PrintCommands;
 class PrintHost;
 class PrinterDevice;
 class QMdiArea;
+class QMdiSubWindow;
 class QStackedWidget;
 class RegistryStore;
 class frmDoc;
@@ -99,6 +100,9 @@ private:
     void createParts(const Needs &needs);
     QWidget *createCentre();
     void placeDocument(frmDoc *document);
+    /// How far the title bar of a window stands from that of the one behind it, in pixels.
+    int cascadeStep() const;
+    std::vector<QRect> placesFor(WindowArrangement how, const QList<QMdiSubWindow *> &windows) const;
     void onRemoved();
     void updateState();
     void onUndoKind(UndoKind kind);

@@ -1,5 +1,8 @@
 #include "MainWindowFixture.h"
 
+#include "document/ctlGrid.h"
+#include "platform/Twips.h"
+#include "resources/StringTable.h"
 #include "services/modSBFunc.h"
 
 #include <QMdiArea>
@@ -14,11 +17,14 @@ struct MainWindowTest : MainWindowFixture
     {
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(path)});
-        QDragEnterEvent enter(QPoint(300, y), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
+        QDragEnterEvent enter(QPoint(300, y), offered, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(window.get(), &enter);
         EXPECT_TRUE(enter.isAccepted());
-        QDropEvent event(QPointF(300, y), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent event(QPointF(300, y), offered, &data, Qt::LeftButton, Qt::ShiftModifier);
+        event.setDropAction(Qt::MoveAction);
         QApplication::sendEvent(window.get(), &event);
+        EXPECT_EQ(event.dropAction(), Qt::CopyAction);
         QCoreApplication::processEvents();
     }
 };
@@ -33,6 +39,37 @@ TEST_F(MainWindowTest, NewDocumentsCascadeInsideTheArea)
         EXPECT_TRUE(window->documentArea()->viewport()->rect().contains(place)) << i;
         EXPECT_NE(place.topLeft(), std::exchange(last, place.topLeft())) << i;
     }
+}
+
+TEST_F(MainWindowTest, TheColumnsOfANewDocumentFillItsWindow)
+{
+    const frmDoc &document = *newDocument();
+    const ctlGrid &grid = *document.Rutor();
+    EXPECT_EQ(grid.ColWidth(1), Twips::fromPixelsX(grid.width()) / 2 - 360);
+}
+
+TEST_F(MainWindowTest, CascadedWindowsKeepAUsefulSize)
+{
+    const QRect first = newDocument()->frame()->geometry();
+    const QRect second = newDocument()->frame()->geometry();
+    window->DoMenuClick("mnuWindow(1)");
+    window->DoMenuClick("mnuWindow(0)");
+    EXPECT_EQ(documents().open()[0]->frame()->geometry(), first);
+    EXPECT_EQ(documents().open()[1]->frame()->geometry(), second);
+}
+
+TEST_F(MainWindowTest, ClosingADocumentAmidAnEditLeavesNothingToDo)
+{
+    newDocument()->Rutor()->GridEdit('x');
+    QApplication::processEvents();
+    alert.answers = {AlertBox::AnswerNo};
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_W, Qt::ControlModifier);
+    QApplication::processEvents();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QApplication::processEvents();
+    EXPECT_EQ(window->state(), AppState::StateNoDocument);
+    EXPECT_EQ(window->UndoAction(), resText(419));
+    EXPECT_TRUE(flags.gridMode);
 }
 
 TEST_F(MainWindowTest, TilesShareTheAreaWithoutOverlap)
