@@ -24,13 +24,14 @@ class ProgramCase(unittest.TestCase):
         return pathlib.Path(shutil.copy(SAMPLES / name, self.home))
 
 
-class DocumentCase(ProgramCase):
-    """What becomes of a file that the user opens and edits."""
-
     def open(self, file):
         program = DESKTOP.start(file)
         DESKTOP.wait(lambda: DESKTOP.find("table") and DESKTOP.cell(0, 0), "the words")
         return program
+
+
+class DocumentCase(ProgramCase):
+    """What becomes of a file that the user opens and edits."""
 
     def test_an_edited_word_is_saved_and_nothing_else_changes(self):
         file = self.sample("german-basics.gla")
@@ -49,6 +50,34 @@ class DocumentCase(ProgramCase):
         self.open(file)
         self.assertEqual(DESKTOP.cell(0, 0), "the human being")
         self.assertEqual(DESKTOP.cell(0, 1), "der Mensch")
+
+
+class ScreenReaderCase(ProgramCase):
+    """What a user hears who does not see the screen."""
+
+    MENUS = ["File", "Edit", "Vocabulary", "Mode", "Quiz", "Window", "Help"]
+
+    def test_menus_cells_and_questions_can_be_heard(self):
+        program = self.open(self.sample("german-basics.gla"))
+        menu_bar = DESKTOP.wait_for(role="menu bar")
+        self.assertEqual([menu.name for menu in menu_bar], self.MENUS)
+
+        table = DESKTOP.find("table").queryTable()
+        self.assertEqual([table.getColumnHeader(column).name for column in (0, 1)], ["English", "German"])
+        self.assertEqual(table.getRowHeader(4).name, "5")
+        for row, column in ((-1, 0), (0, -1), (table.nRows, 0), (0, table.nColumns), (2**31 - 1, 2**31 - 1)):
+            self.assertIsNone(table.getAccessibleAt(row, column))
+        self.assertEqual(DESKTOP.cell(0, 0), "the person")
+
+        DESKTOP.type("somebody")
+        DESKTOP.key("Return", "ctrl+w")
+        box = DESKTOP.wait_for(name="Glosaria Alert")
+        self.assertIn("[german-basics] has changed.", DESKTOP.wait_for("label", within=box).name)
+        buttons = {button.name for button in DESKTOP.find_all("push button", within=box)}
+        self.assertEqual(buttons, {"Yes", "No", "Cancel", "Help"})
+        DESKTOP.key("alt+n")
+        DESKTOP.wait(lambda: not DESKTOP.find("table"), "the document to close")
+        self.assertEqual(DESKTOP.quit(program), 0)
 
 
 if __name__ == "__main__":
