@@ -91,7 +91,7 @@ void frmOva::connectControls()
     connect(m_ui->chkError, &QCheckBox::clicked, m_session.get(), &QuizSession::setHintIsError);
     connect(m_ui->chkBeep, &QCheckBox::clicked, m_session.get(), &QuizSession::setBeepOnError);
     connect(m_optAnswer.get(), &AnswerOptions::chosen, m_session.get(), &QuizSession::choose);
-    connect(m_ui->txtTime, &QLineEdit::textEdited, m_session.get(), &QuizSession::setAutoSeconds);
+    connect(m_ui->txtTime, &QLineEdit::textChanged, m_session.get(), &QuizSession::setAutoSeconds);
     connect(m_ui->txtSvar, &QLineEdit::textChanged, m_session.get(), &QuizSession::setAnswerText);
     connect(&m_tmrSvar, &clsTimer::ThatTime, m_session.get(), &QuizSession::revealTick);
     connect(&m_tmrAutoSvar, &clsTimer::ThatTime, m_session.get(), &QuizSession::autoTick);

@@ -10,6 +10,7 @@
 #include "services/rules/clsAppProperties.h"
 #include "support/ListWords.h"
 
+#include <QAccessible>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QSet>
@@ -223,6 +224,8 @@ TEST_F(frmOvaTest, PracticeSpellsTheAnswerOutByHandAndByItself)
     EXPECT_EQ(control("btnCheck"), window->focusWidget());
     EXPECT_TRUE(QTest::qWaitFor([this] { return window->session()->done(); }));
     EXPECT_EQ(u"2 2 1 1", counters());
+    QAccessible::queryAccessibleInterface(seconds)->setText(QAccessible::Value, QStringLiteral("0.02"));
+    EXPECT_EQ(20, settings.AutoTimerInterval());
     mnemonic(Qt::Key_R);
     EXPECT_TRUE(QTest::qWaitFor([this] { return window->session()->done(); }));
 }
