@@ -13,7 +13,7 @@ std::mt19937_64 wellSeeded()
 
 qint16 RandomSource::iGenRndNumber(qint16 upper, qint16 lower)
 {
-    return qint16((int(upper) - int(lower) + 1) * draw()) + lower;
+    return qint16(int((int(upper) - int(lower) + 1) * draw()) + lower);
 }
 
 SeededRandom::SeededRandom()

@@ -45,6 +45,7 @@ TEST(RandomSourceTest, NumbersReachBothEndsAndNothingElse)
     fixed.value = std::nextafter(1.0, 0.0);
     EXPECT_EQ(6, fixed.iGenRndNumber(6, 4));
     EXPECT_EQ(32767, fixed.iGenRndNumber(32767, 1));
+    EXPECT_EQ(32767, fixed.iGenRndNumber(32767, -32768));
 
     SeededRandom random;
     std::array<int, 3> counts{};
