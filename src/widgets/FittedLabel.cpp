@@ -3,6 +3,7 @@
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QResizeEvent>
+#include <QTextDocument>
 
 namespace {
 
@@ -21,6 +22,11 @@ QString fittedText(const QString &text, const QFont &font, double width)
     if (textWidth(text, font) <= width)
         return text;
     return QFontMetricsF(font).elidedText(text, Qt::ElideRight, width);
+}
+
+QString plainToolTip(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;
 }
 
 FittedLabel::FittedLabel(QWidget *parent)
@@ -107,5 +113,5 @@ void FittedLabel::fit()
     m_fitting = false;
     const QString shown = fittedText(m_fullText, type, width);
     setText(shown);
-    setToolTip(shown == m_fullText ? QString() : m_fullText);
+    setToolTip(shown == m_fullText ? QString() : plainToolTip(m_fullText));
 }

@@ -1,5 +1,7 @@
 #include "widgets/FittedLabel.h"
 
+#include <QTextDocumentFragment>
+
 namespace {
 
 const QString LongPhrase = QStringLiteral("a phrase that is a good deal longer than the label that has to show it");
@@ -30,6 +32,10 @@ TEST(FittedLabelTest, ALongTextIsCutToTheWidthOfTheMomentAndStandsInTheTooltip)
     EXPECT_LE(QFontMetricsF(label.font()).horizontalAdvance(label.text()), 150 * FittedLabel::UsableWidth);
     EXPECT_EQ(LongPhrase, label.toolTip());
     EXPECT_EQ(LongPhrase, label.accessibleName());
+
+    const QString markup = QStringLiteral("<b>bold</b> ") + LongPhrase;
+    label.setFullText(markup);
+    EXPECT_EQ(markup, QTextDocumentFragment::fromHtml(label.toolTip()).toPlainText());
 }
 
 TEST(FittedLabelTest, TheUsableWidthIsExact)
