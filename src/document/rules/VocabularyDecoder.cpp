@@ -228,15 +228,17 @@ private:
         return true;
     }
 
-    /// The line up to its height marker, which sets the height of this row and those after it. No value when the marker
-    /// is wrong. A blank can never be the second byte of a letter, so the marker is looked for in the bytes.
+    /// The line up to where a height marker begins for the first time, which sets the height of this row and those
+    /// after it. A word that holds the beginning of a marker was saved with a whole one behind it, which tells the
+    /// height then. No value when there is none. A blank can never be the second byte of a letter, so the marker is
+    /// looked for in the bytes.
     std::optional<QByteArrayView> withoutMarker(QByteArrayView line)
     {
         const qsizetype start = line.endsWith(']') ? line.indexOf(MarkerStart) : -1;
         if (start >= 0 && endsInBracket(line)) {
-            const qsizetype digits = start + MarkerStart.size();
-            const std::optional<int> height =
-                rowHeight(line.sliced(digits).first(std::min(MarkerDigits, line.size() - digits)));
+            std::optional<int> height = heightAt(line, start);
+            if (!height)
+                height = heightAt(line, line.size() - MarkerStart.size() - MarkerDigits - 1);
             if (!height)
                 return std::nullopt;
             m_height = *height;
@@ -245,6 +247,15 @@ private:
         if (m_height == 0)
             m_height = Vocabulary::DefaultRowHeight;
         return line;
+    }
+
+    /// The height in the marker that begins at a byte of the line; no value when none does.
+    static std::optional<int> heightAt(QByteArrayView line, qsizetype start)
+    {
+        if (start < 0 || !line.sliced(start).startsWith(MarkerStart))
+            return std::nullopt;
+        const QByteArrayView digits = line.sliced(start + MarkerStart.size());
+        return rowHeight(digits.first(std::min(MarkerDigits, digits.size())));
     }
 
     /// A last byte "]" may be the second half of an East Asian letter.
