@@ -135,6 +135,7 @@ QWidget *frmApp::createCentre()
 {
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder); // who closes a document is back in the one before
     auto *centre = new QWidget(this);
     auto *layout = new QVBoxLayout(centre);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -304,14 +305,16 @@ bool frmApp::applyPosition()
     const int state = settings.AppWinState();
     if (state != Normal && state != Maximized)
         return false;
-    const QRect place(Twips::toPixelsX(settings.WinPosLeft()), Twips::toPixelsY(settings.WinPosTop()),
-                      Twips::toPixelsX(settings.WinPosRight()), Twips::toPixelsY(settings.WinPosBottom()));
+    QRect place(Twips::toPixelsX(settings.WinPosLeft()), Twips::toPixelsY(settings.WinPosTop()),
+                Twips::toPixelsX(settings.WinPosRight()), Twips::toPixelsY(settings.WinPosBottom()));
     const QList<QScreen *> screens = QGuiApplication::screens();
     const bool reachable = std::any_of(screens.begin(), screens.end(), [&place](const QScreen *screen) {
         return screen->availableGeometry().intersects(place);
     });
     if (!reachable)
         return false;
+    // The screens may have become smaller, or coarser.
+    place.setSize(place.size().boundedTo(QGuiApplication::primaryScreen()->availableVirtualSize()));
     move(place.topLeft());
     resize(place.size());
     m_restoredSize = place.size();

@@ -250,8 +250,10 @@ void frmDoc::onKeyPress(int keyAscii)
         walk(m_shiftAlone);
     else if (keyAscii == KeyEscape)
         onAfterEdit(m_grid->Row(), m_grid->Col(), m_textBeforeEdit);
-    else if (keyAscii > KeyEscape)
+    if (keyAscii > KeyEscape) {
         rememberEntry();
+        showEditStatus(); // which the undo caption has overwritten
+    }
 }
 
 void frmDoc::walk(bool backwards)

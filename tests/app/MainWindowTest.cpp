@@ -62,6 +62,8 @@ TEST_F(MainWindowTest, ClosingADocumentAmidAnEditLeavesNothingToDo)
 {
     newDocument()->Rutor()->GridEdit('x');
     QApplication::processEvents();
+    QTest::keyClicks(QApplication::focusWidget(), "yz");
+    EXPECT_EQ(window->context().status.text(0), resText(503));
     alert.answers = {AlertBox::AnswerNo};
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_W, Qt::ControlModifier);
     QApplication::processEvents();
@@ -70,6 +72,16 @@ TEST_F(MainWindowTest, ClosingADocumentAmidAnEditLeavesNothingToDo)
     EXPECT_EQ(window->state(), AppState::StateNoDocument);
     EXPECT_EQ(window->UndoAction(), resText(419));
     EXPECT_TRUE(flags.gridMode);
+}
+
+TEST_F(MainWindowTest, ClosingADocumentReturnsToTheOneBefore)
+{
+    frmDoc *first = newDocument();
+    newDocument();
+    window->activate(first);
+    newDocument();
+    window->DoMenuClick("mnuFileClose");
+    EXPECT_EQ(documents().active(), first);
 }
 
 TEST_F(MainWindowTest, TilesShareTheAreaWithoutOverlap)
