@@ -122,7 +122,9 @@ void FileCommands::closeActive()
 bool FileCommands::closeAll()
 {
     const std::vector<frmDoc *> documents = m_needs.documents.open();
-    return std::all_of(documents.begin(), documents.end(), [](frmDoc *document) { return document->frame()->close(); });
+    const auto close = [](frmDoc *document) { return document->frame()->close(); };
+    // A window whose question is on the screen already says that it closes, and stays.
+    return std::all_of(documents.begin(), documents.end(), close) && m_needs.documents.open().empty();
 }
 
 QString FileCommands::pathOrAsk(const frmDoc &document)
@@ -130,12 +132,15 @@ QString FileCommands::pathOrAsk(const frmDoc &document)
     return document.DocName().isEmpty() ? m_needs.prompts.askSave(document.Caption()) : document.DocName();
 }
 
-void FileCommands::saveUnder(frmDoc &document, const QString &path)
+bool FileCommands::saveUnder(frmDoc &document, const QString &path)
 {
-    if (path.isEmpty() || (path == document.DocName() && !mayOverwrite(document)))
-        return;
+    if (path.isEmpty())
+        return true;
+    if (path == document.DocName() && !mayOverwrite(document))
+        return false;
     SaveVocabulary(document, path);
     m_needs.recentFiles.AddFile(path);
+    return true;
 }
 
 bool FileCommands::mayOverwrite(const frmDoc &document)
@@ -162,8 +167,8 @@ bool FileCommands::confirmClose(frmDoc &document)
     alert.helpId = ClosingTopic;
     const AlertBox::Answer answer = m_needs.alert.show(nullptr, alert);
     if (answer == AlertBox::AnswerYes)
-        saveUnder(document, pathOrAsk(document));
-    else if (answer == AlertBox::AnswerNo)
+        return saveUnder(document, pathOrAsk(document));
+    if (answer == AlertBox::AnswerNo)
         Q_EMIT givenUp(&document);
     return answer != AlertBox::AnswerCancel;
 }

@@ -61,7 +61,8 @@ Q_SIGNALS:
 
 private:
     bool confirmClose(frmDoc &document);
-    void saveUnder(frmDoc &document, const QString &path);
+    /// False when the user wants to keep what another program has written to the file.
+    bool saveUnder(frmDoc &document, const QString &path);
     bool mayOverwrite(const frmDoc &document);
     QString pathOrAsk(const frmDoc &document);
     void load(const QString &path);

@@ -240,3 +240,24 @@ TEST_F(FileCommandsTest, ClosingAllStopsAtTheFirstRefusalAndAsksAgainLater)
     EXPECT_TRUE(documents.open().empty());
     EXPECT_EQ(alert.shown.size(), 2u);
 }
+
+TEST_F(FileCommandsTest, AFileThatAnotherProgramHasChangedIsReplacedOnlyIfWanted)
+{
+    const QString file = write(QStringLiteral("shared.gla"), vocabulary("3.1.0"));
+    files.LoadVocabulary(file);
+    frmDoc &document = *documents.open().front();
+    documents.setActive(&document);
+    document.setDirty(true);
+    const QByteArray other = vocabulary("3.1.0") + "river   [0000000285]\r\nFluss\r\n";
+    write(QStringLiteral("shared.gla"), other);
+
+    alert.answers = {AlertBox::AnswerNo, AlertBox::AnswerYes, AlertBox::AnswerNo};
+    files.save();
+    EXPECT_FALSE(files.closeAll());
+    EXPECT_EQ(read(file), other);
+    EXPECT_EQ(documents.open().size(), 1u);
+
+    alert.answers = {AlertBox::AnswerYes, AlertBox::AnswerYes};
+    EXPECT_TRUE(files.closeAll());
+    EXPECT_EQ(read(file), vocabulary("3.1.0"));
+}
