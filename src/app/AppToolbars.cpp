@@ -24,8 +24,8 @@ AppToolbars::AppToolbars(QMainWindow &window, CommandTable &table, const AppMenu
     : QObject(&window)
     , m_table(table)
     , m_status(status)
-    , m_standard(addBand(window, QStringLiteral("STANDARD"), MenuLayout::standardButtons()))
-    , m_preview(addBand(window, QStringLiteral("PREVIEW"), MenuLayout::previewButtons()))
+    , m_standard(addBand(window, QStringLiteral("STANDARD"), 12622, MenuLayout::standardButtons()))
+    , m_preview(addBand(window, QStringLiteral("PREVIEW"), 12623, MenuLayout::previewButtons()))
 {
     for (QAction *action : m_standard->actions())
         m_standardButtons.insert(action->objectName(), action);
@@ -33,9 +33,10 @@ AppToolbars::AppToolbars(QMainWindow &window, CommandTable &table, const AppMenu
     addDropDown(QStringLiteral("Quiz"), menus.menu(QStringLiteral("mnuQuiz")));
 }
 
-QToolBar *AppToolbars::addBand(QMainWindow &window, const QString &name, const std::vector<MenuLayout::Button> &buttons)
+QToolBar *AppToolbars::addBand(QMainWindow &window, const QString &name, int titleId,
+                               const std::vector<MenuLayout::Button> &buttons)
 {
-    auto *bar = new QToolBar(FormTexts::withoutMnemonic(name), &window);
+    auto *bar = new QToolBar(resText(titleId), &window);
     bar->setObjectName(name);
     bar->setMovable(false);
     bar->setFloatable(false);
@@ -46,6 +47,11 @@ QToolBar *AppToolbars::addBand(QMainWindow &window, const QString &name, const s
             bar->addSeparator();
         else
             addButton(bar, button);
+    }
+    // Takes the buttons that a narrow window has no room for; the toolkit gives it no name.
+    if (auto *overflow = bar->findChild<QToolButton *>(QStringLiteral("qt_toolbar_ext_button"))) {
+        overflow->setAccessibleName(resText(12624));
+        overflow->setToolTip(resText(12624));
     }
     window.addToolBar(bar);
     return bar;

@@ -36,7 +36,8 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    QToolBar *addBand(QMainWindow &window, const QString &name, const std::vector<MenuLayout::Button> &buttons);
+    QToolBar *addBand(QMainWindow &window, const QString &name, int titleId,
+                      const std::vector<MenuLayout::Button> &buttons);
     QAction *addButton(QToolBar *bar, const MenuLayout::Button &button);
     void addDropDown(const QString &button, QMenu *menu);
 
