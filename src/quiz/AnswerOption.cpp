@@ -64,7 +64,7 @@ void AnswerOption::fit()
     if (m_number == 0)
         return;
     const QString shown = fittedText(m_fullText, font(), roomForText());
-    setToolTip(shown == m_fullText ? QString() : plainToolTip(m_fullText));
+    setToolTip(shown == m_fullText ? QString() : FormTexts::plainToolTip(m_fullText));
     QString caption = FormTexts::escapeMnemonic(shown);
     // Keeps the punctuation of a right-to-left text on its own side of the number.
     if (m_fullText.isRightToLeft())

@@ -32,4 +32,7 @@ QString withoutMnemonic(const QString &caption);
 /// A text that must show as it is in a place that takes mnemonics: every "&" doubled.
 QString escapeMnemonic(const QString &text);
 
+/// A tooltip that shows the text as it stands, also when it looks like markup.
+QString plainToolTip(const QString &text);
+
 } // namespace FormTexts

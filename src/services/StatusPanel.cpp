@@ -1,5 +1,7 @@
 #include "services/StatusPanel.h"
 
+#include "services/FormTexts.h"
+
 #include <QPainter>
 
 namespace {
@@ -27,7 +29,7 @@ void StatusPanel::setText(const QString &text)
 void StatusPanel::fit()
 {
     m_fitted = fontMetrics().elidedText(m_text, Qt::ElideRight, width() - 2 * TextMargin);
-    setToolTip(m_fitted == m_text ? QString() : m_text);
+    setToolTip(m_fitted == m_text ? QString() : FormTexts::plainToolTip(m_text));
 }
 
 void StatusPanel::resizeEvent(QResizeEvent *event)

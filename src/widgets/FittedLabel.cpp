@@ -1,9 +1,10 @@
 #include "widgets/FittedLabel.h"
 
+#include "services/FormTexts.h"
+
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QResizeEvent>
-#include <QTextDocument>
 
 namespace {
 
@@ -22,11 +23,6 @@ QString fittedText(const QString &text, const QFont &font, double width)
     if (textWidth(text, font) <= width)
         return text;
     return QFontMetricsF(font).elidedText(text, Qt::ElideRight, width);
-}
-
-QString plainToolTip(const QString &text)
-{
-    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;
 }
 
 FittedLabel::FittedLabel(QWidget *parent)
@@ -113,5 +109,5 @@ void FittedLabel::fit()
     m_fitting = false;
     const QString shown = fittedText(m_fullText, type, width);
     setText(shown);
-    setToolTip(shown == m_fullText ? QString() : plainToolTip(m_fullText));
+    setToolTip(shown == m_fullText ? QString() : FormTexts::plainToolTip(m_fullText));
 }

@@ -45,6 +45,3 @@ private:
 
 /// The text as it fits a width in pixels in the given type: whole, or its end replaced by an ellipsis.
 QString fittedText(const QString &text, const QFont &font, double width);
-
-/// A tooltip that shows the text as it stands, also when it looks like markup.
-QString plainToolTip(const QString &text);
