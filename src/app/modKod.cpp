@@ -123,7 +123,10 @@ void showInTurn(frmSplash &splash, frmApp &window, const CommandLine &commandLin
     const int closeAfter = commandLine.splash ? CloseSplashAfter : 0;
     if (commandLine.splash)
         splash.show();
-    QTimer::singleShot(showAfter, &window, [&window] { window.show(); });
+    QTimer::singleShot(showAfter, &window, [&splash, &window] {
+        window.show();
+        splash.raise();
+    });
     QTimer::singleShot(closeAfter, &window, [&splash, &window, offer, text = commandLine.text] {
         splash.close();
         offer();
