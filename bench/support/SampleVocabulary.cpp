@@ -35,8 +35,11 @@ Vocabulary make(qsizetype pairs, Letters letters)
     vocabulary.font = VocabularyFont();
     vocabulary.columnWidths = {340, 4000, 4000};
     vocabulary.append(QStringLiteral("English"), QStringLiteral("Other"));
-    for (qsizetype i = 0; i < pairs; ++i)
-        vocabulary.append(words.western(), letters == Letters::Western ? words.western() : words.cyrillic());
+    for (qsizetype i = 0; i < pairs; ++i) {
+        // no row is as high as the one before it
+        const int height = Vocabulary::DefaultRowHeight + int(i % 1000);
+        vocabulary.append(words.western(), letters == Letters::Western ? words.western() : words.cyrillic(), height);
+    }
     return vocabulary;
 }
 
