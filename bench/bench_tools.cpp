@@ -161,7 +161,7 @@ void sortInDocument(benchmark::State &state)
     }
 }
 
-/// Replaces and undoes: what is replaced is there again for the next round.
+/// There and back: what is replaced is there again for the next round.
 void replaceAllInDocument(benchmark::State &state)
 {
     SampleDocument sample(state.range(0));

@@ -160,6 +160,9 @@ class Desktop:
         table = self.wait_for(role="table", within=within).queryTable()
         return table.getAccessibleAt(row, column).name
 
+    def is_checked(self, item):
+        return item.getState().contains(self._atspi.STATE_CHECKED)
+
     def wait_for(self, role=None, name=None, within=None):
         return self.wait(lambda: self.find(role, name, within), f"{role or 'something'} named {name!r}")
 

@@ -52,6 +52,80 @@ class DocumentCase(ProgramCase):
         self.assertEqual(DESKTOP.cell(0, 1), "der Mensch")
 
 
+class EditingCase(ProgramCase):
+    """A vocabulary that is made of copied words."""
+
+    def column(self, column):
+        table = DESKTOP.wait_for("table").queryTable()
+        return [table.getAccessibleAt(row, column).name for row in range(5)]
+
+    def expect_column(self, column, words):
+        DESKTOP.wait(lambda: self.column(column) == words, f"{words} instead of {self.column(column)}")
+
+    def open_dialog(self, keys, name):
+        DESKTOP.key(*keys)
+        return DESKTOP.wait_for("dialog", name)
+
+    def close_dialog(self, dialog, key):
+        name = dialog.name
+        DESKTOP.key(key)
+        DESKTOP.wait(lambda: not DESKTOP.find("dialog", name), f"the end of {name}")
+
+    def choose(self, key, name):
+        DESKTOP.key(key)
+        DESKTOP.wait(lambda: DESKTOP.is_checked(DESKTOP.find("radio button", name)), f"{name} to be chosen")
+
+    def test_copied_words_are_sorted_replaced_undone_and_saved(self):
+        program = self.open(self.sample("german-basics.gla"))
+        DESKTOP.key("shift+Down", "shift+Down", "shift+Down", "shift+Right", "ctrl+c", "ctrl+w")
+        DESKTOP.wait(lambda: not DESKTOP.find("table"), "the sample to close")
+        DESKTOP.key("ctrl+n")
+        DESKTOP.wait_for("table")
+        DESKTOP.key("ctrl+v")
+        self.expect_column(0, ["the person", "the man", "the woman", "the child", ""])
+
+        sort = self.open_dialog(["alt+v", "s"], "Sort")
+        self.choose("alt+2", "2 Language 2")
+        self.choose("alt+d", "Descending")
+        self.close_dialog(sort, "Return")
+        sorted_words = ["the woman", "the person", "the man", "the child", ""]
+        self.expect_column(0, sorted_words)
+        self.expect_column(1, ["die Frau", "der Mensch", "der Mann", "das Kind", ""])
+
+        replace = self.open_dialog(["ctrl+h"], "Replace")
+        DESKTOP.type("the ")
+        DESKTOP.key("alt+e")
+        DESKTOP.type("a ")
+        self.choose("alt+1", "1 Language 1")
+        DESKTOP.key("alt+a")
+        self.close_dialog(DESKTOP.wait_for(name="Glosaria Alert"), "Return")
+        self.close_dialog(replace, "Escape")
+        self.expect_column(0, ["a woman", "a person", "a man", "a child", ""])
+        DESKTOP.key("ctrl+z")
+        self.expect_column(0, sorted_words)
+
+        font = self.open_dialog(["alt+v", "f"], "Font")
+        DESKTOP.key("alt+s")
+        DESKTOP.type("14")
+        self.close_dialog(font, "Return")
+        height = self.open_dialog(["alt+v", "r"], "Set Row Height")
+        DESKTOP.type("40")
+        self.close_dialog(height, "Return")
+
+        file = self.home / "copied.gla"
+        DESKTOP.key("ctrl+s")
+        DESKTOP.wait_for(name="Save Glosaria Document")
+        DESKTOP.type(str(file))
+        DESKTOP.key("Return")
+        DESKTOP.wait(file.exists, "the saved file")
+        self.assertEqual(DESKTOP.quit(program), 0)
+        lines = file.read_bytes().split(b"\r\n")
+        self.assertEqual(lines[5], b"14")
+        self.assertEqual(lines[19:23], [b"the woman   [0000000600]", b"die Frau", b"the person   [0000000285]", b"der Mensch"])
+        self.open(file)
+        self.expect_column(0, sorted_words)
+
+
 class ScreenReaderCase(ProgramCase):
     """What a user hears who does not see the screen."""
 
