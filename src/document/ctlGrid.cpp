@@ -58,6 +58,8 @@ void ctlGrid::GridEdit(int KeyAscii)
 {
     if (Row() < 0 || Col() < 0)
         return;
+    if (EditMode() && EditText() != Text())
+        commit();
     if (KeyAscii > Space || KeyAscii < 0)
         beginEdit(characterOf(KeyAscii));
     else

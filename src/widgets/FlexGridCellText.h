@@ -11,6 +11,7 @@ namespace FlexGridCellText {
 
 /// Pixels kept free left and right of a text.
 constexpr int Margin = 3;
+constexpr int NumberMargin = 2; ///< of a row's number
 
 struct Setting
 {

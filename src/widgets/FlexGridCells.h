@@ -39,7 +39,8 @@ public:
 
     /// The rows from here on show their number in column 0 and keep no text there; -1: no row does.
     void numberRowsFrom(int firstRow);
-    bool isNumber(int row, int col) const { return col == 0 && m_numbersFrom >= 0 && row >= m_numbersFrom; }
+    bool numbersRows() const { return m_numbersFrom >= 0; }
+    bool isNumber(int row, int col) const { return col == 0 && numbersRows() && row >= m_numbersFrom; }
 
     /// Goes up whenever a text may have changed or a row got another place.
     quint64 revision() const { return m_revision; }

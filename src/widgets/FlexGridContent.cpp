@@ -138,7 +138,7 @@ void FlexGrid::setRowNumbers(bool numbers)
 {
     m_rowNumbers = numbers;
     m_state.cells.numberRowsFrom(numbers ? FixedRows() : -1);
-    draw();
+    layOutAgain();
 }
 
 void FlexGrid::setWords(std::vector<QString> &&first, std::vector<QString> &&second, std::vector<int> &&heights)

@@ -151,7 +151,9 @@ void FlexGridPainter::paintPicture(QPainter &painter, const QRect &rect, const F
 void FlexGridPainter::paintText(QPainter &painter, int row, int col, const QRect &rect,
                                 const FlexGridCellFormat *format, const Colours &colours) const
 {
-    const QRect space = rect.adjusted(FlexGridCellText::Margin, 0, -FlexGridCellText::Margin, 0);
+    const bool number = m_state.cells.isNumber(row, col);
+    const int margin = number ? FlexGridCellText::NumberMargin : FlexGridCellText::Margin;
+    const QRect space = rect.adjusted(margin, 0, -margin, 0);
     FlexGridCellText::Setting setting{m_state.cells.text(row, col), m_state.look.Font, {}, m_state.look.WordWrap};
     if (setting.text.isEmpty() || space.width() <= 0)
         return;

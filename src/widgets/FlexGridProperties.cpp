@@ -135,6 +135,7 @@ void FlexGrid::setFocusRect(int rect)
 void FlexGrid::setGridFont(const QFont &font)
 {
     changeLook(m_state.look.Font, font, "Font");
+    layOutAgain();
 }
 
 void FlexGrid::setMergeCells(int mode)

@@ -2,12 +2,15 @@
 
 #include "platform/Twips.h"
 #include "widgets/FlexGridAccessible.h"
+#include "widgets/FlexGridCellText.h"
 #include "widgets/FlexGridPainter.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QScrollBar>
 
 #include <algorithm>
+#include <cmath>
 #include <tuple>
 
 namespace {
@@ -96,6 +99,7 @@ bool FlexGridView::updateScrollBars()
     // both ranges are set before the scroll area hears of either: it would lay out with one that is out of date
     const QSignalBlocker quietVertical(verticalScrollBar());
     const QSignalBlocker quietHorizontal(horizontalScrollBar());
+    measureNumbers();
     const int leftBefore = horizontalScrollBar()->value();
     const int topBefore = m_topRow;
     const QSize room = roomBesideBars();
@@ -205,7 +209,20 @@ int FlexGridView::rowPixels(int row) const
 
 int FlexGridView::colPixels(int col) const
 {
-    return Twips::toPixelsX(m_state.cells.column(col).width);
+    const int pixels = Twips::toPixelsX(m_state.cells.column(col).width);
+    const bool numbers = col == 0 && pixels > 0 && m_state.cells.numbersRows();
+    return numbers ? std::max(pixels, m_numberPixels) : pixels;
+}
+
+void FlexGridView::measureNumbers()
+{
+    const auto digits = int(QString::number(m_state.cells.rows() - 1).size());
+    if (digits == m_numberDigits && m_state.look.Font == m_numberFont)
+        return;
+    m_numberDigits = digits;
+    m_numberFont = m_state.look.Font;
+    const double width = QFontMetricsF(m_numberFont).horizontalAdvance(QString(digits, u'0'));
+    m_numberPixels = int(std::ceil(width)) + 2 * FlexGridCellText::NumberMargin + m_state.look.GridLineWidth;
 }
 
 int FlexGridView::fixedHeight() const

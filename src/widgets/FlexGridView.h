@@ -41,6 +41,7 @@ public:
     int lastShownRow() const;
 
     int rowPixels(int row) const;
+    /// Row numbers are always shown whole: their column is no narrower than the largest of them.
     int colPixels(int col) const;
     qint64 rowTop(int row) const;
     qint64 colLeft(int col) const;
@@ -105,6 +106,7 @@ private:
 
     /// Sets the ranges of both scroll bars; whether that scrolled the cells.
     bool updateScrollBars();
+    void measureNumbers();
     void layOutIfNeeded();
     /// The viewport's size when only the scroll bars that are needed are shown.
     QSize roomBesideBars() const;
@@ -143,6 +145,9 @@ private:
     int m_topRow = 1;
     bool m_heldBack = false;
     bool m_layoutPending = false;
+    int m_numberPixels = 0; ///< what the largest row number needs, for this many digits in this font
+    int m_numberDigits = 0;
+    QFont m_numberFont;
     int m_mouseRow = -1;
     int m_mouseCol = -1;
     Drag m_drag = Drag::None;

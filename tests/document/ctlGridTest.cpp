@@ -170,6 +170,15 @@ TEST_F(GridEditing, LeavingTheCellOrReturningToTheGridCommits)
     EXPECT_EQ(cell(6, 2), QStringLiteral("moved")) << "into its own cell, before the rows move";
 }
 
+TEST_F(GridEditing, EditingTheSameCellAgainLosesNothing)
+{
+    type(QStringLiteral("typed"));
+    grid.setEditMode(true);
+    EXPECT_EQ(grid.EditText(), QStringLiteral("typed"));
+    EXPECT_EQ(log.last(), QStringLiteral("before"));
+    EXPECT_EQ(cell(1, 1), QStringLiteral("typed"));
+}
+
 TEST_F(GridEditing, WhileSearchingTheFocusAloneDoesNotCommit)
 {
     flags.FindMode = true;

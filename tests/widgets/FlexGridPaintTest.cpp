@@ -71,6 +71,25 @@ TEST_F(PaintedGrid, TextsStandWhereTheirReadersLook)
     }
 }
 
+TEST_F(PaintedGrid, RowNumbersAreShownWhole)
+{
+    grid.setRows(12346);
+    grid.setRowNumbers(true);
+    grid.setColWidth(0, 340);
+    const auto width = [this] { return grid.hwndGrid()->cellRect(1, 0).width(); };
+    const double number = QFontMetricsF(grid.Font()).horizontalAdvance(QStringLiteral("12345"));
+    EXPECT_GT(width(), number);
+    EXPECT_LT(width(), number + 8);
+    EXPECT_EQ(grid.ColWidth(0), 340) << "what is stored stays";
+    const int before = width();
+    QFont larger = grid.Font();
+    larger.setPointSizeF(2 * larger.pointSizeF());
+    grid.setGridFont(larger);
+    EXPECT_GT(width(), before);
+    grid.setColWidth(0, 0);
+    EXPECT_EQ(width(), 0) << "hidden";
+}
+
 TEST_F(PaintedGrid, FirstLinesAreShownWhenNotAllFit)
 {
     const QFontMetricsF metrics(grid.Font());
