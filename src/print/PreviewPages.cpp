@@ -4,6 +4,8 @@
 #include "print/PrintHost.h"
 #include "print/rules/modUtskrift.h"
 
+#include <algorithm>
+
 PreviewPages::PreviewPages(modUtskrift &layout, PrintHost &host)
     : m_layout(layout)
     , m_host(host)
@@ -65,7 +67,8 @@ void PreviewPages::moveTo(QPoint position)
     m_window->move(position);
 }
 
-// Centred, less the height of the toolbars; a page that is larger than the area begins above it.
+// Centred, less the height of the toolbars. A page that is larger than the area begins above it; one that fits is not
+// cut.
 QPoint PreviewPages::startPosition() const
 {
     constexpr int leastLeft = 45; // twips
@@ -73,5 +76,6 @@ QPoint PreviewPages::startPosition() const
     int left = area.width() / 2 - m_window->width() / 2;
     if (left < 0)
         left = Twips::toPixelsX(leastLeft);
-    return {left, area.height() / 2 - m_window->height() / 2 - m_host.toolbarHeight()};
+    const int top = area.height() / 2 - m_window->height() / 2 - m_host.toolbarHeight();
+    return {left, m_window->height() <= area.height() ? std::max(0, top) : top};
 }

@@ -157,8 +157,9 @@ void PrintPreview::onKeyReleased(int key)
     key == Qt::Key_PageDown ? pageDown() : pageUp();
 }
 
-void PrintPreview::onKeyPressed(int key)
+void PrintPreview::onKeyPressed(int key, bool &taken)
 {
+    taken = true;
     const int step = areaHeight() / LinesOfArea;
     switch (key) {
     case Qt::Key_Down:
@@ -180,7 +181,7 @@ void PrintPreview::onKeyPressed(int key)
     case Qt::Key_Escape:
         return close();
     default:
-        return;
+        taken = false;
     }
 }
 

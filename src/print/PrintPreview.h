@@ -55,7 +55,7 @@ private:
     void build(int page);
     void showPage(int page);
     void onKeyReleased(int key);
-    void onKeyPressed(int key);
+    void onKeyPressed(int key, bool &taken);
     void onWheel(int pixels);
     void pageDown();
     void pageUp();

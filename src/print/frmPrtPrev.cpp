@@ -43,7 +43,7 @@ void frmPrtPrev::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
     painter.setPen(Qt::gray);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
     painter.setRenderHint(QPainter::TextAntialiasing);
     painter.scale(1 / Twips::perPixelX(), 1 / Twips::perPixelY());
     PaintedSurface surface(painter);
@@ -52,13 +52,16 @@ void frmPrtPrev::paintEvent(QPaintEvent *)
 
 void frmPrtPrev::keyPressEvent(QKeyEvent *event)
 {
-    if (!actsOnRelease(event->key()))
-        Q_EMIT keyPressed(event->key());
+    bool taken = actsOnRelease(event->key());
+    if (!taken)
+        Q_EMIT keyPressed(event->key(), taken);
+    event->setAccepted(taken);
 }
 
 void frmPrtPrev::keyReleaseEvent(QKeyEvent *event)
 {
-    if (actsOnRelease(event->key()))
+    event->setAccepted(actsOnRelease(event->key()));
+    if (event->isAccepted())
         Q_EMIT keyReleased(event->key());
 }
 

@@ -21,8 +21,8 @@ public:
 Q_SIGNALS:
     void zoomInRequested();
     void zoomOutRequested();
-    /// A key or the wheel: see PrintPreview for what they do.
-    void keyPressed(int key);
+    /// A key or the wheel: see PrintPreview for what they do. A key that is not taken goes on to the parent.
+    void keyPressed(int key, bool &taken);
     void keyReleased(int key);
     void wheelTurned(int pixels);
     void mouseMoved();

@@ -72,6 +72,9 @@ TEST_F(Preview, OpensAtAThirdOfTheSizeInTheMiddle)
     host.area.resize(600, 500);
     QCoreApplication::processEvents();
     EXPECT_EQ(page()->pos(), QPoint(300 - 132, 250 - 187 - ToolbarHeight)) << "also after a resize";
+    host.area.resize(600, 400);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(page()->y(), 0) << "a page that fits is not cut";
 }
 
 TEST_F(Preview, TurnsPagesToTheEndAndBack)

@@ -10,9 +10,6 @@ class ScriptedDialogs : public CommonDialogs
 {
 public:
     QStringList chosen; ///< names chosen one after the other; then Cancel
-    QStringList existing;
-    QStringList replaced; ///< what confirmReplace was asked
-    QList<bool> replaceAnswers;
     std::optional<PrintChoice> pages; ///< empty: the print dialogs are cancelled
     QString printerFault;
     std::function<void()> duringSetup; ///< what the user does in the page setup
@@ -27,12 +24,8 @@ public:
         file = request;
         return chosen.isEmpty() ? std::nullopt : std::optional(FileChoice{chosen.takeFirst(), 0});
     }
-    bool fileExists(const QString &path) override { return existing.contains(path); }
-    bool confirmReplace(QWidget *, const QString &, const QString &path) override
-    {
-        replaced.append(path);
-        return replaceAnswers.takeFirst();
-    }
+    bool fileExists(const QString &) override { return false; }
+    bool confirmReplace(QWidget *, const QString &, const QString &) override { return false; }
     std::optional<PrintChoice> choosePages(const PrintRequest &request) override
     {
         print = request;
