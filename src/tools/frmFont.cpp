@@ -64,9 +64,8 @@ void frmFont::fillSizes()
     for (const int size : Sizes)
         m_ui->cboSize->addItem(QString::number(size), size);
     const double size = document().Rutor()->Font().pointSizeF();
-    m_firstSizeText = QString::number(size);
-    m_ui->cboSize->setCurrentIndex(m_ui->cboSize->findText(m_firstSizeText));
-    m_ui->cboSize->setEditText(m_firstSizeText);
+    m_ui->cboSize->setCurrentIndex(m_ui->cboSize->findData(size));
+    m_ui->cboSize->setEditText(QString::number(size));
 }
 
 void frmFont::fillFonts()
@@ -134,8 +133,7 @@ QFont frmFont::chosenFont() const
 
 double frmFont::chosenSize() const
 {
-    const QString text = m_ui->cboSize->currentText();
-    return text == m_firstSizeText ? document().Rutor()->Font().pointSizeF() : text.toDouble();
+    return m_ui->cboSize->currentText().toDouble();
 }
 
 int frmFont::chosenColor() const
@@ -146,11 +144,13 @@ int frmFont::chosenColor() const
 
 void frmFont::accept()
 {
-    if (chosenSize() < SmallestSize) {
+    const int size = int(std::lround(chosenSize()));
+    if (size < SmallestSize) {
         reportSize(8025);
         return;
     }
-    const QFont font = chosenFont();
+    QFont font = chosenFont();
+    font.setPointSize(size);
     const int color = chosenColor();
     document().Rutor()->setGridFont(font);
     document().Rutor()->setForeColor(color);
@@ -163,7 +163,7 @@ void frmFont::accept()
 void frmFont::storeAsDefault(const QFont &font, int color)
 {
     m_settings.setFontName(font.family());
-    m_settings.setFontSize(int(std::lround(font.pointSizeF())));
+    m_settings.setFontSize(font.pointSize());
     m_settings.setFontBold(font.bold());
     m_settings.setFontItalic(font.italic());
     m_settings.setFontColor(color);

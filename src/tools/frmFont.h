@@ -42,5 +42,4 @@ private:
     std::unique_ptr<Ui::frmFont> m_ui;
     clsAppProperties &m_settings;
     AlertBox &m_alert;
-    QString m_firstSizeText; ///< unchanged it stands for the grid's exact size
 };

@@ -48,7 +48,7 @@ TEST_F(FontDialog, ShowsTheGridsFont)
     click("chkItalic");
     EXPECT_TRUE(sample()->sampleFont().italic());
     click("btnOK");
-    EXPECT_EQ(grid.Font().pointSizeF(), 9.75);
+    EXPECT_EQ(grid.Font().pointSizeF(), 10);
     EXPECT_TRUE(grid.Font().bold() && grid.Font().italic());
     EXPECT_TRUE(document.Dirty());
     EXPECT_EQ(settings.FontSize(), 10);
