@@ -16,7 +16,7 @@ constexpr int Columns = 2;
 bool undoInEditBox(frmDoc &document)
 {
     ctlGridEdit &box = *document.Rutor()->hwndText();
-    if (!box.canUndoText())
+    if (!document.Rutor()->EditMode() || !box.canUndoText())
         return false;
     box.undoText();
     return true;
@@ -74,6 +74,7 @@ void EditCommands::Cut(frmDoc &document)
         grid.setFocus();
     } else {
         grid.hwndText()->cutText();
+        m_record.overwritten = {};
     }
     m_record.setKind(UndoKind::Cut, &document);
 }
@@ -82,6 +83,7 @@ void EditCommands::Paste(frmDoc &document)
 {
     if (!m_flags.gridMode) {
         document.Rutor()->hwndText()->pasteText();
+        m_record.overwritten = {};
         m_record.setKind(UndoKind::Paste, &document);
         return;
     }
@@ -155,9 +157,27 @@ void EditCommands::Undo(frmDoc &document)
     m_record.clear();
 }
 
+/// Whether Undo changes cells; otherwise there is nothing to undo but what was typed, cut or pasted in the edit box.
+bool EditCommands::reversesCells() const
+{
+    switch (m_record.kind()) {
+    case UndoKind::None:
+    case UndoKind::Typing:
+        return false;
+    case UndoKind::Cut:
+    case UndoKind::Paste:
+        return !m_record.overwritten.words.empty();
+    default:
+        return true;
+    }
+}
+
 /// False when the edit box reversed its typing: it can take that back, so the record stays.
 bool EditCommands::reverse(frmDoc &document)
 {
+    // a search shows its match in the edit box, which must not write the present text over what comes back
+    if (reversesCells())
+        document.endEdit();
     switch (m_record.kind()) {
     case UndoKind::Insert:
         document.select(m_record.selection);
@@ -171,7 +191,7 @@ bool EditCommands::reverse(frmDoc &document)
         break;
     case UndoKind::Cut:
     case UndoKind::Paste:
-        if (m_flags.gridMode)
+        if (reversesCells())
             undoCells(document);
         else
             undoInEditBox(document);

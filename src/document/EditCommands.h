@@ -35,6 +35,7 @@ private:
     void emptySelection(frmDoc &document);
     void fillCells(frmDoc &document, const GridSelection &cells, const std::vector<ClipText::Row> &rows);
 
+    bool reversesCells() const;
     bool reverse(frmDoc &document);
     void undoCells(frmDoc &document);
     void undoDelete(frmDoc &document);

@@ -67,7 +67,8 @@ void frmDoc::connectGrid()
     connect(m_grid, &ctlGrid::MouseMove, this, &frmDoc::onMouseMove);
     connect(m_grid, &ctlGrid::MouseUp, this, [this](int button, int, float x, float y) { onMouseUp(button, x, y); });
     connect(m_grid, &ctlGrid::Scroll, m_grid, &ctlGrid::RefreshTextPos);
-    connect(m_grid, &ctlGrid::GotFocus, this, [this] { m_shared.flags.gridMode = true; });
+    // a search keeps the edit box open when the focus comes to the grid
+    connect(m_grid, &ctlGrid::GotFocus, this, [this] { m_shared.flags.gridMode = !m_grid->EditMode(); });
 }
 
 void frmDoc::setCaption(const QString &caption)
@@ -198,6 +199,7 @@ void frmDoc::onAfterEdit(int row, int col, const QString &text)
     if (!m_shared.flags.searching() || text != m_textBeforeEdit)
         noteEntry(row, col);
     makeRoomFor(row, col, text);
+    m_textBeforeEdit.clear(); // it belongs to this edit only
 }
 
 void frmDoc::noteEntry(int row, int col)

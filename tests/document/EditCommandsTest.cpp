@@ -201,6 +201,23 @@ TEST_F(Editing, UndoOfTypingTogglesAndEndsWhenThereIsNoTyping)
     EXPECT_EQ(undo.kind(), UndoKind::None);
 }
 
+TEST_F(Editing, UndoLeavesNothingToTheEditBoxOfASearch)
+{
+    commands.Clear(document);
+    flags.FindMode = true;
+    grid.setEditMode(true);
+    grid.setFocus();
+    EXPECT_FALSE(flags.gridMode);
+    expectUndone(before);
+    document.endEdit();
+    EXPECT_EQ(words(), before);
+    grid.setEditMode(true);
+    clipboard.clear();
+    commands.Paste(document);
+    document.endEdit();
+    expectUndone(before);
+}
+
 TEST_F(Editing, UndoActsOnTheDocumentOfTheRecordOnly)
 {
     commands.Clear(document);
