@@ -228,49 +228,4 @@ TEST_F(Editing, UndoActsOnTheDocumentOfTheRecordOnly)
     EXPECT_EQ(undo.kind(), UndoKind::None);
 }
 
-TEST_F(Editing, UndoGivesBackEveryWordOnRandomChanges)
-{
-    std::mt19937 engine(5);
-    const QStringList texts{"", "w", "\"x", "y\"", "p\tq", "long word"};
-    const auto text = [&] { return texts[int(engine() % unsigned(texts.size()))]; };
-    for (int round = 0; round < 600; ++round) {
-        Words random(engine() % 5);
-        for (auto &row : random)
-            row = {text(), text()};
-        setWords(random);
-        const Words present = words();
-        const auto anyRow = [&] { return 1 + int(engine() % present.size()); };
-        select(anyRow(), 1 + int(engine() % 2), anyRow(), 1 + int(engine() % 2));
-        const GridSelection selection = document.selection();
-        const int kind = int(engine() % 5);
-        switch (kind) {
-        case 0:
-            commands.Cut(document);
-            break;
-        case 1:
-            paste(text() + (engine() % 2 ? "\n" : "\t") + text() + "\r" + text());
-            break;
-        case 2:
-            commands.Clear(document);
-            break;
-        case 3:
-            commands.Insert(document);
-            break;
-        default:
-            commands.Delete(document);
-        }
-        Words expected = present;
-        for (int row = 1; kind == 4 && row < int(present.size()) + 1; ++row) {
-            for (int col = 1; col <= 2; ++col) {
-                if (row >= selection.top() && row <= selection.bottom() &&
-                    (col < selection.left() || col > selection.right()))
-                    expected[size_t(row) - 1][size_t(col) - 1].clear();
-            }
-        }
-        commands.Undo(document);
-        ASSERT_EQ(words(), expected) << "round " << round << " kind " << kind;
-        ASSERT_EQ(document.selection(), selection);
-    }
-}
-
 } // namespace

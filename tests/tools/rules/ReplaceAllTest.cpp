@@ -72,28 +72,6 @@ TEST(ReplaceAll, EqualsTheSingleStepsOnRandomWords)
     }
 }
 
-TEST(ReplaceAll, EqualsAPlainReplacementForALetterByAnotherText)
-{
-    std::mt19937 engine(2);
-    const QStringList alphabet{"a", "A", "x", "ß"};
-    for (const QString with : {"a", "bb", "xax"}) {
-        for (const Qt::CaseSensitivity sensitivity : {Qt::CaseSensitive, Qt::CaseInsensitive}) {
-            MemoryCells cells = MemoryCells::random(engine, 500, alphabet);
-            auto expected = cells.words;
-            for (auto &row : expected) {
-                for (QString &text : row)
-                    text.replace("a", with, sensitivity);
-            }
-            expected.emplace_back();
-            cells.words.push_back({"b", QString()});
-            const int flags = WholeDocument | (sensitivity == Qt::CaseSensitive ? MatchCase : 0);
-            ReplaceAll(searchFor("a", flags), with).run(cells);
-            expected.back()[0] = "b";
-            EXPECT_EQ(cells.words, expected);
-        }
-    }
-}
-
 TEST(ReplaceAll, GoesThroughLongCellsOnce)
 {
     const QString a(200000, u'a');
