@@ -118,7 +118,6 @@ TEST_F(SingleInstanceTest, NextCopyIsFirstAfterTheFirstHasEnded)
     EXPECT_TRUE(first->waitForFinished(Patience));
     EXPECT_FALSE(QFileInfo::exists(path()));
     kill(startFirst());
-    kill(startFirst());
 }
 
 TEST_F(SingleInstanceTest, StoppedFirstCopyHoldsNobodyUpAndFindsTheMessageLater)
