@@ -49,6 +49,11 @@ enum PictureNumber {
     PictureNext,
     PictureWebLink,
     PictureMailLink,
+    PictureHome,
+    PictureNavigation,
+    PictureZoomIn,
+    PictureZoomOut,
+    PictureZoomNormal,
     PictureRight,       ///< check mark beside a correct answer
     PictureWrong,       ///< X beside a wrong answer
     PictureGridCursor,  ///< mouse pointer over the grid, hot spot in the middle
