@@ -23,8 +23,24 @@ std::string defaultOf(const RegistryStore &store, const char *key)
 
 TEST(SettingsRecord, LayoutByteForByte)
 {
-    const QByteArray bytes = QByteArray::fromHex(
-        "0200 01 01 01020304 00 01 01 00 33221180 01 00 0201 0500 0000 11121314 feffffff 21222324 313233");
+    const QByteArray bytes = QByteArray::fromHex("0200"
+                                                 "01"
+                                                 "01"
+                                                 "01020304"
+                                                 "00"
+                                                 "01"
+                                                 "01"
+                                                 "00"
+                                                 "33221180"
+                                                 "01"
+                                                 "00"
+                                                 "0201"
+                                                 "0500"
+                                                 "0000"
+                                                 "11121314"
+                                                 "feffffff"
+                                                 "21222324"
+                                                 "313233");
     const SettingsRecord record = {2,    true,   0x04030201, false,      true, true,       int(0x80112233),
                                    true, 0x0102, 5,          0x14131211, -2,   0x24232221, 0x34333231};
     EXPECT_EQ(record.toBytes().toHex(), bytes.toHex());
@@ -87,5 +103,8 @@ TEST(AppProperties, ValuesOutOfRangeAreRepaired)
     EXPECT_EQ(with(QByteArray("\2", 1)), (std::array{10, 1, 0}));
     EXPECT_EQ(with(QByteArray(39, '\xff')), (std::array{10, 1, 0}));
     EXPECT_EQ(with(QByteArray(39, '\x7f')), (std::array{clsAppProperties::LargestFontSize, 1, 0x7f7f7f7f}));
-    EXPECT_EQ(with(QByteArray(18, 0) + QByteArray::fromHex("01000500")), (std::array{1, 5, 0}));
+    EXPECT_EQ(with(QByteArray::fromHex("000000000000000000000000000000000000"
+                                       "0100"
+                                       "0500")),
+              (std::array{1, 5, 0}));
 }

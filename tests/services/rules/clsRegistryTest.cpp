@@ -31,10 +31,17 @@ template <class Operation> std::string failureOf(const Operation &operation)
 
 TEST(Registry, ValueComesBackByItsStoredType)
 {
+    struct Case
+    {
+        RegistryType type;
+        QVariant written;
+        QVariant read;
+        RegistryType stored;
+    };
     const QString text = QStringLiteral("100%");
     const QString percent = QStringLiteral("%HOME%/words");
     const QString list = QStringLiteral("a") + QChar::Null + QStringLiteral("b");
-    const std::tuple<RegistryType, QVariant, QVariant, RegistryType> cases[] = {
+    const Case cases[] = {
         {RegistryType::String, text, text, RegistryType::String},
         {RegistryType::String, percent, percent, RegistryType::ExpandString},
         {RegistryType::ExpandString, text, text, RegistryType::ExpandString},
@@ -44,15 +51,15 @@ TEST(Registry, ValueComesBackByItsStoredType)
         {RegistryType::StringList, list.split(QChar::Null), list, RegistryType::StringList},
         {RegistryType::StringList, list, list, RegistryType::StringList},
     };
-    for (const auto &[type, written, read, stored] : cases) {
+    for (const Case &each : cases) {
         RegistryTree store;
         clsRegistry registry(store);
         registry.setDefault(QStringLiteral("missing"));
         EXPECT_EQ(registry.Value(), QVariant(QStringLiteral("missing")));
-        registry.setValueType(type);
-        registry.setValue(written);
-        EXPECT_EQ(registry.Value(), read);
-        EXPECT_EQ(store.value(HKEY_CURRENT_USER, QString(), QString())->type, stored);
+        registry.setValueType(each.type);
+        registry.setValue(each.written);
+        EXPECT_EQ(registry.Value(), each.read);
+        EXPECT_EQ(store.value(HKEY_CURRENT_USER, QString(), QString())->type, each.stored);
     }
 }
 

@@ -1,0 +1,67 @@
+#include "services/rules/HelpBook.h"
+#include "services/rules/HelpFavorites.h"
+#include "services/rules/HelpSearch.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QStringList found(const QString &query)
+{
+    HelpSearch search;
+    search.addPage(QStringLiteral("a"), QStringLiteral("Sort"), QStringLiteral("Words in the order of the alphabet"));
+    search.addPage(QStringLiteral("b"), QStringLiteral("Accents"),
+                   QStringLiteral("Type caf\u00e9 and other words, sort them, sorted and sorting"));
+    QStringList pages;
+    for (const HelpSearch::Hit &hit : search.find(query))
+        pages.append(hit.page);
+    return pages;
+}
+
+TEST(HelpSearch, FindsPagesThatHoldEveryWord)
+{
+    const std::vector<std::pair<const char *, QStringList>> cases{
+        {"alphabet", {"a"}},  {"ALPHA", {"a"}}, {"words", {"a", "b"}}, {"words alphabet", {"a"}}, {"cafe", {"b"}},
+        {"CAF\u00c9", {"b"}}, {"phabet", {}},   {"alphabet cafe", {}}, {"sort", {"a", "b"}},      {"", {}},
+        {" , ", {}},
+    };
+    for (const auto &[query, pages] : cases)
+        EXPECT_EQ(found(QString::fromUtf8(query)), pages) << query;
+}
+
+TEST(HelpBook, ReadsContentsAndIndex)
+{
+    const HelpBook book = parseHelpBook(
+        "<QtHelpProject><filterSection><toc><section title='A &amp; B' ref='a'><section title='C' ref='c'/></section>"
+        "<section title='D' ref='d'/></toc><keywords><keyword name='k' ref='c'/></keywords></filterSection>"
+        "</QtHelpProject>");
+    ASSERT_EQ(book.pages().size(), 3u);
+    EXPECT_EQ(book.titleOf(QStringLiteral("a")), QStringLiteral("A & B"));
+    EXPECT_EQ(book.pages()[1]->page, QStringLiteral("c"));
+    EXPECT_EQ(book.chapters.size(), 2u);
+    ASSERT_EQ(book.keywords.size(), 1u);
+    EXPECT_EQ(book.keywords[0].page, QStringLiteral("c"));
+    EXPECT_EQ(parseHelpBook("<QtHelpProject><toc><section title='A' ref='a'/><sec").pages().size(), 1u);
+}
+
+TEST(HelpBook, ReadsTheTableOfContextNumbers)
+{
+    EXPECT_EQ(
+        parseHelpContexts("# head\n1160\thtml/find.html\r\n\nnonsense\n1170\thtml/replace.html"),
+        (QHash<int, QString>{{1160, QStringLiteral("html/find.html")}, {1170, QStringLiteral("html/replace.html")}}));
+}
+
+TEST(HelpFavorites, AreKeptInTheirOrder)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("new/favorites"));
+    HelpFavorites list(path);
+    for (const char *page : {"b", "a", "c", "b"})
+        list.add(QString::fromLatin1(page));
+    list.remove(QStringLiteral("a"));
+    EXPECT_EQ(HelpFavorites(path).pages(), (QStringList{"b", "c"}));
+}
+
+} // namespace
