@@ -4,6 +4,7 @@ class AlertBox;
 class DocumentList;
 class EditCommands;
 class FileCommands;
+class MainHelp;
 class PrintCommands;
 class RandomSource;
 class SoundPlayer;
@@ -28,6 +29,7 @@ struct AppContext
     EditCommands &edit;
     clsMRUFileList &recentFiles;
     PrintCommands &print;
+    MainHelp &help;
     RandomSource &random;
     SoundPlayer &errorSound;
 };

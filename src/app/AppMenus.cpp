@@ -71,6 +71,7 @@ void AppMenus::addEntries(QMenu *menu, const QStringList &keys)
 void AppMenus::buildGridMenu()
 {
     m_gridMenu->setObjectName(QStringLiteral("oPopUpGrid"));
+    m_gridMenu->setProperty("helpContextId", menu(QStringLiteral("mnuEdit"))->property("helpContextId"));
     for (const MenuLayout::ContextEntry &entry : MenuLayout::gridMenu()) {
         if (entry.key.isEmpty()) {
             m_gridMenu->addSeparator();

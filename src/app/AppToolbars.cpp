@@ -110,6 +110,18 @@ void AppToolbars::setToolTip(const QString &button, const QString &text)
     m_standard->widgetForAction(action)->setAccessibleName(action->text());
 }
 
+int AppToolbars::whatsThisAt(const QPoint &point) const
+{
+    for (const QToolBar *bar : {m_standard, m_preview}) {
+        const QPoint place = bar->mapFrom(bar->window(), point);
+        if (!bar->isVisible() || !bar->rect().contains(place))
+            continue;
+        const QWidget *button = bar->childAt(place);
+        return button ? button->property("whatsThisId").toInt() : 0;
+    }
+    return -1;
+}
+
 bool AppToolbars::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Enter)

@@ -29,6 +29,10 @@ public:
     int pictureOf(const QString &button) const;
     void setToolTip(const QString &button, const QString &text);
 
+    /// String id of what the button at a point of the main window (pixels) is for: 0 between the buttons, -1 outside
+    /// the toolbars.
+    int whatsThisAt(const QPoint &point) const;
+
     QToolBar *standard() const { return m_standard; }
     QToolBar *preview() const { return m_preview; }
 

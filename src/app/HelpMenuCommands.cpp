@@ -1,6 +1,7 @@
 #include "app/AppCommands.h"
 #include "app/AppContext.h"
 #include "app/CommandTable.h"
+#include "app/MainHelp.h"
 #include "app/frmApp.h"
 #include "quiz/frmSplash.h"
 #include "resources/Pictures.h"
@@ -37,7 +38,7 @@ void showAbout(const AppContext &context)
 
 void AppCommands::addHelpCommands(CommandTable &table, const AppContext &context)
 {
-    table.add({"mnuHelpTopic", 455, "", 56, PictureHelpTopics, Always, {}});
+    table.add({"mnuHelpTopic", 455, "", 56, PictureHelpTopics, Always, [&context] { context.help.ShowContents(); }});
     table.add({"mnuHelpAbout", 457, "", 58, PictureAbout, Always, [&context] { showAbout(context); }});
     table.add({"Help", 1017, "Shift+F1", 224, PictureWhatsThis, Always, [] { QWhatsThis::enterWhatsThisMode(); }});
 }

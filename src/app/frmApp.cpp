@@ -4,6 +4,7 @@
 #include "app/AppMenus.h"
 #include "app/AppPrintHost.h"
 #include "app/AppToolbars.h"
+#include "app/MainHelp.h"
 #include "document/DocumentList.h"
 #include "document/FileCommands.h"
 #include "document/ctlGrid.h"
@@ -78,6 +79,7 @@ frmApp::frmApp(const Needs &needs)
     , m_views(new QStackedWidget)
     , m_printHost(std::make_unique<AppPrintHost>(*this, *m_views))
     , m_print(std::make_unique<PrintCommands>(needs.printer, needs.dialogs, needs.alert, *m_printHost))
+    , m_help(std::make_unique<MainHelp>(needs.help, needs.alert))
 {
     setWindowTitle(QApplication::applicationDisplayName());
     setAcceptDrops(true);
@@ -94,6 +96,7 @@ frmApp::frmApp(const Needs &needs)
     m_toolbars = new AppToolbars(*this, m_commands, *m_menus, m_context->status);
     setButtonPicture(QStringLiteral("Model"), PictureMode1 + needs.settings.QuizMode() - 1);
     setButtonPicture(QStringLiteral("Quiz"), PicturePractice);
+    m_help->attach(*m_context, *m_toolbars);
     SetCommandState(AppState::StateNoDocument);
     needs.undo.clear();
 }
@@ -108,7 +111,7 @@ void frmApp::createParts(const Needs &needs)
         new FileCommands({*documents, m_recentFiles, *status, needs.alert, needs.prompts}, needs.codePage, this);
     m_context = std::make_unique<AppContext>(AppContext{*this, needs.flags, needs.undo, needs.settings, needs.alert,
                                                         *status, *documents, *files, m_editCommands, m_recentFiles,
-                                                        *m_print, needs.random, needs.errorSound});
+                                                        *m_print, *m_help, needs.random, needs.errorSound});
     setCentralWidget(createCentre());
 
     connect(documents, &DocumentList::created, this, &frmApp::placeDocument);

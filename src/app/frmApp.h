@@ -16,6 +16,8 @@ class AppToolbars;
 class CodePage;
 class CommonDialogs;
 class FilePrompts;
+class HelpDisplay;
+class MainHelp;
 class PrintCommands;
 class PrintHost;
 class PrinterDevice;
@@ -46,6 +48,7 @@ public:
         const CodePage &codePage;
         RandomSource &random;
         SoundPlayer &errorSound;
+        HelpDisplay &help;
     };
 
     explicit frmApp(const Needs &needs);
@@ -122,6 +125,7 @@ private:
     QStackedWidget *m_views; ///< the document area, and the print preview in its place
     std::unique_ptr<PrintHost> m_printHost;
     std::unique_ptr<PrintCommands> m_print;
+    std::unique_ptr<MainHelp> m_help;
     std::unique_ptr<AppContext> m_context;
     CommandTable m_commands;
     AppMenus *m_menus = nullptr;

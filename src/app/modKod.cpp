@@ -19,6 +19,8 @@
 #include "quiz/rules/RandomSource.h"
 #include "resources/ResourceFiles.h"
 #include "resources/StringTable.h"
+#include "services/DialogHelp.h"
+#include "services/HelpViewers.h"
 #include "services/modMsgBox.h"
 #include "services/rules/CommandLine.h"
 #include "services/rules/ProgramFlags.h"
@@ -36,6 +38,7 @@ namespace {
 constexpr int ShowMainAfter = 2000;    // milliseconds
 constexpr int CloseSplashAfter = 3000; // milliseconds
 constexpr int UsageError = 2;
+constexpr int ContextCommand = 1; ///< the dialogs' help call for a topic by its number
 
 /// Everything that lives as long as the program and belongs to no window.
 struct Program
@@ -44,9 +47,15 @@ struct Program
     clsAppProperties settings{store, QApplication::applicationFilePath()};
     ProgramFlags flags;
     UndoRecord undo;
-    modMsgBox alert{[](int) {}};
+    modMsgBox alert{[this](int topic) { help.HtmlHelp(HelpTarget::ofAlertBoxes(), HH_HELP_CONTEXT, topic); }};
+    HelpViewers help{alert, UserFolders::state() + QStringLiteral("/help-favorites")};
     QtPrinter printer;
-    QtDialogs dialogs{printer, [](const QString &, int, int) { return false; }};
+    QtDialogs dialogs{printer, [this](const QString &file, int command, int key) {
+                          HelpTarget target = HelpTarget::ofProgram();
+                          target.HTMLHelpFile = file;
+                          const bool topic = command == ContextCommand;
+                          return help.HtmlHelp(target, topic ? HH_HELP_CONTEXT : HH_DISPLAY_TOC, key);
+                      }};
     CommonFilePrompts prompts{dialogs, alert};
     CodePage codePage{CodePage::nameFor(QLocale())};
     SeededRandom random;
@@ -171,7 +180,9 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     splash.setLoadStatus(frmSplash::StartUp);
     splash.Form_Load();
     frmApp window({program.flags, program.undo, program.settings, program.store, program.alert, program.prompts,
-                   program.printer, program.dialogs, program.codePage, program.random, program.errorSound});
+                   program.printer, program.dialogs, program.codePage, program.random, program.errorSound,
+                   program.help});
+    DialogHelp dialogHelp(program.help, program.alert, HelpTarget::ofProgram());
     program.alert.setMainWindow(&window);
     program.prompts.setOwner(&window);
     QObject::connect(&window, &frmApp::closed, &application, &QApplication::quit);

@@ -3,6 +3,7 @@
 #include "document/ctlGridEdit.h"
 #include "platform/Twips.h"
 #include "resources/StringTable.h"
+#include "services/FormTexts.h"
 #include "services/rules/ProgramFlags.h"
 #include "widgets/FlexGridColours.h"
 #include "widgets/FlexGridView.h"
@@ -13,6 +14,7 @@ namespace {
 
 constexpr int EditBoxName = 12800;
 constexpr int GridName = 12801;
+constexpr int WhatsThisId = 20042;
 constexpr int Enter = 13;
 constexpr int Escape = 27;
 constexpr int Space = 32;
@@ -36,6 +38,7 @@ ctlGrid::ctlGrid(const ProgramFlags *flags, QWidget *parent)
     , m_text1(new ctlGridEdit(this))
 {
     setAccessibleName(resText(GridName));
+    FormTexts::setWhatsThis(this, WhatsThisId);
     m_text1->hide();
     connectEditBox();
 }

@@ -15,6 +15,14 @@
 
 namespace {
 
+constexpr int FileTopic = 1110;
+constexpr int PrintTopic = 1120;
+
+void setTopic(QDialog &dialog, int helpContextId)
+{
+    dialog.setProperty("helpContextId", helpContextId);
+}
+
 /// The page setup shows only what the layout heeds: it has margins of its own.
 void hideMargins(const QPageSetupDialog &dialog)
 {
@@ -68,6 +76,7 @@ QString QtDialogs::startFolder(const FileRequest &request) const
 
 std::optional<FileChoice> QtDialogs::show(QFileDialog &dialog, const FileRequest &request)
 {
+    setTopic(dialog, FileTopic);
     dialog.setNameFilters(request.nameFilters);
     dialog.selectNameFilter(request.nameFilters.value(request.filterIndex));
     dialog.selectFile(QFileInfo(request.fileName).fileName());
@@ -116,6 +125,7 @@ std::optional<PrintChoice> QtDialogs::choosePages(const PrintRequest &request)
     printer.setCopyCount(1);
     printer.setCollateCopies(request.collate);
     QPrintDialog dialog(&printer, request.owner);
+    setTopic(dialog, PrintTopic);
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, request.offerPageNumbers);
     dialog.setOption(QAbstractPrintDialog::PrintSelection, request.offerSelection);
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
@@ -134,6 +144,7 @@ bool QtDialogs::setUpPrinter(QWidget *owner)
 {
     QPageSetupDialog dialog(&m_printer.printer(), owner);
     hideMargins(dialog);
+    setTopic(dialog, PrintTopic);
     if (dialog.exec() != QDialog::Accepted)
         return false;
     m_printer.settle();

@@ -4,6 +4,7 @@
 #include "print/PaintedSurface.h"
 #include "print/rules/modUtskrift.h"
 #include "resources/StringTable.h"
+#include "services/FormTexts.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -11,6 +12,8 @@
 #include <QWheelEvent>
 
 namespace {
+
+constexpr int WhatsThisId = 20033;
 
 /// Keys that turn or scroll pages when they come up; every other key acts when it goes down.
 bool actsOnRelease(int key)
@@ -25,6 +28,7 @@ frmPrtPrev::frmPrtPrev(modUtskrift &layout, QWidget *parent)
     , m_layout(layout)
 {
     setFocusPolicy(Qt::StrongFocus);
+    FormTexts::setWhatsThis(this, WhatsThisId);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
     resize(Twips::toPixelsX(layout.pageWidth()), Twips::toPixelsY(layout.pageHeight()));

@@ -3,6 +3,7 @@
 #include "resources/StringTable.h"
 
 #include <QAbstractButton>
+#include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QTextDocument>
@@ -49,6 +50,10 @@ void apply(QWidget *form)
     }
     for (QWidget *control : controls)
         nameForScreenReader(control);
+    // The button of the title bar that begins What's This mode.
+    const auto explained = [](const QWidget *control) { return idProperty(control, "whatsThisId") != 0; };
+    if (qobject_cast<QDialog *>(form) && std::any_of(controls.begin(), controls.end(), explained))
+        form->setWindowFlag(Qt::WindowContextHelpButtonHint);
 }
 
 void setCaption(QWidget *control, int textId)

@@ -8,6 +8,7 @@
 #include "quiz/rules/RandomSource.h"
 #include "services/rules/ProgramFlags.h"
 #include "services/rules/clsAppProperties.h"
+#include "support/RecordingHelp.h"
 #include "support/RecordingPrinter.h"
 #include "support/ScriptedAlertBox.h"
 #include "support/ScriptedDialogs.h"
@@ -33,12 +34,13 @@ struct MainWindowFixture : ::testing::Test
     CodePage codePage;
     SeededRandom random{1};
     DesktopSoundPlayer silence{QByteArray()};
+    RecordingHelp help;
     std::unique_ptr<frmApp> window;
 
     void SetUp() override
     {
-        window = std::make_unique<frmApp>(
-            frmApp::Needs{flags, undo, settings, store, alert, prompts, printer, dialogs, codePage, random, silence});
+        window = std::make_unique<frmApp>(frmApp::Needs{flags, undo, settings, store, alert, prompts, printer, dialogs,
+                                                        codePage, random, silence, help});
         window->show();
         QApplication::setActiveWindow(window.get());
     }

@@ -118,6 +118,7 @@ TEST_F(SingleInstanceTest, NextCopyIsFirstAfterTheFirstHasEnded)
     EXPECT_TRUE(first->waitForFinished(Patience));
     EXPECT_FALSE(QFileInfo::exists(path()));
     kill(startFirst());
+    kill(startFirst());
 }
 
 TEST_F(SingleInstanceTest, StoppedFirstCopyHoldsNobodyUpAndFindsTheMessageLater)

@@ -84,7 +84,7 @@ TEST_F(frmSplashTest, TheStatusBarHearsWhereTheLinksLead)
     EXPECT_EQ(506, texts.last()[0].toInt());
 }
 
-TEST_F(frmSplashTest, TheCopyrightLineHidesADedicationAndReturnAndEscapeClose)
+TEST_F(frmSplashTest, TheCopyrightLineHidesADedication)
 {
     open(frmSplash::About);
     auto *line = control<QLabel>("lblCopyright");
@@ -93,8 +93,12 @@ TEST_F(frmSplashTest, TheCopyrightLineHidesADedicationAndReturnAndEscapeClose)
     EXPECT_EQ(resText(2005), line->text());
     QTest::mouseRelease(line, Qt::LeftButton);
     EXPECT_EQ(resText(2004), line->text());
+}
+
+TEST_F(frmSplashTest, ReturnAndEscapeCloseTheAboutBox)
+{
     for (Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
-        window.show();
+        open(frmSplash::About);
         QTest::keyClick(&window, key);
         EXPECT_FALSE(window.isVisible());
     }

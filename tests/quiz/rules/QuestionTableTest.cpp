@@ -24,6 +24,14 @@ QStringList numbered(QChar side, int count)
     return texts;
 }
 
+struct SizeCase
+{
+    QuizKind kind;
+    int mode;
+    int words;
+    bool built;
+};
+
 } // namespace
 
 TEST(RandomSourceTest, NumbersReachBothEndsAndNothingElse)
@@ -67,17 +75,16 @@ TEST(UsedPairsTest, AnswersLikeAScanOfAllColumns)
 TEST(QuestionTableTest, NeedsEnoughWordsAndTakesOnlyAsManyAsItCanNumber)
 {
     using enum QuizKind;
-    const std::tuple<QuizKind, int, int, bool> cases[] = {
-        {Practice, 1, 0, false},          {Practice, 1, 1, true},
-        {MultipleChoice, 1, 2, false},    {MultipleChoice, 5, 3, true},
-        {MultipleChoice, 3, 32767, true}, {Practice, 1, 32768, false},
-        {MultipleChoice, 5, 16383, true}, {QuestionAndAnswer, 5, 16384, false}};
-    for (const auto &[kind, mode, words, built] : cases) {
-        SCOPED_TRACE(words);
+    for (const SizeCase &size :
+         {SizeCase{Practice, 1, 0, false}, SizeCase{Practice, 1, 1, true}, SizeCase{QuestionAndAnswer, 5, 1, true},
+          SizeCase{MultipleChoice, 1, 2, false}, SizeCase{MultipleChoice, 5, 3, true},
+          SizeCase{MultipleChoice, 3, 32767, true}, SizeCase{Practice, 1, 32768, false},
+          SizeCase{MultipleChoice, 5, 16383, true}, SizeCase{QuestionAndAnswer, 5, 16384, false}}) {
+        SCOPED_TRACE(size.words);
         QuestionTable table;
         SeededRandom random(3);
-        EXPECT_EQ(built, table.fByggMatriser(kind, mode, ListWords::numbered(words), random));
-        EXPECT_EQ(built ? words * (mode == 5 ? 2 : 1) : 0, table.count());
+        EXPECT_EQ(size.built, table.fByggMatriser(size.kind, size.mode, ListWords::numbered(size.words), random));
+        EXPECT_EQ(size.built ? size.words * (size.mode == 5 ? 2 : 1) : 0, table.count());
     }
 }
 

@@ -78,6 +78,20 @@ protected:
     clsAppProperties settings{m_store, QStringLiteral("glosaria")};
 };
 
+struct Typed
+{
+    const char16_t *answer;
+    const char16_t *typed;
+    bool correct;
+};
+
+struct Hinted
+{
+    const char16_t *answer;
+    const char16_t *typed;
+    const char16_t *shown;
+};
+
 } // namespace
 
 TEST_F(QuizSessionTest, WholeQuizzesOfEachKindInEachModeUntilNoErrorIsLeft)
@@ -120,21 +134,15 @@ TEST_F(QuizSessionTest, WholeQuizzesOfEachKindInEachModeUntilNoErrorIsLeft)
 
 TEST_F(QuizSessionTest, TypedAnswersAreComparedExactly)
 {
-    const std::tuple<const char16_t *, const char16_t *, bool> cases[] = {{u"Haus", u"Haus", true},
-                                                                          {u"Haus", u"haus", false},
-                                                                          {u"Haus", u"Haus ", false},
-                                                                          {u" Haus", u"Haus", false},
-                                                                          {u"", u"", true},
-                                                                          {u"Haus", u"", false},
-                                                                          {u"été", u"ete", false},
-                                                                          {u"日本", u"日本", true},
-                                                                          {u"", u"Type your answer here", true},
-                                                                          {u"Haus", u"Type your answer here", false}};
-    for (const auto &[answer, typed, correct] : cases) {
+    for (const Typed &typed :
+         {Typed{u"Haus", u"Haus", true}, Typed{u"Haus", u"haus", false}, Typed{u"Haus", u"Haus ", false},
+          Typed{u" Haus", u"Haus", false}, Typed{u"", u"", true}, Typed{u"Haus", u"", false},
+          Typed{u"été", u"ete", false}, Typed{u"日本", u"日本", true}, Typed{u"", u"Type your answer here", true},
+          Typed{u"Haus", u"Type your answer here", false}}) {
         Quiz quiz(settings, QuizKind::QuestionAndAnswer);
-        quiz.start(ListWords{{u"house", answer}});
-        quiz.type(QString::fromUtf16(typed));
-        EXPECT_EQ(correct, quiz.verdicts.back()) << QString::fromUtf16(typed).toStdString();
+        quiz.start(ListWords{{u"house", typed.answer}});
+        quiz.type(QString::fromUtf16(typed.typed));
+        EXPECT_EQ(typed.correct, quiz.verdicts.back()) << QString::fromUtf16(typed.typed).toStdString();
         EXPECT_EQ(QString(), quiz.session.answerText());
         EXPECT_NE(resText(922), quiz.session.givenAnswer());
     }
@@ -142,23 +150,17 @@ TEST_F(QuizSessionTest, TypedAnswersAreComparedExactly)
 
 TEST_F(QuizSessionTest, AHintKeepsWhatIsInPlaceAndAddsALetter)
 {
-    const char16_t *const cases[][3] = {{u"cat", u"", u"c"},
-                                        {u"cat", u"c", u"ca"},
-                                        {u"cat", u"xat", u"cat"},
-                                        {u"cat", u"cats", u"cat"},
-                                        {u"cat", u"xyz", u"c"},
-                                        {u"cat", u"Cat", u"cat"},
-                                        {u"", u"abc", u""},
-                                        {u"cat", u"Type your answer here", u"c"},
-                                        {u"e\u0301te\u0301", u"", u"e\u0301"},
-                                        {u"e\u0301te\u0301", u"e\u0301t", u"e\u0301te\u0301"},
-                                        {u"\U0001F600!", u"", u"\U0001F600"}};
-    for (const auto &[answer, typed, shown] : cases) {
+    for (const Hinted &hint :
+         {Hinted{u"cat", u"", u"c"}, Hinted{u"cat", u"c", u"ca"}, Hinted{u"cat", u"xat", u"cat"},
+          Hinted{u"cat", u"cats", u"cat"}, Hinted{u"cat", u"xyz", u"c"}, Hinted{u"cat", u"Cat", u"cat"},
+          Hinted{u"cat", u"cat", u"cat"}, Hinted{u"", u"abc", u""}, Hinted{u"été", u"", u"é"},
+          Hinted{u"cat", u"Type your answer here", u"c"}, Hinted{u"e\u0301te\u0301", u"", u"e\u0301"},
+          Hinted{u"e\u0301te\u0301", u"e\u0301t", u"e\u0301te\u0301"}, Hinted{u"\U0001F600!", u"", u"\U0001F600"}}) {
         Quiz quiz(settings, QuizKind::QuestionAndAnswer);
-        quiz.start(ListWords{{u"question", answer}});
-        quiz.session.setAnswerText(QString::fromUtf16(typed));
+        quiz.start(ListWords{{u"question", hint.answer}});
+        quiz.session.setAnswerText(QString::fromUtf16(hint.typed));
         quiz.session.hint();
-        EXPECT_EQ(shown, quiz.session.answerText()) << QString::fromUtf16(typed).toStdString();
+        EXPECT_EQ(hint.shown, quiz.session.answerText()) << QString::fromUtf16(hint.typed).toStdString();
         EXPECT_EQ(1, quiz.reveals);
     }
 }

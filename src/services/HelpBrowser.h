@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QTextBrowser>
+
+class HelpFile;
+
+/// Shows the pages of the help file. Links between pages are followed here, links to the web and to mail by the
+/// desktop.
+class HelpBrowser : public QTextBrowser
+{
+    Q_OBJECT
+
+public:
+    explicit HelpBrowser(QWidget *parent = nullptr);
+
+    /// Must be called once, before a page is shown; the file must outlive the browser.
+    void setHelpFile(const HelpFile &file) { m_file = &file; }
+
+    void showPage(const QString &page);
+    /// The page shown; empty before the first.
+    QString page() const;
+    static QString pageOf(const QUrl &source);
+
+    /// Goes to the next place of a text, from the end on at the start; false when the page does not hold it.
+    bool findText(const QString &text, bool backward);
+    /// Marks every word that begins like one of these.
+    void markWords(const QStringList &words);
+
+    void zoomBy(int steps);
+    void resetZoom();
+
+    QVariant loadResource(int type, const QUrl &name) override;
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+
+private:
+    const HelpFile *m_file = nullptr;
+    int m_zoom = 0; ///< steps above (or below) the normal size
+};

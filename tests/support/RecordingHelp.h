@@ -1,0 +1,34 @@
+#pragma once
+
+#include "services/HelpDisplay.h"
+
+#include <vector>
+
+/// Keeps what help was asked for.
+class RecordingHelp : public HelpDisplay
+{
+public:
+    struct Call
+    {
+        QString window;
+        HelpCommand command;
+        QVariant data;
+        bool operator==(const Call &) const = default;
+    };
+    std::vector<Call> calls;
+
+    bool HtmlHelp(const HelpTarget &target, HelpCommand command, const QVariant &data) override
+    {
+        calls.push_back({target.HelpWindow, command, data});
+        return true;
+    }
+
+    std::vector<int> popUps; ///< ids of the texts
+    QPoint popUpPlace;       ///< of the last one, on the screen
+
+    void showPopUp(QWidget *, int textId, const QPoint &screenPoint) override
+    {
+        popUps.push_back(textId);
+        popUpPlace = screenPoint;
+    }
+};
