@@ -9,7 +9,7 @@
 class ScriptedDialogs : public CommonDialogs
 {
 public:
-    QStringList chosen; ///< names chosen one after the other; then Cancel
+    QStringList chosen;               ///< names chosen one after the other; then Cancel
     std::optional<PrintChoice> pages; ///< empty: the print dialogs are cancelled
     QString printerFault;
     std::function<void()> duringSetup; ///< what the user does in the page setup
