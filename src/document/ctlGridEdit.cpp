@@ -10,6 +10,8 @@
 #include <QPainter>
 #include <QValidator>
 
+#include <limits>
+
 namespace {
 
 /// Turns line breaks into blanks on every way a text can enter: paste, drop, input method.
@@ -31,6 +33,7 @@ ctlGridEdit::ctlGridEdit(QWidget *parent)
     : QLineEdit(parent)
 {
     setFrame(false);
+    setMaxLength(std::numeric_limits<int>::max()); // a longer cell would be cut when it is edited
     setValidator(new OneLine(this));
     connect(this, &QLineEdit::textEdited, this, [this] { m_undone = false; });
 }

@@ -124,6 +124,16 @@ TEST_F(GridEditing, TheContainerMayChangeOrSwallowWhatIsTyped)
     EXPECT_FALSE(grid.EditMode()) << "BeforeEdit cancelled";
 }
 
+TEST_F(GridEditing, EditingALongCellKeepsAllOfIt)
+{
+    const QString text(40000, u'x');
+    grid.setTextMatrix(1, 1, text);
+    key(Qt::Key_Space);
+    type(QStringLiteral("y"));
+    key(Qt::Key_Return);
+    EXPECT_EQ(cell(1, 1), QString(text + u'y'));
+}
+
 TEST_F(GridEditing, ArrowsCommitAndMove)
 {
     struct Case
