@@ -209,7 +209,8 @@ void frmDoc::noteEntry(int row, int col)
         return;
     m_shared.undo.selection.Row = row;
     m_shared.undo.selection.Col = col;
-    m_shared.undo.entryText = m_textBeforeEdit;
+    if (m_shared.undo.kind() != UndoKind::Typing) // else the keys have recorded it
+        m_shared.undo.entryText = m_textBeforeEdit;
     m_shared.undo.setKind(UndoKind::Entry, this);
 }
 
@@ -226,6 +227,8 @@ void frmDoc::endEdit()
         return;
     m_grid->setEditMode(false);
     ceasedToEdit();
+    if (m_shared.undo.kind() == UndoKind::Typing)
+        noteEntry(m_grid->Row(), m_grid->Col());
 }
 
 void frmDoc::makeRoomFor(int row, int col, const QString &text)

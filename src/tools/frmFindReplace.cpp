@@ -10,21 +10,13 @@
 #include "services/FormTexts.h"
 #include "services/rules/ProgramFlags.h"
 #include "tools/DocumentCells.h"
+#include "tools/Hourglass.h"
 #include "tools/rules/ReplaceAll.h"
 
 namespace {
 
 constexpr int ReplaceHeight = 700; ///< twips that the replace layout is higher
 constexpr int BottomMargin = 400;  ///< twips between the dialog and the lower edge of the main window
-
-/// Shows the hourglass pointer while it lives.
-class Hourglass
-{
-public:
-    Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~Hourglass() { QApplication::restoreOverrideCursor(); }
-    Q_DISABLE_COPY_MOVE(Hourglass)
-};
 
 } // namespace
 

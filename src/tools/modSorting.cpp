@@ -3,6 +3,7 @@
 #include "document/frmDoc.h"
 #include "document/modUndo.h"
 #include "tools/GridCells.h"
+#include "tools/Hourglass.h"
 #include "tools/frmSort.h"
 #include "tools/rules/SortOrder.h"
 
@@ -32,6 +33,7 @@ void SortVocabulary(frmDoc &document, UndoRecord &undo, const QLocale &locale, Q
 
 void sortBy(int SortFlags, frmDoc &document, UndoRecord &undo, const QLocale &locale)
 {
+    const Hourglass hourglass;
     ctlGrid &grid = *document.Rutor();
     undo.selection = document.selection();
     undo.snapshot = modUndo::takeSnapshot(grid);

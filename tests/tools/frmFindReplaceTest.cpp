@@ -176,6 +176,24 @@ TEST_F(FindReplace, KeepsWhatIsTypedIntoTheMatch)
     EXPECT_TRUE(document.Dirty());
 }
 
+TEST_F(FindReplace, WhatIsTypedIntoTheMatchCanBeUndone)
+{
+    for (const bool matchesAgain : {true, false}) {
+        setWords({{matchesAgain ? "aXa" : "aX", ""}});
+        undo.clear();
+        open(false);
+        type("txtFind", "a");
+        click("btnFind");
+        QTest::keyClicks(grid.hwndText(), "u");
+        click("btnFind");
+        dialog->close();
+        EXPECT_EQ(grid.TextMatrix(1, 1), matchesAgain ? "uXa" : "uX");
+        EXPECT_EQ(undo.kind(), UndoKind::Entry);
+        EditCommands(undo, flags, *QGuiApplication::clipboard()).Undo(document);
+        EXPECT_EQ(grid.TextMatrix(1, 1), matchesAgain ? "aXa" : "aX");
+    }
+}
+
 TEST_F(FindReplace, LeavesNoUndoStepToAnotherDocument)
 {
     open(true);
