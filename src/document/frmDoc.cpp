@@ -227,7 +227,8 @@ void frmDoc::endEdit()
         return;
     m_grid->setEditMode(false);
     ceasedToEdit();
-    if (m_shared.undo.kind() == UndoKind::Typing)
+    // a search that found the same cell again has stored what was typed there before
+    if (m_shared.undo.kind() == UndoKind::Typing && m_shared.undo.entryText != m_grid->Text())
         noteEntry(m_grid->Row(), m_grid->Col());
 }
 
