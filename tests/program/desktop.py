@@ -161,7 +161,10 @@ class Desktop:
         return table.getAccessibleAt(row, column).name
 
     def is_checked(self, item):
-        return item.getState().contains(self._atspi.STATE_CHECKED)
+        return bool(item) and item.getState().contains(self._atspi.STATE_CHECKED)
+
+    def is_active(self, window):
+        return bool(window) and window.getState().contains(self._atspi.STATE_ACTIVE)
 
     def wait_for(self, role=None, name=None, within=None):
         return self.wait(lambda: self.find(role, name, within), f"{role or 'something'} named {name!r}")

@@ -62,14 +62,18 @@ class EditingCase(ProgramCase):
     def expect_column(self, column, words):
         DESKTOP.wait(lambda: self.column(column) == words, f"{words} instead of {self.column(column)}")
 
-    def open_dialog(self, keys, name):
+    def open_dialog(self, name, *keys):
         DESKTOP.key(*keys)
-        return DESKTOP.wait_for("dialog", name)
+        self.expect_active(name=name)
 
-    def close_dialog(self, dialog, key):
-        name = dialog.name
+    def close_dialog(self, name, key, role="frame", back_to=None):
+        """Closes a dialog and waits until the window behind it, the main window as a rule, takes the keys."""
         DESKTOP.key(key)
-        DESKTOP.wait(lambda: not DESKTOP.find("dialog", name), f"the end of {name}")
+        DESKTOP.wait(lambda: not (DESKTOP.find("dialog", name) or DESKTOP.find("alert", name)), f"the end of {name}")
+        self.expect_active(role, back_to)
+
+    def expect_active(self, role=None, name=None):
+        DESKTOP.wait(lambda: DESKTOP.is_active(DESKTOP.find(role, name)), f"{name or role} to take the keys")
 
     def choose(self, key, name):
         DESKTOP.key(key)
@@ -84,37 +88,36 @@ class EditingCase(ProgramCase):
         DESKTOP.key("ctrl+v")
         self.expect_column(0, ["the person", "the man", "the woman", "the child", ""])
 
-        sort = self.open_dialog(["alt+v", "s"], "Sort")
+        self.open_dialog("Sort", "alt+v", "s")
         self.choose("alt+2", "2 Language 2")
         self.choose("alt+d", "Descending")
-        self.close_dialog(sort, "Return")
+        self.close_dialog("Sort", "Return")
         sorted_words = ["the woman", "the person", "the man", "the child", ""]
         self.expect_column(0, sorted_words)
         self.expect_column(1, ["die Frau", "der Mensch", "der Mann", "das Kind", ""])
 
-        replace = self.open_dialog(["ctrl+h"], "Replace")
+        self.open_dialog("Replace", "ctrl+h")
         DESKTOP.type("the ")
         DESKTOP.key("alt+e")
         DESKTOP.type("a ")
         self.choose("alt+1", "1 Language 1")
-        DESKTOP.key("alt+a")
-        self.close_dialog(DESKTOP.wait_for(name="Glosaria Alert"), "Return")
-        self.close_dialog(replace, "Escape")
+        self.open_dialog("Glosaria Alert", "alt+a")
+        self.close_dialog("Glosaria Alert", "Return", "dialog", "Replace")
+        self.close_dialog("Replace", "Escape")
         self.expect_column(0, ["a woman", "a person", "a man", "a child", ""])
         DESKTOP.key("ctrl+z")
         self.expect_column(0, sorted_words)
 
-        font = self.open_dialog(["alt+v", "f"], "Font")
+        self.open_dialog("Font", "alt+v", "f")
         DESKTOP.key("alt+s")
         DESKTOP.type("14")
-        self.close_dialog(font, "Return")
-        height = self.open_dialog(["alt+v", "r"], "Set Row Height")
+        self.close_dialog("Font", "Return")
+        self.open_dialog("Set Row Height", "alt+v", "r")
         DESKTOP.type("40")
-        self.close_dialog(height, "Return")
+        self.close_dialog("Set Row Height", "Return")
 
         file = self.home / "copied.gla"
-        DESKTOP.key("ctrl+s")
-        DESKTOP.wait_for(name="Save Glosaria Document")
+        self.open_dialog("Save Glosaria Document", "ctrl+s")
         DESKTOP.type(str(file))
         DESKTOP.key("Return")
         DESKTOP.wait(file.exists, "the saved file")
