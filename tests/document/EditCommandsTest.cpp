@@ -35,76 +35,66 @@ protected:
     const Words before = words();
 };
 
-TEST_F(Editing, CopyPutsTheCellsOnTheClipboard)
+TEST_F(Editing, CommandsActOnTheSelectionAndAreUndone)
+{
+    struct Case
+    {
+        void (EditCommands::*command)(frmDoc &);
+        GridSelection selection;
+        UndoKind kind;
+        bool dirty;
+        Words result, undone;
+    };
+    const Case cases[] = {
+        {&EditCommands::Cut, {1, 2, 3, 2}, UndoKind::Cut, true, {{"a", ""}, {"c", ""}, {"e", ""}, {}}, before},
+        {&EditCommands::Clear, {3, 2, 2, 1}, UndoKind::Clear, false, {{"a", "b"}, {}, {}, {}}, before},
+        {&EditCommands::Insert,
+         {3, 1, 2, 1},
+         UndoKind::Insert,
+         false,
+         {{"a", "b"}, {}, {}, {"c", "d"}, {"e", "f"}, {}},
+         before},
+        {&EditCommands::Delete,
+         {2, 1, 3, 1},
+         UndoKind::Delete,
+         true,
+         {{"a", "b"}, {}},
+         {{"a", "b"}, {"c", ""}, {"e", ""}, {}}},
+        {&EditCommands::Delete, {4, 2, 1, 1}, UndoKind::Delete, true, {{}}, before},   // one row stays
+        {&EditCommands::Delete, {4, 1, 4, 2}, UndoKind::Delete, true, before, before}, // so does an empty last one
+    };
+    for (const Case &test : cases) {
+        setWords({{"a", "b"}, {"c", "d"}, {"e", "f"}});
+        document.setDirty(false);
+        document.select(test.selection);
+        (commands.*test.command)(document);
+        EXPECT_EQ(words(), test.result);
+        EXPECT_EQ(undo.kind(), test.kind);
+        EXPECT_EQ(document.Dirty(), test.dirty);
+        select(1, 1, 1, 1);
+        expectUndone(test.undone);
+        EXPECT_EQ(document.selection(), test.selection);
+    }
+}
+
+TEST_F(Editing, CopyAndCutPutTheCellsOnTheClipboard)
 {
     select(2, 2, 1, 1);
     commands.Copy(document);
     EXPECT_EQ(clipboard.text(), "a\tb\rc\td");
     EXPECT_EQ(undo.kind(), UndoKind::None);
-    EXPECT_FALSE(document.Dirty());
-}
-
-TEST_F(Editing, CutEmptiesTheSelection)
-{
     select(1, 2, 3, 2);
     commands.Cut(document);
     EXPECT_EQ(clipboard.text(), "b\rd\rf");
-    EXPECT_EQ(words(), (Words{{"a", ""}, {"c", ""}, {"e", ""}, {}}));
-    EXPECT_EQ(undo.kind(), UndoKind::Cut);
-    EXPECT_TRUE(document.Dirty());
-    select(1, 1, 1, 1);
-    expectUndone(before);
-    EXPECT_EQ(document.selection(), (GridSelection{1, 2, 3, 2}));
 }
 
-TEST_F(Editing, ClearLeavesDirtyAlone)
-{
-    select(3, 2, 2, 1);
-    commands.Clear(document);
-    EXPECT_EQ(words(), (Words{{"a", "b"}, {}, {}, {}}));
-    EXPECT_EQ(undo.kind(), UndoKind::Clear);
-    expectUndone(before);
-    EXPECT_FALSE(document.Dirty());
-}
-
-TEST_F(Editing, InsertMovesTheSelectedRowsDown)
+TEST_F(Editing, RowsKeepTheirHeightsWhenOthersAreInserted)
 {
     grid.setRowHeight(2, 900);
-    select(3, 1, 2, 1);
+    select(2, 1, 3, 1);
     commands.Insert(document);
-    EXPECT_EQ(words(), (Words{{"a", "b"}, {}, {}, {"c", "d"}, {"e", "f"}, {}}));
     EXPECT_EQ(grid.RowHeight(4), 900);
     EXPECT_EQ(grid.TextMatrix(4, 0), "4");
-    EXPECT_EQ(undo.kind(), UndoKind::Insert);
-    EXPECT_FALSE(document.Dirty());
-    select(1, 1, 1, 1);
-    expectUndone(before);
-    EXPECT_EQ(document.selection(), (GridSelection{3, 1, 2, 1}));
-}
-
-TEST_F(Editing, DeleteAndItsUndoGiveBackTheSelectedCells)
-{
-    select(2, 1, 3, 1);
-    commands.Delete(document);
-    EXPECT_EQ(words(), (Words{{"a", "b"}, {}}));
-    EXPECT_TRUE(document.Dirty());
-    expectUndone({{"a", "b"}, {"c", ""}, {"e", ""}, {}});
-}
-
-TEST_F(Editing, DeleteOfEveryRowLeavesAnEmptyOne)
-{
-    select(4, 2, 1, 1);
-    commands.Delete(document);
-    EXPECT_EQ(words(), (Words{{}}));
-    expectUndone(before);
-}
-
-TEST_F(Editing, DeleteOfTheLastRowLeavesAnEmptyOneBehind)
-{
-    select(4, 1, 4, 2);
-    commands.Delete(document);
-    EXPECT_EQ(words(), before);
-    expectUndone(before);
 }
 
 TEST_F(Editing, PasteIntoOneCellReachesAsFarAsTheText)

@@ -72,17 +72,4 @@ TEST(ToolDialogs, HaveKeysNamesAndHelpForEveryControl)
     expectUsableByEveryone(replace, 1170, "FED12MWNRAC");
 }
 
-TEST(ToolDialogs, OpenBesideTheSelection)
-{
-    OpenDocument open(OpenDocument::Words(40));
-    open.window.move(0, 0);
-    for (const auto &[row, rowSel] : {std::pair(1, 1), std::pair(18, 18), std::pair(10, 20), std::pair(25, 25)}) {
-        open.select(row, 1, rowSel, 2);
-        frmSort sort(open.document, &open.window);
-        sort.show();
-        const QPoint cell = open.grid.mapToGlobal(QPoint(100, open.grid.RowPos(row) / 15 + 5));
-        EXPECT_FALSE(sort.frameGeometry().contains(cell)) << row;
-    }
-}
-
 } // namespace

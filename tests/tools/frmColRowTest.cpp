@@ -56,11 +56,10 @@ TEST_F(SizeDialog, ShowsTheCurrentSizeInPixels)
     grid.setRowHeight(2, 600);
     grid.setColWidth(2, 3000);
     select(2, 2, 3, 2);
-    frmColRow height(document, frmColRow::RowHeight, &window), width(document, frmColRow::ColumnWidth, &window);
-    EXPECT_EQ(height.findChild<QLineEdit *>()->selectedText(), "40");
-    EXPECT_EQ(width.findChild<QLineEdit *>()->selectedText(), "200");
-    EXPECT_EQ(height.windowTitle(), "Set Row Height");
-    EXPECT_EQ(width.windowTitle(), "Set Column Width");
+    for (const auto &[mode, size] : {std::pair(frmColRow::RowHeight, "40"), {frmColRow::ColumnWidth, "200"}}) {
+        const frmColRow dialog(document, mode, &window);
+        EXPECT_EQ(dialog.findChild<QLineEdit *>()->selectedText(), size);
+    }
 }
 
 TEST_F(SizeDialog, ChangesNothingWithoutASize)

@@ -56,26 +56,4 @@ TEST(ExtendedComboBox, CompletesFromItsListAndComesBackToIt)
     EXPECT_EQ(box.count(), 3);
 }
 
-TEST(ExtendedComboBox, TakesNumbersThatAreNotInItsList)
-{
-    ExtendedComboBox box;
-    box.addItems({"8", "10"});
-    box.setNumbersOnly();
-    box.lineEdit()->selectAll();
-    QTest::keyClicks(box.lineEdit(), "1x");
-    EXPECT_EQ(box.currentText(), "1");
-    QTest::keyClick(box.lineEdit(), Qt::Key_Return);
-    EXPECT_EQ(box.currentText(), "1");
-    EXPECT_EQ(box.count(), 2);
-}
-
-TEST(ExtendedComboBox, ShowsTheColorOfAnEntry)
-{
-    ExtendedComboBox box;
-    box.addColor("Red", Qt::red, 0x0000FF);
-    EXPECT_EQ(box.itemData(0), 0x0000FF);
-    const QImage icon = box.itemIcon(0).pixmap(box.iconSize()).toImage();
-    EXPECT_EQ(icon.pixelColor(icon.rect().center()), QColor(Qt::red));
-}
-
 } // namespace

@@ -10,19 +10,11 @@ using namespace SearchFlag;
 
 TEST(IsLetter, FollowsTheCodesOfWindows1252)
 {
+    constexpr int ranges[] = {48,  57,  65,  90,  97,  122, 138, 138, 140, 140, 154,
+                              154, 156, 156, 159, 159, 192, 214, 216, 246, 248, 255}; // first and last codes
     QSet<QChar> letters;
-    for (const auto &[first, last] : {std::pair(48, 57),
-                                      {65, 90},
-                                      {97, 122},
-                                      {138, 138},
-                                      {140, 140},
-                                      {154, 154},
-                                      {156, 156},
-                                      {159, 159},
-                                      {192, 214},
-                                      {216, 246},
-                                      {248, 255}}) {
-        for (int code = first; code <= last; ++code)
+    for (size_t i = 0; i < std::size(ranges); i += 2) {
+        for (int code = ranges[i]; code <= ranges[i + 1]; ++code)
             letters.insert(QString(QStringDecoder("windows-1252")(QByteArray(1, char(code)))).front());
     }
     for (int unicode = 0; unicode <= 0xFFFF; ++unicode)

@@ -1,0 +1,113 @@
+#include "document/EditCommands.h"
+#include "document/modUndo.h"
+#include "support/OpenDocument.h"
+#include "tools/DocumentCells.h"
+#include "tools/modSorting.h"
+#include "tools/rules/ReplaceAll.h"
+#include "tools/rules/SortOrder.h"
+
+#include <QClipboard>
+
+namespace {
+
+using Words = OpenDocument::Words;
+
+/// Random vocabularies, selections and changes; words that separators and quotes could break are among them.
+class RandomChanges : public ::testing::Test, protected OpenDocument
+{
+protected:
+    int number(int limit) { return int(engine() % unsigned(limit)); }
+    QString text() { return texts[number(int(texts.size()))]; }
+
+    /// The words of a new vocabulary with a random selection.
+    Words fresh()
+    {
+        Words random{size_t(number(8))};
+        for (auto &row : random)
+            row = {text(), text()};
+        setWords(random);
+        const int rows = grid.Rows() - 1;
+        select(1 + number(rows), 1 + number(2), 1 + number(rows), 1 + number(2));
+        return words();
+    }
+    void expectUndone(const Words &expected, const GridSelection &selection)
+    {
+        commands.Undo(document);
+        ASSERT_EQ(words(), expected);
+        ASSERT_EQ(document.selection(), selection);
+    }
+
+    std::mt19937 engine{5};
+    const QStringList texts{"", "w", "\"x", "y\"", "p\tq", "long word", "W", "10", "9"};
+    EditCommands commands{undo, flags, *QGuiApplication::clipboard()};
+};
+
+TEST_F(RandomChanges, OfTheEditMenuAreUndone)
+{
+    for (const auto command : {&EditCommands::Cut, &EditCommands::Paste, &EditCommands::Clear, &EditCommands::Insert}) {
+        for (int round = 0; round < 150; ++round) {
+            const Words before = fresh();
+            const GridSelection selection = document.selection();
+            QGuiApplication::clipboard()->setText(text() + (number(2) ? "\n" : "\t") + text() + "\r" + text());
+            (commands.*command)(document);
+            expectUndone(before, selection);
+        }
+    }
+    for (int round = 0; round < 150; ++round) {
+        Words expected = fresh();
+        const GridSelection selection = document.selection();
+        for (int row = selection.top(); row <= selection.bottom(); ++row) {
+            for (int col = 1; col <= 2; ++col) {
+                if (col < selection.left() || col > selection.right())
+                    expected[size_t(row) - 1][size_t(col) - 1].clear();
+            }
+        }
+        commands.Delete(document);
+        expectUndone(expected, selection);
+    }
+}
+
+TEST_F(RandomChanges, BySortingMoveWholeRowsAndAreUndone)
+{
+    for (int round = 0; round < 200; ++round) {
+        const Words before = fresh();
+        const GridSelection selection = document.selection();
+        for (int row = 1; row < grid.Rows(); ++row)
+            grid.setRowHeight(row, 300 + 15 * int(grid.TextMatrix(row, 1).size()));
+        modSorting::sortBy((1 << number(2)) | (4 << number(2)) | (16 << number(2)), document, undo, QLocale("en"));
+        Words sorted = words(), rows = before;
+        for (int row = 1; row < grid.Rows(); ++row)
+            ASSERT_EQ(grid.RowHeight(row), 300 + 15 * int(sorted[size_t(row) - 1][0].size()));
+        std::sort(sorted.begin(), sorted.end());
+        std::sort(rows.begin(), rows.end());
+        ASSERT_EQ(sorted, rows);
+        expectUndone(before, selection);
+    }
+}
+
+TEST_F(RandomChanges, ByReplaceAllEqualAPlainReplacementAndAreUndone)
+{
+    for (int round = 0; round < 200; ++round) {
+        const Words before = fresh();
+        const GridSelection selection = document.selection();
+        undo.snapshot = modUndo::takeSnapshot(grid);
+        undo.selection = selection;
+        Search search;
+        search.FindWhat = "w";
+        const bool matchCase = number(2);
+        search.SearchFlags = SearchFlag::WholeDocument | (matchCase ? SearchFlag::MatchCase : 0);
+        const QString with = QStringList{"w", "ab", "xWx"}[number(3)];
+        Words expected = before;
+        for (auto &row : expected) {
+            for (QString &word : row)
+                word.replace("w", with, matchCase ? Qt::CaseSensitive : Qt::CaseInsensitive);
+        }
+        DocumentCells cells(document);
+        ReplaceAll(search, with).run(cells);
+        ASSERT_EQ(words(), expected);
+        undo.setKind(UndoKind::Replace, &document);
+        expectUndone(before, selection);
+    }
+}
+
+} // namespace
