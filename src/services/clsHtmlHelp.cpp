@@ -59,6 +59,7 @@ void clsHtmlHelp::attach(QWidget *window)
     m_alert.show(window, alert);
 }
 
+/// Drop-downs are windows of their own and are never hit.
 bool clsHtmlHelp::recordControls()
 {
     m_controls.clear();
@@ -68,9 +69,8 @@ bool clsHtmlHelp::recordControls()
         const int id = whatsThisIdOf(control);
         if (!id || control->window() != m_window)
             continue;
-        const bool menu = qobject_cast<QMenu *>(control);
         const QRect place(control->mapTo(m_window.data(), QPoint(0, 0)), control->size());
-        m_controls.push_back({control, id, menu ? QRect() : place});
+        m_controls.push_back({control, id, place});
         complete = complete && std::binary_search(texts.begin(), texts.end(), id);
     }
     return complete;

@@ -74,7 +74,7 @@ private:
     {
         QPointer<QWidget> widget;
         int whatsThisId;
-        QRect place; ///< pixels of the client area; empty for a menu, which is never hit
+        QRect place; ///< pixels of the client area
     };
 
     bool recordControls();

@@ -127,6 +127,11 @@ class Desktop:
         """Clicks at a point of the screen."""
         self.tool("xdotool", "mousemove", x, y, "click", "--repeat", times, "--delay", 60, button)
 
+    def click_on(self, item):
+        """Clicks in the middle of what a screen reader found."""
+        place = item.queryComponent().getExtents(self._atspi.DESKTOP_COORDS)
+        self.click(place.x + place.width // 2, place.y + place.height // 2)
+
     def screenshot(self, path):
         self.tool("import", "-window", "root", path)
 

@@ -129,6 +129,44 @@ class EditingCase(ProgramCase):
         self.expect_column(0, sorted_words)
 
 
+class HelpCase(ProgramCase):
+    """Help that is read while the program waits for an answer."""
+
+    def help_on(self, topic):
+        return DESKTOP.wait_for("frame", topic + " - Glosaria Help")
+
+    def test_the_help_button_keeps_the_question_and_its_window_can_be_used(self):
+        program = self.open(self.sample("german-basics.gla"))
+        DESKTOP.type("x")
+        DESKTOP.key("Return", "ctrl+w")
+        alert = DESKTOP.wait_for(name="Glosaria Alert")
+        DESKTOP.click_on(DESKTOP.wait_for("push button", "Help", alert))
+        viewer = self.help_on("Saving changes before closing")
+        DESKTOP.click_on(DESKTOP.wait_for("push button", "Home", viewer))
+        self.help_on("Welcome to Glosaria")
+        DESKTOP.key("Escape")
+        DESKTOP.wait(lambda: not DESKTOP.find("frame", "Welcome to Glosaria - Glosaria Help"), "the help to close")
+        DESKTOP.wait_for(name="Glosaria Alert")
+        DESKTOP.key("n")
+        DESKTOP.wait(lambda: not DESKTOP.find("table"), "the document to close")
+        self.assertEqual(DESKTOP.quit(program), 0)
+
+    def test_f1_explains_a_dialog_and_the_search_finds_other_topics(self):
+        self.open(self.sample("german-basics.gla"))
+        DESKTOP.key("alt+v", "s")
+        DESKTOP.wait_for("dialog", "Sort")
+        DESKTOP.key("F1")
+        viewer = self.help_on("Sort")
+        DESKTOP.key("alt+s")
+        DESKTOP.click_on(DESKTOP.wait_for("text", "Words:", viewer))
+        DESKTOP.type("arabic")
+        DESKTOP.key("Return")
+        self.help_on("Accents and other scripts")
+        DESKTOP.key("Escape")
+        DESKTOP.wait(lambda: not DESKTOP.find("frame", "Accents and other scripts - Glosaria Help"), "the help to close")
+        self.assertTrue(DESKTOP.find("dialog", "Sort"), "the dialog is still open")
+
+
 class ScreenReaderCase(ProgramCase):
     """What a user hears who does not see the screen."""
 
