@@ -1,8 +1,5 @@
 #include "services/rules/HelpBook.h"
-#include "services/rules/HelpFavorites.h"
 #include "services/rules/HelpSearch.h"
-
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -51,17 +48,6 @@ TEST(HelpBook, ReadsTheTableOfContextNumbers)
     EXPECT_EQ(
         parseHelpContexts("# head\n1160\thtml/find.html\r\n\nnonsense\n1170\thtml/replace.html"),
         (QHash<int, QString>{{1160, QStringLiteral("html/find.html")}, {1170, QStringLiteral("html/replace.html")}}));
-}
-
-TEST(HelpFavorites, AreKeptInTheirOrder)
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("new/favorites"));
-    HelpFavorites list(path);
-    for (const char *page : {"b", "a", "c", "b"})
-        list.add(QString::fromLatin1(page));
-    list.remove(QStringLiteral("a"));
-    EXPECT_EQ(HelpFavorites(path).pages(), (QStringList{"b", "c"}));
 }
 
 } // namespace
