@@ -9,6 +9,7 @@
 #include "ui_HelpNavigation.h"
 
 #include <QCollator>
+#include <QTabBar>
 #include <QTextDocumentFragment>
 #include <QTreeWidgetItemIterator>
 
@@ -35,6 +36,11 @@ HelpNavigation::HelpNavigation(QWidget *parent)
     m_ui->setupUi(this);
     for (int tab = 0; tab < count(); ++tab)
         setTabText(tab, resText(FirstTabText + tab));
+    // Who walks along the tabs with the arrow keys stays there.
+    connect(this, &QTabWidget::currentChanged, this, [this](int pane) {
+        if (!tabBar()->hasFocus())
+            focusPane(Pane(pane));
+    });
     const auto choosePage = [this](const QListWidgetItem *item) { choose(item); };
     connect(m_ui->contents, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem *item) {
         if (item && item->data(0, PageRole).toString() != m_page)
@@ -156,6 +162,11 @@ void HelpNavigation::choose(const QListWidgetItem *item, const QStringList &word
 void HelpNavigation::showPane(Pane pane)
 {
     setCurrentIndex(pane);
+    focusPane(pane);
+}
+
+void HelpNavigation::focusPane(Pane pane)
+{
     QWidget *const firsts[] = {m_ui->contents, m_ui->keyword, m_ui->words, m_ui->favorites};
     firsts[pane]->setFocus(Qt::OtherFocusReason);
 }

@@ -41,6 +41,7 @@ Q_SIGNALS:
 
 private:
     void addChapters(const std::vector<HelpChapter> &chapters, QTreeWidgetItem *parent);
+    void focusPane(Pane pane);
     void fillIndex();
     void filterIndex(const QString &text);
     void search();

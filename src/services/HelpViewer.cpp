@@ -39,6 +39,7 @@ HelpViewer::HelpViewer(const HelpFile &file, HelpFavorites &favorites, Kind kind
     m_ui->splitter->setStretchFactor(1, 1);
     m_ui->splitter->setSizes({NavigationWidth, FullSize.width() - NavigationWidth});
     m_ui->findBar->hide();
+    m_ui->browser->setFocus();
     addTools();
     m_navigationTool->setChecked(kind == Kind::Full);
     m_ui->navigation->setVisible(kind == Kind::Full);

@@ -9,6 +9,8 @@
 
 namespace {
 
+constexpr int HelpCaption = 13031;
+
 /// What the buttons are, which of them Enter presses, and which Escape.
 struct ButtonSet
 {
@@ -69,6 +71,7 @@ AlertBox::Answer modMsgBox::show(QWidget *owner, const Alert &alert)
         // Without its own connections the button does not end the box.
         QPushButton *help = box.addButton(QMessageBox::Help);
         help->disconnect();
+        help->setText(resText(HelpCaption));
         const auto open = [this, &alert] { m_openTopic(alert.helpId); };
         QObject::connect(help, &QPushButton::clicked, &box, open);
         QObject::connect(new QShortcut(QKeySequence::HelpContents, &box), &QShortcut::activated, &box, open);

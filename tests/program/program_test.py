@@ -158,7 +158,7 @@ class HelpCase(ProgramCase):
         DESKTOP.key("F1")
         viewer = self.help_on("Sort")
         DESKTOP.key("alt+s")
-        DESKTOP.click_on(DESKTOP.wait_for("text", "Words:", viewer))
+        DESKTOP.wait_for("text", "Words:", viewer)
         DESKTOP.type("arabic")
         DESKTOP.key("Return")
         self.help_on("Accents and other scripts")

@@ -27,7 +27,9 @@ TEST(AlertBox, HelpOpensTheTopicAndTheBoxStays)
     question.helpId = 1400;
     bool stayed = false;
     QTimer::singleShot(0, [&] {
-        click(openBox(), QMessageBox::Help);
+        QApplication::setActiveWindow(openBox());
+        QTest::keyClick(openBox(), Qt::Key_H, Qt::AltModifier);
+        QTest::qWait(200);
         stayed = openBox() && openBox()->isVisible();
         EXPECT_EQ(openBox()->windowTitle(), resText(507));
         click(openBox(), QMessageBox::No);
