@@ -39,23 +39,21 @@ AppMenus::AppMenus(QMenuBar *tbrMenu, CommandTable &table, const AppContext &con
     , m_gridMenu(new QMenu(tbrMenu))
 {
     for (const MenuLayout::Menu &each : MenuLayout::menus())
-        addMenu(tbrMenu, each.key);
+        addMenu(tbrMenu, each);
     m_help->watch(tbrMenu);
     buildGridMenu();
 }
 
-void AppMenus::addMenu(QMenuBar *menuBar, const QString &key)
+void AppMenus::addMenu(QMenuBar *menuBar, const MenuLayout::Menu &layout)
 {
-    const auto layout = std::find_if(MenuLayout::menus().begin(), MenuLayout::menus().end(),
-                                     [&key](const MenuLayout::Menu &each) { return each.key == key; });
-    QMenu *menu = menuBar->addMenu(resText(layout->captionId));
-    menu->setObjectName(key);
-    menu->setProperty("helpContextId", layout->helpContextId);
-    m_menus.insert(key, menu);
-    addEntries(menu, layout->entries);
+    QMenu *menu = menuBar->addMenu(resText(layout.captionId));
+    menu->setObjectName(layout.key);
+    menu->setProperty("helpContextId", layout.helpContextId);
+    m_menus.insert(layout.key, menu);
+    addEntries(menu, layout.entries);
     m_help->watch(menu, [this](const QAction *action) { return helpText(action); });
-    connect(menu, &QMenu::aboutToShow, this, [this, key] { rebuild(key); });
-    rebuild(key);
+    connect(menu, &QMenu::aboutToShow, this, [this, &layout] { rebuild(layout); });
+    rebuild(layout);
 }
 
 void AppMenus::addEntries(QMenu *menu, const QStringList &keys)
@@ -103,14 +101,14 @@ void AppMenus::applyState(AppState state)
     }
 }
 
-void AppMenus::rebuild(const QString &key)
+void AppMenus::rebuild(const MenuLayout::Menu &layout)
 {
-    if (key == QStringLiteral("mnuFile"))
-        rebuildFile(menu(key));
-    else if (key == QStringLiteral("mnuMode"))
+    if (layout.key == QStringLiteral("mnuFile"))
+        rebuildFile(menu(layout.key));
+    else if (layout.key == QStringLiteral("mnuMode"))
         rebuildMode();
-    else if (key == QStringLiteral("mnuWindow"))
-        rebuildWindow(menu(key));
+    else if (layout.key == QStringLiteral("mnuWindow"))
+        rebuildWindow(menu(layout.key), layout.entries);
 }
 
 void AppMenus::rebuildFile(QMenu *menu)
@@ -158,13 +156,10 @@ void AppMenus::rebuildMode()
     }
 }
 
-void AppMenus::rebuildWindow(QMenu *menu)
+void AppMenus::rebuildWindow(QMenu *menu, const QStringList &fixedEntries)
 {
     menu->clear();
-    for (const MenuLayout::Menu &each : MenuLayout::menus()) {
-        if (each.key == menu->objectName())
-            addEntries(menu, each.entries);
-    }
+    addEntries(menu, fixedEntries);
     bool first = true;
     for (frmDoc *document : m_context.documents.open()) {
         if (!document->frame()->isVisible())

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/MenuLayout.h"
+
 #include <QHash>
 #include <QObject>
 
@@ -31,12 +33,12 @@ public:
     void watchSystemMenu(QMenu *menu);
 
 private:
-    void addMenu(QMenuBar *menuBar, const QString &key);
-    void rebuild(const QString &key);
+    void addMenu(QMenuBar *menuBar, const MenuLayout::Menu &layout);
+    void rebuild(const MenuLayout::Menu &layout);
     void rebuildFile(QMenu *menu);
     void addRecentFiles(QMenu *menu);
     void rebuildMode();
-    void rebuildWindow(QMenu *menu);
+    void rebuildWindow(QMenu *menu, const QStringList &fixedEntries);
     void addEntries(QMenu *menu, const QStringList &keys);
     void buildGridMenu();
     QString helpText(const QAction *action) const;
