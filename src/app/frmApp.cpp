@@ -160,8 +160,11 @@ void frmApp::placeDocument(frmDoc *document)
     freeCloseKey(*frame->systemMenu());
     m_menus->watchSystemMenu(frame->systemMenu());
 
-    connect(document, &frmDoc::editingChanged, this,
-            [this](bool editing) { SetCommandState(editing ? AppState::StateEditing : AppState::StateDocument); });
+    connect(document, &frmDoc::editingChanged, this, [this, document](bool editing) {
+        // The edit of a document that is not the active one, closed ones among them, says nothing about the commands.
+        if (document == m_context->documents.active())
+            SetCommandState(editing ? AppState::StateEditing : AppState::StateDocument);
+    });
     connect(document, &frmDoc::menuRequested, this,
             [this](const QPoint &position) { m_menus->gridMenu()->popup(position); });
 }
