@@ -37,7 +37,6 @@ public:
     void rebuild(int page);
 
     int visiblePage() const { return m_pages.visiblePage(); }
-    double zoomDivisor() const { return m_zoomDivisor; }
     frmPrtPrev *pageWindow() const { return m_pages.window(); }
 
 Q_SIGNALS:

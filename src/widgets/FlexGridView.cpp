@@ -196,12 +196,6 @@ bool FlexGridView::colIsVisible(int col) const
     return left == fixedWidth() || (left > fixedWidth() && left + colPixels(col) <= viewport()->width());
 }
 
-int FlexGridView::lastShownRow() const
-{
-    const Bands rows = shownRowBands();
-    return rows.empty() ? -1 : rows.back().index;
-}
-
 int FlexGridView::rowPixels(int row) const
 {
     return Twips::toPixelsY(m_state.cells.rowHeight(row));

@@ -37,8 +37,6 @@ public:
     /// A row or column that is larger than the view counts as visible when it stands first.
     bool rowIsVisible(int row) const;
     bool colIsVisible(int col) const;
-    /// The last row of which something is shown, -1 if there is none.
-    int lastShownRow() const;
 
     int rowPixels(int row) const;
     /// Row numbers are always shown whole: their column is no narrower than the largest of them.
