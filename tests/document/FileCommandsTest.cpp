@@ -1,37 +1,14 @@
-#include "document/FileCommands.h"
-#include "document/DocumentList.h"
 #include "document/ctlGrid.h"
-#include "platform/RegistryTree.h"
 #include "resources/StringTable.h"
-#include "services/modSBFunc.h"
-#include "services/rules/clsAppProperties.h"
-#include "services/rules/clsMRUFileList.h"
-#include "support/ScriptedAlertBox.h"
-#include "support/ScriptedPrompts.h"
+#include "support/OpenFiles.h"
 
 #include <QProgressBar>
 
 namespace {
 
-struct FileCommandsTest : ::testing::Test
+struct FileCommandsTest : ::testing::Test, OpenFiles
 {
     QTemporaryDir folder;
-    RegistryTree store;
-    clsAppProperties settings{store, QStringLiteral("/usr/bin/glosaria")};
-    ProgramFlags flags;
-    UndoRecord undo;
-    modSBFunc status{flags};
-    ScriptedAlertBox alert;
-    ScriptedPrompts prompts;
-    clsMRUFileList recent{[](const QString &text) { return int(text.size()); }};
-    DocumentList documents{{flags, undo, status, settings}};
-    FileCommands files{{documents, recent, status, alert, prompts}, CodePage()};
-
-    ~FileCommandsTest() override
-    {
-        for (frmDoc *document : std::vector<frmDoc *>(documents.open()))
-            delete document;
-    }
 
     QString path(const QString &name) const { return folder.filePath(name); }
     QString write(const QString &name, const QByteArray &bytes) const
@@ -45,12 +22,6 @@ struct FileCommandsTest : ::testing::Test
     {
         QFile file(filePath);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    frmDoc *newDocument()
-    {
-        files.newDocument();
-        documents.setActive(documents.open().back());
-        return documents.active();
     }
     static QByteArray vocabulary(const QByteArray &version)
     {

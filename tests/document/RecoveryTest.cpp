@@ -1,49 +1,19 @@
-#include "document/DocumentList.h"
-#include "document/FileCommands.h"
 #include "document/RecoveryKeeper.h"
 #include "document/ctlGrid.h"
-#include "platform/RegistryTree.h"
-#include "services/modSBFunc.h"
-#include "services/rules/clsAppProperties.h"
-#include "services/rules/clsMRUFileList.h"
-#include "support/ScriptedAlertBox.h"
-#include "support/ScriptedPrompts.h"
+#include "support/OpenFiles.h"
 
 #include <QDir>
 
 namespace {
 
-/// A running program as far as its documents go. What it leaves behind is found by another one over the same folder.
-struct Program
+/// A running program that keeps copies. What it leaves behind is found by another one over the same folder.
+struct Program : OpenFiles
 {
     explicit Program(const QString &folder)
         : keeper(documents, files, folder)
     {
     }
-    ~Program() { crash(); }
 
-    frmDoc *newDocument()
-    {
-        files.newDocument();
-        documents.setActive(documents.open().back());
-        return documents.active();
-    }
-    void crash()
-    {
-        for (frmDoc *document : std::vector<frmDoc *>(documents.open()))
-            delete document;
-    }
-
-    RegistryTree store;
-    clsAppProperties settings{store, QString()};
-    ProgramFlags flags;
-    UndoRecord undo;
-    modSBFunc status{flags};
-    ScriptedAlertBox alert;
-    ScriptedPrompts prompts;
-    clsMRUFileList recent{[](const QString &text) { return int(text.size()); }};
-    DocumentList documents{{flags, undo, status, settings}};
-    FileCommands files{{documents, recent, status, alert, prompts}, CodePage()};
     RecoveryKeeper keeper;
 };
 

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "document/DocumentList.h"
+#include "document/FileCommands.h"
+#include "platform/RegistryTree.h"
+#include "services/modSBFunc.h"
+#include "services/rules/ProgramFlags.h"
+#include "services/rules/clsAppProperties.h"
+#include "services/rules/clsMRUFileList.h"
+#include "support/ScriptedAlertBox.h"
+#include "support/ScriptedPrompts.h"
+
+/// A running program as far as its documents and their files go; what is still open goes with the object, unasked.
+struct OpenFiles
+{
+    RegistryTree store;
+    clsAppProperties settings{store, QStringLiteral("/usr/bin/glosaria")};
+    ProgramFlags flags;
+    UndoRecord undo;
+    modSBFunc status{flags};
+    ScriptedAlertBox alert;
+    ScriptedPrompts prompts;
+    clsMRUFileList recent{[](const QString &text) { return int(text.size()); }};
+    DocumentList documents{{flags, undo, status, settings}};
+    FileCommands files{{documents, recent, status, alert, prompts}, CodePage()};
+
+    ~OpenFiles()
+    {
+        for (frmDoc *document : std::vector<frmDoc *>(documents.open()))
+            delete document;
+    }
+
+    frmDoc *newDocument()
+    {
+        files.newDocument();
+        documents.setActive(documents.open().back());
+        return documents.active();
+    }
+};
