@@ -57,8 +57,8 @@ class Desktop:
         try:
             self._start_display()
             self._start_bus()
-            self._launch("openbox", "--sm-disable")
             self._load_accessibility()
+            self._start_window_manager()
         except BaseException:
             self.__exit__()
             raise
@@ -108,10 +108,7 @@ class Desktop:
 
     def main_window(self):
         """The X window number of the visible main window as text, or None while there is none."""
-        listed = subprocess.run(
-            ["xdotool", "search", "--onlyvisible", "--name", "Glosaria"],
-            env=self._environment, capture_output=True, text=True, check=False,
-        ).stdout.split()
+        listed = self._attempt("xdotool", "search", "--onlyvisible", "--name", "Glosaria").stdout.split()
         return next((window for window in listed if self._width(window) > 600), None)
 
     # The user's hands and eyes
@@ -143,19 +140,25 @@ class Desktop:
         return next((child for child in desktop if child and child.name == "Glosaria"), None)
 
     def find(self, role=None, name=None, within=None):
-        """The first showing accessible of this role and name (either may be None), or None."""
+        """The first showing accessible of this role and name (either may be None), or None.
+
+        Cells are asked for by row and column, and buttons of a tool bar are only found within a window or a tool bar:
+        walking through them takes long.
+        """
         return next(self.find_all(role, name, within), None)
 
     def find_all(self, role=None, name=None, within=None):
         root = within or self.application()
+        skipped = ("table",) if within else ("table", "tool bar")
         pending = [root] if root else []
         while pending:
             item = pending.pop(0)
             try:
-                if role in (None, item.getRoleName()) and name in (None, item.name) and self._showing(item):
+                if item is not root and not self._showing(item):
+                    continue  # nor is anything in it
+                if role in (None, item.getRoleName()) and name in (None, item.name):
                     yield item
-                # A table is asked for its cells by row and column; walking through them all takes too long.
-                if item.getRoleName() != "table":
+                if item.getRoleName() not in skipped:
                     pending.extend(child for child in item if child)
             except Exception:  # pylint: disable=broad-except
                 continue  # the object went away meanwhile
@@ -175,7 +178,7 @@ class Desktop:
         return self.wait(lambda: self.find(role, name, within), f"{role or 'something'} named {name!r}")
 
     def wait(self, condition, what, seconds=PATIENCE):
-        """Returns the condition's first true value."""
+        """Returns the condition's first true value; what is the text for a wait in vain, or makes it."""
         end = time.monotonic() + seconds
         while time.monotonic() < end:
             while self._events.iteration(False):
@@ -186,16 +189,23 @@ class Desktop:
             time.sleep(0.1)
         picture = pathlib.Path("waited-in-vain.png").resolve()
         self.screenshot(picture)
+        what = what() if callable(what) else what
         raise AssertionError(f"waited {seconds} s in vain for {what}; the desktop stands in {picture}")
 
     # Beneath
 
     def tool(self, *command):
         """Runs a command on this desktop and returns what it printed."""
+        result = self._attempt(*command)
+        result.check_returncode()
+        return result.stdout
+
+    def _attempt(self, *command):
+        """Runs a command that may fail."""
         return subprocess.run(
             [str(word) for word in command],
-            env=self._environment, capture_output=True, text=True, check=True, timeout=PATIENCE,
-        ).stdout
+            env=self._environment, capture_output=True, text=True, check=False, timeout=PATIENCE,
+        )
 
     def _add_folder(self, variable, folder):
         folder.mkdir(mode=0o700)
@@ -225,6 +235,11 @@ class Desktop:
         bus = self._launch("dbus-daemon", "--session", "--nofork", "--print-address=1", stdout=subprocess.PIPE)
         self._environment["DBUS_SESSION_BUS_ADDRESS"] = self._first_line(bus)
 
+    def _start_window_manager(self):
+        """A window that shows before the window manager is ready may stay unseen for ever."""
+        self._launch("openbox", "--sm-disable")
+        self.wait(lambda: self._attempt("xdotool", "get_num_desktops").returncode == 0, "the window manager")
+
     def _load_accessibility(self):
         """Loads the screen reader's library, which takes bus and display from this process' environment."""
         os.environ.update({name: self._environment[name] for name in ("DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "HOME")})
@@ -241,10 +256,7 @@ class Desktop:
         return item.getState().contains(self._atspi.STATE_SHOWING)
 
     def _width(self, window):
-        shape = subprocess.run(
-            ["xdotool", "getwindowgeometry", "--shell", window],
-            env=self._environment, capture_output=True, text=True, check=False,
-        ).stdout
+        shape = self._attempt("xdotool", "getwindowgeometry", "--shell", window).stdout
         return int(dict(line.split("=") for line in shape.split() if "=" in line).get("WIDTH", 0))
 
     @staticmethod

@@ -1,0 +1,83 @@
+"""What the whole-program tests share: cases that act and look as a user does, and the way to run them.
+
+class SomeCase(ProgramCase):
+    def test_something(self):
+        self.desktop.start()
+
+if __name__ == "__main__":
+    run()
+"""
+
+import pathlib
+import shutil
+import sys
+import unittest
+
+from desktop import Desktop
+
+SAMPLES = pathlib.Path(__file__).resolve().parents[2] / "samples"
+
+
+class ProgramCase(unittest.TestCase):
+    """Each case finds a first run: an empty home."""
+
+    desktop = None  # one for all cases
+
+    def setUp(self):
+        self.home = self.desktop.fresh_home()
+        self.addCleanup(self.desktop.end_programs)
+
+    def sample(self, name):
+        """A copy of a sample that the case may change."""
+        return pathlib.Path(shutil.copy(SAMPLES / name, self.home))
+
+    def open(self, file, splash=False):
+        """Starts the program on a file and waits for its words."""
+        program = self.desktop.start(*([] if splash else ["--no-splash"]), file)
+        self.desktop.wait(lambda: self.desktop.find("table") and self.desktop.cell(0, 0), "the words")
+        return program
+
+    # Words
+
+    def column(self, column, rows=5):
+        table = self.desktop.wait_for("table").queryTable()
+        return [table.getAccessibleAt(row, column).name for row in range(rows)]
+
+    def expect_column(self, column, words):
+        self.desktop.wait(
+            lambda: self.column(column, len(words)) == words,
+            lambda: f"{words} instead of {self.column(column, len(words))}",
+        )
+
+    # Dialogs
+
+    def open_dialog(self, name, *keys):
+        self.desktop.key(*keys)
+        self.expect_active(name=name)
+
+    def close_dialog(self, name, key, role="frame", back_to=None):
+        """Closes a dialog and waits until the window behind it, the main window as a rule, takes the keys."""
+        self.desktop.key(key)
+        self.expect_closed(name)
+        self.expect_active(role, back_to)
+
+    def expect_closed(self, name):
+        find = self.desktop.find
+        self.desktop.wait(lambda: not (find("dialog", name) or find("alert", name)), f"the end of {name}")
+
+    def expect_active(self, role=None, name=None):
+        self.desktop.wait(
+            lambda: self.desktop.is_active(self.desktop.find(role, name)), f"{name or role} to take the keys"
+        )
+
+    def choose(self, key, name):
+        self.desktop.key(key)
+        self.desktop.wait(
+            lambda: self.desktop.is_checked(self.desktop.find("radio button", name)), f"{name} to be chosen"
+        )
+
+
+def run():
+    """Runs the cases of the script that was started as script.py <program> [unittest arguments]."""
+    with Desktop(sys.argv.pop(1)) as ProgramCase.desktop:
+        unittest.main(verbosity=2, warnings="ignore")
