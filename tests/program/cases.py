@@ -49,7 +49,13 @@ class ProgramCase(unittest.TestCase):
             lambda: f"{words} instead of {self.column(column, len(words))}",
         )
 
-    # Dialogs
+    # Menus and dialogs
+
+    def choose_with_mouse(self, menu, entry):
+        """Opens a menu by a click and clicks on its entry."""
+        item = self.desktop.wait_for("menu item", menu)
+        self.desktop.click_on(item)
+        self.desktop.click_on(self.desktop.wait_for("menu item", entry, item))
 
     def open_dialog(self, name, *keys):
         self.desktop.key(*keys)

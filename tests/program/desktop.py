@@ -4,10 +4,11 @@ with Desktop("build/dev/glosaria") as desktop:
     desktop.start("words.gla")
     desktop.key("ctrl+s")
 
-Everything the desktop started ends with it. What is missing on the machine raises an error that names it; what is
+Everything the desktop started ends with it or with its display. What is missing on the machine raises an error that names it; what is
 waited for in vain leaves a picture of the desktop in the working folder.
 """
 
+import itertools
 import os
 import pathlib
 import shutil
@@ -17,8 +18,18 @@ import sys
 import tempfile
 import time
 
-TOOLS = ("Xvfb", "openbox", "dbus-daemon", "xdotool", "setxkbmap", "import")
+TOOLS = ("Xvfb", "openbox", "dbus-daemon", "xdotool", "xclip", "xkbcomp", "import", "pdftotext")
 PATIENCE = 30  # seconds that anything may take on a busy machine
+
+FREE_KEYS = (*range(147, 191), *range(208, 235), *range(239, 256))
+KEYBOARD = """
+    xkb_keymap {
+        xkb_keycodes { include "evdev+aliases(qwerty)" };
+        xkb_types { include "complete" };
+        xkb_compat { include "complete" };
+        xkb_symbols { include "pc+us" LETTERS };
+    };
+"""
 
 
 class Missing(Exception):
@@ -106,6 +117,12 @@ class Desktop:
         self._programs.remove(process)
         return process.returncode
 
+    def kill(self, process):
+        """Ends the program as a power cut does."""
+        process.kill()
+        process.wait()
+        self._programs.remove(process)
+
     def main_window(self):
         """The X window number of the visible main window as text, or None while there is none."""
         listed = self._attempt("xdotool", "search", "--onlyvisible", "--name", "Glosaria").stdout.split()
@@ -118,6 +135,8 @@ class Desktop:
         self.tool("xdotool", "key", "--clearmodifiers", *keys)
 
     def type(self, text):
+        """Types on a keyboard that gets a key for each letter it lacks."""
+        self._add_keys(text)
         self.tool("xdotool", "type", "--clearmodifiers", "--delay", "20", text)
 
     def click(self, x, y, button=1, times=1):
@@ -128,6 +147,17 @@ class Desktop:
         """Clicks in the middle of what a screen reader found."""
         place = item.queryComponent().getExtents(self._atspi.DESKTOP_COORDS)
         self.click(place.x + place.width // 2, place.y + place.height // 2)
+
+    def copy_elsewhere(self, text):
+        """Puts text on the clipboard, as another program in which it was copied."""
+        subprocess.run(
+            ["xclip", "-selection", "clipboard"], input=text.encode(), check=True, timeout=PATIENCE,
+            env=self._environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+        )
+
+    def copied(self):
+        """The text that another program pastes."""
+        return self.tool("xclip", "-selection", "clipboard", "-out")
 
     def screenshot(self, path):
         self.tool("import", "-window", "root", path)
@@ -194,17 +224,17 @@ class Desktop:
 
     # Beneath
 
-    def tool(self, *command):
+    def tool(self, *command, **options):
         """Runs a command on this desktop and returns what it printed."""
-        result = self._attempt(*command)
+        result = self._attempt(*command, **options)
         result.check_returncode()
         return result.stdout
 
-    def _attempt(self, *command):
+    def _attempt(self, *command, **options):
         """Runs a command that may fail."""
         return subprocess.run(
             [str(word) for word in command],
-            env=self._environment, capture_output=True, text=True, check=False, timeout=PATIENCE,
+            env=self._environment, capture_output=True, text=True, check=False, timeout=PATIENCE, **options,
         )
 
     def _add_folder(self, variable, folder):
@@ -229,7 +259,22 @@ class Desktop:
         if not number:
             raise AssertionError("Xvfb did not start")
         self._environment["DISPLAY"] = ":" + number
-        self.tool("setxkbmap", "us")
+        self._letters = ""
+        self._lay_out_keyboard()
+
+    def _add_keys(self, text):
+        """xdotool would lend a key to a letter for a moment only, and the program may look too late."""
+        missing = sorted({letter for letter in text if ord(letter) > 126} - set(self._letters))
+        if missing:
+            self._letters += "".join(missing)
+            self._lay_out_keyboard()
+
+    def _lay_out_keyboard(self):
+        """An American keyboard, its media keys with further letters."""
+        signs = [f"U{ord(letter):04X}" for letter in self._letters]
+        keys = zip(FREE_KEYS, itertools.zip_longest(signs[::2], signs[1::2], fillvalue="NoSymbol"))
+        symbols = "".join(f"key <I{key}> {{ [ {', '.join(levels)} ] }};" for key, levels in keys)
+        self.tool("xkbcomp", "-w0", "-", self._environment["DISPLAY"], input=KEYBOARD.replace("LETTERS", symbols))
 
     def _start_bus(self):
         bus = self._launch("dbus-daemon", "--session", "--nofork", "--print-address=1", stdout=subprocess.PIPE)
@@ -249,6 +294,7 @@ class Desktop:
             from gi.repository import GLib  # pylint: disable=import-outside-toplevel
         except ImportError as error:
             raise Missing(f"not installed: {error.name} for {sys.executable}") from error
+        pyatspi.setTimeout(PATIENCE * 1000, PATIENCE * 1000)
         self._atspi = pyatspi
         self._events = GLib.MainContext.default()
 

@@ -1,0 +1,218 @@
+#!/usr/bin/env python3
+"""A learner's evening with the program, with menus, keys and mouse: learner_test.py <program> [unittest arguments]."""
+
+from cases import ProgramCase, run
+
+WORDS = [("house", "casa"), ("tree", "árbol"), ("dog", "perro"), ("cat", "gato"), ("bread", "pan")]
+ANSWERS = dict(WORDS)
+
+
+def counters(questions, answered, correct, wrong):
+    """What the quiz shows of its counters; None is a counter not shown yet."""
+    titles = ("Number Of Questions", "Answered Questions", "Correct Answers", "Incorrect Answers")
+    numbers = zip(titles, (questions, answered, correct, wrong))
+    return {f"{title}: {number}" for title, number in numbers if number is not None}
+
+
+class LearnerCase(ProgramCase):
+    """From the first word to a printed list."""
+
+    def test_a_list_is_made_drilled_printed_lost_and_recovered(self):
+        program = self.desktop.start("--no-splash")
+        self.make_list()
+        file = self.save_as("holiday.gla")
+        self.check_file(file, sorted(WORDS))
+        self.answer_by_typing()
+        self.answer_by_choosing()
+        self.practise()
+        self.print_list()
+        self.preview()
+        self.desktop.key("alt+f", "c")
+        self.desktop.wait(lambda: not self.desktop.find("table"), "the list to close")
+
+        self.desktop.key("alt+f", "1")
+        self.expect_column(1, [second for _, second in sorted(WORDS)])
+        self.lose_an_edit(program)
+        self.recover(file)
+
+    # The list
+
+    def make_list(self):
+        self.desktop.key("alt+f", "n")
+        self.desktop.wait_for("frame", "Untitled 1")
+        self.open_dialog("Languages", "alt+v", "l")
+        self.desktop.type("English\tSpanish")
+        self.close_dialog("Languages", "Return")
+        self.desktop.wait_for("frame", "English -> Spanish In Order")
+
+        for first, second in WORDS[:3]:
+            self.desktop.type(f"{first}\r{second}\r")
+        self.expect_column(1, ["casa", "árbol", "perro", ""])
+        self.desktop.copy_elsewhere("cat\tgato\r\nbread\tpan\r\n")
+        self.desktop.key("alt+e", "p")
+        self.expect_column(0, [first for first, _ in WORDS] + [""])
+
+        self.open_dialog("Sort", "alt+v", "s")
+        self.close_dialog("Sort", "Return")
+        self.expect_column(0, sorted(ANSWERS) + [""])
+        self.expect_column(1, [ANSWERS[first] for first in sorted(ANSWERS)] + [""])
+
+    def save_as(self, name):
+        file = self.home / name
+        self.open_dialog("Save Glosaria Document", "alt+f", "a")
+        self.desktop.type(f"{file}\r")
+        self.desktop.wait_for("frame", file.stem)
+        return file
+
+    def check_file(self, file, words):
+        lines = file.read_bytes().decode("cp1252").split("\r\n")
+        rows = [("English", "Spanish"), *words]
+        self.assertEqual(lines[14:17], [str(len(words)), "", "[Vocabulary]"])
+        self.assertEqual(
+            lines[17:], [line for first, second in rows for line in (first + "   [0000000285]", second)] + [""]
+        )
+
+    # Quizzes
+
+    def start_quiz(self, entry):
+        self.choose_with_mouse("Quiz", entry + "...")
+        self.quiz = self.desktop.wait_for("dialog", f"{entry} - holiday")
+        self.expect_active("dialog", self.quiz.name)
+
+    def shown(self, role="label"):
+        return [item.name for item in self.desktop.find_all(role, within=self.quiz)]
+
+    def expect_shown(self, *texts, counted=None):
+        """Waits until the quiz shows these texts and, if counters are given, exactly these."""
+        def shows():
+            shown = self.shown()
+            return set(texts) <= set(shown) and counted in (None, {text for text in shown if ": " in text})
+
+        self.desktop.wait(shows, lambda: f"{texts} and {counted} instead of {self.shown()}")
+
+    def press(self, button):
+        self.desktop.click_on(self.desktop.wait_for("push button", button, self.quiz))
+
+    def take_hint(self, expected):
+        self.desktop.key("alt+h")
+        answer = self.desktop.wait_for("text", "Answer in Spanish", self.quiz).queryText()
+        self.desktop.wait(lambda: answer.getText(0, -1) == expected, lambda: f"{expected} as hint")
+
+    def close_quiz(self, key):
+        self.close_dialog(self.quiz.name, key)
+        self.desktop.wait(lambda: self.desktop.is_active(self.desktop.find("frame", "Glosaria")), "the list to be back")
+
+    def answer_by_typing(self):
+        """Bread is known; gato needs one hint; perro is wrong; the rest is not known. What was missed comes again."""
+        self.start_quiz("Question and Answer")
+        self.expect_shown("English", "bread", "Spanish", counted=counters(5, None, None, None))
+        self.desktop.type("pan\r")
+        self.expect_shown("cat", "Previous Word", "bread", "Your Answer", "pan", counted=counters(5, 1, 1, None))
+        self.desktop.type("gX")
+        self.take_hint("ga")
+        self.desktop.type("to\r")
+        self.expect_shown("dog", "gato", counted=counters(5, 2, 2, None))
+        self.desktop.type("Perro\r")
+        self.expect_shown("house", "dog", "Perro", "Correct Answer", "perro", counted=counters(5, 3, 2, 1))
+        self.desktop.key("alt+t")
+        for letters in ("c", "ca", "cas", "casa"):
+            self.take_hint(letters)
+        self.desktop.key("Return")
+        self.expect_shown("tree", "house", "Correct Answer", "casa", counted=counters(5, 4, 2, 2))
+        self.desktop.key("Return")
+        self.expect_shown("Summary", "2 of 5 answered correctly", "tree", "árbol", counted=counters(5, 5, 2, 3))
+
+        self.press("Repeat Errors")
+        self.expect_shown("dog", counted=counters(3, None, None, None))
+        self.desktop.type("perro\rcasa\rárbol\r")
+        self.expect_shown("Summary", "3 of 3 answered correctly", counted=counters(3, 3, 3, 0))
+        self.close_quiz("Return")
+
+    def answer_by_choosing(self):
+        self.start_quiz("Multiple Choice")
+        missed = "dog"
+        for asked, (first, second) in enumerate(sorted(WORDS), 1):
+            self.expect_shown(first)
+            options = [option.split(" ", 1)[1] for option in self.shown("radio button")]
+            self.assertEqual(len(set(options)), 3)
+            right = options.index(second) + 1
+            self.desktop.key(str(right % 3 + 1 if first == missed else right), "Return")
+            wrong = int(first >= missed)
+            self.expect_shown(counted=counters(5, asked, asked - wrong, wrong or (0 if asked == 5 else None)))
+        self.expect_shown("Summary", "4 of 5 answered correctly")
+        self.press("Repeat Errors")
+        self.expect_shown(missed, counted=counters(1, None, None, None))
+        self.desktop.key(str([option.split(" ", 1)[1] for option in self.shown("radio button")].index("perro") + 1))
+        self.press("Check")
+        self.expect_shown("1 of 1 answered correctly")
+        self.close_quiz("Return")
+
+    def practise(self):
+        """Backwards, for which the mode is changed; the words are spelled letter by letter before they count."""
+        self.desktop.key("alt+m", "2")
+        self.desktop.wait_for("frame", "Spanish -> English In Order")
+        self.start_quiz("Practice")
+        self.expect_shown("Spanish", "pan", "English")
+        known = {"bread", "dog"}
+        for first, second in sorted(WORDS):
+            self.expect_shown(second)
+            self.desktop.key("alt+k" if first in known else "alt+o")
+            self.desktop.wait(lambda first=first: first[:2] in self.shown() or first in self.shown(), "the spelling")
+            self.expect_shown("Previous Word", second, "Your Answer")
+        self.expect_shown("Summary", "2 of 5 answered correctly", counted=counters(5, 5, 2, 3))
+        self.close_quiz("Escape")
+        self.desktop.key("alt+m", "1")
+
+    # Paper
+
+    def print_list(self):
+        """To the file that is proposed."""
+        pdf = self.home / "Glosaria - holiday.pdf"
+        self.open_dialog("Print", "alt+f", "p")
+        self.close_dialog("Print", "Return")
+        self.desktop.wait(pdf.exists, "the PDF file")
+        text = self.desktop.tool("pdftotext", "-layout", pdf, "-")
+        numbered = [[str(number), *words] for number, words in enumerate(sorted(WORDS), 1)]
+        self.assertEqual(
+            [line.split() for line in text.splitlines() if line.strip()],
+            [["Glosaria", "-", "holiday"], ["English", "Spanish"], *numbered, ["1"]],
+        )
+
+    def preview(self):
+        self.desktop.key("alt+f", "v")
+        self.desktop.wait_for(name="Page 1 of 1")
+        self.desktop.key("Escape")
+        self.desktop.wait_for("frame", "holiday")
+
+    # Loss
+
+    def lose_an_edit(self, program):
+        """Types over a word, waits as long as the program promises to need for a copy, and pulls the plug."""
+        self.desktop.key("ctrl+Home")
+        self.desktop.type("loaf\r")
+        self.expect_column(0, ["loaf"])
+        self.desktop.wait(lambda: list(self.home.glob("state/**/*.copy")), "the copy of what was not saved")
+        self.desktop.kill(program)
+
+    def recover(self, file):
+        program = self.desktop.start("--no-splash")
+        self.expect_active("dialog", "Recovered Vocabularies")
+        self.desktop.key("alt+r")
+        edited = [("loaf", "pan"), *sorted(WORDS)[1:]]
+        self.expect_column(0, [first for first, _ in edited] + [""])
+        self.check_file(file, sorted(WORDS))
+        self.desktop.key("alt+f", "s")
+        self.desktop.wait(lambda: b"loaf" in file.read_bytes(), "the saved word")
+        self.check_file(file, edited)
+        self.desktop.key("alt+f", "c")
+        self.desktop.wait(lambda: not self.desktop.find("table"), "the list to close")
+        self.assertEqual(self.desktop.quit(program), 0)
+        # Nothing is left to recover: no dialog keeps the keys from the menu.
+        self.desktop.start("--no-splash")
+        self.expect_active("frame", "Glosaria")
+        self.desktop.key("alt+f", "n")
+        self.desktop.wait_for("frame", "Untitled 1")
+
+
+if __name__ == "__main__":
+    run()
