@@ -100,7 +100,7 @@ TEST_F(StatusBarTest, MenuHelpFollowsTheHighlight)
     QAction *enabled = menu.addAction(QStringLiteral("a"));
     QAction *disabled = menu.addAction(QStringLiteral("b"));
     disabled->setEnabled(false);
-    help.watch(&menu, [](const QAction *action) { return QStringLiteral("does ") + action->text(); });
+    help.watch(&menu, [](const QAction *action) -> QString { return QStringLiteral("does ") + action->text(); });
     menu.popup(QPoint(0, 0));
     menu.setActiveAction(enabled);
     EXPECT_EQ(bar.text(0), QStringLiteral("does a"));
