@@ -4,8 +4,8 @@ with Desktop("build/dev/glosaria") as desktop:
     desktop.start("words.gla")
     desktop.key("ctrl+s")
 
-Everything the desktop started ends with it or with its display. What is missing on the machine raises an error that names it; what is
-waited for in vain leaves a picture of the desktop in the working folder.
+Everything the desktop started ends with it or with its display. What is missing on the machine raises an error that
+names it; what is waited for in vain leaves a picture of the desktop in the working folder.
 """
 
 import itertools
@@ -253,7 +253,8 @@ class Desktop:
 
     def _start_display(self):
         server = self._launch(
-            "Xvfb", "-displayfd", "1", "-screen", "0", self._size + "x24", "-nolisten", "tcp", stdout=subprocess.PIPE
+            "Xvfb", "-displayfd", "1", "-screen", "0", self._size + "x24", "-noreset", "-nolisten", "tcp",
+            stdout=subprocess.PIPE,
         )
         number = self._first_line(server)
         if not number:
