@@ -1,5 +1,6 @@
 #include "document/RecoveryKeeper.h"
 #include "document/ctlGrid.h"
+#include "support/Files.h"
 #include "support/OpenFiles.h"
 
 #include <QDir>
@@ -20,10 +21,10 @@ struct Program : OpenFiles
 struct RecoveryTest : ::testing::Test
 {
     QTemporaryDir home;
-    QString folder = home.filePath(QStringLiteral("recovery"));
+    QString folder = home.filePath("recovery");
     std::unique_ptr<Program> run = std::make_unique<Program>(folder);
 
-    size_t copies() const { return size_t(QDir(folder).entryList({QStringLiteral("*.copy")}).size()); }
+    size_t copies() const { return size_t(QDir(folder).entryList({"*.copy"}).size()); }
     void restart()
     {
         run.reset();
@@ -39,11 +40,11 @@ TEST_F(RecoveryTest, WhatWasChangedComesBackUnderItsName)
     run->keeper.flush();
     EXPECT_EQ(copies(), 0u) << "nothing has changed";
     ctlGrid &grid = *document->Rutor();
-    grid.setTextMatrix(3, 2, QStringLiteral("só aqui 猫"));
+    grid.setTextMatrix(3, 2, "só aqui 猫");
     grid.setRowHeight(3, 777);
     run->keeper.flush();
     EXPECT_EQ(copies(), 1u) << "by content, also while the document is not marked as changed";
-    grid.setTextMatrix(3, 2, QStringLiteral("later"));
+    grid.setTextMatrix(3, 2, "later");
     run->keeper.flush();
     EXPECT_EQ(copies(), 1u);
     EXPECT_TRUE(run->keeper.orphans().empty()) << "a running program's own copies are not offered";
@@ -55,15 +56,15 @@ TEST_F(RecoveryTest, WhatWasChangedComesBackUnderItsName)
     restart();
     std::vector<RecoveryFolder::Orphan> orphans = run->keeper.orphans();
     ASSERT_EQ(orphans.size(), 1u);
-    EXPECT_EQ(orphans.front().copy.caption, QStringLiteral("Untitled 1"));
+    EXPECT_EQ(orphans.front().copy.caption, "Untitled 1");
     EXPECT_LT(orphans.front().copy.time.secsTo(QDateTime::currentDateTime()), 60);
     run->keeper.recover(orphans.front());
     ASSERT_EQ(run->documents.open().size(), 1u);
     const frmDoc &recovered = *run->documents.open().front();
-    EXPECT_EQ(recovered.Caption(), QStringLiteral("Untitled 1"));
+    EXPECT_EQ(recovered.Caption(), "Untitled 1");
     EXPECT_TRUE(recovered.Dirty());
     EXPECT_EQ(recovered.Rutor()->Rows(), 101);
-    EXPECT_EQ(recovered.Rutor()->TextMatrix(3, 2), QStringLiteral("later"));
+    EXPECT_EQ(recovered.Rutor()->TextMatrix(3, 2), "later");
     EXPECT_EQ(recovered.Rutor()->RowHeight(3), 777);
 
     restart();
@@ -77,26 +78,26 @@ TEST_F(RecoveryTest, AWordThatIsStillBeingTypedIsKeptToo)
     frmDoc *document = run->newDocument();
     QApplication::setActiveWindow(document);
     document->Rutor()->Select(2, 1, 2, 1);
-    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("unfinished"));
+    QTest::keyClicks(QApplication::focusWidget(), "unfinished");
     run->keeper.flush();
     restart();
     ASSERT_EQ(run->keeper.orphans().size(), 1u);
-    EXPECT_EQ(run->keeper.orphans().front().copy.vocabulary.first[2], QStringLiteral("unfinished"));
+    EXPECT_EQ(run->keeper.orphans().front().copy.vocabulary.first[2], "unfinished");
 }
 
 TEST_F(RecoveryTest, TheCopyGoesWhenTheChangesAreSavedOrGivenUp)
 {
     frmDoc *document = run->newDocument();
-    document->Rutor()->setTextMatrix(1, 1, QStringLiteral("word"));
+    document->Rutor()->setTextMatrix(1, 1, "word");
     document->setDirty(true);
     run->keeper.flush();
-    run->prompts.savePath = home.filePath(QStringLiteral("kept.gla"));
+    run->prompts.savePath = home.filePath("kept.gla");
     run->files.save();
     EXPECT_EQ(copies(), 0u);
     run->keeper.flush();
     EXPECT_EQ(copies(), 0u);
 
-    document->Rutor()->setTextMatrix(1, 1, QStringLiteral("other"));
+    document->Rutor()->setTextMatrix(1, 1, "other");
     document->setDirty(true);
     run->keeper.flush();
     EXPECT_EQ(copies(), 1u);
@@ -107,22 +108,18 @@ TEST_F(RecoveryTest, TheCopyGoesWhenTheChangesAreSavedOrGivenUp)
 
 TEST_F(RecoveryTest, AnUnsavedDocumentThatClosesLeavesItsCopy)
 {
-    struct Case
-    {
-        const char *name;
-        bool dirty;
-    };
-    for (const Case &c : {Case{"the save dialog was cancelled", true}, Case{"no question was asked", false}}) {
+    for (const auto &[name, dirty] :
+         {std::pair("the save dialog was cancelled", true), {"no question was asked", false}}) {
         frmDoc *document = run->newDocument();
-        document->Rutor()->setTextMatrix(1, 1, QLatin1String(c.name));
-        document->setDirty(c.dirty);
+        document->Rutor()->setTextMatrix(1, 1, name);
+        document->setDirty(dirty);
         run->alert.answers = {AlertBox::AnswerYes};
         run->files.closeActive();
         EXPECT_TRUE(run->documents.open().empty());
         run->alert.answers.clear();
         restart();
-        ASSERT_EQ(run->keeper.orphans().size(), 1u) << c.name;
-        EXPECT_EQ(run->keeper.orphans().front().copy.vocabulary.first[1], QLatin1String(c.name));
+        ASSERT_EQ(run->keeper.orphans().size(), 1u) << name;
+        EXPECT_EQ(run->keeper.orphans().front().copy.vocabulary.first[1], name);
         run->keeper.discard(run->keeper.orphans().front());
     }
 }
@@ -130,18 +127,15 @@ TEST_F(RecoveryTest, AnUnsavedDocumentThatClosesLeavesItsCopy)
 TEST_F(RecoveryTest, DamagedCopiesAreNeitherOfferedNorDeleted)
 {
     frmDoc *document = run->newDocument();
-    document->Rutor()->setTextMatrix(1, 1, QStringLiteral("word"));
+    document->Rutor()->setTextMatrix(1, 1, "word");
     run->keeper.flush();
     restart();
     const QString path = run->keeper.orphans().front().path;
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray whole = file.readAll();
+    const QByteArray whole = readFile(path);
     for (qsizetype size = 0; size < whole.size(); size += 7)
         EXPECT_FALSE(RecoveryCopy::fromBytes(whole.left(size))) << size;
     EXPECT_FALSE(RecoveryCopy::fromBytes(whole + 'x'));
-    file.close();
-    file.resize(whole.size() / 2);
+    writeFile(path, whole.left(whole.size() / 2));
     EXPECT_TRUE(run->keeper.orphans().empty());
     EXPECT_EQ(copies(), 1u);
 }
@@ -149,9 +143,9 @@ TEST_F(RecoveryTest, DamagedCopiesAreNeitherOfferedNorDeleted)
 TEST_F(RecoveryTest, TheFileOfARecoveredDocumentIsKnownAgain)
 {
     frmDoc *document = run->newDocument();
-    run->prompts.savePath = home.filePath(QStringLiteral("shared.gla"));
+    run->prompts.savePath = home.filePath("shared.gla");
     run->files.save();
-    document->Rutor()->setTextMatrix(1, 1, QStringLiteral("word"));
+    document->Rutor()->setTextMatrix(1, 1, "word");
     run->keeper.flush();
     restart();
     run->keeper.recover(run->keeper.orphans().front());

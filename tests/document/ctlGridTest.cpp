@@ -9,23 +9,22 @@
 namespace {
 
 /// A grid as a document window sets it up, shown and with the focus, that writes down what it tells its container.
-class GridEditing : public ::testing::Test
+struct GridEditing : ::testing::Test
 {
-protected:
     GridEditing()
     {
         grid.loadProperties(ctlGrid::documentDesign());
         grid.setRowNumbers(true);
         grid.setColWidth(-1, 2000);
         grid.resize(500, 300);
-        grid.setTextMatrix(1, 1, QStringLiteral("house"));
+        grid.setTextMatrix(1, 1, "house");
         grid.Select(1, 1, 1, 1);
         grid.show();
         grid.activateWindow();
         grid.setFocus();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&grid));
         QObject::connect(&grid, &ctlGrid::BeforeEdit, &grid, [this](int &, int &, bool &cancel) {
-            log << QStringLiteral("before");
+            log << "before";
             cancel = refuse;
         });
         QObject::connect(&grid, &ctlGrid::AfterEdit, &grid, [this](int &row, int &col, QString &text) {
@@ -50,62 +49,50 @@ protected:
 
 TEST_F(GridEditing, TypingReplacesTheTextAndEnterCommitsIt)
 {
-    type(QStringLiteral("a"));
-    EXPECT_EQ(grid.EditText(), QStringLiteral("a"));
-    EXPECT_EQ(grid.hwndText()->cursorPosition(), 1);
+    type("a");
     EXPECT_TRUE(grid.hwndText()->hasFocus());
     key(Qt::Key_Return);
-    EXPECT_FALSE(grid.EditMode());
     EXPECT_TRUE(grid.hwndGrid()->hasFocus());
-    EXPECT_EQ(cell(1, 1), QStringLiteral("a"));
+    EXPECT_EQ(cell(1, 1), "a");
     EXPECT_EQ(log, QStringList({"key 97", "before", "after 1 1 a", "key 13"}));
 }
 
 TEST_F(GridEditing, WhatIsTypedDecidesWhatTheBoxHolds)
 {
-    struct Case
-    {
-        int keyAscii;
-        const char *text;
-    };
-    for (const Case &c : {Case{'x', "x"}, Case{32, "house"}, Case{27, "house"}, Case{8, "house"}, Case{0, "house"},
-                          Case{0x1F600, "\U0001F600"}, Case{0xE9, "\u00e9"}, Case{int(qint16(0x9F8D)), "\u9f8d"}}) {
-        grid.GridEdit(c.keyAscii);
-        EXPECT_EQ(grid.EditText(), QString::fromUtf8(c.text)) << c.keyAscii;
-        EXPECT_EQ(grid.hwndText()->cursorPosition(), grid.EditText().size());
+    const std::pair<int, QString> cases[] = {
+        {'x', "x"}, {0, "house"}, {0x1F600, "\U0001F600"}, {0xE9, "\u00e9"}, {int(qint16(0x9F8D)), "\u9f8d"}};
+    for (const auto &[keyAscii, text] : cases) {
+        grid.GridEdit(keyAscii);
+        EXPECT_EQ(grid.EditText(), text);
+        EXPECT_EQ(grid.hwndText()->cursorPosition(), text.size());
         key(Qt::Key_Escape);
-        EXPECT_EQ(cell(1, 1), QStringLiteral("house"));
+        EXPECT_EQ(cell(1, 1), "house");
     }
 }
 
 TEST_F(GridEditing, KeysThatOpenTheBox)
 {
-    const auto text = [this] {
-        const QString opened = grid.EditMode() ? grid.EditText() : QStringLiteral("(browsing)");
+    const auto opens = [this] {
+        const bool opened = grid.EditMode() && grid.EditText() == "house";
         grid.setEditMode(false);
         return opened;
     };
-    const std::pair<Qt::Key, const char *> cases[] = {{Qt::Key_Space, "house"},    {Qt::Key_Backspace, "house"},
-                                                      {Qt::Key_Escape, "house"},   {Qt::Key_Return, "(browsing)"},
-                                                      {Qt::Key_Tab, "(browsing)"}, {Qt::Key_Delete, "(browsing)"},
-                                                      {Qt::Key_F2, "(browsing)"},  {Qt::Key_Left, "(browsing)"}};
-    for (const auto &[code, expected] : cases) {
-        key(code);
-        EXPECT_EQ(text(), QString::fromLatin1(expected)) << code;
+    for (const char *keys : {"Space", "Backspace", "Esc"}) {
+        QTest::keySequence(grid.hwndGrid(), QKeySequence(keys));
+        EXPECT_TRUE(opens()) << keys;
     }
-    QTest::keyClick(grid.hwndGrid(), Qt::Key_Q, Qt::ControlModifier);
-    QTest::keyClick(grid.hwndGrid(), Qt::Key_Q, Qt::AltModifier);
-    EXPECT_EQ(text(), QStringLiteral("(browsing)"));
-    grid.setEditMode(true);
-    EXPECT_EQ(text(), QStringLiteral("house"));
+    for (const char *keys : {"Return", "Tab", "Del", "F2", "Left", "Ctrl+Q", "Alt+Q"}) {
+        QTest::keySequence(grid.hwndGrid(), QKeySequence(keys));
+        EXPECT_FALSE(opens()) << keys;
+    }
     const QPoint at = grid.hwndGrid()->cellRect(1, 1).center();
     QTest::mouseDClick(grid.hwndGrid()->viewport(), Qt::LeftButton, {}, at);
-    EXPECT_EQ(text(), QStringLiteral("house"));
+    EXPECT_TRUE(opens());
     QTest::mouseDClick(grid.hwndGrid()->viewport(), Qt::LeftButton, {}, QPoint(at.x(), 5));
-    EXPECT_EQ(text(), QStringLiteral("(browsing)")) << "a header is no cell to edit";
+    EXPECT_FALSE(opens()) << "a header is no cell to edit";
 }
 
-TEST_F(GridEditing, TheContainerMayChangeOrSwallowWhatIsTyped)
+TEST_F(GridEditing, TheContainerMayChangeOrRefuseWhatIsTyped)
 {
     QObject::connect(&grid, &ctlGrid::KeyPress, &grid, [](int &code) {
         if (code == 'q')
@@ -113,70 +100,59 @@ TEST_F(GridEditing, TheContainerMayChangeOrSwallowWhatIsTyped)
         if (code == 'w')
             code = 'W';
     });
-    type(QStringLiteral("q"));
+    QObject::connect(&grid, &ctlGrid::AfterEdit, &grid, [](int &, int &, QString &text) { text += '!'; });
+    type("q");
     EXPECT_FALSE(grid.EditMode());
-    type(QStringLiteral("w"));
-    type(QStringLiteral("xqw"));
-    EXPECT_EQ(grid.EditText(), QStringLiteral("WxW"));
+    type("w");
+    type("xqw");
+    EXPECT_EQ(grid.EditText(), "WxW");
+    key(Qt::Key_Return);
+    EXPECT_EQ(cell(1, 1), "WxW!");
     refuse = true;
-    key(Qt::Key_Escape);
-    type(QStringLiteral("x"));
+    type("x");
     EXPECT_FALSE(grid.EditMode()) << "BeforeEdit cancelled";
 }
 
 TEST_F(GridEditing, EditingALongCellKeepsAllOfIt)
 {
-    const QString text(40000, u'x');
-    grid.setTextMatrix(1, 1, text);
+    grid.setTextMatrix(1, 1, QString(40000, u'x'));
     key(Qt::Key_Space);
-    type(QStringLiteral("y"));
+    type("y");
     key(Qt::Key_Return);
-    EXPECT_EQ(cell(1, 1), QString(text + u'y'));
+    EXPECT_EQ(cell(1, 1).size(), 40001);
 }
 
 TEST_F(GridEditing, ArrowsCommitAndMove)
 {
-    struct Case
-    {
-        int row;
-        Qt::Key key;
-        int after;
-    };
-    for (const Case &c :
-         {Case{1, Qt::Key_Down, 2}, Case{100, Qt::Key_Down, 100}, Case{2, Qt::Key_Up, 1}, Case{1, Qt::Key_Up, 1}}) {
-        grid.Select(c.row, 1, c.row, 1);
-        type(QStringLiteral("n"));
-        key(c.key);
+    const std::tuple<int, Qt::Key, int> cases[] = {
+        {1, Qt::Key_Down, 2}, {100, Qt::Key_Down, 100}, {2, Qt::Key_Up, 1}, {1, Qt::Key_Up, 1}};
+    for (const auto &[row, arrow, after] : cases) {
+        grid.Select(row, 1, row, 1);
+        type("n");
+        key(arrow);
         EXPECT_FALSE(grid.EditMode());
-        EXPECT_EQ(cell(c.row, 1), QStringLiteral("n"));
-        EXPECT_EQ(grid.Row(), c.after) << c.row << " " << c.key;
+        EXPECT_EQ(cell(row, 1), "n");
+        EXPECT_EQ(grid.Row(), after) << row << " " << arrow;
     }
 }
 
 TEST_F(GridEditing, LeavingTheCellOrReturningToTheGridCommits)
 {
-    type(QStringLiteral("x"));
-    grid.setRow(3);
-    EXPECT_EQ(cell(1, 1), QStringLiteral("x"));
-    EXPECT_EQ(log.last(), QStringLiteral("after 1 1 x"));
-    type(QStringLiteral("y"));
-    QTest::mouseClick(grid.hwndGrid()->viewport(), Qt::LeftButton, {}, grid.hwndGrid()->cellRect(5, 2).center());
-    EXPECT_EQ(cell(3, 1), QStringLiteral("y"));
-    type(QStringLiteral("z"));
-    grid.setFocus();
-    EXPECT_EQ(cell(5, 2), QStringLiteral("z"));
-    type(QStringLiteral("moved"));
-    grid.insertRows(1, 1);
-    EXPECT_EQ(cell(6, 2), QStringLiteral("moved")) << "into its own cell, before the rows move";
-}
-
-TEST_F(GridEditing, EditingTheSameCellAgainLosesNothing)
-{
-    type(QStringLiteral("typed"));
+    type("x");
     grid.setEditMode(true);
-    EXPECT_EQ(grid.EditText(), QStringLiteral("typed"));
-    EXPECT_EQ(log.last(), QStringLiteral("before"));
-    EXPECT_EQ(cell(1, 1), QStringLiteral("typed"));
+    EXPECT_EQ(grid.EditText(), "x") << "the same cell again";
+    grid.setRow(3);
+    EXPECT_EQ(cell(1, 1), "x");
+    EXPECT_EQ(log.last(), "after 1 1 x");
+    type("y");
+    QTest::mouseClick(grid.hwndGrid()->viewport(), Qt::LeftButton, {}, grid.hwndGrid()->cellRect(5, 2).center());
+    EXPECT_EQ(cell(3, 1), "y");
+    type("z");
+    grid.setFocus();
+    EXPECT_EQ(cell(5, 2), "z");
+    type("moved");
+    grid.insertRows(1, 1);
+    EXPECT_EQ(cell(6, 2), "moved") << "into its own cell, before the rows move";
 }
 
 TEST_F(GridEditing, WhileSearchingTheFocusAloneDoesNotCommit)
@@ -184,30 +160,20 @@ TEST_F(GridEditing, WhileSearchingTheFocusAloneDoesNotCommit)
     flags.FindMode = true;
     grid.setEditMode(true);
     grid.SelectEditText(1, 2);
-    EXPECT_EQ(grid.SelText(), QStringLiteral("ou"));
     grid.setFocus();
-    EXPECT_TRUE(grid.EditMode());
-    grid.setSelText(QStringLiteral("OU"));
-    EXPECT_EQ(grid.EditText(), QStringLiteral("hOUse"));
+    EXPECT_EQ(grid.SelText(), "ou");
+    grid.setSelText("OU");
+    EXPECT_EQ(grid.EditText(), "hOUse");
     grid.setTextMatrix(1, 1, grid.EditText());
     grid.setEditMode(false);
-    EXPECT_FALSE(grid.EditMode());
     EXPECT_EQ(log, QStringList({"before"})) << "the cell holds the text already";
     grid.setEditMode(true);
-    type(QStringLiteral("s"));
+    type("s");
     grid.setEditMode(false);
-    EXPECT_EQ(log.last(), QStringLiteral("after 1 1 hOUses")) << "what was typed is not lost";
+    EXPECT_EQ(log.last(), "after 1 1 hOUses") << "what was typed is not lost";
     grid.setEditMode(true);
     grid.setRow(2);
     EXPECT_FALSE(grid.EditMode()) << "leaving the cell commits, also while searching";
-}
-
-TEST_F(GridEditing, AContainerMayCorrectTheCommittedText)
-{
-    QObject::connect(&grid, &ctlGrid::AfterEdit, &grid, [](int &, int &, QString &text) { text = text.toUpper(); });
-    type(QStringLiteral("abc"));
-    key(Qt::Key_Return);
-    EXPECT_EQ(cell(1, 1), QStringLiteral("ABC"));
 }
 
 TEST_F(GridEditing, TheBoxLiesOverItsCellAndStaysInsideTheCells)
@@ -216,52 +182,30 @@ TEST_F(GridEditing, TheBoxLiesOverItsCellAndStaysInsideTheCells)
         return grid.hwndGrid()->cellRect(grid.Row(), grid.Col()).translated(grid.hwndGrid()->viewport()->pos());
     };
     grid.Select(5, 2, 5, 2);
-    type(QStringLiteral("t"));
+    type("t");
     EXPECT_EQ(grid.hwndText()->geometry(), cellInGrid().adjusted(0, 0, -1, -1));
     EXPECT_EQ(grid.hwndText()->font(), grid.Font());
-    EXPECT_EQ(grid.hwndText()->accessibleName(), QStringLiteral("Cell B5"));
+    EXPECT_EQ(grid.hwndText()->accessibleName(), "Cell B5");
     grid.setTopRow(4);
     grid.setColWidth(1, 3000);
     EXPECT_EQ(grid.hwndText()->geometry(), cellInGrid().adjusted(0, 0, -1, -1));
     grid.setTopRow(50);
     EXPECT_TRUE(grid.EditMode());
     EXPECT_FALSE(grid.rect().intersects(grid.hwndText()->geometry())) << "scrolled away";
-    type(QStringLiteral("u"));
+    type("u");
     EXPECT_TRUE(grid.RowIsVisible(5)) << "typing brings it back";
-    EXPECT_EQ(grid.EditText(), QStringLiteral("tu"));
+    EXPECT_EQ(grid.EditText(), "tu");
 }
 
-TEST_F(GridEditing, UndoInTheBoxTogglesTheLastTyping)
+TEST_F(GridEditing, TheBoxPastesOneLineOnEveryWay)
 {
     ctlGridEdit &box = *grid.hwndText();
     grid.setEditMode(true);
-    EXPECT_FALSE(box.canUndoText());
-    type(QStringLiteral("boat"));
-    EXPECT_TRUE(box.canUndoText());
-    for (const char *text : {"house", "houseboat", "house"}) {
-        box.undoText();
-        EXPECT_EQ(grid.EditText(), QString::fromLatin1(text));
-        EXPECT_TRUE(box.canUndoText());
-    }
-    type(QStringLiteral("x"));
-    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(grid.EditText(), QStringLiteral("house"));
-}
-
-TEST_F(GridEditing, TheBoxCutsCopiesAndPastesOneLine)
-{
-    ctlGridEdit &box = *grid.hwndText();
-    grid.setEditMode(true);
-    grid.SelectEditText(0, 3);
-    box.cutText();
-    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("hou"));
-    EXPECT_EQ(grid.EditText(), QStringLiteral("se"));
-    QApplication::clipboard()->setText(QStringLiteral("a\r\nb\u2028c"));
+    QApplication::clipboard()->setText("a\r\nb\u2028c");
     box.pasteText();
-    EXPECT_EQ(grid.EditText(), QStringLiteral("a b cse"));
     QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
     box.paste(); // as the box's own menu does
-    EXPECT_EQ(grid.EditText(), QStringLiteral("a b ca b ca b cse"));
+    EXPECT_EQ(grid.EditText(), "housea b ca b ca b c");
 }
 
 TEST_F(GridEditing, ComposedTextOpensTheBox)
@@ -271,27 +215,24 @@ TEST_F(GridEditing, ComposedTextOpensTheBox)
         event.setCommitString(commit);
         QCoreApplication::sendEvent(focusTarget(), &event);
     };
-    send(QString(), QStringLiteral("\u00e9"));
-    EXPECT_EQ(grid.EditText(), QStringLiteral("\u00e9"));
-    send(QString(), QStringLiteral("t\u00e9"));
-    EXPECT_EQ(grid.EditText(), QStringLiteral("\u00e9t\u00e9"));
-    key(Qt::Key_Return);
-    EXPECT_EQ(log, QStringList({"key 233", "before", "key 116", "key 233", u"after 1 1 \u00e9t\u00e9"_qs, "key 13"}));
-    send(QStringLiteral("ni"), QString());
+    send("", "\u00e9");
+    EXPECT_EQ(grid.EditText(), "\u00e9");
+    send("", "t\u00e9");
+    EXPECT_EQ(grid.EditText(), "\u00e9t\u00e9");
+    EXPECT_EQ(log, QStringList({"key 233", "before", "key 116", "key 233"}));
+    key(Qt::Key_Escape);
+    send("ni", "");
     EXPECT_TRUE(grid.EditMode());
-    EXPECT_EQ(grid.EditText(), QString());
-    send(QString(), QStringLiteral("\u4f60"));
-    EXPECT_EQ(grid.EditText(), QStringLiteral("\u4f60"));
+    send("", "\u4f60");
+    EXPECT_EQ(grid.EditText(), "\u4f60");
 }
 
 TEST_F(GridEditing, TabStaysAndDoesNothing)
 {
-    key(Qt::Key_Tab);
-    EXPECT_TRUE(grid.hwndGrid()->hasFocus());
-    type(QStringLiteral("a"));
+    type("a");
     key(Qt::Key_Tab);
     EXPECT_TRUE(grid.hwndText()->hasFocus());
-    EXPECT_EQ(grid.EditText(), QStringLiteral("a"));
+    EXPECT_EQ(grid.EditText(), "a");
 }
 
 TEST_F(GridEditing, EveryKeyOfTheBoxReachesTheContainerAfterwards)
@@ -312,10 +253,10 @@ TEST_F(GridEditing, EveryKeyOfTheBoxReachesTheContainerAfterwards)
 
 TEST_F(GridEditing, AutoSetupStartsAfresh)
 {
-    type(QStringLiteral("a"));
-    grid.AutoSetup(QStringLiteral("Arial"), 12, 4, 3, 2, 1, QStringLiteral("|^One|Two"));
+    type("a");
+    grid.AutoSetup("Arial", 12, 4, 3, 2, 1, "|^One|Two");
     EXPECT_FALSE(grid.EditMode());
     EXPECT_EQ(grid.Rows() * 100 + grid.Cols() * 10 + grid.FixedRows(), 432);
     EXPECT_EQ(grid.Font().pointSizeF(), 12);
-    EXPECT_EQ(cell(0, 1) + cell(1, 1), QStringLiteral("One"));
+    EXPECT_EQ(cell(0, 1) + cell(1, 1), "One");
 }

@@ -1,15 +1,19 @@
 #pragma once
 
-#include <QtGlobal>
+#include <csignal>
+#include <sys/resource.h>
 
 /// While it lives, no file of this process can grow beyond a size: writes come up short as on a full disk.
-class FileSizeLimit
+struct FileSizeLimit
 {
-public:
-    explicit FileSizeLimit(quint64 bytes);
-    ~FileSizeLimit();
-    Q_DISABLE_COPY_MOVE(FileSizeLimit)
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &before);
+        const rlimit limit{bytes, before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() { ::setrlimit(RLIMIT_FSIZE, &before); }
 
-private:
-    quint64 m_before = 0;
+    rlimit before = {};
 };

@@ -7,9 +7,8 @@
 
 /// Answers alert boxes in the user's place and keeps what they showed. Without a prepared answer it says OK, or Cancel
 /// where there is such a button.
-class ScriptedAlertBox : public AlertBox
+struct ScriptedAlertBox : AlertBox
 {
-public:
     std::deque<Answer> answers;
     std::vector<Alert> shown;
 

@@ -5,9 +5,8 @@
 #include <QStringList>
 
 /// Answers the file dialogs in the user's place: with the prepared path, or by cancelling when there is none.
-class ScriptedPrompts : public FilePrompts
+struct ScriptedPrompts : FilePrompts
 {
-public:
     QString openPath;
     QString savePath;
     QStringList proposed; ///< the names that save dialogs offered

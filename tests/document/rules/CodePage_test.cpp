@@ -10,9 +10,8 @@ const char *const AllNames[] = {"windows-1250", "windows-1251", "windows-1252", 
                                 "windows-1255", "windows-1256", "windows-1257", "windows-1258", "windows-874",
                                 "windows-932",  "windows-936",  "windows-949",  "windows-950"};
 
-class EveryCodePage : public ::testing::TestWithParam<const char *>
+struct EveryCodePage : ::testing::TestWithParam<const char *>
 {
-protected:
     const CodePage m_codePage{GetParam()};
 };
 
@@ -50,12 +49,7 @@ TEST_P(EveryCodePage, WritesNothingThatReadsDifferently)
         }
     }
     EXPECT_GT(written, 10000);
-}
-
-TEST_P(EveryCodePage, RefusesWhatHasNoPlace)
-{
-    for (const QString &text : {QStringLiteral("\U0001F3E0"), QString(QChar(0xD83C)), QStringLiteral("a\uFFFD"),
-                                QStringLiteral("\u0915\u0916")})
+    for (const QString &text : {QString("\U0001F3E0"), QString(QChar(0xD83C)), QString("a\uFFFD"), QString("\u0915")})
         EXPECT_FALSE(m_codePage.encode(text)) << qPrintable(text);
 }
 
@@ -63,33 +57,28 @@ INSTANTIATE_TEST_SUITE_P(CodePage, EveryCodePage, ::testing::ValuesIn(AllNames))
 
 TEST(CodePage, LettersHaveTheirBytes)
 {
-    const struct
-    {
-        const char *name;
-        QString text;
-        QByteArray bytes;
-    } cases[] = {
-        {"windows-1250", QStringLiteral("Łódź"), "\xA3\xF3\x64\x9F"},
-        {"windows-1251", QStringLiteral("Дом"), "\xC4\xEE\xEC"},
-        {"windows-1252", QStringLiteral("€é\u0081\u008D\u008F\u0090\u009D"), "\x80\xE9\x81\x8D\x8F\x90\x9D"},
-        {"windows-1253", QStringLiteral("Ωμή"), "\xD9\xEC\xDE"},
-        {"windows-1254", QStringLiteral("ışğ"), "\xFD\xFE\xF0"},
-        {"windows-1255", QStringLiteral("שלום"), "\xF9\xEC\xE5\xED"},
-        {"windows-1256", QStringLiteral("بيت"), "\xC8\xED\xCA"},
-        {"windows-1257", QStringLiteral("ąž"), "\xE0\xFE"},
-        {"windows-1258", QStringLiteral("a\u0301đ"), "\x61\xEC\xF0"},
-        {"windows-874", QStringLiteral("บ้าน"), "\xBA\xE9\xD2\xB9"},
-        {"windows-932", QStringLiteral("家ソ\\~纊ｱ"), "\x89\xC6\x83\x5C\x5C\x7E\xFA\x5C\xB1"},
-        {"windows-936", QStringLiteral("房子€"), "\xB7\xBF\xD7\xD3\x80"},
-        {"windows-949", QStringLiteral("집똠"), "\xC1\xFD\x8C\x63"},
-        {"windows-950", QStringLiteral("功許"), "\xA5\x5C\xB3\x5C"},
+    const std::tuple<const char *, QString, QByteArray> cases[] = {
+        {"windows-1250", "Łódź", "\xA3\xF3\x64\x9F"},
+        {"windows-1251", "Дом", "\xC4\xEE\xEC"},
+        {"windows-1252", "€é\u0081\u008D\u008F\u0090\u009D", "\x80\xE9\x81\x8D\x8F\x90\x9D"},
+        {"windows-1253", "Ωμή", "\xD9\xEC\xDE"},
+        {"windows-1254", "ışğ", "\xFD\xFE\xF0"},
+        {"windows-1255", "שלום", "\xF9\xEC\xE5\xED"},
+        {"windows-1256", "بيت", "\xC8\xED\xCA"},
+        {"windows-1257", "ąž", "\xE0\xFE"},
+        {"windows-1258", "a\u0301đ", "\x61\xEC\xF0"},
+        {"windows-874", "บ้าน", "\xBA\xE9\xD2\xB9"},
+        {"windows-932", "家ソ\\~纊ｱ", "\x89\xC6\x83\x5C\x5C\x7E\xFA\x5C\xB1"},
+        {"windows-936", "房子€", "\xB7\xBF\xD7\xD3\x80"},
+        {"windows-949", "집똠", "\xC1\xFD\x8C\x63"},
+        {"windows-950", "功許", "\xA5\x5C\xB3\x5C"},
     };
-    for (const auto &c : cases) {
-        const CodePage codePage(c.name);
-        EXPECT_EQ(codePage.encode(c.text).value_or("none").toHex(), c.bytes.toHex()) << c.name;
-        EXPECT_EQ(codePage.decode(c.bytes), c.text) << c.name;
+    for (const auto &[name, text, bytes] : cases) {
+        const CodePage codePage(name);
+        EXPECT_EQ(codePage.encode(text).value_or("none").toHex(), bytes.toHex()) << name;
+        EXPECT_EQ(codePage.decode(bytes), text) << name;
     }
-    EXPECT_EQ(CodePage("no-such-set").decode("\xE9"), QStringLiteral("é"));
+    EXPECT_EQ(CodePage("no-such-set").decode("\xE9"), "é");
 }
 
 TEST(CodePage, BelongsToTheLanguage)

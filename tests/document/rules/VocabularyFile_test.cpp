@@ -1,6 +1,7 @@
 #include "document/rules/VocabularyFile.h"
 
 #include "support/FileSizeLimit.h"
+#include "support/Files.h"
 #include "support/OrdinaryUser.h"
 
 #include <QDir>
@@ -11,14 +12,11 @@ namespace {
 
 using VocabularyCodec::Outcome;
 
-class VocabularyFileTest : public ::testing::Test
+struct VocabularyFileTest : ::testing::Test
 {
-protected:
-    QString path() const { return m_folder.filePath(QStringLiteral("words.gla")); }
-
-    Outcome load(Vocabulary &vocabulary) const
+    static Outcome load(const QString &from, Vocabulary &vocabulary)
     {
-        VocabularyFile file(path());
+        VocabularyFile file(from);
         const VocabularyCodec::Header header = file.readHeader();
         if (header.outcome != Outcome::Ok)
             return header.outcome;
@@ -26,78 +24,63 @@ protected:
         vocabulary = std::move(result.vocabulary);
         return result.outcome;
     }
-
-    Outcome load() const
+    Outcome load() { return load(path, vocabulary); }
+    bool save(int rows, QString *error = nullptr) const
     {
-        Vocabulary vocabulary;
-        return load(vocabulary);
+        Vocabulary words;
+        for (int i = 0; i < rows; ++i)
+            words.append(QString::number(i), "word");
+        return VocabularyFile(path).save(words, CodePage(), {}, error);
     }
 
-    static Vocabulary withRows(int count)
-    {
-        Vocabulary vocabulary;
-        vocabulary.font = VocabularyFont();
-        vocabulary.columnWidths = {340, 4000, 4000};
-        for (int i = 0; i < count; ++i)
-            vocabulary.append(QString::number(i), QStringLiteral("word"));
-        return vocabulary;
-    }
-
-    QTemporaryDir m_folder;
+    QTemporaryDir folder;
+    const QString path = folder.filePath("words.gla");
+    Vocabulary vocabulary;
 };
-
-} // namespace
 
 TEST_F(VocabularyFileTest, WhatIsNoReadableFileFails)
 {
     EXPECT_EQ(load(), Outcome::Failed);
-    ASSERT_TRUE(QDir(m_folder.path()).mkdir(QStringLiteral("words.gla")));
+    ASSERT_TRUE(QDir().mkdir(path));
     EXPECT_EQ(load(), Outcome::Failed);
-    EXPECT_FALSE(VocabularyFile(path()).save(withRows(1), CodePage()));
-    ASSERT_TRUE(QDir(m_folder.path()).rmdir(QStringLiteral("words.gla")));
-    ASSERT_EQ(::mkfifo(qPrintable(path()), 0600), 0);
+    EXPECT_FALSE(save(1));
+    ASSERT_TRUE(QDir().rmdir(path));
+    ASSERT_EQ(::mkfifo(qPrintable(path), 0600), 0);
     EXPECT_EQ(load(), Outcome::Failed);
-    ASSERT_TRUE(QFile::remove(path()));
-    ASSERT_TRUE(VocabularyFile(path()).save(withRows(1), CodePage()));
-    ASSERT_EQ(::chmod(qPrintable(path()), 0), 0);
-    ASSERT_EQ(::chmod(qPrintable(m_folder.path()), 0755), 0);
+    ASSERT_TRUE(QFile::remove(path));
+    ASSERT_TRUE(save(1));
+    ASSERT_EQ(::chmod(qPrintable(path), 0) | ::chmod(qPrintable(folder.path()), 0755), 0);
     EXPECT_TRUE(OrdinaryUser::run([this] { return load() == Outcome::Failed; }));
 }
 
 TEST_F(VocabularyFileTest, HugeFilesOfAnotherKindAreNotRead)
 {
-    QFile file(path());
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("PK") == 2 && file.resize(VocabularyFile::LargestSize));
-    file.close();
+    ASSERT_TRUE(QFile::resize(writeFile(path, "PK"), VocabularyFile::LargestSize));
     EXPECT_EQ(load(), Outcome::BadFormat);
 }
 
 TEST_F(VocabularyFileTest, FailedSaveKeepsTheOldFile)
 {
-    ASSERT_TRUE(VocabularyFile(path()).save(withRows(2000), CodePage()));
-    QString error;
+    ASSERT_TRUE(save(2000));
     {
         const FileSizeLimit limit(60000);
-        EXPECT_FALSE(VocabularyFile(path()).save(withRows(4000), CodePage(), {}, &error));
+        QString error;
+        EXPECT_FALSE(save(4000, &error));
+        EXPECT_FALSE(error.isEmpty());
     }
-    EXPECT_FALSE(error.isEmpty());
-    Vocabulary vocabulary;
-    EXPECT_EQ(load(vocabulary), Outcome::Ok);
-    EXPECT_TRUE(vocabulary == withRows(2000));
-    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(), 1);
+    EXPECT_EQ(load(), Outcome::Ok);
+    EXPECT_EQ(vocabulary.rows(), 2000);
 }
 
-TEST(VocabularySamples, AllCanBeRead)
+TEST_F(VocabularyFileTest, SamplesCanBeRead)
 {
-    const QDir folder(QStringLiteral(SOURCE_FOLDER "/samples"));
-    const QStringList names = folder.entryList({QStringLiteral("*.gla")});
-    EXPECT_FALSE(names.isEmpty());
-    for (const QString &name : names) {
-        VocabularyFile file(folder.filePath(name));
-        ASSERT_EQ(file.readHeader().outcome, Outcome::Ok) << qPrintable(name);
-        const VocabularyCodec::DecodeResult result = file.read(CodePage());
-        EXPECT_EQ(result.outcome, Outcome::Ok) << qPrintable(name);
-        EXPECT_TRUE(result.vocabulary.font && result.vocabulary.columnWidths) << qPrintable(name);
-        EXPECT_GT(result.vocabulary.rows(), 20) << qPrintable(name);
+    const QDir samples(SOURCE_FOLDER "/samples");
+    EXPECT_FALSE(samples.isEmpty());
+    for (const QString &name : samples.entryList({"*.gla"})) {
+        EXPECT_EQ(load(samples.filePath(name), vocabulary), Outcome::Ok) << qPrintable(name);
+        EXPECT_TRUE(vocabulary.font && vocabulary.columnWidths) << qPrintable(name);
+        EXPECT_GT(vocabulary.rows(), 20) << qPrintable(name);
     }
 }
+
+} // namespace
