@@ -2,6 +2,7 @@
 
 #include "platform/UserFolders.h"
 #include "support/FileSizeLimit.h"
+#include "support/Files.h"
 #include "support/OrdinaryUser.h"
 
 #include <QDir>
@@ -10,23 +11,13 @@
 
 namespace {
 
-class AtomicFileTest : public ::testing::Test
+struct AtomicFileTest : ::testing::Test
 {
-protected:
-    QString path(const char *name) const { return m_folder.filePath(QString::fromLatin1(name)); }
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+    QString put(const QString &name, const QByteArray &bytes) const { return writeFile(path(name), bytes); }
     QStringList names() const
     {
         return QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    }
-    QByteArray contentOf(const char *name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-    }
-    void put(const char *name, const QByteArray &bytes) const
-    {
-        QFile file(path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     }
 
     QTemporaryDir m_folder;
@@ -56,25 +47,22 @@ TEST_F(AtomicFileTest, PiecesOfEverySizeArriveInOrder)
         }
         return true;
     };
-    put("a.gla", QByteArray(900000, 'z'));
-    ASSERT_TRUE(AtomicFile::write(path("a.gla"), producer));
-    EXPECT_EQ(contentOf("a.gla"), expected);
-    const QByteArray longName = QByteArray(251, 'n').append(".gla");
-    EXPECT_TRUE(AtomicFile::write(path(longName.constData()), "x"));
-    EXPECT_EQ(names().size(), 2);
+    const QString file = put(QString(251, u'n') + ".gla", QByteArray(900000, 'z')); // the longest name there can be
+    ASSERT_TRUE(AtomicFile::write(file, producer));
+    EXPECT_EQ(readFile(file), expected);
+    EXPECT_EQ(names().size(), 1);
 }
 
 TEST_F(AtomicFileTest, KeepsLinksAndMode)
 {
-    put("real.gla", "old");
-    ASSERT_EQ(::chmod(qPrintable(path("real.gla")), 0640), 0);
-    ASSERT_TRUE(QFile::link(QStringLiteral("real.gla"), path("near.gla")) &&
-                QFile::link(path("near.gla"), path("far.gla")));
+    const QString real = put("real.gla", "old");
+    ASSERT_EQ(::chmod(qPrintable(real), 0640), 0);
+    ASSERT_TRUE(QFile::link("real.gla", path("near.gla")) && QFile::link(path("near.gla"), path("far.gla")));
     ASSERT_TRUE(AtomicFile::write(path("far.gla"), "new"));
     EXPECT_TRUE(QFileInfo(path("far.gla")).isSymLink() && QFileInfo(path("near.gla")).isSymLink());
-    EXPECT_EQ(contentOf("real.gla"), "new");
+    EXPECT_EQ(readFile(real), "new");
     struct stat status = {};
-    ASSERT_EQ(::stat(qPrintable(path("real.gla")), &status), 0);
+    ASSERT_EQ(::stat(qPrintable(real), &status), 0);
     EXPECT_EQ(status.st_mode & 07777, 0640u);
 }
 
@@ -86,13 +74,13 @@ TEST_F(AtomicFileTest, OldContentSurvivesEveryFailure)
         [](const AtomicFile::Sink &sink) { return produceTooMuch(sink, false); },
         [](const AtomicFile::Sink &sink) { return sink("half") && false; },
     };
-    put("a.gla", "old content");
+    const QString file = put("a.gla", "old content");
     const FileSizeLimit limit(100000);
     for (const AtomicFile::Producer &producer : failing) {
         QString error;
-        EXPECT_FALSE(AtomicFile::write(path("a.gla"), producer, &error));
+        EXPECT_FALSE(AtomicFile::write(file, producer, &error));
         EXPECT_FALSE(error.isEmpty());
-        EXPECT_EQ(contentOf("a.gla"), "old content");
+        EXPECT_EQ(readFile(file), "old content");
         EXPECT_EQ(names().size(), 1);
     }
     EXPECT_FALSE(AtomicFile::write(m_folder.path(), "x"));
@@ -102,20 +90,20 @@ TEST_F(AtomicFileTest, OldContentSurvivesEveryFailure)
 // In a folder that allows no new file the content is written in place, and put back from the copy on failure.
 TEST_F(AtomicFileTest, FolderThatAllowsNoNewFile)
 {
-    put("a.gla", QByteArray(5000, 'o'));
-    put("readonly.gla", "fixed");
-    ASSERT_EQ(::chmod(qPrintable(path("a.gla")), 0666) | ::chmod(qPrintable(path("readonly.gla")), 0444) |
+    const QString file = put("a.gla", QByteArray(5000, 'o'));
+    const QString fixed = put("readonly.gla", "fixed");
+    ASSERT_EQ(::chmod(qPrintable(file), 0666) | ::chmod(qPrintable(fixed), 0444) |
                   ::chmod(qPrintable(m_folder.path()), 0555),
               0);
-    EXPECT_TRUE(OrdinaryUser::run([&] { return AtomicFile::write(path("a.gla"), "shorter"); }));
-    EXPECT_EQ(contentOf("a.gla"), "shorter");
+    EXPECT_TRUE(OrdinaryUser::run([&] { return AtomicFile::write(file, "shorter"); }));
+    EXPECT_EQ(readFile(file), "shorter");
     EXPECT_TRUE(OrdinaryUser::run([&] {
         const FileSizeLimit limit(100000);
-        const bool refused = !AtomicFile::write(path("a.gla"), QByteArray(200000, 'n')) &&
-                             !AtomicFile::write(path("readonly.gla"), "x") && !AtomicFile::write(path("new.gla"), "x");
+        const bool refused = !AtomicFile::write(file, QByteArray(200000, 'n')) && !AtomicFile::write(fixed, "x") &&
+                             !AtomicFile::write(path("new.gla"), "x");
         return refused && QDir(UserFolders::state()).isEmpty();
     }));
-    EXPECT_EQ(contentOf("a.gla") + contentOf("readonly.gla"), "shorterfixed");
+    EXPECT_EQ(readFile(file) + readFile(fixed), "shorterfixed");
     EXPECT_EQ(names().size(), 2);
     ::chmod(qPrintable(m_folder.path()), 0755);
 }

@@ -1,7 +1,5 @@
 #include "platform/LongPath.h"
 
-#include <QDir>
-
 namespace {
 
 /// A disk on which letter case does not count.
@@ -32,25 +30,4 @@ TEST(LongPath, EveryComponentIsSpelledAsListed)
     };
     for (const auto &[path, expected] : cases)
         EXPECT_EQ(LongPath::ExpandLongPath(QString::fromUtf8(path), onOldDisk).toStdString(), expected);
-}
-
-TEST(LongPath, OnThisFileSystem)
-{
-    QTemporaryDir folder;
-    const QDir root(QDir(folder.path()).canonicalPath());
-    root.mkpath(QStringLiteral("deep/target"));
-    ASSERT_TRUE(QFile::link(root.filePath(QStringLiteral("deep/target")), root.filePath(QStringLiteral("link"))));
-    ASSERT_TRUE(QFile::link(QStringLiteral("nowhere"), root.filePath(QStringLiteral("dangling"))));
-    for (const char *name : {"a\\b.gla", "List.gla", "deep/target/.x.gla"})
-        ASSERT_TRUE(QFile(root.filePath(QString::fromUtf8(name))).open(QIODevice::WriteOnly));
-    const char *const cases[][2] = {
-        {"a\\b.gla", "a\\b.gla"}, {"List.gla", "List.gla"},
-        {"missing.gla", ""},      {"link/.x.gla", "link/.x.gla"},
-        {"dangling", "dangling"}, {"link/../target", "deep/target"},
-        {"List.gla/x", ""},
-    };
-    for (const auto &[path, expected] : cases) {
-        const QString whole = *expected ? root.filePath(QString::fromUtf8(expected)) : QString();
-        EXPECT_EQ(LongPath::ExpandLongPath(root.filePath(QString::fromUtf8(path))), whole) << path;
-    }
 }

@@ -7,7 +7,7 @@ TEST(RegistryText, NothingIsLost)
                           QString::fromUtf8("\U0001F600");
     RegistryTree tree;
     int number = 0;
-    for (const QString &text : {QString(), nasty, QStringLiteral(" end "), QString(QChar(0xd800))}) {
+    for (const QString &text : {QString(), nasty, QString(" end "), QString(QChar(0xd800))}) {
         const RegistryValue values[] = {{RegistryType::String, text},
                                         {RegistryType::ExpandString, text},
                                         {RegistryType::Binary, text.toUtf8()},
@@ -17,7 +17,7 @@ TEST(RegistryText, NothingIsLost)
                                         {RegistryType::StringList, QStringList({text, QString(), text})}};
         for (const RegistryValue &value : values) {
             tree.setValue(HKEY_CLASSES_ROOT, text, QString::number(++number), value);
-            tree.setValue(HKEY_CURRENT_USER, text + QStringLiteral("\\x"), text, value);
+            tree.setValue(HKEY_CURRENT_USER, text + "\\x", text, value);
         }
     }
     const QByteArray text = RegistryText::write(tree);

@@ -15,13 +15,12 @@ namespace {
 constexpr int Patience = 20000; // ms, only spent when something is wrong
 
 /// Copies of a program that are real processes.
-class SingleInstanceTest : public ::testing::Test
+struct SingleInstanceTest : ::testing::Test
 {
-protected:
     using Copy = std::unique_ptr<QProcess>;
     using Socket = std::unique_ptr<QLocalSocket>;
 
-    QString path() const { return m_folder.filePath(QStringLiteral("copy")); }
+    QString path() const { return m_folder.filePath("copy"); }
     Copy start(const QString &text, int answerLimit = 5000) const
     {
         auto copy = std::make_unique<QProcess>();
@@ -73,26 +72,29 @@ protected:
 
 TEST(HandOff, MessageIsTheBlockAndTheTextInUtf16)
 {
-    EXPECT_EQ(HandOff::message(QStringLiteral("\"/é")).toHex(' '), "00 00 00 00 06 00 00 00 22 00 2f 00 e9 00");
+    EXPECT_EQ(HandOff::message("\"/é").toHex(' '), "00 00 00 00 06 00 00 00 22 00 2f 00 e9 00");
     EXPECT_EQ(HandOff::message(QString(32769, QLatin1Char('x'))).toHex(), "0000000000000000");
     for (const QString &text : {QString(), QString(32768, QLatin1Char('x')), QString(QChar(0xd800))})
         EXPECT_EQ(HandOff::parse(HandOff::message(text)).text, text);
 }
 
-TEST_F(SingleInstanceTest, LaterCopiesHandOverTheirCommandLine)
+TEST_F(SingleInstanceTest, LaterCopiesHandOverTheirCommandLineUntilTheFirstEnds)
 {
     const Copy first = startFirst();
-    expectSecond("\"/home/anna/my words.gla\"");
-    expectReceived(first, "\"/home/anna/my words.gla\"");
-    expectSecond("");
-    EXPECT_EQ(line(first), "activated");
-    const QByteArray longest(30000, 'x');
-    expectSecond(longest.constData());
-    expectReceived(first, longest.constData());
     struct stat status = {};
     ASSERT_EQ(::stat(qPrintable(path()), &status), 0);
     EXPECT_EQ(status.st_mode & 0077, 0u);
-    kill(first);
+    const QByteArray longest(30000, 'x');
+    for (const char *text : {"\"/home/anna/my words.gla\"", longest.constData(), "quit"}) {
+        expectSecond(text);
+        expectReceived(first, text);
+    }
+    EXPECT_TRUE(first->waitForFinished(Patience));
+    EXPECT_FALSE(QFileInfo::exists(path()));
+    const Copy next = startFirst();
+    expectSecond("");
+    EXPECT_EQ(line(next), "activated");
+    kill(next);
 }
 
 TEST_F(SingleInstanceTest, OfManySimultaneousStartsOneIsFirst)
@@ -101,7 +103,7 @@ TEST_F(SingleInstanceTest, OfManySimultaneousStartsOneIsFirst)
     ASSERT_TRUE(QFileInfo::exists(path())) << "the killed copy leaves its socket behind";
     std::vector<Copy> copies;
     for (int i = 0; i < 10; ++i)
-        copies.push_back(start(QStringLiteral("copy")));
+        copies.push_back(start("copy"));
     const auto isFirst = [](const Copy &copy) { return line(copy) == "first"; };
     const auto first = std::partition(copies.begin(), copies.end(), isFirst) - 1;
     ASSERT_EQ(first, copies.begin());
@@ -109,16 +111,6 @@ TEST_F(SingleInstanceTest, OfManySimultaneousStartsOneIsFirst)
         expectReceived(*first, "copy");
     for (const Copy &copy : copies)
         kill(copy);
-}
-
-TEST_F(SingleInstanceTest, NextCopyIsFirstAfterTheFirstHasEnded)
-{
-    const Copy first = startFirst();
-    expectSecond("quit");
-    EXPECT_TRUE(first->waitForFinished(Patience));
-    EXPECT_FALSE(QFileInfo::exists(path()));
-    kill(startFirst());
-    kill(startFirst());
 }
 
 TEST_F(SingleInstanceTest, StoppedFirstCopyHoldsNobodyUpAndFindsTheMessageLater)
@@ -139,7 +131,7 @@ TEST_F(SingleInstanceTest, StoppedFirstCopyHoldsNobodyUpAndFindsTheMessageLater)
 TEST_F(SingleInstanceTest, BadMessagesAreDroppedAndBlockNobody)
 {
     const Copy first = startFirst();
-    const QByteArray whole = HandOff::message(QStringLiteral("/a.gla"));
+    const QByteArray whole = HandOff::message("/a.gla");
     std::vector<Socket> sockets;
     for (const QByteArray &bytes : {QByteArray(), whole.chopped(1), QByteArray::fromHex("00000000ffffff7f"),
                                     QByteArray(200000, '\xff'), QByteArray(whole + "more")})
@@ -158,7 +150,7 @@ TEST_F(SingleInstanceTest, BadMessagesAreDroppedAndBlockNobody)
 TEST(InstancePlace, ShortPathInAPrivateFolderForEachDisplay)
 {
     const QTemporaryDir folder;
-    const QString longFolder = folder.filePath(QString(90, QLatin1Char('d')));
+    const QString longFolder = folder.filePath(QString(90, u'd'));
     QDir().mkpath(longFolder);
     const auto placeIn = [](const QString &runtime, const QByteArray &wayland, const QByteArray &x11) {
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime));
@@ -167,9 +159,9 @@ TEST(InstancePlace, ShortPathInAPrivateFolderForEachDisplay)
         return InstancePlace::socketPath();
     };
     const QString before = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    for (const QString &runtime : {folder.path(), longFolder, QStringLiteral("/missing"), QString()}) {
+    for (const QString &runtime : {folder.path(), longFolder, QString("/missing"), QString()}) {
         const QString path = placeIn(runtime, "", ":0");
-        EXPECT_EQ(path.startsWith(runtime + QStringLiteral("/glosaria/")), runtime == folder.path());
+        EXPECT_EQ(path.startsWith(runtime + "/glosaria/"), runtime == folder.path());
         EXPECT_LE(path.size(), InstancePlace::LongestPath);
         struct stat status = {};
         ASSERT_EQ(::lstat(qPrintable(QFileInfo(path).path()), &status), 0);
