@@ -7,11 +7,14 @@
 #include "resources/StringTable.h"
 #include "services/DialogHelp.h"
 #include "services/FormTexts.h"
+#include "services/rules/HelpBook.h"
+#include "support/Files.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QLayout>
 #include <QRegularExpression>
 #include <QWhatsThis>
 
@@ -21,10 +24,12 @@ struct HelpTest : MainWindowFixture
 {
     DialogHelp dialogHelp{help, alert, HelpTarget::ofProgram()};
 
-    static RecordingHelp::Call topic(int id) { return {QStringLiteral("Main"), HH_HELP_CONTEXT, id}; }
-    static RecordingHelp::Call page(const char *name)
+    const QHash<int, QString> topics = parseHelpContexts(readFile(SOURCE_FOLDER "/src/resources/help/context.txt"));
+
+    void expectTopic(int id)
     {
-        return {QStringLiteral("Main"), HH_DISPLAY_TOPIC, QString::fromLatin1(name)};
+        EXPECT_EQ(help.calls, (std::vector{RecordingHelp::Call{"Main", HH_HELP_CONTEXT, id}}));
+        EXPECT_TRUE(topics.contains(id)) << id;
     }
     /// What a click in What's This mode shows at a widget's point, by default its middle.
     std::vector<int> textsAt(QWidget *widget, QPoint point = {-1, -1})
@@ -42,36 +47,13 @@ struct HelpTest : MainWindowFixture
                 documents().active()->Rutor()->setTextMatrix(row, col, QString::number(10 * row + col));
         }
     }
-    /// Runs a command and gives its dialog to the visitor while it is open.
-    void inDialog(const QString &command, const std::function<void(QDialog &)> &visit)
-    {
-        bool seen = false;
-        QTimer::singleShot(0, window.get(), [&] {
-            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-            if (dialog) {
-                seen = true;
-                visit(*dialog);
-                dialog->reject();
-            }
-        });
-        window->DoMenuClick(command);
-        for (QDialog *modeless : window->findChildren<QDialog *>()) {
-            if (!modeless->isVisible())
-                continue;
-            seen = true;
-            visit(*modeless);
-            modeless->close();
-        }
-        QTest::qWait(1);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        EXPECT_TRUE(seen) << command.toStdString();
-    }
 };
 
 /// What a user can click or type into.
 bool isControl(const QWidget *widget)
 {
-    return widget->isVisible() && !widget->objectName().startsWith(QStringLiteral("qt_")) &&
+    const bool isPart = widget->objectName().startsWith("qt_") || qobject_cast<QComboBox *>(widget->parentWidget());
+    return widget->isVisible() && !isPart &&
            (qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QLineEdit *>(widget) ||
             qobject_cast<const QComboBox *>(widget) || qobject_cast<const QAbstractSpinBox *>(widget));
 }
@@ -85,33 +67,55 @@ int textOf(const QWidget *widget)
     return 0;
 }
 
-TEST_F(HelpTest, EveryControlOfEveryDialogHasATopicAndAText)
+/// The letters by which the controls of a window are reached, in the order of the controls.
+QString mnemonics(const QWidget &window)
+{
+    QString letters;
+    for (const QWidget *control : window.findChildren<QWidget *>()) {
+        if (control->isVisible())
+            letters += QKeySequence::mnemonic(control->property("text").toString()).toString().right(1);
+    }
+    return letters;
+}
+
+TEST_F(HelpTest, EveryControlOfEveryDialogHasATopicATextANameAndAKey)
 {
     newDocument();
     fillWords();
-    const std::vector<std::pair<const char *, int>> commands{
-        {"mnuEditFind", 1160},       {"mnuEditReplace", 1170},         {"mnuVocabularyLanguage", 1180},
-        {"mnuVocabularyFont", 1204}, {"mnuVocabularyRowHeight", 1200}, {"mnuVocabularyColumnWidth", 1200},
-        {"mnuVocabularySort", 1210}, {"mnuQuizStudy", 1220},           {"mnuQuizMultiple", 1230},
-        {"mnuQuizQA", 1240},         {"mnuHelpAbout", 1250},
+    const std::tuple<const char *, int, const char *> commands[] = {
+        {"mnuEditFind", 1160, "FD12MWNRC"},
+        {"mnuEditReplace", 1170, "FED12MWNRAC"},
+        {"mnuVocabularyLanguage", 1180, "12"},
+        {"mnuVocabularyFont", 1204, "FSOBIU"},
+        {"mnuVocabularyRowHeight", 1200, "R"},
+        {"mnuVocabularyColumnWidth", 1200, "C"},
+        {"mnuVocabularySort", 1210, "12ADS"},
+        {"mnuQuizStudy", 1220, "KOASCBR"},
+        {"mnuQuizMultiple", 1230, "123ABR"},
+        {"mnuQuizQA", 1240, "HTBR"},
+        {"mnuHelpAbout", 1250, ""},
     };
-    for (const auto &[command, id] : commands) {
-        inDialog(QString::fromLatin1(command), [&](QDialog &dialog) {
-            SCOPED_TRACE(command);
+    for (const auto &[command, id, keys] : commands) {
+        EXPECT_TRUE(inDialog(command, [&, id = id, keys = keys](QDialog &dialog) {
+            SCOPED_TRACE(dialog.objectName().toStdString());
             QApplication::setActiveWindow(&dialog);
             help.calls.clear();
             QWidget *focus = dialog.focusWidget();
             QTest::keyClick(focus ? focus : &dialog, Qt::Key_F1);
-            EXPECT_EQ(help.calls, std::vector{topic(id)});
+            expectTopic(id);
             EXPECT_TRUE(dialog.windowFlags() & Qt::WindowContextHelpButtonHint);
+            EXPECT_EQ(mnemonics(dialog), keys);
             for (QWidget *control : dialog.findChildren<QWidget *>()) {
                 if (!isControl(control))
                     continue;
-                EXPECT_EQ(FormTexts::helpContextId(control), id) << control->objectName().toStdString();
-                EXPECT_NE(textOf(control), 0) << control->objectName().toStdString();
-                EXPECT_EQ(textsAt(control), std::vector{textOf(control)}) << control->objectName().toStdString();
+                SCOPED_TRACE(control->objectName().toStdString());
+                EXPECT_EQ(FormTexts::helpContextId(control), id);
+                EXPECT_NE(textOf(control), 0);
+                EXPECT_EQ(textsAt(control), std::vector{textOf(control)});
+                const auto *button = qobject_cast<QAbstractButton *>(control);
+                EXPECT_FALSE(control->accessibleName().isEmpty() && !(button && !button->text().isEmpty()));
             }
-        });
+        })) << command;
     }
     EXPECT_TRUE(alert.shown.empty());
 }
@@ -121,10 +125,14 @@ TEST_F(HelpTest, F1AnswersByWhatTheMainWindowShows)
     QTest::keyClick(window.get(), Qt::Key_F1);
     newDocument();
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F1);
-    window->DoMenuClick(QStringLiteral("mnuFilePrintPreview"));
+    window->DoMenuClick("mnuFilePrintPreview");
     QTest::keyClick(window.get(), Qt::Key_F1);
-    EXPECT_EQ(help.calls, (std::vector{page("html\\welcome.html"), page("html\\documentwindow.html"),
-                                       page("html\\printpreviewwindow.html")}));
+    window->DoMenuClick("mnuHelpTopic");
+    QStringList pages;
+    for (const RecordingHelp::Call &call : help.calls)
+        pages += call.data.toString();
+    EXPECT_EQ(pages.join(' '), "html\\welcome.html html\\documentwindow.html html\\printpreviewwindow.html ");
+    EXPECT_EQ(help.calls.back().command, HH_DISPLAY_TOC);
 }
 
 TEST_F(HelpTest, F1InADropDownOpensItsTopic)
@@ -134,7 +142,7 @@ TEST_F(HelpTest, F1InADropDownOpensItsTopic)
         help.calls.clear();
         menu(each.key)->popup(window->mapToGlobal(QPoint(0, 0)));
         QTest::keyClick(menu(each.key), Qt::Key_F1);
-        EXPECT_EQ(help.calls, std::vector{topic(each.helpContextId)});
+        expectTopic(each.helpContextId);
         EXPECT_FALSE(menu(each.key)->isVisible());
     }
 }
@@ -144,7 +152,7 @@ TEST_F(HelpTest, WhatsThisExplainsToolbarButtonsAndNoSeparators)
     newDocument();
     for (const auto &[band, first] : {std::pair("STANDARD", 20000), std::pair("PREVIEW", 20018)}) {
         if (first == 20018)
-            window->DoMenuClick(QStringLiteral("mnuFilePrintPreview"));
+            window->DoMenuClick("mnuFilePrintPreview");
         auto *bar = window->findChild<QToolBar *>(QString::fromLatin1(band));
         window->resize(1400, 700);
         QCoreApplication::processEvents();
@@ -159,33 +167,34 @@ TEST_F(HelpTest, WhatsThisExplainsToolbarButtonsAndNoSeparators)
     EXPECT_EQ(documents().open().size(), 1u) << "a button was pressed";
 }
 
-TEST_F(HelpTest, WhatsThisExplainsTheGridBelowThePointer)
+TEST_F(HelpTest, WhatsThisExplainsTheGridOrTheWindowBelowThePointerAndEnds)
 {
     ctlGrid *grid = newDocument()->Rutor();
     EXPECT_EQ(textsAt(grid, {80, 60}), std::vector{20042});
     EXPECT_EQ(help.popUpPlace, grid->mapToGlobal(QPoint(80, 70)));
-}
-
-TEST_F(HelpTest, TheHelpMenuShowsTheContents)
-{
-    window->DoMenuClick(QStringLiteral("mnuHelpTopic"));
-    EXPECT_EQ(help.calls, (std::vector{RecordingHelp::Call{QStringLiteral("Main"), HH_DISPLAY_TOC, {}}}));
+    EXPECT_TRUE(inDialog("mnuVocabularySort", [this](QDialog &dialog) {
+        EXPECT_EQ(textsAt(&dialog, {2, 2}), std::vector{dialog.property("whatsThisId").toInt()});
+        dialog.layout()->setEnabled(false);
+        auto *hidden = dialog.findChild<QWidget *>("chkSelection");
+        hidden->hide();
+        EXPECT_NE(textsAt(hidden), std::vector{textOf(hidden)});
+        EXPECT_FALSE(QWhatsThis::inWhatsThisMode());
+    }));
 }
 
 TEST_F(HelpTest, ThePageOfShortcutsIsTrue)
 {
-    QFile file(QStringLiteral(SOURCE_FOLDER "/src/resources/help/html/shortcuts.html"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QRegularExpression row(QStringLiteral(R"rx(<tr id="(\w+)"><td>([^<]*)</td><td>([^<]*)</td>)rx"));
     QStringList onPage;
-    for (auto match = row.globalMatch(QString::fromUtf8(file.readAll())); match.hasNext();)
+    for (auto match = row.globalMatch(readFile(SOURCE_FOLDER "/src/resources/help/html/shortcuts.html"));
+         match.hasNext();)
         onPage.append(match.next().capturedTexts().mid(1).join(QLatin1Char(' ')));
     QStringList inTable;
     for (const Command *command : window->commands().commands()) {
         const bool isUndo = command->captionId == 419;
-        QString caption = isUndo ? QStringLiteral("Undo") : FormTexts::withoutMnemonic(resText(command->captionId));
+        QString caption = isUndo ? QString("Undo") : FormTexts::withoutMnemonic(resText(command->captionId));
         if (!command->shortcut.isEmpty())
-            inTable.append(command->key + u' ' + command->shortcut + u' ' + caption.remove(QStringLiteral("...")));
+            inTable.append(command->key + u' ' + command->shortcut + u' ' + caption.remove("..."));
     }
     onPage.sort();
     inTable.sort();

@@ -6,14 +6,17 @@
 #include "platform/RegistryTree.h"
 #include "platform/SoundPlayer.h"
 #include "quiz/rules/RandomSource.h"
+#include "services/modSBFunc.h"
 #include "services/rules/ProgramFlags.h"
 #include "services/rules/clsAppProperties.h"
+#include "support/Files.h"
 #include "support/RecordingHelp.h"
 #include "support/RecordingPrinter.h"
 #include "support/ScriptedAlertBox.h"
 #include "support/ScriptedDialogs.h"
 #include "support/ScriptedPrompts.h"
 
+#include <QDialog>
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
@@ -24,7 +27,7 @@ struct MainWindowFixture : ::testing::Test
 {
     QTemporaryDir folder;
     RegistryTree store;
-    clsAppProperties settings{store, QStringLiteral("/usr/bin/glosaria")};
+    clsAppProperties settings{store, "/usr/bin/glosaria"};
     ProgramFlags flags;
     UndoRecord undo;
     ScriptedAlertBox alert;
@@ -45,9 +48,10 @@ struct MainWindowFixture : ::testing::Test
         QApplication::setActiveWindow(window.get());
     }
     DocumentList &documents() { return window->context().documents; }
+    QString status(int panel) { return window->context().status.text(panel); }
     frmDoc *newDocument()
     {
-        window->DoMenuClick(QStringLiteral("mnuFileNew"));
+        window->DoMenuClick("mnuFileNew");
         return documents().active();
     }
     QMenu *menu(const QString &key) { return window->menuBar()->findChild<QMenu *>(key); }
@@ -57,7 +61,7 @@ struct MainWindowFixture : ::testing::Test
         Q_EMIT menu(key)->aboutToShow();
         QStringList list;
         for (const QAction *action : menu(key)->actions()) {
-            const QString text = action->isSeparator() ? QStringLiteral("-") : action->text().remove(QLatin1Char('&'));
+            const QString text = action->isSeparator() ? "-" : action->text().remove(QLatin1Char('&'));
             list.append(action->isEnabled() || action->isSeparator() ? text : QStringLiteral("(%1)").arg(text));
         }
         return list;
@@ -80,13 +84,32 @@ struct MainWindowFixture : ::testing::Test
         }
         return nullptr;
     }
+    /// Runs a command and gives its dialog to the visitor while it is open; false when none opened.
+    bool inDialog(const QString &command, const std::function<void(QDialog &)> &visit)
+    {
+        bool opened = false;
+        const auto visitAndClose = [&](QDialog &dialog) {
+            opened = true;
+            visit(dialog);
+            dialog.reject();
+        };
+        QTimer::singleShot(0, window.get(), [&] {
+            if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+                visitAndClose(*dialog);
+        });
+        window->DoMenuClick(command);
+        for (QDialog *modeless : window->findChildren<QDialog *>()) {
+            if (modeless->isVisible())
+                visitAndClose(*modeless);
+        }
+        QTest::qWait(1);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return opened;
+    }
     /// A vocabulary of the current version without any word.
     QString writeVocabulary(const QString &name)
     {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("Glosaria\r\n3.1.0\r\n[Font Info]\r\n\"Arial\"\r\n10\r\n#FALSE#\r\n#FALSE#\r\n0\r\n[Vocabulary]\r\n"
-                   "English\r\nGerman\r\n");
-        return file.fileName();
+        return writeFile(folder.filePath(name), "Glosaria\r\n3.1.0\r\n[Font Info]\r\n\"Arial\"\r\n10\r\n#FALSE#\r\n"
+                                                "#FALSE#\r\n0\r\n[Vocabulary]\r\nEnglish\r\nGerman\r\n");
     }
 };

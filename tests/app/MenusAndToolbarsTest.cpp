@@ -3,7 +3,6 @@
 #include "app/MenuLayout.h"
 #include "document/ctlGrid.h"
 #include "resources/StringTable.h"
-#include "services/modSBFunc.h"
 
 using MenusAndToolbarsTest = MainWindowFixture;
 
@@ -14,7 +13,6 @@ TEST_F(MenusAndToolbarsTest, WithoutADocumentOnlyFilesCanBeOpened)
     for (const char *key : {"Save", "Print", "Cut", "Copy", "Paste", "Undo", "Find", "Quiz"})
         EXPECT_FALSE(button("STANDARD", key)->isEnabled()) << key;
     EXPECT_TRUE(button("STANDARD", "New")->isEnabled());
-    EXPECT_FALSE(window->findChild<QToolBar *>("PREVIEW")->isVisible());
 }
 
 TEST_F(MenusAndToolbarsTest, StatesFollowTheActiveDocument)
@@ -36,8 +34,8 @@ TEST_F(MenusAndToolbarsTest, StatesFollowTheActiveDocument)
     EXPECT_EQ(window->state(), AppState::StateDocument);
     window->DoMenuClick("mnuFileClose");
     EXPECT_EQ(window->state(), AppState::StateNoDocument);
-    EXPECT_EQ(window->context().status.text(1), QString());
-    EXPECT_EQ(window->context().status.text(2), QString());
+    EXPECT_EQ(status(1), QString());
+    EXPECT_EQ(status(2), QString());
 }
 
 TEST_F(MenusAndToolbarsTest, ThePreviewStateSwapsTheBands)
@@ -58,9 +56,9 @@ TEST_F(MenusAndToolbarsTest, TheUndoCaptionNamesAndEnablesTheCommand)
     frmDoc *document = newDocument();
     EXPECT_EQ(window->UndoAction(), resText(419));
     undo.setKind(UndoKind::Cut, document);
-    EXPECT_EQ(window->UndoAction(), QStringLiteral("&Undo Cut"));
-    EXPECT_EQ(window->commands().action("mnuEditUndo")->text(), QStringLiteral("&Undo Cut"));
-    EXPECT_EQ(button("STANDARD", "Undo")->toolTip(), QStringLiteral("Undo Cut"));
+    EXPECT_EQ(window->UndoAction(), "&Undo Cut");
+    EXPECT_EQ(window->commands().action("mnuEditUndo")->text(), "&Undo Cut");
+    EXPECT_EQ(button("STANDARD", "Undo")->toolTip(), "Undo Cut");
     undo.clear();
     EXPECT_FALSE(button("STANDARD", "Undo")->isEnabled());
 }
@@ -70,21 +68,23 @@ TEST_F(MenusAndToolbarsTest, ModesStepInARingAndShowEverywhere)
     frmDoc *document = newDocument();
     document->Rutor()->setTextMatrix(0, 1, "English");
     document->Rutor()->setTextMatrix(0, 2, "R&D");
+    EXPECT_EQ(window->buttonPicture("Model"), 23);
     for (const int mode : {2, 3, 4, 5, 1, 2}) {
         window->DoMenuClick("Model");
         EXPECT_EQ(settings.QuizMode(), mode);
         EXPECT_EQ(window->buttonPicture("Model"), 22 + mode);
     }
     Q_EMIT menu("mnuMode")->aboutToShow();
-    EXPECT_EQ(window->commands().action("mnuMode5")->text(), QStringLiteral("&5 English <-> R&&D Randomly"));
+    EXPECT_EQ(window->commands().action("mnuMode5")->text(), "&5 English <-> R&&D Randomly");
     for (int mode = 1; mode <= 5; ++mode)
         EXPECT_EQ(window->commands().action(QStringLiteral("mnuMode%1").arg(mode))->isChecked(), mode == 2);
-    EXPECT_EQ(window->context().status.text(2), QStringLiteral("R&D -> English In Order"));
+    EXPECT_EQ(status(2), "R&D -> English In Order");
 
     menu("mnuMode")->popup(QPoint(0, 0));
     menu("mnuMode")->setActiveAction(window->commands().action("mnuMode1"));
-    EXPECT_EQ(window->context().status.text(0), resText(41) + " English -> R&D In Order");
+    EXPECT_EQ(status(0), resText(41) + " English -> R&D In Order");
     menu("mnuMode")->close();
+    EXPECT_EQ(status(0), resText(506));
 }
 
 TEST_F(MenusAndToolbarsTest, TheWindowMenuListsAndActivatesDocuments)
@@ -107,12 +107,8 @@ TEST_F(MenusAndToolbarsTest, EveryPlaceIsACommandWithItsTexts)
             EXPECT_TRUE(key.isEmpty() || window->commands().find(key)) << key.toStdString();
     }
     for (const auto *buttons : {&MenuLayout::standardButtons(), &MenuLayout::previewButtons()}) {
-        for (const MenuLayout::Button &each : *buttons) {
-            if (each.key.isEmpty())
-                continue;
-            ASSERT_TRUE(window->commands().find(each.command)) << each.key.toStdString();
-            EXPECT_FALSE(window->commands().action(each.command)->icon().isNull()) << each.key.toStdString();
-        }
+        for (const MenuLayout::Button &each : *buttons)
+            EXPECT_TRUE(each.key.isEmpty() || !window->commands().action(each.command)->icon().isNull());
     }
     QStringList shortcuts;
     for (const Command *command : window->commands().commands()) {

@@ -5,9 +5,8 @@
 #include <vector>
 
 /// Keeps what help was asked for.
-class RecordingHelp : public HelpDisplay
+struct RecordingHelp : HelpDisplay
 {
-public:
     struct Call
     {
         QString window;

@@ -1,5 +1,6 @@
 #include "services/rules/CommandLine.h"
 #include "services/rules/RequestedFile.h"
+#include "support/Files.h"
 
 #include <QDir>
 
@@ -25,29 +26,26 @@ TEST(CommandLine, ArgumentsMakeOneAbsolutePath)
     };
     for (const auto &[given, text] : cases) {
         const QStringList arguments = QString::fromUtf8(given).split(QLatin1Char('|'), Qt::SkipEmptyParts);
-        const CommandLine line = CommandLine::parse(arguments, QStringLiteral("/cwd"));
+        const CommandLine line = CommandLine::parse(arguments, "/cwd");
         EXPECT_EQ(line.text.toStdString(), text);
-        EXPECT_EQ(line.splash, !arguments.contains(QStringLiteral("--no-splash"))) << given;
+        EXPECT_EQ(line.splash, !arguments.contains("--no-splash")) << given;
         EXPECT_TRUE(!line.help && !line.version && line.unknownOption.isEmpty()) << given;
     }
 }
 
 TEST(CommandLine, OptionsAreToldFromPaths)
 {
-    const QStringList arguments = {QStringLiteral("--version"), QStringLiteral("-x"), QStringLiteral("--help"),
-                                   QStringLiteral("--y"), QStringLiteral("/a.gla")};
-    const CommandLine line = CommandLine::parse(arguments, QStringLiteral("/cwd"));
+    const CommandLine line = CommandLine::parse({"--version", "-x", "--help", "--y", "/a.gla"}, "/cwd");
     EXPECT_TRUE(line.help && line.version);
-    EXPECT_EQ(line.unknownOption, QStringLiteral("-x"));
-    EXPECT_EQ(line.text, QStringLiteral("/a.gla"));
+    EXPECT_EQ(line.unknownOption, "-x");
+    EXPECT_EQ(line.text, "/a.gla");
 }
 
 TEST(RequestedFile, TextsFromOutside)
 {
     QTemporaryDir folder;
     const QString root = QDir(folder.path()).canonicalPath();
-    QFile file(root + QStringLiteral("/My Words.gla"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    writeFile(root + "/My Words.gla", "");
     // The text, and the path that it asks for; null: it is ignored. @ stands for the folder.
     const char *const cases[][2] = {
         {"@/My Words.gla", "@/My Words.gla"},

@@ -4,12 +4,12 @@
 
 namespace {
 
-const QString Key = QStringLiteral("Software\\Glosaria");
-const QString Program = QStringLiteral("/opt/glosaria/glosaria");
+const QString Key = "Software\\Glosaria";
+const QString Program = "/opt/glosaria/glosaria";
 
 QByteArray storedRecord(const RegistryStore &store)
 {
-    const auto value = store.value(HKEY_CURRENT_USER, Key, QStringLiteral("Settings"));
+    const auto value = store.value(HKEY_CURRENT_USER, Key, "Settings");
     return value ? std::get<QByteArray>(value->data) : QByteArray();
 }
 
@@ -23,24 +23,8 @@ std::string defaultOf(const RegistryStore &store, const char *key)
 
 TEST(SettingsRecord, LayoutByteForByte)
 {
-    const QByteArray bytes = QByteArray::fromHex("0200"
-                                                 "01"
-                                                 "01"
-                                                 "01020304"
-                                                 "00"
-                                                 "01"
-                                                 "01"
-                                                 "00"
-                                                 "33221180"
-                                                 "01"
-                                                 "00"
-                                                 "0201"
-                                                 "0500"
-                                                 "0000"
-                                                 "11121314"
-                                                 "feffffff"
-                                                 "21222324"
-                                                 "313233");
+    const QByteArray bytes = QByteArray::fromHex("0200 01 01 01020304 00 01 01 00 33221180 01 00 0201 0500 0000"
+                                                 "11121314 feffffff 21222324 313233");
     const SettingsRecord record = {2,    true,   0x04030201, false,      true, true,       int(0x80112233),
                                    true, 0x0102, 5,          0x14131211, -2,   0x24232221, 0x34333231};
     EXPECT_EQ(record.toBytes().toHex(), bytes.toHex());
@@ -59,7 +43,7 @@ TEST(AppProperties, FirstRunSetsDefaultsAndRegistersTheFileType)
     clsAppProperties properties(store, Program);
     properties.ReadProperties();
     EXPECT_TRUE(properties.firstRun());
-    EXPECT_EQ(properties.FontName(), QStringLiteral("Arial"));
+    EXPECT_EQ(properties.FontName(), "Arial");
     properties.SaveProperties();
     EXPECT_EQ(storedRecord(store).toHex(' '), "00 00 00 00 00 00 00 00 01 00 00 00 00 00 00 00 00 00 0a 00 01 00 00 00 "
                                               "ff ff ff ff ff ff ff ff ff ff ff ff ff ff ff");
@@ -72,18 +56,18 @@ TEST(AppProperties, FirstRunSetsDefaultsAndRegistersTheFileType)
 TEST(AppProperties, SavedSettingsComeBack)
 {
     RegistryTree store;
-    store.createKey(HKEY_CURRENT_USER, Key + QStringLiteral("\\MRUFiles"));
+    store.createKey(HKEY_CURRENT_USER, Key + "\\MRUFiles");
     clsAppProperties saved(store, Program);
     saved.ReadProperties(); // there is a key, but no record in it
     EXPECT_FALSE(saved.firstRun());
     EXPECT_TRUE(saved.ErrorBeep());
-    saved.setFontName(QStringLiteral("Noto Sans"));
+    saved.setFontName("Noto Sans");
     saved.setQuizMode(4);
     saved.setWinPosTop(1500);
     saved.SaveProperties();
     clsAppProperties read(store, Program);
     read.ReadProperties();
-    EXPECT_EQ(read.FontName(), QStringLiteral("Noto Sans"));
+    EXPECT_EQ(read.FontName(), "Noto Sans");
     EXPECT_EQ(read.QuizMode(), 4);
     EXPECT_EQ(read.WinPosTop(), 1500);
     EXPECT_EQ(defaultOf(store, ".gla"), "none");
@@ -93,18 +77,15 @@ TEST(AppProperties, ValuesOutOfRangeAreRepaired)
 {
     const auto with = [](const QByteArray &record) {
         RegistryTree store;
-        store.setValue(HKEY_CURRENT_USER, Key, QStringLiteral("Settings"), {RegistryType::Binary, record});
-        store.setValue(HKEY_CURRENT_USER, Key, QStringLiteral("FontName"), {RegistryType::String, QStringLiteral(" ")});
+        store.setValue(HKEY_CURRENT_USER, Key, "Settings", {RegistryType::Binary, record});
+        store.setValue(HKEY_CURRENT_USER, Key, "FontName", {RegistryType::String, QString(" ")});
         clsAppProperties properties(store, Program);
         properties.ReadProperties();
-        EXPECT_EQ(properties.FontName(), QStringLiteral("Arial"));
+        EXPECT_EQ(properties.FontName(), "Arial");
         return std::array{properties.FontSize(), properties.QuizMode(), properties.AutoTimerInterval()};
     };
     EXPECT_EQ(with(QByteArray("\2", 1)), (std::array{10, 1, 0}));
     EXPECT_EQ(with(QByteArray(39, '\xff')), (std::array{10, 1, 0}));
     EXPECT_EQ(with(QByteArray(39, '\x7f')), (std::array{clsAppProperties::LargestFontSize, 1, 0x7f7f7f7f}));
-    EXPECT_EQ(with(QByteArray::fromHex("000000000000000000000000000000000000"
-                                       "0100"
-                                       "0500")),
-              (std::array{1, 5, 0}));
+    EXPECT_EQ(with(QByteArray(18, '\0') + QByteArray("\1\0\5\0", 4)), (std::array{1, 5, 0}));
 }

@@ -29,7 +29,7 @@ clsMRUFileList listWith(const char *paths)
 clsRegistry registryOf(RegistryStore &store)
 {
     clsRegistry registry(store);
-    registry.setSectionKey(QStringLiteral("Software\\Glosaria\\MRUFiles"));
+    registry.setSectionKey("Software\\Glosaria\\MRUFiles");
     registry.setValueType(RegistryType::Number);
     return registry;
 }
@@ -76,8 +76,8 @@ TEST(MRUFileList, SavedListComesBack)
     list.Load(registry);
     EXPECT_EQ(filesOf(list), "F E");
     EXPECT_EQ(list.MaxFileCount(), 4);
-    registry.setValueKey(QStringLiteral("File3"));
-    EXPECT_EQ(registry.Value(), QVariant(QStringLiteral("B")));
+    registry.setValueKey("File3");
+    EXPECT_EQ(registry.Value(), QVariant("B"));
 }
 
 TEST(MRUFileList, StoredNumbersThatCannotBeTrusted)
@@ -88,15 +88,15 @@ TEST(MRUFileList, StoredNumbersThatCannotBeTrusted)
     for (const auto &[maxCount, count, expected] : cases) {
         RegistryTree store;
         clsRegistry registry = registryOf(store);
-        registry.setValueKey(QStringLiteral("MaxCount"));
+        registry.setValueKey("MaxCount");
         registry.setValue(maxCount);
-        registry.setValueKey(QStringLiteral("Count"));
+        registry.setValueKey("Count");
         registry.setValue(count);
         clsMRUFileList list(tenPixelsALetter);
         list.Load(registry);
         EXPECT_EQ(list.FileCount(), expected);
         list.setMaxFileCount(2);
-        list.AddFile(QStringLiteral("newest"));
+        list.AddFile("newest");
         EXPECT_EQ(list.FileCount(), std::min(expected + 1, 2));
     }
 }
