@@ -3,10 +3,10 @@
 #include "print/QtDialogs.h"
 #include "print/QtPrinter.h"
 #include "print/rules/FileDialogRules.h"
+#include "support/Files.h"
 #include "support/ScriptedAlertBox.h"
 #include "support/ScriptedDialogs.h"
 
-#include <QAbstractItemView>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPrintDialog>
@@ -17,9 +17,8 @@ namespace {
 
 constexpr char VocabularyFilter[] = "Glosaria Document (*.gla) | *.gla";
 
-class CommDlg : public ::testing::Test
+struct CommDlg : ::testing::Test
 {
-protected:
     ScriptedDialogs dialogs;
     ScriptedAlertBox alerts;
     clsCommDlg dialog{dialogs, alerts};
@@ -53,14 +52,15 @@ TEST_F(CommDlg, SaveAsGivesEveryNameTheExtension)
 
 TEST_F(CommDlg, CancelIsAnErrorAndLeavesTheProperties)
 {
-    for (const int action : {clsCommDlg::ActionOpen, clsCommDlg::ActionSaveAs, clsCommDlg::ActionPrint}) {
-        dialog.Copies = 7;
+    dialog.Copies = 7;
+    for (const auto &[action, more] :
+         {std::pair(clsCommDlg::ActionOpen, 0), std::pair(clsCommDlg::ActionSaveAs, 0),
+          std::pair(clsCommDlg::ActionPrint, 0), std::pair(clsCommDlg::ActionPrint, int(clsCommDlg::PrintSetup))}) {
+        dialog.flags |= more;
         EXPECT_THROW(dialog.setAction(action), CommDlgCancelled);
         EXPECT_EQ(dialog.FileName, "Untitled 1");
         EXPECT_EQ(dialog.Copies, 7);
     }
-    dialog.flags = clsCommDlg::PrintSetup;
-    EXPECT_THROW(dialog.setAction(clsCommDlg::ActionPrint), CommDlgCancelled);
     EXPECT_TRUE(alerts.shown.empty());
 }
 
@@ -73,17 +73,6 @@ TEST_F(CommDlg, AFailingPrinterIsReportedAndThrown)
     EXPECT_TRUE(alerts.shown.front().exclamation);
 }
 
-TEST_F(CommDlg, HelpIsCalledWithTheKeyAsANumber)
-{
-    dialog.HelpFile = "help";
-    dialog.HelpCommand = 15;
-    dialog.HelpKey = "1160";
-    dialog.setAction(clsCommDlg::ActionHelp);
-    EXPECT_EQ(dialogs.helpAsked, "help 15 1160");
-    dialogs.helpThere = false;
-    EXPECT_THROW(dialog.setAction(clsCommDlg::ActionHelp), CommDlgError);
-}
-
 TEST(FileFilter, BecomesThePlatformsFilters)
 {
     EXPECT_EQ(FileDialogRules::nameFilters(VocabularyFilter), QStringList{"Glosaria Document (*.gla)"});
@@ -92,9 +81,8 @@ TEST(FileFilter, BecomesThePlatformsFilters)
 }
 
 /// The real dialogs over a folder of files.
-class RealDialogs : public ::testing::Test
+struct RealDialogs : ::testing::Test
 {
-protected:
     QTemporaryDir folder;
     QtPrinter printer;
     QtDialogs dialogs{printer, [](const QString &, int, int) { return false; }};
@@ -103,8 +91,7 @@ protected:
 
     void SetUp() override
     {
-        for (const char *name : {"small.gla", "LARGE.GLA", "other.txt"})
-            ASSERT_TRUE(QFile(folder.filePath(name)).open(QFile::WriteOnly));
+        writeFile(folder.filePath("small.gla"), "");
         dialog.InitDir = folder.path();
         dialog.Filter = VocabularyFilter;
         dialog.DefaultExt = "gla";
@@ -126,22 +113,6 @@ protected:
         QTest::keyClick(edit, last);
     }
 };
-
-TEST_F(RealDialogs, OpenShowsVocabulariesInCapitalsToo)
-{
-    dialog.flags = 0x81004;
-    QStringList seen;
-    onNext<QFileDialog>([&seen](QFileDialog &window) {
-        auto *view = window.findChild<QAbstractItemView *>("listView");
-        EXPECT_TRUE(QTest::qWaitFor([view] { return view->model()->rowCount(view->rootIndex()) == 2; }));
-        for (int row = 0; row < view->model()->rowCount(view->rootIndex()); ++row)
-            seen.append(view->model()->index(row, 0, view->rootIndex()).data().toString());
-        type(window, "fileNameEdit", "small", Qt::Key_Return);
-    });
-    dialog.setAction(clsCommDlg::ActionOpen);
-    EXPECT_THAT(seen, ::testing::UnorderedElementsAre("small.gla", "LARGE.GLA"));
-    EXPECT_EQ(dialog.FileName, folder.filePath("small.gla"));
-}
 
 TEST_F(RealDialogs, SaveAsAsksAboutTheRealTargetAndGoesBackOnNo)
 {

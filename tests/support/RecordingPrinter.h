@@ -19,9 +19,8 @@ struct DrawnText
 };
 
 /// Keeps what is drawn on one page.
-class RecordingSurface : public PrintSurface
+struct RecordingSurface : PrintSurface
 {
-public:
     std::vector<DrawnText> texts;
 
     void setFont(const PrintFont &font) override { m_font = font; }
@@ -43,9 +42,8 @@ private:
 };
 
 /// A printer of A4 sheets on which every letter is 100 twips wide and 240 high, so that a line takes 250.
-class RecordingPrinter : public PrinterDevice
+struct RecordingPrinter : PrinterDevice
 {
-public:
     std::vector<RecordingSurface> sheets;
     QSize size{11900, 16840};
     int failingSheet = 0; ///< from 1
@@ -95,9 +93,8 @@ private:
 };
 
 /// A vocabulary to print, kept as pairs of words.
-class PairSource : public PrintSource
+struct PairSource : PrintSource
 {
-public:
     std::vector<std::pair<QString, QString>> pairs;
     QString language2 = QStringLiteral("German");
     int color = 0;

@@ -6,15 +6,12 @@
 #include <functional>
 
 /// Answers the common dialogs as a user would, and keeps what it was asked.
-class ScriptedDialogs : public CommonDialogs
+struct ScriptedDialogs : CommonDialogs
 {
-public:
     QStringList chosen;               ///< names chosen one after the other; then Cancel
     std::optional<PrintChoice> pages; ///< empty: the print dialogs are cancelled
     QString printerFault;
     std::function<void()> duringSetup; ///< what the user does in the page setup
-    bool helpThere = true;
-    QString helpAsked;
     FileRequest file;
     PrintRequest print;
 
@@ -39,9 +36,5 @@ public:
             duringSetup();
         return duringSetup != nullptr;
     }
-    bool callHelp(QWidget *, const QString &helpFile, int command, int key) override
-    {
-        helpAsked = QStringLiteral("%1 %2 %3").arg(helpFile).arg(command).arg(key);
-        return helpThere;
-    }
+    bool callHelp(QWidget *, const QString &, int, int) override { return false; }
 };
