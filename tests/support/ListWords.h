@@ -6,20 +6,19 @@
 
 /// A vocabulary made of a list of pairs, in the two languages "English" and "German". Like a document it ends in an
 /// empty row.
-class ListWords : public WordSource
+struct ListWords : WordSource
 {
-public:
     using Pairs = std::vector<std::pair<QString, QString>>;
 
-    ListWords(std::initializer_list<std::pair<const char16_t *, const char16_t *>> pairs)
-        : ListWords(texts(pairs))
+    ListWords(std::initializer_list<Pairs::value_type> pairs)
+        : ListWords(Pairs(pairs))
     {
     }
 
     explicit ListWords(Pairs pairs)
         : m_pairs(std::move(pairs))
     {
-        m_pairs.insert(m_pairs.begin(), {QStringLiteral("English"), QStringLiteral("German")});
+        m_pairs.insert(m_pairs.begin(), {"English", "German"});
         m_pairs.emplace_back();
     }
 
@@ -40,13 +39,5 @@ public:
     }
 
 private:
-    static Pairs texts(std::initializer_list<std::pair<const char16_t *, const char16_t *>> pairs)
-    {
-        Pairs result;
-        for (const auto &[first, second] : pairs)
-            result.emplace_back(QString::fromUtf16(first), QString::fromUtf16(second));
-        return result;
-    }
-
     Pairs m_pairs;
 };
