@@ -7,9 +7,8 @@
 
 namespace {
 
-class SizeDialog : public ::testing::Test, protected OpenDocument
+struct SizeDialog : ::testing::Test, OpenDocument
 {
-protected:
     SizeDialog()
         : OpenDocument(Words(9))
     {
@@ -56,10 +55,8 @@ TEST_F(SizeDialog, ShowsTheCurrentSizeInPixels)
     grid.setRowHeight(2, 600);
     grid.setColWidth(2, 3000);
     select(2, 2, 3, 2);
-    for (const auto &[mode, size] : {std::pair(frmColRow::RowHeight, "40"), {frmColRow::ColumnWidth, "200"}}) {
-        const frmColRow dialog(document, mode, &window);
-        EXPECT_EQ(dialog.findChild<QLineEdit *>()->selectedText(), size);
-    }
+    for (const auto &[mode, size] : {std::pair(frmColRow::RowHeight, "40"), {frmColRow::ColumnWidth, "200"}})
+        EXPECT_EQ(frmColRow(document, mode, &window).findChild<QLineEdit *>()->selectedText(), size);
 }
 
 TEST_F(SizeDialog, ChangesNothingWithoutASize)

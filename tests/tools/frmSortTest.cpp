@@ -1,23 +1,18 @@
 #include "tools/frmSort.h"
 
-#include "document/EditCommands.h"
 #include "support/OpenDocument.h"
 #include "tools/modSorting.h"
-#include "tools/rules/SortOrder.h"
 
 #include <QCheckBox>
-#include <QClipboard>
 
 namespace {
 
-using namespace SortFlag;
 using Words = OpenDocument::Words;
 
 const QLocale English(QLocale::English);
 
-class Sorting : public ::testing::Test, protected OpenDocument
+struct Sorting : ::testing::Test, OpenDocument
 {
-protected:
     Sorting()
         : OpenDocument(Words{{"b", "2"}, {"", "x"}, {"c", "10"}, {"a", "9"}})
     {
@@ -41,7 +36,6 @@ protected:
 
 TEST_F(Sorting, SortsAsTheDialogIsAnswered)
 {
-    const Words before = words();
     grid.setRowHeight(1, 600);
     select(3, 2, 3, 2);
     sortWith([](QDialog &dialog) {
@@ -52,15 +46,9 @@ TEST_F(Sorting, SortsAsTheDialogIsAnswered)
     });
     EXPECT_EQ(words(), (Words{{"", "x"}, {"c", "10"}, {"a", "9"}, {"b", "2"}, {}}));
     EXPECT_EQ(grid.RowHeight(4), 600);
-    EXPECT_EQ(grid.TextMatrix(4, 0), "4");
     EXPECT_EQ(document.selection(), (GridSelection{3, 2, 3, 2}));
     EXPECT_EQ(undo.kind(), UndoKind::Sort);
     EXPECT_TRUE(document.Dirty());
-    select(1, 1, 1, 1);
-    EditCommands(undo, flags, *QGuiApplication::clipboard()).Undo(document);
-    EXPECT_EQ(words(), before);
-    EXPECT_EQ(grid.RowHeight(4), 600);
-    EXPECT_EQ(document.selection(), (GridSelection{3, 2, 3, 2}));
 }
 
 TEST_F(Sorting, SortsOnlyTheSelectedRows)
@@ -73,24 +61,15 @@ TEST_F(Sorting, SortsOnlyTheSelectedRows)
     EXPECT_EQ(words(), (Words{{"b", "2"}, {"", "x"}, {"a", "9"}, {"c", "10"}, {}}));
 }
 
-TEST_F(Sorting, CancelChangesNothing)
+TEST_F(Sorting, CancelAndASortedVocabularyAreNoChange)
 {
     const Words before = words();
-    select(1, 1, 4, 1);
-    sortWith([](QDialog &dialog) {
-        EXPECT_FALSE(dialog.findChild<QCheckBox *>("chkSelection")->isEnabled());
-        QTest::keyClick(&dialog, Qt::Key_Escape);
-    });
+    sortWith([](QDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
     EXPECT_EQ(words(), before);
     EXPECT_EQ(undo.kind(), UndoKind::None);
-}
-
-TEST_F(Sorting, OfASortedVocabularyIsNoChange)
-{
     setWords({{"a", ""}, {"b", ""}});
-    modSorting::sortBy(Language1 | Ascending | Vocabulary, document, undo, English);
+    sortWith([](QDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
     EXPECT_FALSE(document.Dirty());
     EXPECT_EQ(undo.kind(), UndoKind::Sort);
 }
-
 } // namespace

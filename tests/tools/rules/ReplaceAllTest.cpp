@@ -30,12 +30,8 @@ int replaceStepByStep(MemoryCells &cells, Search search, const QString &with)
 
 TEST(ReplaceAll, ReplacesWhatTheSingleStepsReplace)
 {
-    struct Case
-    {
-        QString text, what, with, result;
-        int count;
-    };
-    const Case cases[] = {
+    // the text, what is replaced, with what, and the result
+    const std::tuple<QString, QString, QString, QString, int> cases[] = {
         {"banana", "a", "aa", "baanaanaa", 3},
         {"Anna", "a", "o", "onno", 2},
         {"abab", "b", "", "aa", 2},
@@ -44,11 +40,10 @@ TEST(ReplaceAll, ReplacesWhatTheSingleStepsReplace)
         {"aaa", "a", "", "a", 2},      // the search goes on one character behind the start of each match
         {"aaaa", "aa", "a", "aa", 2},
     };
-    for (const Case &test : cases) {
-        MemoryCells cells{{test.text, QString()}, {}};
-        const Search search = searchFor(test.what, WholeDocument);
-        EXPECT_EQ(ReplaceAll(search, test.with).run(cells), test.count);
-        EXPECT_EQ(cells.words[0][0], test.result);
+    for (const auto &[text, what, with, result, count] : cases) {
+        MemoryCells cells{{text, QString()}, {}};
+        EXPECT_EQ(ReplaceAll(searchFor(what, WholeDocument), with).run(cells), count);
+        EXPECT_EQ(cells.words[0][0], result);
     }
 }
 

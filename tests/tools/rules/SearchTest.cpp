@@ -39,14 +39,7 @@ std::string foundIn(const MemoryCells &cells, const QString &what, int flags)
 
 TEST(Search, FindsInOrder)
 {
-    struct Case
-    {
-        MemoryCells cells;
-        QString what;
-        int flags;
-        const char *found;
-    };
-    const Case cases[] = {
+    const std::tuple<MemoryCells, QString, int, const char *> cases[] = {
         {{{"aXa", "a"}, {"", "ba"}, {"A", ""}}, "a", WholeDocument, "A1:0 A1:2 A3:0 B1:0 B2:1"},
         {{{"aXa", "a"}, {"", "ba"}, {"A", ""}}, "a", Language1 | MatchCase, "A1:0 A1:2"},
         {{{"aXa", "a"}, {"", "ba"}, {"A", ""}}, "A", Language2, "B1:0 B2:1"},
@@ -67,10 +60,8 @@ TEST(Search, FindsInOrder)
         {{{"", "\u041C\u041E\u0421\u041A\u0412\u0410"}}, "\u043A\u0432", WholeDocument, "B1:3"},
         {{{"\U00010400\U00010401x", ""}}, "\U00010429", WholeDocument, "A1:2"},
     };
-    for (const Case &test : cases) {
-        EXPECT_EQ(foundIn(test.cells, test.what, test.flags), test.found)
-            << test.what.toStdString() << " " << test.flags;
-    }
+    for (const auto &[cells, what, flags, found] : cases)
+        EXPECT_EQ(foundIn(cells, what, flags), found) << what.toStdString() << " " << flags;
 }
 
 TEST(Search, LooksOnlyAtColumnTwoOnceThere)
