@@ -6,8 +6,6 @@
 
 #include <QClipboard>
 
-namespace {
-
 using Words = OpenDocument::Words;
 
 struct Editing : ::testing::Test, OpenDocument
@@ -137,19 +135,18 @@ TEST_F(Editing, UndoOfTypingTogglesAndEndsWhenThereIsNoTyping)
 
 TEST_F(Editing, UndoLeavesNothingToTheEditBoxOfASearch)
 {
-    commands.Clear(document);
     flags.FindMode = true;
-    grid.setEditMode(true);
-    grid.setFocus();
-    EXPECT_FALSE(flags.gridMode);
-    expectUndone(before);
-    document.endEdit();
-    EXPECT_EQ(words(), before);
-    grid.setEditMode(true);
     clipboard.clear();
-    commands.Paste(document);
-    document.endEdit();
-    expectUndone(before);
+    for (const auto command : {&EditCommands::Clear, &EditCommands::Paste}) {
+        flags.gridMode = command == &EditCommands::Clear;
+        (commands.*command)(document);
+        grid.setEditMode(true);
+        grid.setFocus();
+        EXPECT_FALSE(flags.gridMode);
+        expectUndone(before);
+        document.endEdit();
+        EXPECT_EQ(words(), before);
+    }
 }
 
 TEST_F(Editing, UndoActsOnTheDocumentOfTheRecordOnly)
@@ -161,5 +158,3 @@ TEST_F(Editing, UndoActsOnTheDocumentOfTheRecordOnly)
     EXPECT_EQ(other.words(), otherWords);
     EXPECT_EQ(undo.kind(), UndoKind::None);
 }
-
-} // namespace

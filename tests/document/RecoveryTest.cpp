@@ -5,8 +5,6 @@
 
 #include <QDir>
 
-namespace {
-
 /// A running program that keeps copies. What it leaves behind is found by another one over the same folder.
 struct Program : OpenFiles
 {
@@ -32,8 +30,6 @@ struct RecoveryTest : ::testing::Test
     }
 };
 
-} // namespace
-
 TEST_F(RecoveryTest, WhatWasChangedComesBackUnderItsName)
 {
     frmDoc *document = run->newDocument();
@@ -48,19 +44,14 @@ TEST_F(RecoveryTest, WhatWasChangedComesBackUnderItsName)
     run->keeper.flush();
     EXPECT_EQ(copies(), 1u);
     EXPECT_TRUE(run->keeper.orphans().empty()) << "a running program's own copies are not offered";
-    {
-        Program second(folder);
-        EXPECT_TRUE(second.keeper.orphans().empty()) << "nor to another program";
-    }
+    EXPECT_TRUE(Program(folder).keeper.orphans().empty()) << "nor to another program";
 
     restart();
     std::vector<RecoveryFolder::Orphan> orphans = run->keeper.orphans();
     ASSERT_EQ(orphans.size(), 1u);
-    EXPECT_EQ(orphans.front().copy.caption, "Untitled 1");
     EXPECT_LT(orphans.front().copy.time.secsTo(QDateTime::currentDateTime()), 60);
     run->keeper.recover(orphans.front());
-    ASSERT_EQ(run->documents.open().size(), 1u);
-    const frmDoc &recovered = *run->documents.open().front();
+    const frmDoc &recovered = *run->documents.open().at(0);
     EXPECT_EQ(recovered.Caption(), "Untitled 1");
     EXPECT_TRUE(recovered.Dirty());
     EXPECT_EQ(recovered.Rutor()->Rows(), 101);
@@ -88,22 +79,17 @@ TEST_F(RecoveryTest, AWordThatIsStillBeingTypedIsKeptToo)
 TEST_F(RecoveryTest, TheCopyGoesWhenTheChangesAreSavedOrGivenUp)
 {
     frmDoc *document = run->newDocument();
-    document->Rutor()->setTextMatrix(1, 1, "word");
-    document->setDirty(true);
-    run->keeper.flush();
     run->prompts.savePath = home.filePath("kept.gla");
-    run->files.save();
-    EXPECT_EQ(copies(), 0u);
-    run->keeper.flush();
-    EXPECT_EQ(copies(), 0u);
-
-    document->Rutor()->setTextMatrix(1, 1, "other");
-    document->setDirty(true);
-    run->keeper.flush();
-    EXPECT_EQ(copies(), 1u);
     run->alert.answers = {AlertBox::AnswerNo};
-    run->files.closeActive();
-    EXPECT_EQ(copies(), 0u);
+    for (const auto &[word, end] : {std::pair("word", &FileCommands::save), {"other", &FileCommands::closeActive}}) {
+        document->Rutor()->setTextMatrix(1, 1, word);
+        document->setDirty(true);
+        run->keeper.flush();
+        EXPECT_EQ(copies(), 1u);
+        (run->files.*end)();
+        run->keeper.flush();
+        EXPECT_EQ(copies(), 0u);
+    }
 }
 
 TEST_F(RecoveryTest, AnUnsavedDocumentThatClosesLeavesItsCopy)

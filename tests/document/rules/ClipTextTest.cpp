@@ -1,7 +1,5 @@
 #include "document/rules/ClipText.h"
 
-namespace {
-
 TEST(ClipText, TakesTextsOfAnyProgramApart)
 {
     using Rows = std::vector<ClipText::Row>;
@@ -32,11 +30,3 @@ TEST(ClipText, TakesTextsOfAnyProgramApart)
     for (const auto &[text, rows] : cases)
         EXPECT_EQ(ClipText::parse(text), rows) << text.toStdString();
 }
-
-TEST(ClipText, EmptiesEverySelectedCell)
-{
-    EXPECT_EQ(ClipText::emptyClip(2, 2), "\t\r\t\r");
-    EXPECT_EQ(ClipText::emptyClip(3, 1), "\r\r\r");
-}
-
-} // namespace

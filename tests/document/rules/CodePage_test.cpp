@@ -4,8 +4,6 @@
 
 #include <random>
 
-namespace {
-
 const char *const AllNames[] = {"windows-1250", "windows-1251", "windows-1252", "windows-1253", "windows-1254",
                                 "windows-1255", "windows-1256", "windows-1257", "windows-1258", "windows-874",
                                 "windows-932",  "windows-936",  "windows-949",  "windows-950"};
@@ -14,8 +12,6 @@ struct EveryCodePage : ::testing::TestWithParam<const char *>
 {
     const CodePage m_codePage{GetParam()};
 };
-
-} // namespace
 
 TEST_P(EveryCodePage, ReadsAndWritesEveryByte)
 {

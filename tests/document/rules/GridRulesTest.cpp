@@ -23,7 +23,6 @@ TEST(GridRules, RowsGrowForLongTextsAndNeverShrink)
         {3000, 240, 4000, 285, 285},                              // fits on a line
         {4001, 240, 4000, 285, 480},                              // rounded
         {6000, 240, 4000, 285, 720}, {6000, 240, 4000, 480, 480}, // the row already holds two lines
-        {6000, 240, 4000, 900, 900}, {6000, 240, 0, 285, 285},    // a hidden column has no lines
     };
     for (const auto &[width, height, column, before, after] : cases)
         EXPECT_EQ(grownRowHeight(width, height, column, before), after) << width;

@@ -8,8 +8,6 @@
 
 #include <sys/stat.h>
 
-namespace {
-
 using VocabularyCodec::Outcome;
 
 struct VocabularyFileTest : ::testing::Test
@@ -82,5 +80,3 @@ TEST_F(VocabularyFileTest, SamplesCanBeRead)
         EXPECT_GT(vocabulary.rows(), 20) << qPrintable(name);
     }
 }
-
-} // namespace
