@@ -29,51 +29,17 @@ struct PrintedPages : ::testing::Test
         layout.PrintLayout(modUtskrift::PrintMode, source);
         printer.endDoc();
     }
-    std::string info(const QString &key) const
-    {
-        const QStringList lines = outputOf("pdfinfo", {file}).split('\n').filter(key + ':');
-        return lines.value(0).section(':', 1).trimmed().toStdString();
-    }
-    /// The lines of a page (from 1), their blanks drawn together.
-    QStringList page(int number) const
-    {
-        const QString n = QString::number(number);
-        QStringList lines;
-        for (const QString &line : outputOf("pdftotext", {"-layout", "-f", n, "-l", n, file, "-"}).split('\n')) {
-            if (!line.simplified().isEmpty())
-                lines.append(line.simplified());
-        }
-        return lines;
-    }
 };
 
-TEST_F(PrintedPages, HoldTheWordsInTheirOrder)
+TEST_F(PrintedPages, HoldWordsOfEveryScriptOnSheetsOfA4)
 {
     source.fill(120);
-    source.pairs[1] = {"être à l'heure", "pünktlich sein"};
+    source.pairs[1] = {"слово", "λέξη"};
+    source.pairs[119] = {"漢字", "שלום"};
     print();
-    EXPECT_EQ(info("Pages"), std::to_string(layout.pageCount()));
-    EXPECT_THAT(info("Page size"), ::testing::HasSubstr("(A4)"));
-    int row = 0;
-    for (int number = 1; number <= layout.pageCount(); ++number) {
-        QStringList lines = page(number);
-        ASSERT_GE(lines.size(), 3);
-        EXPECT_EQ(lines.takeFirst(), "Glosaria - Words");
-        EXPECT_EQ(lines.takeFirst(), "English German");
-        EXPECT_EQ(lines.takeLast(), QString::number(number));
-        for (const QString &line : lines) {
-            const auto &[first, second] = source.pairs.at(size_t(row++));
-            EXPECT_EQ(line, QString("%1 %2 %3").arg(row).arg(first, second));
-        }
-    }
-    EXPECT_EQ(row, 120);
-}
-
-TEST_F(PrintedPages, WordsOfEveryScriptAreThere)
-{
-    source.pairs = {{"слово", "λέξη"}, {"漢字", "שלום"}};
-    print();
-    const QString text = page(1).join('\n');
+    const QString info = outputOf("pdfinfo", {file}).simplified();
+    EXPECT_TRUE(info.contains("Pages: 3 ") && info.contains("(A4)")) << info.toStdString();
+    const QString text = outputOf("pdftotext", {file, "-"});
     for (const auto &[first, second] : source.pairs)
         EXPECT_TRUE(text.contains(first) && text.contains(second)) << text.toStdString();
 }
