@@ -5,8 +5,6 @@
 
 #include <QFontMetricsF>
 
-namespace {
-
 struct SizeDialog : ::testing::Test, OpenDocument
 {
     SizeDialog()
@@ -67,5 +65,3 @@ TEST_F(SizeDialog, ChangesNothingWithoutASize)
     answer(frmColRow::RowHeight, "99999999", Qt::Key_Return);
     EXPECT_GT(heightPixels(1), 100000);
 }
-
-} // namespace

@@ -9,8 +9,6 @@
 #include <QClipboard>
 #include <QRadioButton>
 
-namespace {
-
 using Words = OpenDocument::Words;
 
 struct FindReplace : ::testing::Test, OpenDocument
@@ -28,7 +26,6 @@ struct FindReplace : ::testing::Test, OpenDocument
         ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
     }
     template <typename T> T *control(const char *name) { return dialog->findChild<T *>(QString::fromLatin1(name)); }
-    QPushButton *button(const char *name) { return control<QPushButton>(name); }
     void click(const char *name) { QTest::mouseClick(control<QAbstractButton>(name), Qt::LeftButton); }
     void type(const char *box, const QString &text)
     {
@@ -50,19 +47,17 @@ struct FindReplace : ::testing::Test, OpenDocument
 TEST_F(FindReplace, OpensWithTheCurrentCellsTextAndWidens)
 {
     open(false);
-    EXPECT_EQ(dialog->windowTitle(), "Find");
     EXPECT_EQ(control<QLineEdit>("txtFind")->selectedText(), "cat");
     EXPECT_EQ(control<QRadioButton>("optScope1")->text(), "&1 Language 1");
     const int height = dialog->height();
     click("btnReplace");
     EXPECT_EQ(dialog->windowTitle(), "Replace");
-    EXPECT_EQ(button("btnReplace")->text(), "&Replace");
     EXPECT_GE(dialog->height() - height, 46); // 700 twips
     EXPECT_TRUE(flags.ReplaceMode && !flags.FindMode);
     EXPECT_EQ(shown(), "nothing");
     type("txtFind", "");
     for (const char *name : {"btnFind", "btnReplace", "btnReplaceAll"})
-        EXPECT_FALSE(button(name)->isEnabled()) << name;
+        EXPECT_FALSE(control<QPushButton>(name)->isEnabled()) << name;
 }
 
 TEST_F(FindReplace, ShowsMatchAfterMatchAndReportsTheEnd)
@@ -165,5 +160,3 @@ TEST_F(FindReplace, LeavesNoUndoStepToAnotherDocument)
     EXPECT_FALSE(dialog->isVisible() || flags.searching());
     EXPECT_EQ(undo.kind(), UndoKind::None);
 }
-
-} // namespace

@@ -8,8 +8,6 @@
 #include <QCheckBox>
 #include <QFontDatabase>
 
-namespace {
-
 struct FontDialog : ::testing::Test, OpenDocument
 {
     void open()
@@ -94,4 +92,3 @@ TEST_F(FontDialog, EnterInAListAppliesAndStoresTheDefault)
         EXPECT_EQ(settings.FontName(), grid.Font().family());
     }
 }
-} // namespace

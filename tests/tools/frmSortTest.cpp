@@ -5,8 +5,6 @@
 
 #include <QCheckBox>
 
-namespace {
-
 using Words = OpenDocument::Words;
 
 const QLocale English(QLocale::English);
@@ -34,23 +32,6 @@ struct Sorting : ::testing::Test, OpenDocument
     }
 };
 
-TEST_F(Sorting, SortsAsTheDialogIsAnswered)
-{
-    grid.setRowHeight(1, 600);
-    select(3, 2, 3, 2);
-    sortWith([](QDialog &dialog) {
-        EXPECT_FALSE(dialog.findChild<QCheckBox *>("chkSelection")->isEnabled());
-        click(dialog, "optLang1");
-        click(dialog, "optOrder1");
-        QTest::keyClick(&dialog, Qt::Key_Return);
-    });
-    EXPECT_EQ(words(), (Words{{"", "x"}, {"c", "10"}, {"a", "9"}, {"b", "2"}, {}}));
-    EXPECT_EQ(grid.RowHeight(4), 600);
-    EXPECT_EQ(document.selection(), (GridSelection{3, 2, 3, 2}));
-    EXPECT_EQ(undo.kind(), UndoKind::Sort);
-    EXPECT_TRUE(document.Dirty());
-}
-
 TEST_F(Sorting, SortsOnlyTheSelectedRows)
 {
     select(4, 2, 3, 1);
@@ -72,4 +53,3 @@ TEST_F(Sorting, CancelAndASortedVocabularyAreNoChange)
     EXPECT_FALSE(document.Dirty());
     EXPECT_EQ(undo.kind(), UndoKind::Sort);
 }
-} // namespace

@@ -1,7 +1,5 @@
 #include "tools/rules/DialogPlace.h"
 
-namespace {
-
 TEST(DialogPlace, KeepsTheSelectionVisible)
 {
     const QRect owner(100, 100, 800, 600), screen(0, 0, 1000, 800);
@@ -18,5 +16,3 @@ TEST(DialogPlace, KeepsTheSelectionVisible)
         EXPECT_EQ(DialogPlace::topLeft({dialog, preferred, owner, screen, keepFree}), expected)
             << keepFree.x() << "," << keepFree.y();
 }
-
-} // namespace
