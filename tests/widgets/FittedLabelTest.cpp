@@ -2,8 +2,6 @@
 
 #include <QTextDocumentFragment>
 
-namespace {
-
 const QString LongPhrase = "a phrase that is a good deal longer than the label that has to show it";
 
 struct FittedLabelTest : ::testing::Test
@@ -17,8 +15,6 @@ struct FittedLabelTest : ::testing::Test
     QWidget window;
     FittedLabel label{&window};
 };
-
-} // namespace
 
 TEST_F(FittedLabelTest, ALongTextIsCutToTheWidthOfTheMomentAndStandsInTheTooltip)
 {

@@ -5,8 +5,6 @@
 
 #include <limits>
 
-namespace {
-
 struct SpokenGrid : ::testing::Test
 {
     SpokenGrid()
@@ -25,8 +23,6 @@ struct SpokenGrid : ::testing::Test
     QAccessibleInterface *interface;
     QAccessibleTableInterface *table;
 };
-
-} // namespace
 
 TEST_F(SpokenGrid, AnswersEveryIndex)
 {

