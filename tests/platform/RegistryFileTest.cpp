@@ -9,8 +9,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace {
-
 const QString Key = "Software\\Glosaria";
 
 struct RegistryFileTest : ::testing::Test
@@ -31,8 +29,6 @@ struct RegistryFileTest : ::testing::Test
     const QString m_a = "a";
     const QString m_b = "b";
 };
-
-} // namespace
 
 TEST_F(RegistryFileTest, EveryOperationReachesTheFile)
 {

@@ -10,8 +10,6 @@
 #include <csignal>
 #include <sys/stat.h>
 
-namespace {
-
 constexpr int Patience = 20000; // ms, only spent when something is wrong
 
 /// Copies of a program that are real processes.
@@ -67,8 +65,6 @@ struct SingleInstanceTest : ::testing::Test
 
     QTemporaryDir m_folder;
 };
-
-} // namespace
 
 TEST(HandOff, MessageIsTheBlockAndTheTextInUtf16)
 {

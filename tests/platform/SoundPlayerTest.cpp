@@ -1,6 +1,7 @@
 #include "platform/SoundPlayer.h"
+#include "support/Files.h"
 
-#include <QFile>
+#include <QFileInfo>
 #include <QThread>
 
 // The player found first on the search path is given a file with the sound.
@@ -11,17 +12,13 @@ TEST(SoundPlayer, PlayerOfTheDesktopPlaysTheSound)
     qputenv("PATH", QFile::encodeName(folder.path()));
     DesktopSoundPlayer player("RIFF sound");
     player.play(); // no player, no sound
-    QFile script(folder.filePath(QStringLiteral("aplay")));
-    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
-    script.write(
-        "#!/bin/sh\n[ $1 = -q ] && while read -r line || [ \"$line\" ]; do echo \"$line\"; done < $2 > $0.heard\n");
-    script.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
-    script.close();
+    const QString script =
+        writeFile(folder.filePath("aplay"), "#!/bin/sh\n[ $1 = -q ] && while read -r line || [ \"$line\" ];"
+                                            " do echo \"$line\"; done < $2 > $0.heard\n");
+    QFile::setPermissions(script, QFile::ReadOwner | QFile::ExeOwner);
     player.play();
-    QFile heard(script.fileName() + QStringLiteral(".heard"));
-    for (int i = 0; i < 4000 && heard.size() == 0; ++i)
+    for (int i = 0; i < 4000 && QFileInfo(script + ".heard").size() == 0; ++i)
         QThread::msleep(5);
-    EXPECT_TRUE(heard.open(QIODevice::ReadOnly));
-    EXPECT_EQ(heard.readAll(), "RIFF sound\n");
+    EXPECT_EQ(readFile(script + ".heard"), "RIFF sound\n");
     qputenv("PATH", path);
 }

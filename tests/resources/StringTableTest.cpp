@@ -4,8 +4,6 @@
 #include <QDirIterator>
 #include <QRegularExpression>
 
-namespace {
-
 TEST(StringTable, TheProgramCarriesItsFaultlessSource)
 {
     QStringList faults;
@@ -43,5 +41,3 @@ TEST(StringTable, ParserResolvesEscapesAndNamesFaults)
     EXPECT_EQ(faults, (QStringList{"line 5: doubled id 2", "line 6: malformed", "line 7: malformed",
                                    "line 8: malformed", "line 9: malformed", "line 10: malformed"}));
 }
-
-} // namespace
