@@ -40,13 +40,6 @@ struct HelpTest : MainWindowFixture
         QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, {}, widget->mapTo(widget->window(), place));
         return help.popUps;
     }
-    void fillWords()
-    {
-        for (int row = 1; row <= 4; ++row) {
-            for (int col = 1; col <= 2; ++col)
-                documents().active()->Rutor()->setTextMatrix(row, col, QString::number(10 * row + col));
-        }
-    }
 };
 
 /// What a user can click or type into.
@@ -80,8 +73,7 @@ QString mnemonics(const QWidget &window)
 
 TEST_F(HelpTest, EveryControlOfEveryDialogHasATopicATextANameAndAKey)
 {
-    newDocument();
-    fillWords();
+    newDocument()->Rutor()->setWords({"", "1", "2", "3", "4", ""}, {"", "5", "6", "7", "8", ""}, {});
     const std::tuple<const char *, int, const char *> commands[] = {
         {"mnuEditFind", 1160, "FD12MWNRC"},
         {"mnuEditReplace", 1170, "FED12MWNRAC"},

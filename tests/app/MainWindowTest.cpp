@@ -8,8 +8,6 @@
 #include <QMdiSubWindow>
 #include <QMimeData>
 
-namespace {
-
 struct MainWindowTest : MainWindowFixture
 {
     void drop(const QString &path, int y)
@@ -27,8 +25,6 @@ struct MainWindowTest : MainWindowFixture
         QCoreApplication::processEvents();
     }
 };
-
-} // namespace
 
 TEST_F(MainWindowTest, NewDocumentsCascadeInsideTheAreaAndTheirColumnsFillThem)
 {
@@ -62,7 +58,6 @@ TEST_F(MainWindowTest, ClosingADocumentAmidAnEditLeavesNothingToDo)
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_W, Qt::ControlModifier);
     QApplication::processEvents();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QApplication::processEvents();
     EXPECT_EQ(window->state(), AppState::StateNoDocument);
     EXPECT_EQ(window->UndoAction(), resText(419));
     EXPECT_TRUE(flags.gridMode);
@@ -116,8 +111,7 @@ TEST_F(MainWindowTest, OnlyVocabulariesDroppedOnTheDocumentAreaOpen)
     drop(file, window->toolbarHeight());
     drop(file, window->height() - window->context().status.height() - 52);
     drop(folder.filePath("notes.txt"), window->height() / 2);
-    EXPECT_TRUE(documents().open().empty());
-    EXPECT_TRUE(alert.shown.empty());
+    EXPECT_TRUE(documents().open().empty() && alert.shown.empty());
     drop(file, window->height() / 2);
     EXPECT_EQ(documents().open().size(), 1u);
 }

@@ -6,8 +6,6 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
-namespace {
-
 struct PreviewCommandsTest : MainWindowFixture
 {
     /// A document whose words fill a number of pages.
@@ -23,8 +21,6 @@ struct PreviewCommandsTest : MainWindowFixture
     PrintPreview &preview() { return window->context().print.preview(); }
 };
 
-} // namespace
-
 TEST_F(PreviewCommandsTest, ThePreviewTakesTheDocumentsPlaceAndGivesItBack)
 {
     std::vector<std::pair<frmDoc *, QRect>> places;
@@ -39,6 +35,10 @@ TEST_F(PreviewCommandsTest, ThePreviewTakesTheDocumentsPlaceAndGivesItBack)
     undo.setKind(UndoKind::Clear, active);
     window->DoMenuClick("mnuFilePrintPreview");
     EXPECT_EQ(window->state(), AppState::StatePreview);
+    EXPECT_FALSE(window->findChild<QToolBar *>("STANDARD")->isVisible());
+    EXPECT_EQ(menuTitles(), (QStringList{"File", "Help"}));
+    for (const char *entry : {"(New)", "(Open...)", "(Close)", "(Save)", "(Save As...)"})
+        EXPECT_TRUE(entries("mnuFile").contains(QLatin1String(entry))) << entry;
     for (const auto &[made, place] : places)
         EXPECT_FALSE(made->frame()->isVisible());
     EXPECT_EQ(status(0) + status(1), "");

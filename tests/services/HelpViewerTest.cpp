@@ -10,8 +10,6 @@
 #include <QTreeWidget>
 #include <QWindow>
 
-namespace {
-
 struct HelpViewerTest : ::testing::Test
 {
     QTemporaryDir folder;
@@ -133,16 +131,3 @@ TEST_F(HelpViewerTest, StaysUsableWhileDialogsOpenAndClose)
     second.close();
     EXPECT_TRUE(goesHome()) << "back in the first dialog";
 }
-
-TEST_F(HelpViewerTest, AlertBoxesHaveAWindowOfTheirOwn)
-{
-    viewers.HtmlHelp(target, HH_HELP_CONTEXT, 1210);
-    target.HelpWindow = "MboxHelp";
-    viewers.HtmlHelp(target, HH_HELP_CONTEXT, 1400);
-    const HelpViewer *box = viewers.window("MboxHelp");
-    EXPECT_EQ(box->page(), "html/savechanges.html");
-    EXPECT_EQ(main()->page(), "html/sort.html");
-    EXPECT_FALSE(box->findChild<QTreeWidget *>("contents")->isVisible());
-}
-
-} // namespace

@@ -3,8 +3,6 @@
 
 #include <QProgressBar>
 
-namespace {
-
 struct StatusBarTest : ::testing::Test
 {
     ProgramFlags flags;
@@ -16,8 +14,6 @@ struct StatusBarTest : ::testing::Test
         bar.createPanels(900);
     }
 };
-
-} // namespace
 
 TEST_F(StatusBarTest, PanelsStandAtTheirEdgesAlsoWhenTheWindowGrows)
 {
