@@ -1,11 +1,11 @@
 #include "services/HelpDisplay.h"
 
-#include <QCoreApplication>
+#include "platform/ProgramFiles.h"
 
 HelpTarget HelpTarget::ofProgram()
 {
     HelpTarget target;
-    target.HTMLHelpFile = QCoreApplication::applicationDirPath() + QStringLiteral("/glhelp.qch");
+    target.HTMLHelpFile = ProgramFiles::path(QStringLiteral("glhelp.qch"));
     return target;
 }
 

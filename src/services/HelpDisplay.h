@@ -23,7 +23,7 @@ struct HelpTarget
     QString ContextHelpFile = QStringLiteral("context.txt"); ///< the file within it that lists the context numbers
     QString HelpWindow = QStringLiteral("Main");             ///< name of the window in which topics open
 
-    /// The program's own help, which lies beside the program.
+    /// The program's own help, which comes with the program.
     static HelpTarget ofProgram();
     /// The same in the window for alert boxes.
     static HelpTarget ofAlertBoxes();

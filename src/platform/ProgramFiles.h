@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+/// The files that come with the program without being part of its executable.
+namespace ProgramFiles {
+
+/// Absolute path of a file: beside the program, where it is built, or in the data folder of its installation. One that
+/// stands at neither place is expected beside the program.
+QString path(const QString &name);
+
+} // namespace ProgramFiles
