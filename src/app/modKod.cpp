@@ -74,8 +74,8 @@ void registerFileType()
 {
     FileAssociation association;
     association.programPath = QApplication::applicationFilePath();
-    association.programName = QApplication::applicationName();
-    association.typeName = resText(12603);
+    association.desktopEntry = ResourceFiles::contents(ResourceFiles::DesktopEntry);
+    association.mimePackage = ResourceFiles::contents(ResourceFiles::MimePackage);
     association.programIcon = ResourceFiles::contents(ResourceFiles::ApplicationIcon);
     association.typeIcon = ResourceFiles::contents(ResourceFiles::DocumentIcon);
     association.registerType();
@@ -88,7 +88,7 @@ void readSettings(Program &program)
     } catch (const RegistryError &error) {
         showAlert(program.alert, error.Description());
     }
-    if (program.settings.firstRun())
+    if (program.settings.firstRun() || FileAssociation::isBroken())
         registerFileType();
 }
 

@@ -15,14 +15,21 @@ const QString MimePackage = QStringLiteral("mime/packages/glosaria.xml");
 const QString DesktopEntry = QStringLiteral("applications/glosaria.desktop");
 const QString ProgramIcon = QStringLiteral("icons/hicolor/scalable/apps/glosaria.svg");
 const QString TypeIcon = QStringLiteral("icons/hicolor/scalable/mimetypes/application-x-glosaria.svg");
+const QByteArray TryExec("TryExec=");
+
+QString userFile(const QString &name)
+{
+    return UserFolders::sharedData() + QLatin1Char('/') + name;
+}
 
 /// A value of a desktop entry, in which a backslash begins an escape.
-QString entryValue(QString text)
+QByteArray entryValue(QString text)
 {
     return text.replace(QLatin1Char('\\'), QLatin1String("\\\\"))
         .replace(QLatin1Char('\n'), QLatin1String("\\n"))
         .replace(QLatin1Char('\r'), QLatin1String("\\r"))
-        .replace(QLatin1Char('\t'), QLatin1String("\\t"));
+        .replace(QLatin1Char('\t'), QLatin1String("\\t"))
+        .toUtf8();
 }
 
 /// An argument of an Exec line in quotes. Inside them four characters need a backslash; the percent sign is doubled.
@@ -64,50 +71,40 @@ bool FileAssociation::isInstalled()
     });
 }
 
-QByteArray FileAssociation::mimePackage() const
+bool FileAssociation::isBroken()
 {
-    return QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                          "<mime-info xmlns=\"http://www.freedesktop.org/standards/shared-mime-info\">\n"
-                          "  <mime-type type=\"%1\">\n"
-                          "    <comment>%2</comment>\n"
-                          "    <sub-class-of type=\"text/plain\"/>\n"
-                          "    <glob pattern=\"*.gla\"/>\n"
-                          "  </mime-type>\n"
-                          "</mime-info>\n")
-        .arg(mimeType(), typeName.toHtmlEscaped())
-        .toUtf8();
+    QFile file(userFile(DesktopEntry));
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArrayList lines = file.readAll().split('\n');
+    return std::any_of(lines.begin(), lines.end(), [](const QByteArray &line) {
+        const QByteArray program = line.mid(TryExec.size()).replace("\\\\", "\\");
+        return line.startsWith(TryExec) && program.startsWith('/') &&
+               !QFileInfo(QFile::decodeName(program)).isExecutable();
+    });
 }
 
-QByteArray FileAssociation::desktopEntry() const
+QByteArray FileAssociation::userEntry() const
 {
-    return QStringLiteral("[Desktop Entry]\n"
-                          "Type=Application\n"
-                          "Name=%1\n"
-                          "Exec=%2 %f\n"
-                          "TryExec=%3\n"
-                          "Icon=glosaria\n"
-                          "MimeType=%4;\n"
-                          "Categories=Education;Languages;Qt;\n"
-                          "StartupNotify=true\n"
-                          "StartupWMClass=glosaria\n")
-        .arg(entryValue(programName), entryValue(quotedArgument(programPath)), entryValue(programPath), mimeType())
-        .toUtf8();
+    const QByteArray exec = "\nExec=" + entryValue(quotedArgument(programPath)) + ' ';
+    const QByteArray tryExec = '\n' + TryExec + entryValue(programPath) + '\n';
+    QByteArray entry = desktopEntry;
+    return entry.replace("\nExec=glosaria ", exec).replace("\nTryExec=glosaria\n", tryExec);
 }
 
 bool FileAssociation::registerType() const
 {
     if (isInstalled())
-        return true;
-    const QString folder = UserFolders::sharedData() + QLatin1Char('/');
+        return !isBroken() || QFile::remove(userFile(DesktopEntry));
     const std::pair<QString, QByteArray> files[] = {
-        {MimePackage, mimePackage()}, {ProgramIcon, programIcon}, {TypeIcon, typeIcon}, {DesktopEntry, desktopEntry()}};
+        {MimePackage, mimePackage}, {ProgramIcon, programIcon}, {TypeIcon, typeIcon}, {DesktopEntry, userEntry()}};
     bool changed = false;
     bool written = true;
     for (const auto &[name, content] : files)
-        written = ensureContent(folder + name, content, changed) && written;
+        written = ensureContent(userFile(name), content, changed) && written;
     if (changed) {
-        DetachedProcess::start(QStringLiteral("update-mime-database"), {folder + QStringLiteral("mime")});
-        DetachedProcess::start(QStringLiteral("update-desktop-database"), {folder + QStringLiteral("applications")});
+        DetachedProcess::start(QStringLiteral("update-mime-database"), {userFile(QStringLiteral("mime"))});
+        DetachedProcess::start(QStringLiteral("update-desktop-database"), {userFile(QStringLiteral("applications"))});
         DetachedProcess::start(QStringLiteral("xdg-mime"),
                                {QStringLiteral("default"), QFileInfo(DesktopEntry).fileName(), mimeType()});
     }

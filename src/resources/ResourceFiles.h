@@ -11,6 +11,9 @@ inline constexpr QLatin1String StringTable("strings.txt");
 inline constexpr QLatin1String ErrorSound("error.wav");
 inline constexpr QLatin1String ApplicationIcon("pictures/glosaria.svg");
 inline constexpr QLatin1String DocumentIcon("pictures/document.svg");
+/// What the desktop is told of the program and of its files, as a package installs it.
+inline constexpr QLatin1String DesktopEntry("desktop/glosaria.desktop");
+inline constexpr QLatin1String MimePackage("desktop/glosaria.xml");
 /// The product's name as a picture, and the tile of the pattern beside it.
 inline constexpr QLatin1String ProductPicture("pictures/product.svg");
 inline constexpr QLatin1String SplashPattern("pictures/splashpattern.svg");

@@ -1,13 +1,20 @@
 #include "platform/FileAssociation.h"
+#include "support/Files.h"
 
 #include <QDir>
 #include <QMimeDatabase>
 
 namespace {
 
-FileAssociation glosaria(const char *path = "/opt/glosaria/glosaria")
+QByteArray packaged(const char *name)
 {
-    return {QString::fromUtf8(path), "Glosaria", "Words & <tags>", "<svg>program</svg>", "<svg>file</svg>"};
+    return readFile(QStringLiteral(SOURCE_FOLDER "/src/resources/desktop/") + name);
+}
+
+FileAssociation glosaria(const char *path = "/bin/sh")
+{
+    return {QString::fromUtf8(path), packaged("glosaria.desktop"), packaged("glosaria.xml"), "<svg>program</svg>",
+            "<svg>file</svg>"};
 }
 
 /// Folders for the data of the user and of the system, and a desktop without tools.
@@ -35,19 +42,24 @@ TEST_F(FileAssociationTest, DesktopLearnsTypeIconsAndProgram)
         EXPECT_GT(QFileInfo(user.filePath(name)).size(), 0) << name;
     const QMimeType type = QMimeDatabase().mimeTypeForFile("x.gla", QMimeDatabase::MatchExtension);
     EXPECT_EQ(type.name(), FileAssociation::mimeType());
-    EXPECT_EQ(type.comment(), "Words & <tags>");
+    EXPECT_TRUE(packaged("glosaria.desktop").split('\n').contains("MimeType=" + type.name().toUtf8() + ';'));
 }
 
 TEST_F(FileAssociationTest, InstalledPackageComesFirst)
 {
+    for (const auto &[program, broken] : {std::pair("/bin/sh", false), std::pair("/missing\\it", true)}) {
+        ASSERT_TRUE(glosaria(program).registerType());
+        EXPECT_EQ(FileAssociation::isBroken(), broken) << program;
+    }
     for (const char *name : {"mime/packages/glosaria.xml", "applications/glosaria.desktop"}) {
         EXPECT_FALSE(FileAssociation::isInstalled());
-        QFile file(system.filePath(name));
-        QDir().mkpath(QFileInfo(file).path());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        QDir(system.path()).mkpath(QFileInfo(name).path());
+        writeFile(system.filePath(name), "");
     }
-    EXPECT_TRUE(glosaria().registerType());
-    EXPECT_TRUE(QDir(user.path()).isEmpty());
+    for (const char *attempt : {"gives way", "is not written again"}) {
+        EXPECT_TRUE(glosaria().registerType());
+        EXPECT_FALSE(QFile::exists(user.filePath("applications/glosaria.desktop"))) << attempt;
+    }
 }
 
 TEST(FileAssociation, ProgramPathIsQuoted)
@@ -59,5 +71,5 @@ TEST(FileAssociation, ProgramPathIsQuoted)
         {"/a\\b/%1/glosaria", R"("/a\\\\b/%%1/glosaria" %f)"},
     };
     for (const auto &[path, exec] : cases)
-        EXPECT_TRUE(glosaria(path).desktopEntry().contains(QByteArray("\nExec=").append(exec).append('\n'))) << path;
+        EXPECT_TRUE(glosaria(path).userEntry().contains(QByteArray("\nExec=").append(exec).append('\n'))) << path;
 }
