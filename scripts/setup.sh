@@ -1,13 +1,15 @@
 #!/usr/bin/env bash
-# Installs what packages.txt names and this machine lacks. Says nothing when all is there.
+# Installs what the lists name and this machine lacks: scripts/setup.sh [LIST...]
+# The lists stand beside this script; packages.txt if none is given. Says nothing when all is there.
 set -euo pipefail
-here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+cd "$(dirname "${BASH_SOURCE[0]}")"
 
+packages=$(cat -- "${@:-packages.txt}")
 missing=()
 while read -r package _; do
     case $package in '' | '#'*) continue ;; esac
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || missing+=("$package")
-done <"$here/packages.txt"
+done <<<"$packages"
 [ ${#missing[@]} -gt 0 ] || exit 0
 
 as_root=()
