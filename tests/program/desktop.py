@@ -8,6 +8,7 @@ Everything the desktop started ends with it or with its display. What is missing
 names it; what is waited for in vain leaves a picture of the desktop in the working folder.
 """
 
+import ctypes
 import itertools
 import os
 import pathlib
@@ -20,7 +21,7 @@ import time
 
 TOOLS = ("Xvfb", "openbox", "dbus-daemon", "xdotool", "xclip", "xkbcomp", "import", "pdftotext")
 PATIENCE = 30  # seconds that anything may take on a busy machine
-
+INTERRUPTIONS = (signal.SIGINT, signal.SIGTERM, signal.SIGHUP)
 FREE_KEYS = (*range(147, 191), *range(208, 235), *range(239, 256))
 KEYBOARD = """
     xkb_keymap {
@@ -30,6 +31,18 @@ KEYBOARD = """
         xkb_symbols { include "pc+us" LETTERS };
     };
 """
+
+_LIBC = ctypes.CDLL(None)
+_PR_SET_PDEATHSIG = 1
+
+
+def _die_with_parent():
+    """What a desktop started ends even if this process is killed and cannot end it."""
+    _LIBC.prctl(_PR_SET_PDEATHSIG, signal.SIGKILL)
+
+
+def _interrupt(*_):
+    raise KeyboardInterrupt  # which passes through every test and ends the desktop on its way
 
 
 class Missing(Exception):
@@ -63,6 +76,8 @@ class Desktop:
         }
         sanitizers = ("ASAN_OPTIONS", "UBSAN_OPTIONS")
         self._environment.update({name: os.environ[name] for name in sanitizers if name in os.environ})
+        for interruption in INTERRUPTIONS:
+            signal.signal(interruption, _interrupt)
         self._add_folder("XDG_RUNTIME_DIR", self._folder / "run")
         self.fresh_home()
         try:
@@ -76,6 +91,8 @@ class Desktop:
         return self
 
     def __exit__(self, *_):
+        for interruption in INTERRUPTIONS:
+            signal.signal(interruption, signal.SIG_IGN)
         self.end_programs()
         for process in reversed(self._processes):
             self._end(process)
@@ -246,7 +263,8 @@ class Desktop:
         with log:
             options.setdefault("stdout", log)
             process = subprocess.Popen(
-                command, env=self._environment, stdin=subprocess.DEVNULL, stderr=log, start_new_session=True, **options
+                command, env=self._environment, stdin=subprocess.DEVNULL, stderr=log, start_new_session=True,
+                preexec_fn=_die_with_parent, **options
             )
         self._processes.append(process)
         return process
