@@ -404,6 +404,11 @@ void frmApp::closeEvent(QCloseEvent *event)
     }
     storePosition();
     saveSettings();
+    // A message about the settings may have kept the user here for long enough to open another file.
+    if (!m_context->documents.open().empty()) {
+        event->ignore();
+        return;
+    }
     event->accept();
     Q_EMIT closed();
 }

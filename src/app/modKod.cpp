@@ -6,6 +6,7 @@
 #include "document/RecoveryKeeper.h"
 #include "document/rules/CodePage.h"
 #include "platform/CommonControls.h"
+#include "platform/DetachedProcess.h"
 #include "platform/FileAssociation.h"
 #include "platform/InstancePlace.h"
 #include "platform/RegistryFile.h"
@@ -114,6 +115,12 @@ void listen(SingleInstance &instance, frmApp &window)
 {
     QObject::connect(&instance, &SingleInstance::activated, &window, &frmApp::bringToFront);
     QObject::connect(&instance, &SingleInstance::received, &window, &frmApp::OpenRequestedFile);
+    QObject::connect(&window, &frmApp::closed, &instance, [&instance] {
+        const QStringList unanswered = instance.leave();
+        for (const QString &text : unanswered)
+            DetachedProcess::start(QApplication::applicationFilePath(), {text});
+    });
+    instance.serve();
 }
 
 /// Asks what is to become of the copies that a crash left behind, if there are any.
@@ -185,8 +192,8 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     DialogHelp dialogHelp(program.help, program.alert, HelpTarget::ofProgram());
     program.alert.setMainWindow(&window);
     program.prompts.setOwner(&window);
-    QObject::connect(&window, &frmApp::closed, &application, &QApplication::quit);
     listen(instance, window);
+    QObject::connect(&window, &frmApp::closed, &application, &QApplication::quit);
     RecoveryKeeper keeper(window.context().documents, window.context().files,
                           UserFolders::state() + QStringLiteral("/recovery"));
     askAtEnd(application, window, watcher, keeper);

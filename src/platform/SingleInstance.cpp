@@ -6,10 +6,10 @@
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QLocalSocket>
-#include <QPointer>
 #include <QThread>
 #include <QTimer>
+
+#include <utility>
 
 namespace {
 
@@ -39,16 +39,42 @@ SingleInstance::SingleInstance(const QString &socketPath, const SingleInstanceLi
     , m_socketPath(socketPath)
     , m_limits(limits)
 {
-    connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::acceptConnections);
 }
 
 SingleInstance::~SingleInstance()
 {
+    leave();
+}
+
+void SingleInstance::serve()
+{
+    connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::acceptConnections);
+    acceptConnections();
+}
+
+QStringList SingleInstance::leave()
+{
     if (!m_server.isListening())
-        return;
+        return {};
+    m_server.disconnect(this);
+    while (m_server.waitForNewConnection(0))
+        acceptConnections();
+    const QList<QLocalSocket *> senders = m_server.findChildren<QLocalSocket *>();
+    for (QLocalSocket *sender : senders) {
+        while (sender->waitForReadyRead(0)) { // what it sent, and that it has hung up
+        }
+    }
+    QStringList givenUp;
+    for (const Message &message : std::exchange(m_messages, {})) {
+        if (!message.text.isEmpty() && (!message.sender || message.sender->state() != QLocalSocket::ConnectedState))
+            givenUp.append(message.text);
+    }
     // Closing removes the socket, which must not by then be that of a copy which found nobody here.
     const FolderLock lock(QFileInfo(m_socketPath).path(), ClosingLockWait);
     m_server.close();
+    for (QLocalSocket *sender : senders)
+        sender->abort();
+    return givenUp;
 }
 
 SingleInstance::Role SingleInstance::start(const QString &commandLine)
@@ -129,21 +155,24 @@ void SingleInstance::readMessage(QLocalSocket *socket, QTimer *stall)
         return;
     }
     stall->stop();
+    m_messages.push_back({socket, parsed.text});
     // Not from inside the socket's own signal: slots may run event loops, in which the sender can go away.
-    const QPointer<QLocalSocket> sender = socket;
-    QMetaObject::invokeMethod(
-        this, [this, sender, text = parsed.text] { handle(sender, text); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &SingleInstance::handleNext, Qt::QueuedConnection);
 }
 
-void SingleInstance::handle(const QPointer<QLocalSocket> &sender, const QString &text)
+void SingleInstance::handleNext()
 {
+    if (m_messages.empty())
+        return;
+    const Message message = m_messages.front();
+    m_messages.erase(m_messages.begin());
     Q_EMIT activated();
-    if (!text.isEmpty())
-        Q_EMIT received(text);
-    if (!sender)
+    if (!message.text.isEmpty())
+        Q_EMIT received(message.text);
+    if (!message.sender)
         return;
     // At once: the slots may have ended the program.
-    sender->putChar(HandOff::Handled);
-    sender->flush();
-    sender->disconnectFromServer();
+    message.sender->putChar(HandOff::Handled);
+    message.sender->flush();
+    message.sender->disconnectFromServer();
 }

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QLocalServer>
+#include <QLocalSocket>
 #include <QPointer>
 
+#include <vector>
+
 class QDeadlineTimer;
-class QLocalSocket;
 class QTimer;
 
 /// How long copies wait for each other, in milliseconds.
@@ -33,6 +35,15 @@ public:
     /// one all the same.
     Role start(const QString &commandLine);
 
+    /// From now on messages are handled; those that came since start() come first. To be called when the signals are
+    /// connected: a message that nobody took would be lost.
+    void serve();
+
+    /// To be called when this copy is about to end: it takes no more messages, and who still waits for an answer tries
+    /// again and becomes the first. Returns the command lines whose senders have given up waiting: nobody else will
+    /// act on them.
+    QStringList leave();
+
 Q_SIGNALS:
     /// Another copy was started: bring the main window to the front.
     void activated();
@@ -41,14 +52,20 @@ Q_SIGNALS:
 
 private:
     enum class Answer { Handled, Nobody, Lost, None };
+    struct Message
+    {
+        QPointer<QLocalSocket> sender; ///< null or not connected: it has given up waiting
+        QString text;
+    };
 
     Answer ActivatePreviousInstance(const QString &commandLine, const QDeadlineTimer &deadline) const;
     bool becomeFirst(bool atAnyRate);
     void acceptConnections();
     void readMessage(QLocalSocket *socket, QTimer *stall);
-    void handle(const QPointer<QLocalSocket> &sender, const QString &text);
+    void handleNext();
 
     QString m_socketPath;
     SingleInstanceLimits m_limits;
     QLocalServer m_server;
+    std::vector<Message> m_messages; ///< whole and not yet handled
 };

@@ -3,6 +3,7 @@
 #include "platform/HandOff.h"
 #include "platform/InstancePlace.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QLocalSocket>
 #include <QProcess>
@@ -141,6 +142,29 @@ TEST_F(SingleInstanceTest, BadMessagesAreDroppedAndBlockNobody)
     expectSecond("/c.gla");
     expectReceived(first, "/c.gla");
     kill(first);
+}
+
+TEST_F(SingleInstanceTest, NoMessageIsLostAtTheStartOrTheEndOfTheFirst)
+{
+    QStringList received;
+    SingleInstance first(path());
+    ASSERT_EQ(first.start(QString()), SingleInstance::Role::First);
+    const Socket early = connectWith(HandOff::message(QStringLiteral("/early.gla")));
+    QCoreApplication::processEvents();
+    QObject::connect(&first, &SingleInstance::received, [&](const QString &text) { received.append(text); });
+    first.serve();
+    while (!early->waitForReadyRead(1))
+        QCoreApplication::processEvents();
+    EXPECT_EQ(received, QStringList{QStringLiteral("/early.gla")});
+
+    const Socket waiting = connectWith(HandOff::message(QStringLiteral("/waiting.gla")));
+    connectWith(HandOff::message(QStringLiteral("/given-up.gla")))->waitForBytesWritten();
+    EXPECT_EQ(first.leave(), QStringList{QStringLiteral("/given-up.gla")});
+    EXPECT_TRUE(waiting->waitForDisconnected(Patience));
+    EXPECT_EQ(waiting->bytesAvailable(), 0) << "it tries again";
+    QCoreApplication::processEvents();
+    EXPECT_EQ(received.size(), 1);
+    kill(startFirst());
 }
 
 TEST(InstancePlace, ShortPathInAPrivateFolderForEachDisplay)

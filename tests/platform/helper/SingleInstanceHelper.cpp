@@ -19,5 +19,6 @@ int main(int argc, char **argv)
     });
     const bool isFirst = instance.start(arguments.at(2)) == SingleInstance::Role::First;
     say(isFirst ? QStringLiteral("first") : QStringLiteral("second"));
+    instance.serve();
     return isFirst ? QCoreApplication::exec() : 0;
 }
