@@ -9,13 +9,10 @@
 #include <QTemporaryFile>
 
 #include <cerrno>
-#include <filesystem>
-#include <system_error>
-
-#ifdef Q_OS_UNIX
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
-#endif
 
 namespace {
 
@@ -75,13 +72,11 @@ private:
 
     bool sync()
     {
-#ifdef Q_OS_UNIX
         // Some file systems cannot be asked to; that is no loss of data.
         if (::fsync(m_file.handle()) != 0 && errno != EINVAL && errno != ENOTSUP) {
             m_error = systemError(errno);
             return false;
         }
-#endif
         return true;
     }
 
@@ -116,46 +111,104 @@ QString linkTarget(const QString &path)
 
 void keepOwnerAndMode(const QString &from, QFile &to)
 {
-#ifdef Q_OS_UNIX
     struct stat status = {};
     if (::stat(QFile::encodeName(from).constData(), &status) != 0)
         return;
     // Only the administrator may give files away; then the new file is the user's, which is the best there is.
     [[maybe_unused]] const int refused = ::fchown(to.handle(), status.st_uid, status.st_gid);
     ::fchmod(to.handle(), status.st_mode & 07777);
-#else
-    to.setPermissions(QFile::permissions(from));
-#endif
 }
 
-enum class Outcome { Done, Failed, NoNewFileAllowed };
-
-Outcome writeBeside(const QString &path, const AtomicFile::Producer &producer, QString &error)
+/// A file's place in its folder, too, must be forced to the disk; some file systems cannot be asked to.
+void syncFolder(const QByteArray &folder)
 {
-    // A name of its own, not the file's with an ending: that may be as long as a name can be.
-    const QString name = QStringLiteral(".glosaria-") + QString::number(QRandomGenerator::global()->generate64(), 36);
-    QFile file(QFileInfo(path).absoluteDir().filePath(name));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered)) {
-        error = file.errorString();
-        return Outcome::NoNewFileAllowed;
+    const int handle = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0)
+        return;
+    ::fsync(handle);
+    ::close(handle);
+}
+
+/// A new file in a folder. It gets its name only when it is whole, so that a program that is killed leaves nothing
+/// behind; where the file system knows no files without a name it has one from the start.
+class NewFile
+{
+public:
+    explicit NewFile(const QString &folder)
+        : m_folder(QFile::encodeName(folder))
+        // A name of its own, not the file's with an ending: that may be as long as a name can be.
+        , m_name(m_folder + "/.glosaria-" + QByteArray::number(QRandomGenerator::global()->generate64(), 36))
+    {
     }
-    keepOwnerAndMode(path, file);
-    CheckedOutput output(file);
-    const bool filled = output.fill(producer);
-    if (!filled)
+    ~NewFile()
+    {
+        m_file.close();
+        if (m_named)
+            ::unlink(m_name.constData());
+    }
+    Q_DISABLE_COPY_MOVE(NewFile)
+
+    /// False: see errno.
+    bool open(bool named)
+    {
+        const int handle = named ? ::open(m_name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666)
+                                 : ::open(m_folder.constData(), O_WRONLY | O_TMPFILE | O_CLOEXEC, 0666);
+        m_named = named && handle >= 0;
+        return handle >= 0 && m_file.open(handle, QIODevice::WriteOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle);
+    }
+
+    QFile &file() { return m_file; }
+
+    /// Gives the file its name. False: this file cannot be named later.
+    bool giveName()
+    {
+        const QByteArray handle = "/proc/self/fd/" + QByteArray::number(m_file.handle());
+        if (!m_named)
+            m_named = ::linkat(AT_FDCWD, handle.constData(), AT_FDCWD, m_name.constData(), AT_SYMLINK_FOLLOW) == 0;
+        return m_named;
+    }
+
+    /// Puts the file in another's place, for good even if the power fails. False: see errno.
+    bool moveTo(const QString &path)
+    {
+        if (::rename(m_name.constData(), QFile::encodeName(path).constData()) != 0)
+            return false;
+        m_named = false;
+        syncFolder(m_folder);
+        return true;
+    }
+
+private:
+    QByteArray m_folder;
+    QByteArray m_name;
+    QFile m_file;
+    bool m_named = false;
+};
+
+enum class Outcome { Done, Failed, NoNewFileAllowed, NoNameLater };
+
+/// A folder that cannot be changed, or a file that cannot be exchanged, can still be written in place.
+Outcome failure(int number, QString &error)
+{
+    error = systemError(number);
+    const bool place = number == EACCES || number == EPERM || number == EBUSY || number == EXDEV;
+    return place ? Outcome::NoNewFileAllowed : Outcome::Failed;
+}
+
+Outcome writeBeside(const QString &path, const AtomicFile::Producer &producer, QString &error, bool named)
+{
+    NewFile beside(QFileInfo(path).absolutePath());
+    if (!beside.open(named))
+        return named ? failure(errno, error) : Outcome::NoNameLater;
+    keepOwnerAndMode(path, beside.file());
+    CheckedOutput output(beside.file());
+    if (!output.fill(producer)) {
         error = output.error();
-    file.close();
-    if (!filled) {
-        file.remove();
         return Outcome::Failed;
     }
-    std::error_code code;
-    std::filesystem::rename(file.filesystemFileName(), QFile(path).filesystemFileName(), code);
-    if (!code)
-        return Outcome::Done;
-    error = QString::fromStdString(code.message());
-    file.remove();
-    return Outcome::NoNewFileAllowed;
+    if (!beside.giveName())
+        return Outcome::NoNameLater;
+    return beside.moveTo(path) ? Outcome::Done : failure(errno, error);
 }
 
 /// Writes over a file whose old content is in the copy, and puts that back if it goes wrong. False: see error; restored
@@ -191,6 +244,7 @@ bool writeInPlace(const QString &path, const AtomicFile::Producer &producer, QSt
         error = copyOutput.error();
         return false;
     }
+    syncFolder(QFile::encodeName(folder));
     copy.setAutoRemove(false);
     bool restored = true;
     const bool written = writeOver(file, copy, producer, error, restored);
@@ -212,7 +266,9 @@ bool write(const QString &path, const Producer &producer, QString *error)
             *error = systemError(old.isDir() ? EISDIR : EACCES);
         return false;
     }
-    Outcome outcome = writeBeside(target, producer, reason);
+    Outcome outcome = writeBeside(target, producer, reason, false);
+    if (outcome == Outcome::NoNameLater)
+        outcome = writeBeside(target, producer, reason, true);
     if (outcome == Outcome::NoNewFileAllowed && old.exists())
         outcome = writeInPlace(target, producer, reason) ? Outcome::Done : Outcome::Failed;
     if (error)

@@ -6,8 +6,8 @@
 #include <functional>
 
 /// Replaces the content of a file as a whole: after any failure (full disk, size limit, killed program) the old content
-/// is still there. Symbolic links are followed; mode, owner and group of an existing file are kept as far as the user
-/// may set them.
+/// is still there, and no unfinished file lies beside it. After success the new content survives a power failure.
+/// Symbolic links are followed; mode, owner and group of an existing file are kept as far as the user may set them.
 namespace AtomicFile {
 
 /// Takes the next bytes of the content, pieces of any size. False: they cannot be written, producing more is useless.
