@@ -194,7 +194,7 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     program.prompts.setOwner(&window);
     listen(instance, window);
     QObject::connect(&window, &frmApp::closed, &application, &QApplication::quit);
-    RecoveryKeeper keeper(window.context().documents, window.context().files,
+    RecoveryKeeper keeper(window.context().documents, window.context().files, program.codePage,
                           UserFolders::state() + QStringLiteral("/recovery"));
     askAtEnd(application, window, watcher, keeper);
     showInTurn(splash, window, commandLine, [&] { offerRecovery(keeper, program.alert, window); });

@@ -30,7 +30,12 @@ frmDoc *DocumentList::create()
 
 QString DocumentList::nextUntitledCaption()
 {
-    return resText(500) + QStringLiteral(" ") + QString::number(++m_untitled);
+    QString caption;
+    const auto isTaken = [&caption](const frmDoc *document) { return document->Caption() == caption; };
+    do // a recovered document has brought its number along
+        caption = resText(500) + QStringLiteral(" ") + QString::number(++m_untitled);
+    while (std::any_of(m_open.begin(), m_open.end(), isTaken));
+    return caption;
 }
 
 void DocumentList::remove(frmDoc *document)

@@ -11,6 +11,7 @@
 #include "services/modSBFunc.h"
 #include "services/rules/clsMRUFileList.h"
 
+#include <QFileInfo>
 #include <QGuiApplication>
 
 namespace {
@@ -51,6 +52,13 @@ public:
 private:
     modSBFunc &m_status;
 };
+
+/// A folder that allows no new file: the old one is overwritten, and being killed meanwhile would leave half of each.
+bool isWrittenInPlace(const QString &path)
+{
+    const QString target = QFileInfo(path).canonicalFilePath();
+    return !target.isEmpty() && !QFileInfo(QFileInfo(target).path()).isWritable();
+}
 
 QString withTitle(int textId, const QString &path)
 {
@@ -98,7 +106,7 @@ void FileCommands::save()
 {
     if (frmDoc *document = m_needs.documents.active()) {
         document->commitRunningEdit();
-        saveUnder(*document, pathOrAsk(*document));
+        saveAndTell(*document, pathOrAsk(*document));
         document->Rutor()->setFocus();
     }
 }
@@ -107,7 +115,7 @@ void FileCommands::saveAs()
 {
     if (frmDoc *document = m_needs.documents.active()) {
         document->commitRunningEdit();
-        saveUnder(*document, m_needs.prompts.askSave(document->Caption()));
+        saveAndTell(*document, m_needs.prompts.askSave(document->Caption()));
     }
 }
 
@@ -132,15 +140,31 @@ QString FileCommands::pathOrAsk(const frmDoc &document)
     return document.DocName().isEmpty() ? m_needs.prompts.askSave(document.Caption()) : document.DocName();
 }
 
-bool FileCommands::saveUnder(frmDoc &document, const QString &path)
+FileCommands::SaveOutcome FileCommands::saveUnder(frmDoc &document, const QString &path, QString &error)
 {
     if (path.isEmpty())
-        return true;
+        return SaveOutcome::Cancelled;
     if (path == document.DocName() && !mayOverwrite(document))
-        return false;
-    SaveVocabulary(document, path);
+        return SaveOutcome::Refused;
+    if (isWrittenInPlace(path))
+        isSecured(document);
+    SaveVocabulary(document, path, &error);
     m_needs.recentFiles.AddFile(path);
-    return true;
+    return error.isEmpty() ? SaveOutcome::Saved : SaveOutcome::Failed;
+}
+
+void FileCommands::saveAndTell(frmDoc &document, const QString &path)
+{
+    QString error;
+    if (saveUnder(document, path, error) == SaveOutcome::Failed)
+        warn(resText(12625).arg(path, error));
+}
+
+bool FileCommands::isSecured(frmDoc &document)
+{
+    bool secured = true;
+    Q_EMIT needsCopy(&document, secured);
+    return secured;
 }
 
 bool FileCommands::mayOverwrite(const frmDoc &document)
@@ -166,11 +190,33 @@ bool FileCommands::confirmClose(frmDoc &document)
     alert.buttons = Alert::YesNoCancelHelp;
     alert.helpId = ClosingTopic;
     const AlertBox::Answer answer = m_needs.alert.show(nullptr, alert);
-    if (answer == AlertBox::AnswerYes)
-        return saveUnder(document, pathOrAsk(document));
     if (answer == AlertBox::AnswerNo)
         Q_EMIT givenUp(&document);
-    return answer != AlertBox::AnswerCancel;
+    if (answer != AlertBox::AnswerYes)
+        return answer != AlertBox::AnswerCancel;
+    QString error;
+    const QString path = pathOrAsk(document);
+    const SaveOutcome outcome = saveUnder(document, path, error);
+    return outcome == SaveOutcome::Saved || (outcome != SaveOutcome::Refused && mayCloseUnsaved(document, path, error));
+}
+
+bool FileCommands::mayCloseUnsaved(frmDoc &document, const QString &path, const QString &error)
+{
+    const bool secured = isSecured(document);
+    if (!secured)
+        warn(resText(12627).arg(document.Caption()));
+    else if (!error.isEmpty())
+        warn(resText(12626).arg(path, error));
+    return secured;
+}
+
+void FileCommands::warn(const QString &prompt)
+{
+    Alert alert;
+    alert.prompt = prompt;
+    alert.sound = true;
+    alert.exclamation = true;
+    m_needs.alert.show(nullptr, alert);
 }
 
 void FileCommands::alertFile(const QString &prompt, int helpId)
@@ -211,31 +257,31 @@ bool FileCommands::readInto(const VocabularyFile &file, const QString &path)
         file.read(m_codePage, [this](qint64 done) { m_needs.status.setProgress(done); });
     if (result.outcome != Outcome::Ok)
         return false;
-    openVocabulary(path, std::move(result.vocabulary));
+    openVocabulary(path, std::move(result.vocabulary), file.stamp());
     return true;
 }
 
-void FileCommands::openVocabulary(const QString &path, Vocabulary &&vocabulary)
+void FileCommands::openVocabulary(const QString &path, Vocabulary &&vocabulary, const FileStamp &stamp)
 {
     frmDoc *document = m_needs.documents.create();
     GridContent::fill(*document->Rutor(), std::move(vocabulary));
     document->setCaption(GridRules::fileTitle(path));
     document->setDirty(false);
     document->setDocName(path);
-    document->fileStamp = FileStamp::of(path);
+    document->fileStamp = stamp;
     m_needs.recentFiles.AddFile(path);
     document->showDocument();
     Q_EMIT opened(document);
 }
 
-void FileCommands::SaveVocabulary(frmDoc &document, const QString &path)
+void FileCommands::SaveVocabulary(frmDoc &document, const QString &path, QString *error)
 {
     const int rows = document.Rutor()->Rows();
     const BusyStatus busy(m_needs.status, 716, path, qint64(rows) * 2);
     const Vocabulary vocabulary = GridContent::read(*document.Rutor());
     m_needs.status.setProgress(rows);
     const bool written = VocabularyFile(path).save(
-        vocabulary, m_codePage, [this, rows](qint64 done) { m_needs.status.setProgress(rows + done); });
+        vocabulary, m_codePage, [this, rows](qint64 done) { m_needs.status.setProgress(rows + done); }, error);
     if (!written)
         return;
     document.setCaption(GridRules::fileTitle(path));

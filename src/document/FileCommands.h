@@ -11,6 +11,7 @@ class VocabularyFile;
 class clsMRUFileList;
 class frmDoc;
 class modSBFunc;
+struct FileStamp;
 struct Vocabulary;
 
 /// The commands that act on documents as files: New, Open, Save, Save As, Close, with the reading and writing of
@@ -47,29 +48,45 @@ public:
     /// leaves no window.
     void LoadVocabulary(const QString &path);
 
-    /// Writes a document to a file, replacing the one of that name whole or not at all. A failure is not reported: the
-    /// document keeps its caption, its path and its changes.
-    void SaveVocabulary(frmDoc &document, const QString &path);
+    /// Writes a document to a file, replacing the one of that name whole or not at all. The user is not told of a
+    /// failure: the document keeps its caption, its path and its changes, and error, if given, says why.
+    void SaveVocabulary(frmDoc &document, const QString &path, QString *error = nullptr);
 
 Q_SIGNALS:
     /// A document was made or read and is shown.
     void opened(frmDoc *document);
     /// The document's words are in its file.
     void saved(frmDoc *document);
+    /// The document's words are about to be nowhere but in a copy that is kept of them. A receiver that keeps copies
+    /// tells whether it has one on the disk.
+    void needsCopy(frmDoc *document, bool &secured);
     /// The user closes the document and does not want its changes.
     void givenUp(frmDoc *document);
 
 private:
+    enum class SaveOutcome {
+        Saved,
+        Cancelled,
+        Failed,
+        Refused ///< the user wants to keep what another program has written to the file
+    };
+
     bool confirmClose(frmDoc &document);
-    /// False when the user wants to keep what another program has written to the file.
-    bool saveUnder(frmDoc &document, const QString &path);
+    /// Whether a document that was not saved may close all the same.
+    bool mayCloseUnsaved(frmDoc &document, const QString &path, const QString &error);
+    /// An empty path stands for a cancelled dialog. error is set when saving failed.
+    SaveOutcome saveUnder(frmDoc &document, const QString &path, QString &error);
+    /// The same as a command: the user learns of a failure.
+    void saveAndTell(frmDoc &document, const QString &path);
     bool mayOverwrite(const frmDoc &document);
+    bool isSecured(frmDoc &document);
     QString pathOrAsk(const frmDoc &document);
     void load(const QString &path);
     /// Reads the rows of a file and opens them; false when they cannot be read.
     bool readInto(const VocabularyFile &file, const QString &path);
-    void openVocabulary(const QString &path, Vocabulary &&vocabulary);
+    void openVocabulary(const QString &path, Vocabulary &&vocabulary, const FileStamp &stamp);
     void alertFile(const QString &prompt, int helpId);
+    void warn(const QString &prompt);
     void onCreated(frmDoc *document);
 
     Needs m_needs;

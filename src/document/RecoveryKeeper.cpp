@@ -4,6 +4,9 @@
 #include "document/FileCommands.h"
 #include "document/GridContent.h"
 #include "document/ctlGrid.h"
+#include "document/rules/VocabularyCodec.h"
+
+#include <QFile>
 
 namespace {
 
@@ -21,49 +24,62 @@ RecoveryCopy copyOf(const frmDoc &document)
 
 } // namespace
 
-RecoveryKeeper::RecoveryKeeper(DocumentList &documents, FileCommands &files, const QString &folder, QObject *parent)
+RecoveryKeeper::RecoveryKeeper(DocumentList &documents, FileCommands &files, const CodePage &codePage,
+                               const QString &folder, QObject *parent)
     : QObject(parent)
     , m_documents(documents)
+    , m_codePage(codePage)
     , m_folder(folder)
+    , m_writer(m_folder)
 {
     connect(&files, &FileCommands::opened, this, &RecoveryKeeper::watch);
     connect(&files, &FileCommands::saved, this, &RecoveryKeeper::settle);
+    connect(&files, &FileCommands::needsCopy, this, &RecoveryKeeper::secure);
     connect(&files, &FileCommands::givenUp, this, &RecoveryKeeper::giveUp);
     connect(&documents, &DocumentList::removed, this, &RecoveryKeeper::release);
-    connect(&m_timer, &QTimer::timeout, this, &RecoveryKeeper::flush);
+    connect(&m_timer, &QTimer::timeout, this, &RecoveryKeeper::lookForChanges);
     m_timer.start(Interval);
 }
 
 RecoveryKeeper::State RecoveryKeeper::stateOf(const frmDoc &document)
 {
     const ctlGrid &grid = *document.Rutor();
-    const QString edit = grid.EditMode() && grid.EditText() != grid.Text() ? grid.EditText() : QString();
-    return {grid.revision(), edit};
+    State state{grid.revision(), grid.Font(), grid.ForeColor(), {}};
+    if (grid.EditMode() && grid.EditText() != grid.Text())
+        state.edit = grid.EditText();
+    return state;
 }
 
 void RecoveryKeeper::watch(frmDoc *document)
 {
-    const State now = stateOf(*document);
-    m_kept.insert(document, {now, now, {}});
+    const Kept kept{stateOf(*document), std::make_shared<RecoveryWriter::Slot>()};
+    m_writer.begin(kept.slot, copyOf(*document));
+    m_kept.insert(document, kept);
+}
+
+void RecoveryKeeper::lookForChanges()
+{
+    for (auto place = m_kept.begin(); place != m_kept.end(); ++place) {
+        // A disk that is slower than the changes come must not get them all one by one.
+        if (!place->slot->isBusy())
+            keep(*place.key(), *place);
+    }
 }
 
 void RecoveryKeeper::flush()
 {
     for (auto place = m_kept.begin(); place != m_kept.end(); ++place)
-        keep(*place.key(), place.value());
+        keep(*place.key(), *place);
+    m_writer.finish();
 }
 
 void RecoveryKeeper::keep(frmDoc &document, Kept &kept)
 {
     const State now = stateOf(document);
-    const bool changed = now != kept.unchanged || document.Dirty();
-    const bool upToDate = !kept.path.isEmpty() && now == kept.copied;
-    if (!changed || upToDate)
+    if (now == kept.seen && !kept.slot->failed())
         return;
-    if (kept.path.isEmpty())
-        kept.path = m_folder.newPath();
-    if (!kept.path.isEmpty() && m_folder.write(kept.path, copyOf(document)))
-        kept.copied = now;
+    kept.seen = now;
+    m_writer.keep(kept.slot, copyOf(document));
 }
 
 void RecoveryKeeper::settle(frmDoc *document)
@@ -71,14 +87,24 @@ void RecoveryKeeper::settle(frmDoc *document)
     const auto place = m_kept.find(document);
     if (place == m_kept.end())
         return;
-    m_folder.remove(place->path);
-    const State now = stateOf(*document);
-    *place = {now, now, {}};
+    place->seen = stateOf(*document);
+    m_writer.settle(place->slot, copyOf(*document));
+}
+
+void RecoveryKeeper::secure(frmDoc *document, bool &secured)
+{
+    const auto place = m_kept.find(document);
+    if (place == m_kept.end())
+        return;
+    keep(*document, *place);
+    m_writer.finish();
+    secured = !place->slot->failed();
 }
 
 void RecoveryKeeper::giveUp(frmDoc *document)
 {
-    m_folder.remove(m_kept.take(document).path);
+    if (const Kept kept = m_kept.take(document); kept.slot)
+        m_writer.discard(kept.slot);
 }
 
 void RecoveryKeeper::release(frmDoc *document)
@@ -86,12 +112,40 @@ void RecoveryKeeper::release(frmDoc *document)
     const auto place = m_kept.find(document);
     if (place == m_kept.end())
         return;
-    keep(*document, *place);
+    if (document->Dirty())
+        keep(*document, *place);
+    else
+        m_writer.leave(place->slot, copyOf(*document));
     m_kept.erase(place);
+}
+
+std::vector<RecoveryFolder::Orphan> RecoveryKeeper::orphans()
+{
+    m_writer.finish();
+    std::vector<RecoveryFolder::Orphan> found = m_folder.orphans();
+    std::erase_if(found, [this](const RecoveryFolder::Orphan &orphan) {
+        const bool needless = holdsOnlyItsFile(orphan.copy);
+        if (needless)
+            m_folder.remove(orphan.path);
+        return needless;
+    });
+    return found;
+}
+
+/// As when the program was killed between saving and removing the copy.
+bool RecoveryKeeper::holdsOnlyItsFile(const RecoveryCopy &copy) const
+{
+    const Vocabulary &words = copy.vocabulary;
+    QFile file(copy.docName);
+    if (copy.docName.isEmpty() || words.filledRows() > words.storedRows() || !file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray bytes = VocabularyCodec::encode(words, m_codePage);
+    return file.size() == bytes.size() && file.readAll() == bytes;
 }
 
 void RecoveryKeeper::recover(const RecoveryFolder::Orphan &orphan)
 {
+    m_writer.finish();
     const QString path = m_folder.adopt(orphan.path);
     if (path.isEmpty())
         return;
@@ -101,7 +155,12 @@ void RecoveryKeeper::recover(const RecoveryFolder::Orphan &orphan)
     document->setDocName(orphan.copy.docName);
     document->fileStamp = orphan.copy.fileStamp;
     document->setDirty(true);
-    const State now = stateOf(*document);
-    m_kept.insert(document, {{}, now, path});
+    m_kept.insert(document, {stateOf(*document), std::make_shared<RecoveryWriter::Slot>(path)});
     document->showDocument();
+}
+
+void RecoveryKeeper::discard(const RecoveryFolder::Orphan &orphan)
+{
+    m_writer.finish();
+    m_folder.remove(orphan.path);
 }

@@ -1,10 +1,14 @@
 #pragma once
 
-#include "document/rules/RecoveryFolder.h"
+#include "document/RecoveryWriter.h"
+#include "document/rules/CodePage.h"
 
+#include <QFont>
 #include <QHash>
 #include <QObject>
 #include <QTimer>
+
+#include <optional>
 
 class DocumentList;
 class FileCommands;
@@ -21,45 +25,54 @@ public:
     /// How often changed documents are looked for, in milliseconds.
     static constexpr int Interval = 2000;
 
-    RecoveryKeeper(DocumentList &documents, FileCommands &files, const QString &folder, QObject *parent = nullptr);
+    /// codePage is the character set of vocabulary files.
+    RecoveryKeeper(DocumentList &documents, FileCommands &files, const CodePage &codePage, const QString &folder,
+                   QObject *parent = nullptr);
 
-    /// Brings every copy up to date now.
+    /// Brings every copy up to date and returns when all are on the disk.
     void flush();
 
-    /// The copies that a crash left behind, newest first.
-    std::vector<RecoveryFolder::Orphan> orphans() const { return m_folder.orphans(); }
+    /// The copies that a crash left behind, newest first. One that holds nothing but what its file holds is removed.
+    std::vector<RecoveryFolder::Orphan> orphans();
     /// Opens a copy as a changed document under its old name. Its file stays until that document is saved or given up.
     void recover(const RecoveryFolder::Orphan &orphan);
     /// Deletes a copy for good.
-    void discard(const RecoveryFolder::Orphan &orphan) { m_folder.remove(orphan.path); }
+    void discard(const RecoveryFolder::Orphan &orphan);
 
 private:
-    /// The state of a document's words: its grid's revision, and what stands in the open edit box.
+    /// What tells whether a document may have changed.
     struct State
     {
-        quint64 revision = 0;
-        QString edit;
+        quint64 revision = 0; ///< of its grid
+        QFont font;
+        int color = 0;
+        std::optional<QString> edit; ///< in the open edit box, if it differs from the cell
         bool operator==(const State &) const = default;
     };
     struct Kept
     {
-        State unchanged; ///< as in the file, or as the document was made
-        State copied;    ///< as in the copy
-        QString path;    ///< of the copy; empty: none
+        State seen; ///< as it was given to the writer last
+        RecoveryWriter::SharedSlot slot;
     };
 
     static State stateOf(const frmDoc &document);
-    void watch(frmDoc *document);
+    void lookForChanges();
     void keep(frmDoc &document, Kept &kept);
-    /// The document is as its file is: no copy is needed until it changes again.
+    void watch(frmDoc *document);
+    /// The document is as its file is.
     void settle(frmDoc *document);
+    /// The file is about to be overwritten in place: should that be cut short, the words must be in the copy.
+    void secure(frmDoc *document, bool &secured);
     /// The user wants the changes no more.
     void giveUp(frmDoc *document);
     /// The document closes; what has neither been saved nor given up stays in its copy.
     void release(frmDoc *document);
+    bool holdsOnlyItsFile(const RecoveryCopy &copy) const;
 
     DocumentList &m_documents;
+    CodePage m_codePage;
     RecoveryFolder m_folder;
+    RecoveryWriter m_writer;
     QHash<frmDoc *, Kept> m_kept;
     QTimer m_timer;
 };

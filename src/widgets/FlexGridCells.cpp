@@ -144,11 +144,13 @@ void FlexGridCells::setRowHeight(int row, int twips)
         return;
     if (size_t(row) >= m_heights.size())
         m_heights.resize(size_t(row) + 1, DefaultRowHeight);
+    ++m_revision;
     m_heights[size_t(row)] = twips < 0 ? DefaultRowHeight : std::min(twips, LargestSize);
 }
 
 void FlexGridCells::setEveryRowHeight(int twips)
 {
+    ++m_revision;
     m_heights.assign(size_t(m_rows), twips < 0 ? DefaultRowHeight : std::min(twips, LargestSize));
 }
 
@@ -159,8 +161,10 @@ void FlexGridCells::setRowHeightMin(int twips)
 
 void FlexGridCells::setColWidth(int col, int twips)
 {
-    if (col >= 0 && col < cols())
-        column(col).width = twips < 0 ? DefaultColWidth : std::min(twips, LargestSize);
+    if (col < 0 || col >= cols())
+        return;
+    ++m_revision;
+    column(col).width = twips < 0 ? DefaultColWidth : std::min(twips, LargestSize);
 }
 
 void FlexGridCells::insertRows(int at, int count)

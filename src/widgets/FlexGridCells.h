@@ -42,7 +42,7 @@ public:
     bool numbersRows() const { return m_numbersFrom >= 0; }
     bool isNumber(int row, int col) const { return col == 0 && numbersRows() && row >= m_numbersFrom; }
 
-    /// Goes up whenever a text may have changed or a row got another place.
+    /// Goes up whenever a text or a size may have changed or a row got another place.
     quint64 revision() const { return m_revision; }
 
     QString text(int row, int col) const;

@@ -1,16 +1,27 @@
 #include "document/RecoveryKeeper.h"
 #include "document/ctlGrid.h"
-#include "support/Files.h"
+#include "resources/StringTable.h"
 #include "support/OpenFiles.h"
 
 #include <QDir>
+#include <QDirIterator>
+
+namespace {
 
 /// A running program that keeps copies. What it leaves behind is found by another one over the same folder.
 struct Program : OpenFiles
 {
     explicit Program(const QString &folder)
-        : keeper(documents, files, folder)
+        : keeper(documents, files, CodePage(), folder)
     {
+    }
+
+    frmDoc *changedDocument(const QString &word)
+    {
+        frmDoc *document = newDocument();
+        document->Rutor()->setTextMatrix(1, 1, word);
+        document->setDirty(true);
+        return document;
     }
 
     RecoveryKeeper keeper;
@@ -19,124 +30,232 @@ struct Program : OpenFiles
 struct RecoveryTest : ::testing::Test
 {
     QTemporaryDir home;
-    QString folder = home.filePath("recovery");
+    QString folder = home.filePath(QStringLiteral("recovery"));
     std::unique_ptr<Program> run = std::make_unique<Program>(folder);
 
-    size_t copies() const { return size_t(QDir(folder).entryList({"*.copy"}).size()); }
+    QStringList copies() const
+    {
+        run->keeper.flush();
+        QStringList found;
+        for (QDirIterator it(folder, {QStringLiteral("*.copy")}, QDir::Files, QDirIterator::Subdirectories);
+             it.hasNext();)
+            found += it.next();
+        return found;
+    }
     void restart()
     {
         run.reset();
         run = std::make_unique<Program>(folder);
     }
+    void discardAll() const
+    {
+        for (const RecoveryFolder::Orphan &orphan : run->keeper.orphans())
+            run->keeper.discard(orphan);
+    }
 };
 
-TEST_F(RecoveryTest, WhatWasChangedComesBackUnderItsName)
-{
-    frmDoc *document = run->newDocument();
-    run->keeper.flush();
-    EXPECT_EQ(copies(), 0u) << "nothing has changed";
-    ctlGrid &grid = *document->Rutor();
-    grid.setTextMatrix(3, 2, "só aqui 猫");
-    grid.setRowHeight(3, 777);
-    run->keeper.flush();
-    EXPECT_EQ(copies(), 1u) << "by content, also while the document is not marked as changed";
-    grid.setTextMatrix(3, 2, "later");
-    run->keeper.flush();
-    EXPECT_EQ(copies(), 1u);
-    EXPECT_TRUE(run->keeper.orphans().empty()) << "a running program's own copies are not offered";
-    EXPECT_TRUE(Program(folder).keeper.orphans().empty()) << "nor to another program";
+} // namespace
 
+TEST_F(RecoveryTest, WhatDiffersFromTheFileIsKeptAndNothingElse)
+{
+    struct Case
+    {
+        const char *name;
+        std::function<void(frmDoc &, ctlGrid &)> change;
+        bool kept;
+    };
+    const Case cases[] = {
+        {"nothing", [](frmDoc &, ctlGrid &) {}, false},
+        {"a word", [](frmDoc &, ctlGrid &grid) { grid.setTextMatrix(2, 1, QStringLiteral("só 猫")); }, true},
+        {"a row's height", [](frmDoc &, ctlGrid &grid) { grid.setRowHeight(1, 777); }, true},
+        {"a column's width", [](frmDoc &, ctlGrid &grid) { grid.setColWidth(1, 777); }, true},
+        {"the font", [](frmDoc &, ctlGrid &grid) { grid.setGridFont(QFont(QStringLiteral("Arial"), 33)); }, true},
+        {"the colour", [](frmDoc &, ctlGrid &grid) { grid.setForeColor(0xFF); }, true},
+        {"an inserted row", [](frmDoc &, ctlGrid &grid) { grid.insertRows(1, 1); }, true},
+        {"empty rows at the end", [](frmDoc &, ctlGrid &grid) { grid.setRows(300); }, false},
+        {"the mark of a change alone", [](frmDoc &document, ctlGrid &) { document.setDirty(true); }, false},
+        {"a row that is taken out again",
+         [](frmDoc &, ctlGrid &grid) {
+             grid.insertRows(1, 1);
+             grid.removeRows(1, 1);
+         },
+         false},
+        {"a word that is being typed",
+         [](frmDoc &, ctlGrid &grid) {
+             grid.setEditMode(true);
+             grid.setSelText(QStringLiteral("unfinished"));
+         },
+         true},
+        {"a word that is being deleted",
+         [](frmDoc &, ctlGrid &grid) {
+             grid.setEditMode(true);
+             grid.SelectEditText(0, 3);
+             grid.setSelText(QString());
+         },
+         true},
+    };
+    for (const Case &c : cases) {
+        frmDoc *document = run->changedDocument(QStringLiteral("one"));
+        run->prompts.savePath = home.filePath(QStringLiteral("words.gla"));
+        run->files.save();
+        EXPECT_TRUE(copies().isEmpty()) << "saved";
+        c.change(*document, *document->Rutor());
+        EXPECT_EQ(copies().size(), c.kept) << c.name;
+        run->alert.answers = {AlertBox::AnswerNo};
+        document->setDirty(true);
+        run->files.closeActive();
+        EXPECT_TRUE(copies().isEmpty()) << "given up";
+    }
+}
+
+TEST_F(RecoveryTest, EveryLaterChangeReachesTheCopyAndGoesWhenItIsUndone)
+{
+    ctlGrid &grid = *run->changedDocument(QStringLiteral("first"))->Rutor();
+    EXPECT_EQ(copies().size(), 1);
+    grid.setTextMatrix(1, 2, QStringLiteral("second"));
+    grid.setRowHeight(1, 777);
+    EXPECT_EQ(copies().size(), 1);
     restart();
-    std::vector<RecoveryFolder::Orphan> orphans = run->keeper.orphans();
-    ASSERT_EQ(orphans.size(), 1u);
-    EXPECT_LT(orphans.front().copy.time.secsTo(QDateTime::currentDateTime()), 60);
-    run->keeper.recover(orphans.front());
-    const frmDoc &recovered = *run->documents.open().at(0);
-    EXPECT_EQ(recovered.Caption(), "Untitled 1");
+    const RecoveryFolder::Orphan orphan = run->keeper.orphans().at(0);
+    EXPECT_LT(orphan.copy.time.secsTo(QDateTime::currentDateTime()), 60);
+    run->keeper.recover(orphan);
+    ASSERT_EQ(run->documents.open().size(), 1u);
+    const frmDoc &recovered = *run->documents.open().front();
+    EXPECT_EQ(recovered.Caption(), QStringLiteral("Untitled 1"));
     EXPECT_TRUE(recovered.Dirty());
     EXPECT_EQ(recovered.Rutor()->Rows(), 101);
-    EXPECT_EQ(recovered.Rutor()->TextMatrix(3, 2), "later");
-    EXPECT_EQ(recovered.Rutor()->RowHeight(3), 777);
+    EXPECT_EQ(recovered.Rutor()->TextMatrix(1, 2), QStringLiteral("second"));
+    EXPECT_EQ(recovered.Rutor()->RowHeight(1), 777);
+    EXPECT_EQ(run->newDocument()->Caption(), QStringLiteral("Untitled 2"));
 
-    restart();
-    EXPECT_EQ(run->keeper.orphans().size(), 1u) << "a second crash loses nothing";
-    run->keeper.discard(run->keeper.orphans().front());
-    EXPECT_EQ(copies(), 0u);
+    frmDoc *document = run->documents.active();
+    document->Rutor()->setTextMatrix(1, 1, QStringLiteral("x"));
+    EXPECT_EQ(copies().size(), 2);
+    document->Rutor()->setTextMatrix(1, 1, QString());
+    EXPECT_EQ(copies().size(), 1) << "only what was recovered";
 }
 
-TEST_F(RecoveryTest, AWordThatIsStillBeingTypedIsKeptToo)
+TEST_F(RecoveryTest, WordsThatNoFileHoldsStayInACopy)
 {
-    frmDoc *document = run->newDocument();
-    QApplication::setActiveWindow(document);
-    document->Rutor()->Select(2, 1, 2, 1);
-    QTest::keyClicks(QApplication::focusWidget(), "unfinished");
-    run->keeper.flush();
+    frmDoc *document = run->changedDocument(QStringLiteral("one"));
+    document->Rutor()->setTextMatrix(2, 2, QStringLiteral("a translation without its word"));
+    run->prompts.savePath = home.filePath(QStringLiteral("words.gla"));
+    run->files.save();
+    EXPECT_EQ(copies().size(), 1);
+    run->files.closeActive();
     restart();
     ASSERT_EQ(run->keeper.orphans().size(), 1u);
-    EXPECT_EQ(run->keeper.orphans().front().copy.vocabulary.first[2], "unfinished");
 }
 
-TEST_F(RecoveryTest, TheCopyGoesWhenTheChangesAreSavedOrGivenUp)
+TEST_F(RecoveryTest, TheCopiesOfRunningProgramsAreNobodyElses)
 {
-    frmDoc *document = run->newDocument();
-    run->prompts.savePath = home.filePath("kept.gla");
-    run->alert.answers = {AlertBox::AnswerNo};
-    for (const auto &[word, end] : {std::pair("word", &FileCommands::save), {"other", &FileCommands::closeActive}}) {
-        document->Rutor()->setTextMatrix(1, 1, word);
-        document->setDirty(true);
-        run->keeper.flush();
-        EXPECT_EQ(copies(), 1u);
-        (run->files.*end)();
-        run->keeper.flush();
-        EXPECT_EQ(copies(), 0u);
-    }
+    run->changedDocument(QStringLiteral("word"));
+    run->keeper.flush();
+    EXPECT_TRUE(run->keeper.orphans().empty());
+    auto second = std::make_unique<Program>(folder);
+    EXPECT_TRUE(second->keeper.orphans().empty());
+
+    restart();
+    const std::vector<RecoveryFolder::Orphan> offered = second->keeper.orphans();
+    ASSERT_EQ(offered.size(), 1u);
+    run->keeper.recover(run->keeper.orphans().at(0));
+    second->keeper.recover(offered.front());
+    EXPECT_TRUE(second->documents.open().empty()) << "the other program was quicker";
+    EXPECT_TRUE(second->keeper.orphans().empty());
+    second.reset();
+    restart();
+    EXPECT_EQ(run->keeper.orphans().size(), 1u) << "a second crash loses nothing";
+    discardAll();
+    EXPECT_TRUE(QDir(folder).isEmpty());
 }
 
 TEST_F(RecoveryTest, AnUnsavedDocumentThatClosesLeavesItsCopy)
 {
-    for (const auto &[name, dirty] :
-         {std::pair("the save dialog was cancelled", true), {"no question was asked", false}}) {
+    struct Case
+    {
+        const char *name;
+        bool dirty;
+        QString path;
+        bool told;
+        bool kept;
+    };
+    const Case cases[] = {{"the save dialog was cancelled", true, {}, false, true},
+                          {"saving failed", true, home.filePath(QStringLiteral("none/words.gla")), true, true},
+                          {"words changed without a question", false, {}, false, true},
+                          {"sizes changed without a question", false, {}, false, false}};
+    for (const Case &c : cases) {
         frmDoc *document = run->newDocument();
-        document->Rutor()->setTextMatrix(1, 1, name);
-        document->setDirty(dirty);
+        if (c.kept)
+            document->Rutor()->setTextMatrix(1, 1, QLatin1String(c.name));
+        else
+            document->Rutor()->setColWidth(1, 777);
+        EXPECT_EQ(copies().size(), 1);
+        document->setDirty(c.dirty);
+        run->prompts.savePath = c.path;
+        run->alert.shown.clear();
         run->alert.answers = {AlertBox::AnswerYes};
         run->files.closeActive();
         EXPECT_TRUE(run->documents.open().empty());
+        const QString told = run->alert.shown.empty() ? QString() : run->alert.shown.back().prompt;
+        EXPECT_EQ(told.startsWith(QStringLiteral("The file")), c.told) << c.name;
         run->alert.answers.clear();
         restart();
-        ASSERT_EQ(run->keeper.orphans().size(), 1u) << name;
-        EXPECT_EQ(run->keeper.orphans().front().copy.vocabulary.first[1], name);
-        run->keeper.discard(run->keeper.orphans().front());
+        EXPECT_EQ(run->keeper.orphans().size(), c.kept) << c.name;
+        discardAll();
     }
+}
+
+TEST_F(RecoveryTest, AWindowWhoseWordsCanBeKeptNowhereStaysOpen)
+{
+    QFile inTheWay(folder);
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    run->changedDocument(QStringLiteral("word"));
+    run->alert.answers = {AlertBox::AnswerYes, AlertBox::AnswerOk};
+    run->files.closeActive();
+    EXPECT_EQ(run->documents.open().size(), 1u);
+    EXPECT_EQ(run->alert.shown.back().prompt, resText(12627).arg(QStringLiteral("Untitled 1")));
+    inTheWay.remove();
+    EXPECT_EQ(copies().size(), 1) << "it is tried again";
+    QDir(folder).removeRecursively();
+    run->documents.open().front()->Rutor()->setTextMatrix(1, 1, QStringLiteral("other"));
+    EXPECT_EQ(copies().size(), 1) << "also when the folder was removed meanwhile";
 }
 
 TEST_F(RecoveryTest, DamagedCopiesAreNeitherOfferedNorDeleted)
 {
-    frmDoc *document = run->newDocument();
-    document->Rutor()->setTextMatrix(1, 1, "word");
+    run->changedDocument(QStringLiteral("word"));
     run->keeper.flush();
     restart();
-    const QString path = run->keeper.orphans().front().path;
-    const QByteArray whole = readFile(path);
+    QFile file(run->keeper.orphans().at(0).path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray whole = file.readAll();
     for (qsizetype size = 0; size < whole.size(); size += 7)
         EXPECT_FALSE(RecoveryCopy::fromBytes(whole.left(size))) << size;
     EXPECT_FALSE(RecoveryCopy::fromBytes(whole + 'x'));
-    writeFile(path, whole.left(whole.size() / 2));
+    file.close();
+    file.resize(whole.size() / 2);
     EXPECT_TRUE(run->keeper.orphans().empty());
-    EXPECT_EQ(copies(), 1u);
+    EXPECT_EQ(copies().size(), 1);
 }
 
-TEST_F(RecoveryTest, TheFileOfARecoveredDocumentIsKnownAgain)
+TEST_F(RecoveryTest, AKillWithinSavingMakesTheFileNeitherStrangeNorUnsaved)
 {
-    frmDoc *document = run->newDocument();
-    run->prompts.savePath = home.filePath("shared.gla");
+    run->prompts.savePath = home.filePath(QStringLiteral("words.gla"));
+    frmDoc *document = run->changedDocument(QStringLiteral("old"));
     run->files.save();
-    document->Rutor()->setTextMatrix(1, 1, "word");
+    document->Rutor()->setTextMatrix(1, 1, QStringLiteral("new"));
     run->keeper.flush();
     restart();
-    run->keeper.recover(run->keeper.orphans().front());
+    run->keeper.recover(run->keeper.orphans().at(0));
     document = run->documents.open().front();
     run->documents.setActive(document);
+    const QString copy = copies().at(0);
+    ASSERT_TRUE(QFile::copy(copy, copy + QStringLiteral(".x")));
     run->files.save();
     EXPECT_TRUE(run->alert.shown.empty()) << "a crash does not make the file another one";
+    run->keeper.flush();
+    ASSERT_TRUE(QFile::rename(copy + QStringLiteral(".x"), copy)) << "killed before the copy was removed";
+    restart();
+    EXPECT_TRUE(run->keeper.orphans().empty()) << "all of it is in the file";
+    EXPECT_TRUE(copies().isEmpty());
 }

@@ -59,6 +59,13 @@ bool isUsable(const Vocabulary &vocabulary)
 
 } // namespace
 
+bool RecoveryCopy::canBegin(const QByteArray &bytes)
+{
+    quint32 signature = 0;
+    QDataStream(bytes) >> signature;
+    return signature == Signature;
+}
+
 QByteArray RecoveryCopy::toBytes() const
 {
     QByteArray bytes;

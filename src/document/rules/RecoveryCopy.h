@@ -15,6 +15,10 @@ struct RecoveryCopy
     QDateTime time;      ///< when the copy was made
     Vocabulary vocabulary;
 
+    static constexpr qint64 SignatureSize = 4;
+    /// Whether bytes can be those of a copy, judged by the first SignatureSize of them.
+    static bool canBegin(const QByteArray &bytes);
+
     QByteArray toBytes() const;
     /// No value for bytes that are no whole copy.
     static std::optional<RecoveryCopy> fromBytes(const QByteArray &bytes);

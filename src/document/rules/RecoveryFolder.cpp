@@ -1,61 +1,59 @@
 #include "document/rules/RecoveryFolder.h"
 
 #include "platform/AtomicFile.h"
+#include "platform/FolderLock.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QUuid>
 
+#include <algorithm>
+
 namespace {
 
 const QString CopySuffix = QStringLiteral(".copy");
-
-/// Names are "session-number.copy": the session is what stands before the last hyphen.
-QString sessionOf(const QString &path)
-{
-    const QString name = QFileInfo(path).completeBaseName();
-    return name.left(name.lastIndexOf(QLatin1Char('-')));
-}
-
-bool isHeld(const QString &lockPath)
-{
-    if (!QFile::exists(lockPath))
-        return false;
-    QLockFile lock(lockPath);
-    lock.setStaleLockTime(0);
-    return !lock.tryLock(0);
-}
+constexpr int LockWait = 1000; // ms; another program that looks for orphans holds a lock for a moment
+constexpr QFile::Permissions OwnerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
 
 std::optional<RecoveryCopy> readCopy(const QString &path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? RecoveryCopy::fromBytes(file.readAll()) : std::nullopt;
+    if (!file.open(QIODevice::ReadOnly) || !RecoveryCopy::canBegin(file.peek(RecoveryCopy::SignatureSize)))
+        return {};
+    return RecoveryCopy::fromBytes(file.readAll());
+}
+
+bool isHeld(const QString &place)
+{
+    return !FolderLock(place, 0).isHeld();
 }
 
 } // namespace
 
 RecoveryFolder::RecoveryFolder(const QString &folder)
     : m_folder(folder)
+    , m_place(folder + QLatin1Char('/') + QUuid::createUuid().toString(QUuid::Id128))
 {
 }
 
-QString RecoveryFolder::lockPath(const QString &session) const
+RecoveryFolder::~RecoveryFolder()
 {
-    return m_folder + QLatin1Char('/') + session + QStringLiteral(".lock");
+    if (m_lock)
+        QDir().rmdir(m_place); // unless copies are left in it
 }
 
 bool RecoveryFolder::takePlace()
 {
-    if (m_lock)
+    // The folder can be removed under a running program.
+    if (m_lock && QFileInfo::exists(m_place))
         return true;
-    if (!QDir().mkpath(m_folder))
+    m_lock.reset();
+    if (!QDir().mkpath(m_place))
         return false;
-    QFile::setPermissions(m_folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    m_session = QUuid::createUuid().toString(QUuid::Id128);
-    auto lock = std::make_unique<QLockFile>(lockPath(m_session));
-    lock->setStaleLockTime(0);
-    if (!lock->tryLock(0))
+    QFile::setPermissions(m_folder, OwnerOnly);
+    QFile::setPermissions(m_place, OwnerOnly);
+    auto lock = std::make_unique<FolderLock>(m_place, LockWait);
+    if (!lock->isHeld())
         return false;
     m_lock = std::move(lock);
     return true;
@@ -64,37 +62,52 @@ bool RecoveryFolder::takePlace()
 std::vector<RecoveryFolder::Orphan> RecoveryFolder::orphans() const
 {
     std::vector<Orphan> found;
-    const QFileInfoList files = QDir(m_folder).entryInfoList({QLatin1Char('*') + CopySuffix}, QDir::Files, QDir::Time);
-    for (const QFileInfo &file : files) {
-        const QString session = sessionOf(file.filePath());
-        if (session == m_session || isHeld(lockPath(session)))
+    const QFileInfoList places = QDir(m_folder).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks);
+    for (const QFileInfo &place : places) {
+        const QString path = place.filePath();
+        if (path == m_place || isHeld(path))
             continue;
-        if (std::optional<RecoveryCopy> copy = readCopy(file.filePath()))
-            found.push_back({file.filePath(), std::move(*copy)});
+        QDir().rmdir(path); // when nothing is left in it
+        for (const QFileInfo &file : QDir(path).entryInfoList({QLatin1Char('*') + CopySuffix}, QDir::Files)) {
+            if (std::optional<RecoveryCopy> copy = readCopy(file.filePath()))
+                found.push_back({file.filePath(), std::move(*copy)});
+        }
     }
+    std::stable_sort(found.begin(), found.end(),
+                     [](const Orphan &a, const Orphan &b) { return a.copy.time > b.copy.time; });
     return found;
 }
 
 QString RecoveryFolder::newPath()
 {
-    if (!takePlace())
-        return {};
-    return QStringLiteral("%1/%2-%3%4").arg(m_folder, m_session).arg(++m_count).arg(CopySuffix);
+    return QStringLiteral("%1/%2%3").arg(m_place).arg(++m_count).arg(CopySuffix);
 }
 
-bool RecoveryFolder::write(const QString &path, const RecoveryCopy &copy) const
+bool RecoveryFolder::write(QString &path, const RecoveryCopy &copy)
 {
+    if (!takePlace())
+        return false;
+    if (path.isEmpty())
+        path = newPath();
     return AtomicFile::write(path, copy.toBytes());
 }
 
 QString RecoveryFolder::adopt(const QString &orphanPath)
 {
     const QString path = newPath();
-    return !path.isEmpty() && QFile::rename(orphanPath, path) ? path : QString();
+    if (takePlace() && QFile::rename(orphanPath, path)) {
+        QDir().rmdir(QFileInfo(orphanPath).path());
+        return path;
+    }
+    return QFileInfo::exists(orphanPath) ? orphanPath : QString();
 }
 
 void RecoveryFolder::remove(const QString &path) const
 {
-    if (!path.isEmpty())
-        QFile::remove(path);
+    if (path.isEmpty())
+        return;
+    QFile::remove(path);
+    const QString place = QFileInfo(path).path();
+    if (place != m_place)
+        QDir().rmdir(place);
 }

@@ -45,5 +45,10 @@ struct Vocabulary
         heights.push_back(height);
     }
 
+    /// How many rows there are up to the last with a word; the names of the languages always count.
+    qsizetype filledRows() const;
+    /// How many of them a file holds: up to the last with a word in the first language.
+    qsizetype storedRows() const;
+
     bool operator==(const Vocabulary &) const = default;
 };

@@ -115,13 +115,10 @@ public:
     Encoder(const Vocabulary &vocabulary, const Progress &progress)
         : m_vocabulary(vocabulary)
         , m_ticks(progress, vocabulary.rows())
+        , m_rows(vocabulary.storedRows())
     {
-        for (qsizetype row = 0; row < vocabulary.rows(); ++row) {
-            if (!vocabulary.first[size_t(row)].isEmpty())
-                m_lastRow = row;
-        }
         m_expectedSize = 512;
-        for (qsizetype row = 0; row < rowCount(); ++row)
+        for (qsizetype row = 0; row < m_rows; ++row)
             m_expectedSize += vocabulary.first[size_t(row)].size() + vocabulary.second[size_t(row)].size() + 19;
     }
 
@@ -130,7 +127,7 @@ public:
     {
         Output output(codePage, m_expectedSize);
         putSections(output, !codePage);
-        for (qsizetype row = 0; row < rowCount() && !output.failed(); ++row) {
+        for (qsizetype row = 0; row < m_rows && !output.failed(); ++row) {
             putRow(output, size_t(row));
             m_ticks.reach(row + 1);
         }
@@ -138,8 +135,6 @@ public:
     }
 
 private:
-    qsizetype rowCount() const { return std::min(m_lastRow + 1, m_vocabulary.rows()); }
-
     void putSections(Output &output, bool declareUtf8) const
     {
         output.putLine("Glosaria");
@@ -150,7 +145,7 @@ private:
         output.putLine("[Grid Info]");
         for (const int width : m_vocabulary.columnWidths.value_or(std::array<int, 3>{340, 4000, 4000}))
             output.putLine(QByteArray::number(std::max(0, width)));
-        output.putLine(QByteArray::number(m_lastRow));
+        output.putLine(QByteArray::number(std::max(m_rows - 1, qsizetype(0))));
         output.putLine("");
         if (declareUtf8) {
             output.putLine("[Encoding]");
@@ -184,7 +179,7 @@ private:
 
     const Vocabulary &m_vocabulary;
     ProgressTicks m_ticks;
-    qsizetype m_lastRow = 0;
+    qsizetype m_rows;
     qsizetype m_expectedSize = 0;
 };
 

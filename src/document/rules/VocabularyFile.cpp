@@ -13,6 +13,7 @@ VocabularyCodec::Header VocabularyFile::readHeader()
     QFile file(m_path);
     if (!QFileInfo(m_path).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > LargestSize)
         return {Outcome::Failed};
+    m_stamp = FileStamp::of(m_path);
     const VocabularyCodec::Header header = VocabularyCodec::readHeader(file.peek(VocabularyCodec::HeaderBytes));
     if (header.outcome == Outcome::Ok)
         m_bytes = file.readAll();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/rules/FileStamp.h"
 #include "document/rules/VocabularyCodec.h"
 
 /// A vocabulary file on the disk. Reading goes in two steps, so that the user can be told of an older version and the
@@ -19,6 +20,9 @@ public:
     /// Bytes of the file; known once the header was Ok.
     qint64 size() const { return m_bytes.size(); }
 
+    /// The file as it was when it was read.
+    const FileStamp &stamp() const { return m_stamp; }
+
     /// Reads the rest; only after a header that was Ok.
     VocabularyCodec::DecodeResult read(const CodePage &codePage, const VocabularyCodec::Progress &progress = {}) const;
 
@@ -31,4 +35,5 @@ public:
 private:
     QString m_path;
     QByteArray m_bytes;
+    FileStamp m_stamp;
 };

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "document/rules/RecoveryFolder.h"
+#include "document/rules/VocabularyDigest.h"
+
+#include <QThreadPool>
+
+#include <atomic>
+#include <memory>
+
+/// Writes and removes copies on a thread of its own, one job after the other in the order in which they were given, so
+/// that neither a long word list nor a slow disk holds the user up. Whoever gives the jobs must not use the folder
+/// before finish() has returned.
+class RecoveryWriter
+{
+public:
+    /// The copy of one document.
+    class Slot
+    {
+    public:
+        /// path: of a copy that is there already.
+        explicit Slot(const QString &path = {})
+            : m_path(path)
+        {
+        }
+        bool isBusy() const { return m_jobs > 0; }
+        /// Whether the last job could not do what it should.
+        bool failed() const { return m_failed; }
+
+    private:
+        friend class RecoveryWriter;
+        std::atomic<int> m_jobs = 0;
+        std::atomic<bool> m_failed = false;
+        QString m_path;            ///< empty: there is no copy
+        VocabularyDigest m_stored; ///< what the document's file holds; empty: none of it
+    };
+    using SharedSlot = std::shared_ptr<Slot>;
+
+    explicit RecoveryWriter(RecoveryFolder &folder);
+
+    /// The document is as it was read or made: it needs no copy.
+    void begin(const SharedSlot &slot, RecoveryCopy &&now);
+    /// The document has changed. What holds no more than its file needs no copy.
+    void keep(const SharedSlot &slot, RecoveryCopy &&now);
+    /// The document has been saved. A copy stays if it has words that a file does not hold.
+    void settle(const SharedSlot &slot, RecoveryCopy &&now);
+    /// The document closes and the user was not asked, since nothing counts as changed: only its words are worth a
+    /// copy.
+    void leave(const SharedSlot &slot, RecoveryCopy &&now);
+    /// The copy is not wanted any more.
+    void discard(const SharedSlot &slot);
+
+    /// Waits until all jobs are done.
+    void finish();
+
+private:
+    void run(const SharedSlot &slot, std::function<bool(Slot &)> job);
+    bool write(Slot &slot, const RecoveryCopy &copy);
+    bool remove(Slot &slot);
+
+    RecoveryFolder &m_folder;
+    QThreadPool m_thread;
+};
