@@ -1,12 +1,10 @@
 #include "document/RecoveryKeeper.h"
 #include "document/ctlGrid.h"
 #include "resources/StringTable.h"
+#include "support/Files.h"
 #include "support/OpenFiles.h"
 
-#include <QDir>
 #include <QDirIterator>
-
-namespace {
 
 /// A running program that keeps copies. What it leaves behind is found by another one over the same folder.
 struct Program : OpenFiles
@@ -30,15 +28,14 @@ struct Program : OpenFiles
 struct RecoveryTest : ::testing::Test
 {
     QTemporaryDir home;
-    QString folder = home.filePath(QStringLiteral("recovery"));
+    QString folder = home.filePath("recovery");
     std::unique_ptr<Program> run = std::make_unique<Program>(folder);
 
     QStringList copies() const
     {
         run->keeper.flush();
         QStringList found;
-        for (QDirIterator it(folder, {QStringLiteral("*.copy")}, QDir::Files, QDirIterator::Subdirectories);
-             it.hasNext();)
+        for (QDirIterator it(folder, {"*.copy"}, QDir::Files, QDirIterator::Subdirectories); it.hasNext();)
             found += it.next();
         return found;
     }
@@ -54,8 +51,6 @@ struct RecoveryTest : ::testing::Test
     }
 };
 
-} // namespace
-
 TEST_F(RecoveryTest, WhatDiffersFromTheFileIsKeptAndNothingElse)
 {
     struct Case
@@ -66,10 +61,10 @@ TEST_F(RecoveryTest, WhatDiffersFromTheFileIsKeptAndNothingElse)
     };
     const Case cases[] = {
         {"nothing", [](frmDoc &, ctlGrid &) {}, false},
-        {"a word", [](frmDoc &, ctlGrid &grid) { grid.setTextMatrix(2, 1, QStringLiteral("só 猫")); }, true},
+        {"a word", [](frmDoc &, ctlGrid &grid) { grid.setTextMatrix(2, 1, "só 猫"); }, true},
         {"a row's height", [](frmDoc &, ctlGrid &grid) { grid.setRowHeight(1, 777); }, true},
         {"a column's width", [](frmDoc &, ctlGrid &grid) { grid.setColWidth(1, 777); }, true},
-        {"the font", [](frmDoc &, ctlGrid &grid) { grid.setGridFont(QFont(QStringLiteral("Arial"), 33)); }, true},
+        {"the font", [](frmDoc &, ctlGrid &grid) { grid.setGridFont(QFont("Arial", 33)); }, true},
         {"the colour", [](frmDoc &, ctlGrid &grid) { grid.setForeColor(0xFF); }, true},
         {"an inserted row", [](frmDoc &, ctlGrid &grid) { grid.insertRows(1, 1); }, true},
         {"empty rows at the end", [](frmDoc &, ctlGrid &grid) { grid.setRows(300); }, false},
@@ -83,7 +78,7 @@ TEST_F(RecoveryTest, WhatDiffersFromTheFileIsKeptAndNothingElse)
         {"a word that is being typed",
          [](frmDoc &, ctlGrid &grid) {
              grid.setEditMode(true);
-             grid.setSelText(QStringLiteral("unfinished"));
+             grid.setSelText("unfinished");
          },
          true},
         {"a word that is being deleted",
@@ -95,8 +90,8 @@ TEST_F(RecoveryTest, WhatDiffersFromTheFileIsKeptAndNothingElse)
          true},
     };
     for (const Case &c : cases) {
-        frmDoc *document = run->changedDocument(QStringLiteral("one"));
-        run->prompts.savePath = home.filePath(QStringLiteral("words.gla"));
+        frmDoc *document = run->changedDocument("one");
+        run->prompts.savePath = home.filePath("words.gla");
         run->files.save();
         EXPECT_TRUE(copies().isEmpty()) << "saved";
         c.change(*document, *document->Rutor());
@@ -110,9 +105,9 @@ TEST_F(RecoveryTest, WhatDiffersFromTheFileIsKeptAndNothingElse)
 
 TEST_F(RecoveryTest, EveryLaterChangeReachesTheCopyAndGoesWhenItIsUndone)
 {
-    ctlGrid &grid = *run->changedDocument(QStringLiteral("first"))->Rutor();
+    ctlGrid &grid = *run->changedDocument("first")->Rutor();
     EXPECT_EQ(copies().size(), 1);
-    grid.setTextMatrix(1, 2, QStringLiteral("second"));
+    grid.setTextMatrix(1, 2, "second");
     grid.setRowHeight(1, 777);
     EXPECT_EQ(copies().size(), 1);
     restart();
@@ -121,15 +116,15 @@ TEST_F(RecoveryTest, EveryLaterChangeReachesTheCopyAndGoesWhenItIsUndone)
     run->keeper.recover(orphan);
     ASSERT_EQ(run->documents.open().size(), 1u);
     const frmDoc &recovered = *run->documents.open().front();
-    EXPECT_EQ(recovered.Caption(), QStringLiteral("Untitled 1"));
+    EXPECT_EQ(recovered.Caption(), "Untitled 1");
     EXPECT_TRUE(recovered.Dirty());
     EXPECT_EQ(recovered.Rutor()->Rows(), 101);
-    EXPECT_EQ(recovered.Rutor()->TextMatrix(1, 2), QStringLiteral("second"));
+    EXPECT_EQ(recovered.Rutor()->TextMatrix(1, 2), "second");
     EXPECT_EQ(recovered.Rutor()->RowHeight(1), 777);
-    EXPECT_EQ(run->newDocument()->Caption(), QStringLiteral("Untitled 2"));
+    EXPECT_EQ(run->newDocument()->Caption(), "Untitled 2");
 
     frmDoc *document = run->documents.active();
-    document->Rutor()->setTextMatrix(1, 1, QStringLiteral("x"));
+    document->Rutor()->setTextMatrix(1, 1, "x");
     EXPECT_EQ(copies().size(), 2);
     document->Rutor()->setTextMatrix(1, 1, QString());
     EXPECT_EQ(copies().size(), 1) << "only what was recovered";
@@ -137,9 +132,9 @@ TEST_F(RecoveryTest, EveryLaterChangeReachesTheCopyAndGoesWhenItIsUndone)
 
 TEST_F(RecoveryTest, WordsThatNoFileHoldsStayInACopy)
 {
-    frmDoc *document = run->changedDocument(QStringLiteral("one"));
-    document->Rutor()->setTextMatrix(2, 2, QStringLiteral("a translation without its word"));
-    run->prompts.savePath = home.filePath(QStringLiteral("words.gla"));
+    frmDoc *document = run->changedDocument("one");
+    document->Rutor()->setTextMatrix(2, 2, "a translation without its word");
+    run->prompts.savePath = home.filePath("words.gla");
     run->files.save();
     EXPECT_EQ(copies().size(), 1);
     run->files.closeActive();
@@ -149,7 +144,7 @@ TEST_F(RecoveryTest, WordsThatNoFileHoldsStayInACopy)
 
 TEST_F(RecoveryTest, TheCopiesOfRunningProgramsAreNobodyElses)
 {
-    run->changedDocument(QStringLiteral("word"));
+    run->changedDocument("word");
     run->keeper.flush();
     EXPECT_TRUE(run->keeper.orphans().empty());
     auto second = std::make_unique<Program>(folder);
@@ -180,7 +175,7 @@ TEST_F(RecoveryTest, AnUnsavedDocumentThatClosesLeavesItsCopy)
         bool kept;
     };
     const Case cases[] = {{"the save dialog was cancelled", true, {}, false, true},
-                          {"saving failed", true, home.filePath(QStringLiteral("none/words.gla")), true, true},
+                          {"saving failed", true, home.filePath("none/words.gla"), true, true},
                           {"words changed without a question", false, {}, false, true},
                           {"sizes changed without a question", false, {}, false, false}};
     for (const Case &c : cases) {
@@ -197,7 +192,7 @@ TEST_F(RecoveryTest, AnUnsavedDocumentThatClosesLeavesItsCopy)
         run->files.closeActive();
         EXPECT_TRUE(run->documents.open().empty());
         const QString told = run->alert.shown.empty() ? QString() : run->alert.shown.back().prompt;
-        EXPECT_EQ(told.startsWith(QStringLiteral("The file")), c.told) << c.name;
+        EXPECT_EQ(told.startsWith("The file"), c.told) << c.name;
         run->alert.answers.clear();
         restart();
         EXPECT_EQ(run->keeper.orphans().size(), c.kept) << c.name;
@@ -207,54 +202,51 @@ TEST_F(RecoveryTest, AnUnsavedDocumentThatClosesLeavesItsCopy)
 
 TEST_F(RecoveryTest, AWindowWhoseWordsCanBeKeptNowhereStaysOpen)
 {
-    QFile inTheWay(folder);
-    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
-    run->changedDocument(QStringLiteral("word"));
+    writeFile(folder, "in the way");
+    run->changedDocument("word");
     run->alert.answers = {AlertBox::AnswerYes, AlertBox::AnswerOk};
     run->files.closeActive();
     EXPECT_EQ(run->documents.open().size(), 1u);
-    EXPECT_EQ(run->alert.shown.back().prompt, resText(12627).arg(QStringLiteral("Untitled 1")));
-    inTheWay.remove();
+    EXPECT_EQ(run->alert.shown.back().prompt, resText(12627).arg("Untitled 1"));
+    QFile::remove(folder);
     EXPECT_EQ(copies().size(), 1) << "it is tried again";
     QDir(folder).removeRecursively();
-    run->documents.open().front()->Rutor()->setTextMatrix(1, 1, QStringLiteral("other"));
+    run->documents.open().front()->Rutor()->setTextMatrix(1, 1, "other");
     EXPECT_EQ(copies().size(), 1) << "also when the folder was removed meanwhile";
 }
 
 TEST_F(RecoveryTest, DamagedCopiesAreNeitherOfferedNorDeleted)
 {
-    run->changedDocument(QStringLiteral("word"));
+    run->changedDocument("word");
     run->keeper.flush();
     restart();
-    QFile file(run->keeper.orphans().at(0).path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray whole = file.readAll();
+    const QString path = run->keeper.orphans().at(0).path;
+    const QByteArray whole = readFile(path);
     for (qsizetype size = 0; size < whole.size(); size += 7)
         EXPECT_FALSE(RecoveryCopy::fromBytes(whole.left(size))) << size;
     EXPECT_FALSE(RecoveryCopy::fromBytes(whole + 'x'));
-    file.close();
-    file.resize(whole.size() / 2);
+    writeFile(path, whole.left(whole.size() / 2));
     EXPECT_TRUE(run->keeper.orphans().empty());
     EXPECT_EQ(copies().size(), 1);
 }
 
 TEST_F(RecoveryTest, AKillWithinSavingMakesTheFileNeitherStrangeNorUnsaved)
 {
-    run->prompts.savePath = home.filePath(QStringLiteral("words.gla"));
-    frmDoc *document = run->changedDocument(QStringLiteral("old"));
+    run->prompts.savePath = home.filePath("words.gla");
+    frmDoc *document = run->changedDocument("old");
     run->files.save();
-    document->Rutor()->setTextMatrix(1, 1, QStringLiteral("new"));
+    document->Rutor()->setTextMatrix(1, 1, "new");
     run->keeper.flush();
     restart();
     run->keeper.recover(run->keeper.orphans().at(0));
     document = run->documents.open().front();
     run->documents.setActive(document);
     const QString copy = copies().at(0);
-    ASSERT_TRUE(QFile::copy(copy, copy + QStringLiteral(".x")));
+    const QByteArray bytes = readFile(copy);
     run->files.save();
     EXPECT_TRUE(run->alert.shown.empty()) << "a crash does not make the file another one";
     run->keeper.flush();
-    ASSERT_TRUE(QFile::rename(copy + QStringLiteral(".x"), copy)) << "killed before the copy was removed";
+    writeFile(copy, bytes); // killed before the copy was removed
     restart();
     EXPECT_TRUE(run->keeper.orphans().empty()) << "all of it is in the file";
     EXPECT_TRUE(copies().isEmpty());
