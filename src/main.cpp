@@ -1,9 +1,12 @@
 #include "app/modKod.h"
+#include "platform/FontReader.h"
 #include "resources/Pictures.h"
 #include "services/rules/CommandLine.h"
 
 #include <QApplication>
 #include <QDir>
+
+#include <optional>
 
 namespace {
 
@@ -26,7 +29,9 @@ int main(int argc, char **argv)
     if (modKod::answer(commandLine, exitCode))
         return exitCode;
 
+    std::optional<FontReader> fontReader(std::in_place);
     QApplication application(argc, argv);
+    fontReader.reset();
     QApplication::setWindowIcon(picture(PictureApplication));
     QApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setDesktopFileName(QStringLiteral("glosaria"));
