@@ -80,8 +80,7 @@ void AppPrintHost::showDocuments()
         frame->show();
     }
     if (frmDoc *active = m_window.context().documents.active()) {
-        m_window.documentArea()->setActiveSubWindow(qobject_cast<QMdiSubWindow *>(active->frame()));
-        active->setFocus();
+        m_window.activate(active);
         active->refreshCellReference();
     }
 }

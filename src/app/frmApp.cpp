@@ -28,6 +28,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QStyle>
 #include <QTimer>
@@ -74,7 +75,7 @@ void selectRecentFilesKey(clsRegistry &registry)
 frmApp::frmApp(const Needs &needs)
     : m_store(needs.store)
     , m_recentFiles(desktopTextWidth)
-    , m_editCommands(needs.undo, *QGuiApplication::clipboard())
+    , m_editCommands(needs.undo, needs.flags, *QGuiApplication::clipboard())
     , m_area(new QMdiArea)
     , m_views(new QStackedWidget)
     , m_printHost(std::make_unique<AppPrintHost>(*this, *m_views))
@@ -114,7 +115,6 @@ void frmApp::createParts(const Needs &needs)
                                                         *m_print, *m_help, needs.random, needs.errorSound});
     setCentralWidget(createCentre());
 
-    connect(documents, &DocumentList::aboutToCreate, this, [this] { m_print->preview().close(); });
     connect(documents, &DocumentList::created, this, &frmApp::placeDocument);
     connect(documents, &DocumentList::activeChanged, this, &frmApp::updateState);
     connect(documents, &DocumentList::removed, this, &frmApp::onRemoved);
@@ -140,6 +140,10 @@ QWidget *frmApp::createCentre()
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder); // who closes a document is back in the one before
+    connect(new QShortcut(Qt::ALT | Qt::Key_Minus, m_area), &QShortcut::activated, m_area, [this] {
+        if (QMdiSubWindow *document = m_area->activeSubWindow())
+            document->showSystemMenu();
+    });
     auto *centre = new QWidget(this);
     auto *layout = new QVBoxLayout(centre);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -166,12 +170,6 @@ void frmApp::placeDocument(frmDoc *document)
         if (document == m_context->documents.active())
             SetCommandState(editing ? AppState::StateEditing : AppState::StateDocument);
     });
-    connect(frame, &QMdiSubWindow::windowStateChanged, document,
-            [document](Qt::WindowStates before, Qt::WindowStates now) {
-                // Where an edit was ended by minimising, the toolkit knows nothing to give the focus back to.
-                if (before & ~now & Qt::WindowMinimized)
-                    document->setFocus();
-            });
     connect(document, &frmDoc::menuRequested, this,
             [this](const QPoint &position) { m_menus->gridMenu()->popup(position); });
 }
@@ -290,8 +288,10 @@ int frmApp::toolbarHeight() const
 void frmApp::OpenRequestedFile(const QString &text)
 {
     const std::optional<QString> path = RequestedFile::requestedPath(text);
-    if (path)
-        m_context->files.LoadVocabulary(*path);
+    if (!path)
+        return;
+    m_print->preview().close();
+    m_context->files.LoadVocabulary(*path);
 }
 
 void frmApp::bringToFront()

@@ -20,8 +20,11 @@
 #include "quiz/rules/RandomSource.h"
 #include "resources/ResourceFiles.h"
 #include "resources/StringTable.h"
+#include "services/ContextMenuKey.h"
 #include "services/DialogHelp.h"
 #include "services/HelpViewers.h"
+#include "services/ProgramStyle.h"
+#include "services/ScreenFit.h"
 #include "services/modMsgBox.h"
 #include "services/rules/CommandLine.h"
 #include "services/rules/ProgramFlags.h"
@@ -181,6 +184,9 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
         return 0;
     }
     SignalWatcher watcher;
+    QApplication::setStyle(new ProgramStyle);
+    const ContextMenuKey contextMenuKey(application);
+    const ScreenFit screenFit(application);
     readSettings(program);
 
     frmSplash splash(QVersionNumber::fromString(QApplication::applicationVersion()));

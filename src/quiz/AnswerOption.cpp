@@ -25,8 +25,7 @@ AnswerOption::AnswerOption(QWidget *parent)
 void AnswerOption::setFullText(int number, const QString &text)
 {
     m_number = number;
-    // A font may have the whole letter only, not the accent that a text puts behind it.
-    m_fullText = text.normalized(QString::NormalizationForm_C);
+    m_fullText = text;
     setAccessibleName(QString::number(number) + u' ' + text);
     fit();
 }

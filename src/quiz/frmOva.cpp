@@ -6,6 +6,7 @@
 #include "quiz/QuizSpeech.h"
 #include "resources/Pictures.h"
 #include "resources/StringTable.h"
+#include "services/EnterKey.h"
 #include "services/rules/clsAppProperties.h"
 
 #include "ui_frmOva.h"
@@ -50,6 +51,7 @@ frmOva::frmOva(clsAppProperties &settings, RandomSource &random, SoundPlayer &er
     , m_errorSound(errorSound)
 {
     m_ui->setupUi(this);
+    EnterKey::leaveToDialog(*this);
     m_optAnswer =
         std::make_unique<AnswerOptions>(std::array{m_ui->optAnswer0, m_ui->optAnswer1, m_ui->optAnswer2}, nullptr);
 }
@@ -313,8 +315,7 @@ void frmOva::done(int result)
 
 void frmOva::Form_Terminate()
 {
-    QWidget *document = m_document;
-    m_document = nullptr;
+    QWidget *document = std::exchange(m_document, nullptr);
     if (!document)
         return;
     document->setWindowState(m_documentState);

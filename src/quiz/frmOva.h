@@ -5,7 +5,6 @@
 #include "widgets/clsTimer.h"
 
 #include <QDialog>
-#include <QPointer>
 
 #include <memory>
 
@@ -33,7 +32,7 @@ public:
     /// "1" once the quiz is ready, "0" when it could not be built.
     QString Tag() const { return m_tag; }
 
-    /// Builds the quiz from the words of a document and minimises the document's window.
+    /// Builds the quiz from the words of a document and minimises the document's window, which must outlive this one.
     void Form_Load(const WordSource &words, QWidget &document, const QString &documentTitle);
 
     /// The quiz that is running; null until it is ready.
@@ -48,9 +47,14 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    struct Sizes;
+    static const Sizes Roomy;
+    static const Sizes Tight; ///< for small screens
+
     void layOut();
     void takeRoom();
-    void dressTypes();
+    void dressTypes(const Sizes &sizes);
+    void dressLabels();
     void dressKind();
     void connectControls();
     void connectSession();
@@ -83,7 +87,7 @@ private:
     RandomSource &m_random;
     SoundPlayer &m_errorSound;
     std::unique_ptr<QuizSession> m_session;
-    QPointer<QWidget> m_document; ///< may close while the quiz is open, when the program is told to end
+    QWidget *m_document = nullptr;
     Qt::WindowStates m_documentState;
     qint16 m_quizType = 0;
     QString m_tag = QStringLiteral("0");

@@ -3,6 +3,7 @@
 #include "quiz/QuizLook.h"
 #include "resources/StringTable.h"
 #include "services/FormTexts.h"
+#include "services/ScreenFit.h"
 
 #include "ui_frmOva.h"
 
@@ -10,13 +11,7 @@
 
 namespace {
 
-// Sizes of type, as multiples of the window's.
-constexpr double AskedType = 2.6;
-constexpr double NoteType = 2.0;
-constexpr double AnswerType = 1.6;
-constexpr double OptionType = 1.35;
 constexpr double SmallestType = 1.0;
-
 constexpr int InitialWidth = 620; ///< pixels
 
 /// A number of seconds, with a decimal point or comma.
@@ -24,7 +19,7 @@ const QRegularExpression SecondsPattern(QStringLiteral("[0-9]*[.,]?[0-9]*"));
 
 void scaleType(QWidget *control, double factor)
 {
-    QFont font = control->font();
+    QFont font = control->window()->font();
     font.setPointSizeF(QFontInfo(font).pointSizeF() * factor);
     control->setFont(font);
 }
@@ -61,10 +56,23 @@ void dress(QWidget *control, int textId, int whatsThisId)
 
 } // namespace
 
+struct frmOva::Sizes
+{
+    double askedType; ///< as multiples of the window's type
+    double noteType;
+    double answerType;
+    double optionType;
+    int margin; ///< pixels at the sides
+};
+
+const frmOva::Sizes frmOva::Roomy{2.6, 2.0, 1.6, 1.35, 24};
+const frmOva::Sizes frmOva::Tight{1.7, 1.4, 1.2, 1.1, 12};
+
 void frmOva::layOut()
 {
     FormTexts::apply(this);
-    dressTypes();
+    dressTypes(Roomy);
+    dressLabels();
     dressKind();
     showForKind();
     hideResults();
@@ -72,21 +80,29 @@ void frmOva::layOut()
 
 void frmOva::takeRoom()
 {
+    if (sizeHint().height() > ScreenFit::room(*this).height())
+        dressTypes(Tight);
     // The room stays when the round ends and the question makes way for the summary.
     m_ui->picQuestion->setMinimumHeight(m_ui->picQuestion->sizeHint().height());
     resize(sizeHint().expandedTo(QSize(InitialWidth, 0)));
 }
 
-void frmOva::dressTypes()
+void frmOva::dressTypes(const Sizes &sizes)
 {
-    m_ui->lblFraga->setTypeSizes(AskedType, SmallestType);
-    m_ui->lblNote->setTypeSizes(NoteType, SmallestType);
-    m_ui->lblSum->setTypeSizes(AskedType, SmallestType);
-    m_ui->lblSum->setFullText(resText(915));
-    scaleType(m_ui->lblScore, OptionType);
-    scaleType(m_ui->txtSvar, AnswerType);
+    m_ui->lblFraga->setTypeSizes(sizes.askedType, SmallestType);
+    m_ui->lblNote->setTypeSizes(sizes.noteType, SmallestType);
+    m_ui->lblSum->setTypeSizes(sizes.askedType, SmallestType);
+    scaleType(m_ui->lblScore, sizes.optionType);
+    scaleType(m_ui->txtSvar, sizes.answerType);
     for (int i = 0; i < AnswerOptions::Count; ++i)
-        scaleType(m_optAnswer->option(i), OptionType);
+        scaleType(m_optAnswer->option(i), sizes.optionType);
+    layout()->setContentsMargins(sizes.margin, sizes.margin * 3 / 4, sizes.margin, sizes.margin * 3 / 4);
+    layout()->setSpacing(sizes.margin / 2);
+}
+
+void frmOva::dressLabels()
+{
+    m_ui->lblSum->setFullText(resText(915));
     for (QWidget *muted : std::initializer_list<QWidget *>{
              m_ui->lblLang1, m_ui->lblLang2, m_ui->lblPrevTitel, m_ui->lblAnsTitel, m_ui->lblCorrTitel,
              m_ui->lblResultTitel0, m_ui->lblResultTitel1, m_ui->lblResultTitel2, m_ui->lblResultTitel3})

@@ -109,8 +109,7 @@ void frmSplash::drawLink(int index)
 {
     const double scale = devicePixelRatioF();
     const QColor text = palette().color(QPalette::WindowText);
-    const QColor accent = palette().color(QPalette::Link);
-    QImage image = drawPicture(PictureWebLink + index, int(std::lround(LinkPixels * scale)), text, accent);
+    QImage image = drawPicture(PictureWebLink + index, int(std::lround(LinkPixels * scale)), text, VersionBlue);
     image.setDevicePixelRatio(scale);
     m_imgLink[size_t(index)]->setIcon(QPixmap::fromImage(image));
 }

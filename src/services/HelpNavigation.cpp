@@ -11,12 +11,14 @@
 #include <QCollator>
 #include <QTabBar>
 #include <QTextDocumentFragment>
+#include <QToolButton>
 #include <QTreeWidgetItemIterator>
 
 namespace {
 
 constexpr int PageRole = Qt::UserRole;
 constexpr int FirstTabText = 13005;
+constexpr int ClearBox = 13032;
 constexpr int NothingFound = 13020;
 constexpr int OneFound = 13021;
 constexpr int SeveralFound = 13022;
@@ -36,6 +38,8 @@ HelpNavigation::HelpNavigation(QWidget *parent)
     m_ui->setupUi(this);
     for (int tab = 0; tab < count(); ++tab)
         setTabText(tab, resText(FirstTabText + tab));
+    for (const QLineEdit *box : {m_ui->keyword, m_ui->words})
+        box->findChild<QToolButton *>()->setAccessibleName(resText(ClearBox));
     // Who walks along the tabs with the arrow keys stays there.
     connect(this, &QTabWidget::currentChanged, this, [this](int pane) {
         if (!tabBar()->hasFocus())

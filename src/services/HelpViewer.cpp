@@ -5,6 +5,7 @@
 #include "services/FormTexts.h"
 #include "services/HelpBrowser.h"
 #include "services/HelpFile.h"
+#include "services/ScreenFit.h"
 
 #include "ui_HelpViewer.h"
 
@@ -33,7 +34,7 @@ HelpViewer::HelpViewer(const HelpFile &file, HelpFavorites &favorites, Kind kind
     FormTexts::apply(this);
     setContextMenuPolicy(Qt::PreventContextMenu);
     setWindowTitle(resText(WindowTitle));
-    resize(kind == Kind::Full ? FullSize : SmallSize);
+    resize((kind == Kind::Full ? FullSize : SmallSize).boundedTo(ScreenFit::room(*this).size()));
     m_ui->browser->setHelpFile(file);
     m_ui->navigation->fill(file, favorites);
     m_ui->splitter->setStretchFactor(1, 1);

@@ -7,6 +7,7 @@
 #include "platform/Twips.h"
 #include "resources/StringTable.h"
 #include "services/AlertBox.h"
+#include "services/EnterKey.h"
 #include "services/FormTexts.h"
 #include "services/rules/ProgramFlags.h"
 #include "tools/DocumentCells.h"
@@ -27,6 +28,7 @@ frmFindReplace::frmFindReplace(frmDoc &document, const Needs &needs, QWidget *ow
     , m_snapshot(modUndo::takeSnapshot(*document.Rutor()))
 {
     m_ui->setupUi(this);
+    EnterKey::leaveToDialog(*this);
     FormTexts::apply(this);
     setUpControls();
     setLayoutFor(needs.flags.ReplaceMode);
@@ -159,7 +161,7 @@ void frmFindReplace::replaceMatch()
     if (!isMatch)
         return;
     grid.setSelText(m_ReplaceWith);
-    DocumentCells(document()).setTextMatrix(m_search.CurRow, m_search.CurCol, grid.EditText());
+    grid.setTextMatrix(m_search.CurRow, m_search.CurCol, grid.EditText());
     noteReplacement();
     m_search.SkipReplacement(m_ReplaceWith);
 }
@@ -203,9 +205,8 @@ void frmFindReplace::ReplaceAllMatches()
 
 void frmFindReplace::endRegion(const QString &message)
 {
-    m_search.EndRegion();
-    // the last step: the dialog may be gone afterwards, with the document that was closed meanwhile
     m_needs.alert.show(this, {message, resText(507), Alert::Ok, 0, true});
+    m_search.EndRegion();
 }
 
 /// What the user has typed into the cell editor is stored, so that the search sees it and keeps it.
@@ -228,9 +229,7 @@ void frmFindReplace::done(int result)
         m_open = false;
         document().endEdit();
         m_needs.flags.FindMode = m_needs.flags.ReplaceMode = false;
-        if (m_leaving)
-            m_needs.undo.clear(); // an entry in the document that is left is nothing to undo in the other
-        else
+        if (!m_leaving)
             document().Rutor()->setFocus();
         if (!m_leaving && m_ReplaceWasMade)
             leaveUndoStep();

@@ -3,6 +3,7 @@
 #include "ui_frmSort.h"
 
 #include "document/frmDoc.h"
+#include "services/EnterKey.h"
 #include "services/FormTexts.h"
 #include "tools/rules/SortOrder.h"
 
@@ -11,6 +12,7 @@ frmSort::frmSort(frmDoc &document, QWidget *parent)
     , m_ui(std::make_unique<Ui::frmSort>())
 {
     m_ui->setupUi(this);
+    EnterKey::leaveToDialog(*this);
     FormTexts::apply(this);
     const std::array optLang{m_ui->optLang0, m_ui->optLang1};
     for (int i = 0; i < 2; ++i) {

@@ -1,0 +1,12 @@
+#pragma once
+
+class QDialog;
+
+/// What Enter does on the controls of a dialog.
+namespace EnterKey {
+
+/// Lets Enter on the dialog's option buttons and check boxes press its default button on every desktop; some would have
+/// it choose the option. Filters that are installed on these controls later go first.
+void leaveToDialog(QDialog &dialog);
+
+} // namespace EnterKey
