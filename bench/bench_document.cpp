@@ -37,6 +37,14 @@ public:
         m_size = file.size();
     }
 
+    void enlarge()
+    {
+        QFont font = m_grid.Font();
+        font.setPointSize(24);
+        m_grid.setGridFont(font);
+        m_grid.makeRoom();
+    }
+
     void showIt() { m_grid.grab(); }
     bool save() { return VocabularyFile(path()).save(GridContent::read(m_grid), m_codePage); }
     double size() const { return double(m_size); }
@@ -69,6 +77,17 @@ void openInGrid(benchmark::State &state)
     state.counters["memory"] = (heapInUse() - before) / document.size();
 }
 
+void enlargeFont(benchmark::State &state)
+{
+    Document document(state.range(0));
+    for (auto _ : state) {
+        state.PauseTiming();
+        document.open();
+        state.ResumeTiming();
+        document.enlarge();
+    }
+}
+
 void saveFromGrid(benchmark::State &state)
 {
     Document document(state.range(0));
@@ -82,4 +101,5 @@ void saveFromGrid(benchmark::State &state)
 } // namespace
 
 BENCHMARK(openInGrid)->Apply(SampleVocabulary::atAllSizes);
+BENCHMARK(enlargeFont)->Apply(SampleVocabulary::atAllSizes);
 BENCHMARK(saveFromGrid)->Apply(SampleVocabulary::atAllSizes);

@@ -4,6 +4,7 @@
 #include "document/ctlGridEdit.h"
 #include "document/frmDoc.h"
 #include "document/modUndo.h"
+#include "services/rules/ProgramFlags.h"
 
 #include <QClipboard>
 
@@ -43,8 +44,9 @@ GridSelection pastedCells(const GridSelection &selection, const std::vector<Clip
 
 } // namespace
 
-EditCommands::EditCommands(UndoRecord &record, QClipboard &clipboard)
+EditCommands::EditCommands(UndoRecord &record, const ProgramFlags &flags, QClipboard &clipboard)
     : m_record(record)
+    , m_flags(flags)
     , m_clipboard(clipboard)
 {
 }
@@ -53,7 +55,7 @@ void EditCommands::Copy(frmDoc &document)
 {
     ctlGrid &grid = *document.Rutor();
     m_clipboard.clear();
-    if (grid.EditMode()) {
+    if (!m_flags.gridMode) {
         grid.hwndText()->copyText();
         return;
     }
@@ -64,22 +66,22 @@ void EditCommands::Copy(frmDoc &document)
 void EditCommands::Cut(frmDoc &document)
 {
     ctlGrid &grid = *document.Rutor();
-    if (grid.EditMode()) {
-        grid.hwndText()->cutText();
-        m_record.overwritten = {};
-    } else {
+    if (m_flags.gridMode) {
         recordCells(document, document.selection());
         m_clipboard.setText(grid.Clip());
         emptySelection(document);
         document.setDirty(true);
         grid.setFocus();
+    } else {
+        grid.hwndText()->cutText();
+        m_record.overwritten = {};
     }
     m_record.setKind(UndoKind::Cut, &document);
 }
 
 void EditCommands::Paste(frmDoc &document)
 {
-    if (document.Rutor()->EditMode()) {
+    if (!m_flags.gridMode) {
         document.Rutor()->hwndText()->pasteText();
         m_record.overwritten = {};
         m_record.setKind(UndoKind::Paste, &document);

@@ -46,6 +46,7 @@ void fill(ctlGrid &grid, Vocabulary &&vocabulary)
         vocabulary.append(grid.TextMatrix(0, 1), grid.TextMatrix(0, 2));
     vocabulary.append({}, {});
     fillAll(grid, std::move(vocabulary));
+    grid.setRowHeight(grid.Rows() - 1, -1); // as the font wants it
 }
 
 void fillAll(ctlGrid &grid, Vocabulary &&vocabulary)

@@ -1,6 +1,7 @@
 #include "document/ctlGrid.h"
 
 #include "document/ctlGridEdit.h"
+#include "document/rules/GridRules.h"
 #include "platform/Twips.h"
 #include "resources/StringTable.h"
 #include "services/FormTexts.h"
@@ -8,7 +9,10 @@
 #include "widgets/FlexGridColours.h"
 #include "widgets/FlexGridView.h"
 
+#include <QFontMetricsF>
 #include <QInputMethodEvent>
+
+#include <cmath>
 
 namespace {
 
@@ -20,8 +24,8 @@ constexpr int Escape = 27;
 constexpr int Space = 32;
 constexpr int UpArrow = 38;
 constexpr int DownArrow = 40;
-constexpr int ControlOrAlt = 2 | 4;
-constexpr int EditBoxInset = 10; // twips that the edit box is narrower and lower than its cell
+constexpr int RowNumberMargin = 6; // pixels beside the last row's number
+constexpr int EditBoxInset = 10;   // twips that the edit box is narrower and lower than its cell
 
 QString characterOf(int keyAscii)
 {
@@ -179,6 +183,26 @@ void ctlGrid::setGridFont(const QFont &font)
 {
     FlexGrid::setGridFont(font);
     m_text1->setFont(font);
+    const int lineHeight = Twips::fromPixelsY(int(std::ceil(QFontMetricsF(font).height())));
+    setDefaultRowHeight(GridRules::defaultRowHeight(lineHeight));
+}
+
+void ctlGrid::makeRoom()
+{
+    setRedraw(false);
+    makeRoomForRowNumbers();
+    for (int row = 0; row < Rows(); ++row) {
+        const int needed = fittingRowHeight(row);
+        if (needed > RowHeight(row))
+            setRowHeight(row, needed);
+    }
+    setRedraw(true);
+}
+
+void ctlGrid::makeRoomForRowNumbers()
+{
+    const double width = QFontMetricsF(Font(), this).horizontalAdvance(TextMatrix(Rows() - 1, 0));
+    setColWidth(0, std::max(ColWidth(0), Twips::fromPixelsX(int(std::ceil(width)) + RowNumberMargin)));
 }
 
 void ctlGrid::commit()
@@ -224,7 +248,7 @@ void ctlGrid::gridFocused()
 void ctlGrid::editKeyPressed(int keyCode, int shift, bool &taken)
 {
     taken = true;
-    if (keyCode == Escape && !(shift & ControlOrAlt)) // with these it types no character
+    if (keyCode == Escape)
         closeEditBox();
     else if (keyCode == Enter)
         giveFocusBack();

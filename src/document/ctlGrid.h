@@ -40,8 +40,12 @@ public:
     /// Clears the grid and gives it font, size in rows and columns, fixed rows and columns and header format.
     void AutoSetup(const QString &fontName, double fontSize, int rows, int cols, int fixedRows, int fixedCols,
                    const QString &formatString);
-    /// Also sets the edit box's font.
+    /// Also sets the edit box's font and the height of rows whose own was never set.
     void setGridFont(const QFont &font) override;
+    /// Makes rows that are too low for their words higher and the column of row numbers wide enough for the last one;
+    /// nothing becomes smaller.
+    void makeRoom();
+    void makeRoomForRowNumbers();
     /// The edit box: the target of the edit commands while a cell is being edited.
     ctlGridEdit *hwndText() const { return m_text1; }
 

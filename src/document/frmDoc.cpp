@@ -67,6 +67,8 @@ void frmDoc::connectGrid()
     connect(m_grid, &ctlGrid::MouseMove, this, &frmDoc::onMouseMove);
     connect(m_grid, &ctlGrid::MouseUp, this, [this](int button, int, float x, float y) { onMouseUp(button, x, y); });
     connect(m_grid, &ctlGrid::Scroll, m_grid, &ctlGrid::RefreshTextPos);
+    // a search keeps the edit box open when the focus comes to the grid
+    connect(m_grid, &ctlGrid::GotFocus, this, [this] { m_shared.flags.gridMode = !m_grid->EditMode(); });
 }
 
 void frmDoc::setCaption(const QString &caption)
@@ -121,12 +123,7 @@ void frmDoc::commitRunningEdit()
 {
     if (!m_grid->EditMode())
         return;
-    // a search opens the edit box to show a match: that alone is no change
-    if (m_shared.flags.searching() && m_grid->EditText() == m_grid->Text())
-        return;
     m_grid->setText(m_grid->EditText());
-    m_committedEdit = m_grid->Text();
-    makeRoomFor(m_grid->Row(), m_grid->Col(), *m_committedEdit);
     setDirty(true);
 }
 
@@ -184,8 +181,8 @@ void frmDoc::rememberEntry()
 
 void frmDoc::onBeforeEdit()
 {
+    m_shared.flags.gridMode = false;
     m_textBeforeEdit = m_grid->Text();
-    m_committedEdit.reset();
     // a search opens the edit box to show a match: that alone is nothing to undo
     if (!m_shared.flags.searching()) {
         m_shared.undo.selection.Row = m_grid->Row();
@@ -202,14 +199,12 @@ void frmDoc::onAfterEdit(int row, int col, const QString &text)
     if (!m_shared.flags.searching() || text != m_textBeforeEdit)
         noteEntry(row, col);
     makeRoomFor(row, col, text);
-    m_textBeforeEdit.clear(); // both belong to this edit only
-    m_committedEdit.reset();
+    m_textBeforeEdit.clear(); // it belongs to this edit only
 }
 
 void frmDoc::noteEntry(int row, int col)
 {
-    if (m_grid->TextMatrix(row, col) != m_committedEdit) // else it may have been saved since
-        setDirty(true);
+    setDirty(true);
     if (m_shared.undo.kind() == UndoKind::Replace)
         return;
     m_shared.undo.selection.Row = row;
@@ -222,6 +217,7 @@ void frmDoc::noteEntry(int row, int col)
 void frmDoc::ceasedToEdit()
 {
     m_shared.status.ShowStatus(506);
+    m_shared.flags.gridMode = true;
     Q_EMIT editingChanged(false);
 }
 

@@ -61,9 +61,7 @@ void frmColRow::applyWidth(int pixels)
     const GridSelection selection = document().selection();
     for (int col = selection.left(); col <= selection.right(); ++col)
         grid.setColWidth(col, Twips::fromPixelsX(pixels));
-    const double numberWidth = QFontMetricsF(grid.Font(), &grid).horizontalAdvance(grid.TextMatrix(grid.Rows() - 1, 0));
-    const int needed = Twips::fromPixelsX(int(std::ceil(numberWidth)) + HeaderMargin);
-    grid.setColWidth(0, std::max(grid.ColWidth(0), needed));
+    grid.makeRoomForRowNumbers();
 }
 
 void frmColRow::applyHeight(int pixels)

@@ -6,10 +6,12 @@
 #include "document/frmDoc.h"
 #include "resources/StringTable.h"
 #include "services/AlertBox.h"
+#include "services/EnterKey.h"
 #include "services/FormTexts.h"
 #include "services/rules/clsAppProperties.h"
 
 #include <QFontDatabase>
+#include <QGuiApplication>
 
 #include <cmath>
 
@@ -32,6 +34,7 @@ frmFont::frmFont(frmDoc &document, clsAppProperties &settings, AlertBox &alert, 
     , m_alert(alert)
 {
     m_ui->setupUi(this);
+    EnterKey::leaveToDialog(*this);
     FormTexts::apply(this);
     const ctlGrid &grid = *document.Rutor();
     fillColors();
@@ -152,8 +155,14 @@ void frmFont::accept()
     QFont font = chosenFont();
     font.setPointSize(size);
     const int color = chosenColor();
-    document().Rutor()->setGridFont(font);
-    document().Rutor()->setForeColor(color);
+    ctlGrid &grid = *document().Rutor();
+    if (font != grid.Font()) {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        grid.setGridFont(font);
+        grid.makeRoom();
+        QGuiApplication::restoreOverrideCursor();
+    }
+    grid.setForeColor(color);
     document().setDirty(true);
     if (m_ui->chkDefault->isChecked())
         storeAsDefault(font, color);

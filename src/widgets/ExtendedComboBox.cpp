@@ -2,6 +2,7 @@
 
 #include "widgets/NumberBox.h"
 
+#include <QAbstractItemView>
 #include <QCompleter>
 
 namespace {
@@ -45,6 +46,14 @@ void ExtendedComboBox::putBackSelected()
         setEditText(itemText(currentIndex()));
 }
 
+void ExtendedComboBox::showEvent(QShowEvent *event)
+{
+    QComboBox::showEvent(event);
+    view()->setAccessibleName(accessibleName());
+    if (lineEdit())
+        lineEdit()->setAccessibleName(accessibleName());
+}
+
 void ExtendedComboBox::changeEvent(QEvent *event)
 {
     QComboBox::changeEvent(event);
@@ -72,5 +81,7 @@ QIcon ExtendedComboBox::swatch(QColor color) const
     painter.setPen(border);
     painter.setBrush(color);
     painter.drawRect(QRectF(0.5, 0.5, size.width() - 1, size.height() - 1));
-    return QIcon(pixmap);
+    QIcon icon(pixmap);
+    icon.addPixmap(pixmap, QIcon::Selected); // the highlight must not change the colour
+    return icon;
 }

@@ -25,6 +25,7 @@ public:
     int matchingIndex() const { return findText(currentText(), Qt::MatchFixedString); }
 
 protected:
+    void showEvent(QShowEvent *event) override; ///< its parts take its name for screen readers
     void changeEvent(QEvent *event) override;
 
 private:

@@ -38,7 +38,10 @@ void FlexGrid::connectView()
     connect(m_view, &FlexGridView::keyReleased, this, &FlexGrid::KeyUp);
     connect(m_view, &FlexGridView::characterTyped, this, &FlexGrid::typeCharacter);
     connect(m_view, &FlexGridView::inputMethodUsed, this, [this](QInputMethodEvent *event) { inputMethodUsed(event); });
-    connect(m_view, &FlexGridView::focusArrived, this, [this] { gridFocused(); });
+    connect(m_view, &FlexGridView::focusArrived, this, [this] {
+        gridFocused();
+        Q_EMIT GotFocus();
+    });
     const auto relay = [this](auto viewSignal, auto gridSignal) {
         connect(m_view, viewSignal, this, [this, gridSignal](int button, int shift, const QPointF &position) {
             const QPointF at = m_view->viewport()->mapTo(this, position);

@@ -153,6 +153,10 @@ public:
     // --- Sizes and places
     int RowHeight(int row) const { return m_state.cells.rowHeight(row); }
     void setRowHeight(int row, int height); ///< row -1: every row; height -1: the default
+    /// The height of rows whose own was never set.
+    void setDefaultRowHeight(int height);
+    /// The least height at which nothing in the row is cut, in twips; row numbers do not count.
+    int fittingRowHeight(int row) const;
     int RowHeightMin() const { return m_state.cells.rowHeightMin(); }
     void setRowHeightMin(int height);
     int ColWidth(int col) const;
@@ -297,6 +301,7 @@ Q_SIGNALS:
     void MouseMove(int Button, int Shift, float X, float Y);
     void MouseUp(int Button, int Shift, float X, float Y);
     void Scroll();
+    void GotFocus(); ///< the cells, not an editor over them, have the focus
     /// A persisted property was written.
     void PropertyChanged(const QString &name);
 

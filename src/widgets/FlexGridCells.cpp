@@ -103,11 +103,14 @@ const QString &FlexGridCells::word(int row, int col) const
 
 void FlexGridCells::setText(int row, int col, const QString &text)
 {
-    if (!hasCell(row, col) || isNumber(row, col) || text == word(row, col))
+    if (!hasCell(row, col) || isNumber(row, col))
         return;
     std::vector<QString> &texts = m_columns[size_t(col)].texts;
-    if (size_t(row) >= texts.size())
+    if (size_t(row) >= texts.size()) {
+        if (text.isEmpty())
+            return;
         texts.resize(size_t(row) + 1);
+    }
     ++m_revision;
     texts[size_t(row)] = FlexGridText::withoutLineBreaks(text);
 }
@@ -123,7 +126,7 @@ void FlexGridCells::setWords(std::vector<QString> &&first, std::vector<QString> 
             text = FlexGridText::withoutLineBreaks(text);
     }
     for (int &height : heights)
-        height = height < 0 ? DefaultRowHeight : std::min(height, LargestSize);
+        height = height < 0 ? m_defaultRowHeight : std::min(height, LargestSize);
     m_columns[1].texts = std::move(first);
     m_columns[2].texts = std::move(second);
     m_heights = std::move(heights);
@@ -131,7 +134,7 @@ void FlexGridCells::setWords(std::vector<QString> &&first, std::vector<QString> 
 
 int FlexGridCells::rowHeight(int row) const
 {
-    const int height = row >= 0 && size_t(row) < m_heights.size() ? m_heights[size_t(row)] : DefaultRowHeight;
+    const int height = row >= 0 && size_t(row) < m_heights.size() ? m_heights[size_t(row)] : m_defaultRowHeight;
     return std::max(height, m_rowHeightMin);
 }
 
@@ -140,15 +143,20 @@ void FlexGridCells::setRowHeight(int row, int twips)
     if (row < 0 || row >= m_rows)
         return;
     if (size_t(row) >= m_heights.size())
-        m_heights.resize(size_t(row) + 1, DefaultRowHeight);
+        m_heights.resize(size_t(row) + 1, m_defaultRowHeight);
     ++m_revision;
-    m_heights[size_t(row)] = twips < 0 ? DefaultRowHeight : std::min(twips, LargestSize);
+    m_heights[size_t(row)] = twips < 0 ? m_defaultRowHeight : std::min(twips, LargestSize);
+}
+
+void FlexGridCells::setDefaultRowHeight(int twips)
+{
+    m_defaultRowHeight = std::clamp(twips, 0, LargestSize);
 }
 
 void FlexGridCells::setEveryRowHeight(int twips)
 {
     ++m_revision;
-    m_heights.assign(size_t(m_rows), twips < 0 ? DefaultRowHeight : std::min(twips, LargestSize));
+    m_heights.assign(size_t(m_rows), twips < 0 ? m_defaultRowHeight : std::min(twips, LargestSize));
 }
 
 void FlexGridCells::setRowHeightMin(int twips)
@@ -170,7 +178,7 @@ void FlexGridCells::insertRows(int at, int count)
         ++m_revision;
     for (Column &column : m_columns)
         insertInto(column.texts, at, count, QString());
-    insertInto(m_heights, at, count, DefaultRowHeight);
+    insertInto(m_heights, at, count, m_defaultRowHeight);
     formats.insertRows(at, count);
     m_rows += count;
 }
@@ -204,6 +212,6 @@ void FlexGridCells::reorderRows(int first, const std::vector<int> &order)
     ++m_revision;
     for (Column &column : m_columns)
         reorder(column.texts, first, order, QString());
-    reorder(m_heights, first, order, DefaultRowHeight);
+    reorder(m_heights, first, order, m_defaultRowHeight);
     formats.reorderRows(first, order);
 }

@@ -57,6 +57,8 @@ public:
     int rowHeight(int row) const;
     void setRowHeight(int row, int twips);
     void setEveryRowHeight(int twips);
+    /// What rows have whose height was never set.
+    void setDefaultRowHeight(int twips);
     int rowHeightMin() const { return m_rowHeightMin; }
     void setRowHeightMin(int twips);
 
@@ -78,6 +80,7 @@ private:
     quint64 m_revision = 0;
     int m_numbersFrom = -1;
     int m_rowHeightMin = 0;
+    int m_defaultRowHeight = DefaultRowHeight;
     std::vector<Column> m_columns;
     std::vector<int> m_heights; ///< no longer than the last row whose height was set
 };

@@ -12,6 +12,17 @@ void FlexGrid::setRowHeight(int row, int height)
     layOutAgain();
 }
 
+void FlexGrid::setDefaultRowHeight(int height)
+{
+    m_state.cells.setDefaultRowHeight(height);
+    layOutAgain();
+}
+
+int FlexGrid::fittingRowHeight(int row) const
+{
+    return Twips::fromPixelsY(m_view->fittingRowPixels(row));
+}
+
 void FlexGrid::setRowHeightMin(int height)
 {
     m_state.cells.setRowHeightMin(height);

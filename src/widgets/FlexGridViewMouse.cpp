@@ -271,8 +271,10 @@ int FlexGridView::fittingRowPixels(int row) const
 {
     double highest = 0;
     for (int col = 0; col < m_state.cells.cols(); ++col) {
+        if (m_state.cells.isNumber(row, col))
+            continue;
         const FlexGridCellText::Setting setting{
-            m_state.cells.text(row, col), m_state.look.Font, {}, m_state.look.WordWrap};
+            m_state.cells.word(row, col), m_state.look.Font, {}, m_state.look.WordWrap};
         const int width = colPixels(col) - m_state.look.GridLineWidth - 2 * FlexGridCellText::Margin;
         highest = std::max(highest, FlexGridCellText::heightFor(width, setting));
     }

@@ -1,10 +1,14 @@
 #include "document/rules/GridRules.h"
 
+#include "document/rules/Vocabulary.h"
+
 #include <QChar>
 
 #include <cmath>
 
 namespace {
+
+constexpr int LineMargin = 30; ///< twips above and below a line together
 
 QString cellName(int col, int row)
 {
@@ -42,6 +46,11 @@ int grownRowHeight(int textWidth, int textHeight, int colWidth, int rowHeight)
     if (colWidth <= 0 || textWidth <= colWidth || 2 * textHeight <= rowHeight)
         return rowHeight;
     return int(std::lround(2.0 * textWidth / colWidth * textHeight));
+}
+
+int defaultRowHeight(int textHeight)
+{
+    return std::max(Vocabulary::DefaultRowHeight, textHeight + LineMargin);
 }
 
 QString cellReference(const GridSelection &selection)

@@ -25,6 +25,9 @@ Cell afterShiftEnter(int row, int col, int rows);
 /// when the text needs more than the row gives, never smaller than it is.
 int grownRowHeight(int textWidth, int textHeight, int colWidth, int rowHeight);
 
+/// The height in twips of rows that nobody has set one for, for a font of the given height (twips).
+int defaultRowHeight(int textHeight);
+
 /// The cell reference of a selection, with a leading blank: " A5" or " A5:B7".
 QString cellReference(const GridSelection &selection);
 
