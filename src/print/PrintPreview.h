@@ -23,8 +23,7 @@ public:
     ~PrintPreview() override;
 
     bool isOpen() const { return m_document != nullptr; }
-    /// The document shown. Whoever prints it shares it: the preview may close while the print dialog is open.
-    std::shared_ptr<const PrintSource> document() const { return m_document; }
+    const PrintSource &document() const { return *m_document; }
 
     /// Shows the first page at one third of its size.
     void open(std::unique_ptr<PrintSource> document);
@@ -45,6 +44,7 @@ Q_SIGNALS:
     void buttonsChanged(bool previous, bool next);
     /// A text for the status bar, by id.
     void statusText(int id);
+    void closed();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -67,7 +67,6 @@ private:
     modUtskrift &m_layout;
     PrintHost &m_host;
     PreviewPages m_pages;
-    std::shared_ptr<const PrintSource> m_document;
+    std::unique_ptr<PrintSource> m_document;
     double m_zoomDivisor = 3.0;
-    int m_wheelTurned = 0; ///< pixels since the wheel turned a page
 };

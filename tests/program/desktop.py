@@ -50,10 +50,12 @@ class Missing(Exception):
 
 
 class Desktop:
-    """Owns the processes and the temporary folders. One in a process: the screen reader's library knows one bus."""
+    """Owns the processes and the temporary folders. One in a process: the screen reader's library knows one bus only."""
 
-    def __init__(self, program, size="1280x800"):
+    def __init__(self, program, size="1280x800", environment=None):
+        """environment holds variables that the program is started with."""
         self.program = os.path.abspath(program)
+        self._given = environment or {}
         self._size = size
         self._processes = []
         self._programs = []
@@ -78,6 +80,7 @@ class Desktop:
         self._environment.update({name: os.environ[name] for name in sanitizers if name in os.environ})
         for interruption in INTERRUPTIONS:
             signal.signal(interruption, _interrupt)
+        self._environment.update(self._given)
         self._add_folder("XDG_RUNTIME_DIR", self._folder / "run")
         self.fresh_home()
         try:
@@ -116,11 +119,16 @@ class Desktop:
         while self._programs:
             self._end(self._programs.pop())
 
-    def start(self, *arguments):
-        """Starts the program, waits for its main window and returns the process."""
+    def launch(self, *arguments):
+        """Starts the program and returns the process at once."""
         process = self._launch(self.program, *map(str, arguments))
         self._processes.remove(process)
         self._programs.append(process)
+        return process
+
+    def start(self, *arguments):
+        """Starts the program, waits for its main window and returns the process."""
+        process = self.launch(*arguments)
         self.wait(lambda: self.main_window() or process.poll() is not None, "the main window")
         if process.poll() is not None:
             raise AssertionError(f"the program ended at once with {process.returncode}")
@@ -145,6 +153,14 @@ class Desktop:
         listed = self._attempt("xdotool", "search", "--onlyvisible", "--name", "Glosaria").stdout.split()
         return next((window for window in listed if self._width(window) > 600), None)
 
+    def active_title(self):
+        """The title of the window that takes the keys, or None."""
+        return self._attempt("xdotool", "getactivewindow", "getwindowname").stdout.strip() or None
+
+    def active_window(self):
+        """The X window number of the window that takes the keys, or None."""
+        return self._attempt("xdotool", "getactivewindow").stdout.strip() or None
+
     # The user's hands and eyes
 
     def key(self, *keys):
@@ -154,7 +170,7 @@ class Desktop:
     def type(self, text):
         """Types on a keyboard that gets a key for each letter it lacks."""
         self._add_keys(text)
-        self.tool("xdotool", "type", "--clearmodifiers", "--delay", "2", text)
+        self.tool("xdotool", "type", "--clearmodifiers", "--delay", "20", text)
 
     def click(self, x, y, button=1, times=1):
         """Clicks at a point of the screen."""
@@ -176,8 +192,10 @@ class Desktop:
         """The text that another program pastes."""
         return self.tool("xclip", "-selection", "clipboard", "-out")
 
-    def screenshot(self, path):
-        self.tool("import", "-window", "root", path)
+    def screenshot(self, path, window=None):
+        """A picture of the desktop, or of one window with its frame and what lies over it."""
+        what = ["-window", window, "-frame", "-screen"] if window else ["-window", "root"]
+        self.tool("import", *what, path)
 
     # What a screen reader finds
 
@@ -214,6 +232,20 @@ class Desktop:
         """The text of a cell of the first table, counted from 0 below the headers."""
         table = self.wait_for(role="table", within=within).queryTable()
         return table.getAccessibleAt(row, column).name
+
+    def unnamed(self):
+        """What can be reached, typed into or pressed and has no name for a screen reader, with all that holds it."""
+        states = self._atspi.STATE_FOCUSABLE, self._atspi.STATE_CHECKABLE, self._atspi.STATE_EDITABLE
+        for item in self.find_all():
+            reachable = any(item.getState().contains(state) for state in states) or item.get_n_actions()
+            # A scroll bar is worked through what it scrolls.
+            if reachable and not item.name.strip() and item.getRoleName() != "scroll bar":
+                yield " / ".join(f"{one.getRoleName()} {one.name!r}" for one in self._path(item))
+
+    def focused(self):
+        """What has the focus as a screen reader tells it, or None."""
+        holders = [item for item in self.find_all() if item.getState().contains(self._atspi.STATE_FOCUSED)]
+        return holders[-1] if holders else None
 
     def is_checked(self, item):
         return bool(item) and item.getState().contains(self._atspi.STATE_CHECKED)
@@ -319,6 +351,14 @@ class Desktop:
 
     def _showing(self, item):
         return item.getState().contains(self._atspi.STATE_SHOWING)
+
+    def _path(self, item):
+        """The item below all that holds it, without the application itself."""
+        path = []
+        while item and item.parent:
+            path.insert(0, item)
+            item = item.parent
+        return path[1:]
 
     def _width(self, window):
         shape = self._attempt("xdotool", "getwindowgeometry", "--shell", window).stdout
