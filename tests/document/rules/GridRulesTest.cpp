@@ -20,9 +20,10 @@ TEST(GridRules, RowsGrowForLongTextsAndNeverShrink)
 {
     // the text's width and height, the column's width, the row's height before and after
     const int cases[][5] = {
-        {3000, 240, 4000, 285, 285},                              // fits on a line
-        {4001, 240, 4000, 285, 480},                              // rounded
-        {6000, 240, 4000, 285, 720}, {6000, 240, 4000, 480, 480}, // the row already holds two lines
+        {3000, 240, 4000, 285, 285}, // fits on a line
+        {4001, 240, 4000, 285, 480}, // rounded
+        {6000, 240, 4000, 285, 720},
+        {6000, 240, 4000, 480, 480}, // the row already holds two lines
     };
     for (const auto &[width, height, column, before, after] : cases)
         EXPECT_EQ(grownRowHeight(width, height, column, before), after) << width;
