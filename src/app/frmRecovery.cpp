@@ -36,9 +36,11 @@ void frmRecovery::fill()
 {
     m_ui->lstCopies->setHeaderLabels({resText(12613), resText(12614), resText(12615)});
     for (const RecoveryFolder::Orphan &orphan : m_orphans) {
-        const QString folder = orphan.copy.docName.isEmpty() ? resText(12619) : QFileInfo(orphan.copy.docName).path();
-        const QString time = QLocale().toString(orphan.copy.time, QLocale::ShortFormat);
-        new QTreeWidgetItem(m_ui->lstCopies, {orphan.copy.caption, folder, time});
+        const RecoveryCopy &copy = orphan.copy;
+        const QString name = copy.isFileChanged() ? resText(12628).arg(copy.caption) : copy.caption;
+        const QString folder = copy.docName.isEmpty() ? resText(12619) : QFileInfo(copy.docName).path();
+        const QString time = QLocale().toString(copy.time, QLocale::ShortFormat);
+        new QTreeWidgetItem(m_ui->lstCopies, {name, folder, time});
     }
     for (int column = 0; column < m_ui->lstCopies->columnCount(); ++column)
         m_ui->lstCopies->resizeColumnToContents(column);

@@ -11,7 +11,6 @@
 #include "services/modSBFunc.h"
 #include "services/rules/clsMRUFileList.h"
 
-#include <QFileInfo>
 #include <QGuiApplication>
 
 namespace {
@@ -52,13 +51,6 @@ public:
 private:
     modSBFunc &m_status;
 };
-
-/// A folder that allows no new file: the old one is overwritten, and being killed meanwhile would leave half of each.
-bool isWrittenInPlace(const QString &path)
-{
-    const QString target = QFileInfo(path).canonicalFilePath();
-    return !target.isEmpty() && !QFileInfo(QFileInfo(target).path()).isWritable();
-}
 
 QString withTitle(int textId, const QString &path)
 {
@@ -146,8 +138,6 @@ FileCommands::SaveOutcome FileCommands::saveUnder(frmDoc &document, const QStrin
         return SaveOutcome::Cancelled;
     if (path == document.DocName() && !mayOverwrite(document))
         return SaveOutcome::Refused;
-    if (isWrittenInPlace(path))
-        isSecured(document);
     SaveVocabulary(document, path, &error);
     m_needs.recentFiles.AddFile(path);
     return error.isEmpty() ? SaveOutcome::Saved : SaveOutcome::Failed;
@@ -202,12 +192,21 @@ bool FileCommands::confirmClose(frmDoc &document)
 
 bool FileCommands::mayCloseUnsaved(frmDoc &document, const QString &path, const QString &error)
 {
-    const bool secured = isSecured(document);
-    if (!secured)
-        warn(resText(12627).arg(document.Caption()));
-    else if (!error.isEmpty())
+    if (!isSecured(document))
+        return mayLose(document);
+    if (!error.isEmpty())
         warn(resText(12626).arg(path, error));
-    return secured;
+    return true;
+}
+
+bool FileCommands::mayLose(const frmDoc &document)
+{
+    Alert alert;
+    alert.prompt = resText(12627).arg(document.Caption());
+    alert.buttons = Alert::YesNo;
+    alert.sound = true;
+    alert.exclamation = true;
+    return m_needs.alert.show(nullptr, alert) == AlertBox::AnswerYes;
 }
 
 void FileCommands::warn(const QString &prompt)
@@ -280,9 +279,11 @@ void FileCommands::SaveVocabulary(frmDoc &document, const QString &path, QString
     const BusyStatus busy(m_needs.status, 716, path, qint64(rows) * 2);
     const Vocabulary vocabulary = GridContent::read(*document.Rutor());
     m_needs.status.setProgress(rows);
-    const bool written = VocabularyFile(path).save(
-        vocabulary, m_codePage, [this, rows](qint64 done) { m_needs.status.setProgress(rows + done); }, error);
-    if (!written)
+    const VocabularyFile::Watchers watchers{
+        [this, rows](qint64 done) { m_needs.status.setProgress(rows + done); },
+        [this, &document] { isSecured(document); }, // being killed meanwhile would leave half of each
+    };
+    if (!VocabularyFile(path).save(vocabulary, m_codePage, watchers, error))
         return;
     document.setCaption(GridRules::fileTitle(path));
     document.setDirty(false);

@@ -74,6 +74,8 @@ private:
     bool confirmClose(frmDoc &document);
     /// Whether a document that was not saved may close all the same.
     bool mayCloseUnsaved(frmDoc &document, const QString &path, const QString &error);
+    /// Whether a document may close of which there is not even a copy.
+    bool mayLose(const frmDoc &document);
     /// An empty path stands for a cancelled dialog. error is set when saving failed.
     SaveOutcome saveUnder(frmDoc &document, const QString &path, QString &error);
     /// The same as a command: the user learns of a failure.

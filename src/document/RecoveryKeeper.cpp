@@ -96,7 +96,8 @@ void RecoveryKeeper::secure(frmDoc *document, bool &secured)
     const auto place = m_kept.find(document);
     if (place == m_kept.end())
         return;
-    keep(*document, *place);
+    place->seen = stateOf(*document);
+    m_writer.secure(place->slot, copyOf(*document));
     m_writer.finish();
     secured = !place->slot->failed();
 }

@@ -39,6 +39,11 @@ void RecoveryWriter::keep(const SharedSlot &slot, RecoveryCopy &&now)
     });
 }
 
+void RecoveryWriter::secure(const SharedSlot &slot, RecoveryCopy &&now)
+{
+    run(slot, [this, copy = std::move(now)](Slot &own) { return write(own, copy); });
+}
+
 void RecoveryWriter::settle(const SharedSlot &slot, RecoveryCopy &&now)
 {
     run(slot, [this, copy = std::move(now)](Slot &own) {

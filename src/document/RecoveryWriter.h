@@ -42,6 +42,8 @@ public:
     void begin(const SharedSlot &slot, RecoveryCopy &&now);
     /// The document has changed. What holds no more than its file needs no copy.
     void keep(const SharedSlot &slot, RecoveryCopy &&now);
+    /// Its file may not outlast what comes: the words are to be in a copy, changed or not.
+    void secure(const SharedSlot &slot, RecoveryCopy &&now);
     /// The document has been saved. A copy stays if it has words that a file does not hold.
     void settle(const SharedSlot &slot, RecoveryCopy &&now);
     /// The document closes and the user was not asked, since nothing counts as changed: only its words are worth a

@@ -225,7 +225,8 @@ bool writeOver(QFile &file, QFile &copy, const AtomicFile::Producer &producer, Q
     return false;
 }
 
-bool writeInPlace(const QString &path, const AtomicFile::Producer &producer, QString &error)
+bool writeInPlace(const QString &path, const AtomicFile::Producer &producer, QString &error,
+                  const std::function<void()> &overwriting)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered)) {
@@ -246,6 +247,8 @@ bool writeInPlace(const QString &path, const AtomicFile::Producer &producer, QSt
     }
     syncFolder(QFile::encodeName(folder));
     copy.setAutoRemove(false);
+    if (overwriting)
+        overwriting();
     bool restored = true;
     const bool written = writeOver(file, copy, producer, error, restored);
     copy.setAutoRemove(restored);
@@ -256,7 +259,7 @@ bool writeInPlace(const QString &path, const AtomicFile::Producer &producer, QSt
 
 namespace AtomicFile {
 
-bool write(const QString &path, const Producer &producer, QString *error)
+bool write(const QString &path, const Producer &producer, QString *error, const std::function<void()> &overwriting)
 {
     QString reason;
     const QString target = linkTarget(path);
@@ -270,7 +273,7 @@ bool write(const QString &path, const Producer &producer, QString *error)
     if (outcome == Outcome::NoNameLater)
         outcome = writeBeside(target, producer, reason, true);
     if (outcome == Outcome::NoNewFileAllowed && old.exists())
-        outcome = writeInPlace(target, producer, reason) ? Outcome::Done : Outcome::Failed;
+        outcome = writeInPlace(target, producer, reason, overwriting) ? Outcome::Done : Outcome::Failed;
     if (error)
         *error = outcome == Outcome::Done ? QString() : reason;
     return outcome == Outcome::Done;

@@ -19,8 +19,10 @@ using Producer = std::function<bool(const Sink &sink)>;
 
 /// Writes beside the file and renames. Where the folder allows no new file but the file itself can be written, it is
 /// written in place while a copy in the user's state folder keeps the old content; should that copy be needed and
-/// putting it back fail too, the error names it. False: error, if given, says why in the words of the system.
-bool write(const QString &path, const Producer &producer, QString *error = nullptr);
+/// putting it back fail too, the error names it; overwriting, if given, is called before the file is touched. False:
+/// error, if given, says why in the words of the system.
+bool write(const QString &path, const Producer &producer, QString *error = nullptr,
+           const std::function<void()> &overwriting = {});
 bool write(const QString &path, QByteArrayView content, QString *error = nullptr);
 
 } // namespace AtomicFile

@@ -200,19 +200,45 @@ TEST_F(RecoveryTest, AnUnsavedDocumentThatClosesLeavesItsCopy)
     }
 }
 
-TEST_F(RecoveryTest, AWindowWhoseWordsCanBeKeptNowhereStaysOpen)
+TEST_F(RecoveryTest, AWindowWhoseWordsCanBeKeptNowhereClosesOnlyIfTheUserLetsThemGo)
 {
     writeFile(folder, "in the way");
+    run->changedDocument("lost");
+    run->alert.answers = {AlertBox::AnswerYes, AlertBox::AnswerYes};
+    run->files.closeActive();
+    EXPECT_TRUE(run->documents.open().empty());
     run->changedDocument("word");
-    run->alert.answers = {AlertBox::AnswerYes, AlertBox::AnswerOk};
+    run->alert.answers = {AlertBox::AnswerYes, AlertBox::AnswerNo};
     run->files.closeActive();
     EXPECT_EQ(run->documents.open().size(), 1u);
-    EXPECT_EQ(run->alert.shown.back().prompt, resText(12627).arg("Untitled 1"));
+    EXPECT_EQ(run->alert.shown.back().prompt, resText(12627).arg("Untitled 2"));
     QFile::remove(folder);
     EXPECT_EQ(copies().size(), 1) << "it is tried again";
     QDir(folder).removeRecursively();
     run->documents.open().front()->Rutor()->setTextMatrix(1, 1, "other");
     EXPECT_EQ(copies().size(), 1) << "also when the folder was removed meanwhile";
+}
+
+TEST_F(RecoveryTest, WhatIsOverwrittenInPlaceIsInACopyMeanwhile)
+{
+    const QString path = home.filePath("words.gla");
+    run->prompts.savePath = path;
+    frmDoc *document = run->changedDocument("word");
+    run->files.save();
+    EXPECT_TRUE(copies().isEmpty());
+    bool secured = false;
+    Q_EMIT run->files.needsCopy(document, secured);
+    EXPECT_TRUE(secured);
+    EXPECT_EQ(copies().size(), 1) << "although nothing has changed";
+    restart();
+    EXPECT_TRUE(run->keeper.orphans().empty()) << "the file is whole";
+    run->files.LoadVocabulary(path);
+    document = run->documents.open().front();
+    Q_EMIT run->files.needsCopy(document, secured);
+    writeFile(path, readFile(path).chopped(3));
+    restart();
+    ASSERT_EQ(run->keeper.orphans().size(), 1u);
+    EXPECT_TRUE(run->keeper.orphans()[0].copy.isFileChanged());
 }
 
 TEST_F(RecoveryTest, DamagedCopiesAreNeitherOfferedNorDeleted)

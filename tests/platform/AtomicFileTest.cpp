@@ -88,7 +88,11 @@ TEST_F(AtomicFileTest, FolderThatAllowsNoNewFile)
     ASSERT_EQ(::chmod(qPrintable(file), 0666) | ::chmod(qPrintable(fixed), 0444) |
                   ::chmod(qPrintable(m_folder.path()), 0555),
               0);
-    EXPECT_TRUE(OrdinaryUser::run([&] { return AtomicFile::write(file, "shorter"); }));
+    EXPECT_TRUE(OrdinaryUser::run([&] {
+        bool told = false;
+        const auto producer = [](const AtomicFile::Sink &sink) { return sink("shorter"); };
+        return AtomicFile::write(file, producer, nullptr, [&] { told = readFile(file).size() == 5000; }) && told;
+    }));
     EXPECT_EQ(readFile(file), "shorter");
     EXPECT_TRUE(OrdinaryUser::run([&] {
         const FileSizeLimit limit(100000);

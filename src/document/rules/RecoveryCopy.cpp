@@ -66,6 +66,12 @@ bool RecoveryCopy::canBegin(const QByteArray &bytes)
     return signature == Signature;
 }
 
+bool RecoveryCopy::isFileChanged() const
+{
+    const FileStamp now = FileStamp::of(docName);
+    return now.exists() && now != fileStamp;
+}
+
 QByteArray RecoveryCopy::toBytes() const
 {
     QByteArray bytes;

@@ -19,6 +19,9 @@ struct RecoveryCopy
     /// Whether bytes can be those of a copy, judged by the first SignatureSize of them.
     static bool canBegin(const QByteArray &bytes);
 
+    /// Whether the document's file is not the one that the document was read from or saved to any more.
+    bool isFileChanged() const;
+
     QByteArray toBytes() const;
     /// No value for bytes that are no whole copy.
     static std::optional<RecoveryCopy> fromBytes(const QByteArray &bytes);

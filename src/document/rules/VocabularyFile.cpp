@@ -26,8 +26,10 @@ VocabularyCodec::DecodeResult VocabularyFile::read(const CodePage &codePage,
     return VocabularyCodec::decode(m_bytes, codePage, progress);
 }
 
-bool VocabularyFile::save(const Vocabulary &vocabulary, const CodePage &codePage,
-                          const VocabularyCodec::Progress &progress, QString *error) const
+bool VocabularyFile::save(const Vocabulary &vocabulary, const CodePage &codePage, const Watchers &watchers,
+                          QString *error) const
 {
-    return AtomicFile::write(m_path, VocabularyCodec::encode(vocabulary, codePage, progress), error);
+    const QByteArray bytes = VocabularyCodec::encode(vocabulary, codePage, watchers.progress);
+    const auto producer = [&bytes](const AtomicFile::Sink &sink) { return sink(bytes); };
+    return AtomicFile::write(m_path, producer, error, watchers.overwriting);
 }

@@ -26,8 +26,16 @@ public:
     /// Reads the rest; only after a header that was Ok.
     VocabularyCodec::DecodeResult read(const CodePage &codePage, const VocabularyCodec::Progress &progress = {}) const;
 
+    /// What is called while a file is saved.
+    struct Watchers
+    {
+        VocabularyCodec::Progress progress;
+        /// The file has to be overwritten in place, which must not be cut short.
+        std::function<void()> overwriting;
+    };
+
     /// Replaces the file. False: it is as it was before; error, if given, says why in the words of the system.
-    bool save(const Vocabulary &vocabulary, const CodePage &codePage, const VocabularyCodec::Progress &progress = {},
+    bool save(const Vocabulary &vocabulary, const CodePage &codePage, const Watchers &watchers = {},
               QString *error = nullptr) const;
 
     static constexpr qint64 LargestSize = qint64(1) << 30;
