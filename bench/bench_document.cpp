@@ -1,9 +1,11 @@
-// What a document window adds to loading and saving: from the file into a grid that shows itself, and back.
+// What a document window adds to loading and saving: from the file into a grid that shows itself, and back; and what
+// the copies against a crash cost: the user waits while one is handed over, and goes on while it is written.
 
 #include "support/SampleVocabulary.h"
 
 #include "document/GridContent.h"
 #include "document/ctlGrid.h"
+#include "document/rules/RecoveryFolder.h"
 #include "document/rules/VocabularyFile.h"
 #include "services/rules/ProgramFlags.h"
 
@@ -47,6 +49,10 @@ public:
 
     void showIt() { m_grid.grab(); }
     bool save() { return VocabularyFile(path()).save(GridContent::read(m_grid), m_codePage); }
+    RecoveryCopy copy() const
+    {
+        return {QStringLiteral("words"), path(), {}, QDateTime::currentDateTime(), GridContent::read(m_grid)};
+    }
     double size() const { return double(m_size); }
 
 private:
@@ -98,8 +104,32 @@ void saveFromGrid(benchmark::State &state)
     }
 }
 
+void handOverCopy(benchmark::State &state)
+{
+    Document document(state.range(0));
+    document.open();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(document.copy());
+}
+
+void writeCopy(benchmark::State &state)
+{
+    Document document(state.range(0));
+    document.open();
+    const RecoveryCopy copy = document.copy();
+    const QTemporaryDir place;
+    RecoveryFolder folder(place.filePath(QStringLiteral("recovery")));
+    QString path;
+    for (auto _ : state) {
+        if (!folder.write(path, copy))
+            state.SkipWithError("not written");
+    }
+}
+
 } // namespace
 
 BENCHMARK(openInGrid)->Apply(SampleVocabulary::atAllSizes);
 BENCHMARK(enlargeFont)->Apply(SampleVocabulary::atAllSizes);
 BENCHMARK(saveFromGrid)->Apply(SampleVocabulary::atAllSizes);
+BENCHMARK(handOverCopy)->Apply(SampleVocabulary::atAllSizes);
+BENCHMARK(writeCopy)->Apply(SampleVocabulary::atAllSizes);
