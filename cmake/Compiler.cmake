@@ -5,7 +5,7 @@ add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverl
 if(GLOSARIA_WERROR)
   add_compile_options(-Werror)
 endif()
-add_compile_definitions(QT_NO_CAST_FROM_BYTEARRAY QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER
+add_compile_definitions(QT_NO_CAST_FROM_BYTEARRAY QT_NO_KEYWORDS
                         QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 if(GLOSARIA_SANITIZE)
   # Unwinding through Qt's own frames is cheap enough; leaks inside Qt and fontconfig are not ours to report.

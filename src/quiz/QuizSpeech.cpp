@@ -21,7 +21,7 @@ QString state(const QuizSession &session)
                                  .arg(session.errorCount());
     const Question &question = session.question();
     // Both at once, so that a percent sign in a language's name or in a word stays one.
-    return resText(12009).arg(question.askedLanguage(), question.askedWord()) + u". " + counters;
+    return resText(12009).arg(question.askedLanguage(), question.askedWord()) + QStringLiteral(". ") + counters;
 }
 
 } // namespace QuizSpeech

@@ -48,7 +48,8 @@ private:
         if (overlap == 0)
             return false;
         const qsizetype first = m_tail.size() - overlap;
-        const QString window = m_tail.mid(first).toString() + m_rest.left(m_finder.length());
+        QString window = m_tail.mid(first).toString();
+        window += m_rest.left(m_finder.length());
         const qsizetype found = m_finder.indexIn(window);
         if (found < 0 || found >= overlap)
             return false;
