@@ -10,6 +10,7 @@ if __name__ == "__main__":
 
 import pathlib
 import shutil
+import subprocess
 import sys
 import unittest
 
@@ -31,11 +32,17 @@ class ProgramCase(unittest.TestCase):
         """A copy of a sample that the case may change."""
         return pathlib.Path(shutil.copy(SAMPLES / name, self.home))
 
-    def open(self, file, splash=False):
+    def open(self, file, splash=False, through=()):
         """Starts the program on a file and waits for its words."""
-        program = self.desktop.start(*([] if splash else ["--no-splash"]), file)
+        program = self.desktop.start(*([] if splash else ["--no-splash"]), file, through=through)
         self.desktop.wait(lambda: self.desktop.find("table") and self.desktop.cell(0, 0), "the words")
         return program
+
+    def mounting(self, command, place):
+        """Starts the program where a command has mounted something on a place ("$0") that it alone sees so."""
+        if subprocess.run(["unshare", "-m", "true"], capture_output=True, check=False).returncode != 0:
+            self.skipTest("nothing may be mounted here")
+        return ["unshare", "-m", "sh", "-c", command + ' && exec "$@"', place]
 
     # Words
 

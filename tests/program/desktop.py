@@ -119,16 +119,16 @@ class Desktop:
         while self._programs:
             self._end(self._programs.pop())
 
-    def launch(self, *arguments):
-        """Starts the program and returns the process at once."""
-        process = self._launch(self.program, *map(str, arguments))
+    def launch(self, *arguments, through=()):
+        """Starts the program and returns the process at once; through is a command that starts what follows it."""
+        process = self._launch(*map(str, through), self.program, *map(str, arguments))
         self._processes.remove(process)
         self._programs.append(process)
         return process
 
-    def start(self, *arguments):
+    def start(self, *arguments, through=()):
         """Starts the program, waits for its main window and returns the process."""
-        process = self.launch(*arguments)
+        process = self.launch(*arguments, through=through)
         self.wait(lambda: self.main_window() or process.poll() is not None, "the main window")
         if process.poll() is not None:
             raise AssertionError(f"the program ended at once with {process.returncode}")

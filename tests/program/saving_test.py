@@ -1,0 +1,101 @@
+#!/usr/bin/env python3
+"""Saving where it goes wrong: saving_test.py <program> [unittest arguments]."""
+
+import os
+import shutil
+
+from cases import ProgramCase, run
+from random_user import read_vocabulary
+
+FULL = 'mount -t tmpfs -o size=32k none "$0" && ! cat /dev/zero >"$0/rest" 2>/dev/null'
+READ_ONLY = 'mount --bind "$0" "$0" && mount -o remount,bind,ro "$0"'
+
+
+class SavingCase(ProgramCase):
+    """The old content or the new, never some of each; and the words stay in the window."""
+
+    def setUp(self):
+        super().setUp()
+        self.file = self.sample("german-basics.gla")
+        self.before = self.file.read_bytes()
+        self.first = read_vocabulary(self.before)[0]
+
+    def edit(self, through=()):
+        program = self.open(self.file, through=through)
+        self.desktop.type("edited\r")
+        self.expect_column(0, ["edited"])
+        return program
+
+    def expect_failure(self):
+        """Waits for the box that tells it, and closes it."""
+        box = self.desktop.wait_for("alert", "Glosaria Alert")
+        self.assertIn("could not be saved", self.desktop.wait_for("label", within=box).name)
+        self.close_dialog("Glosaria Alert", "Return")
+        self.expect_column(0, ["edited"])
+
+    def save(self):
+        self.desktop.key("ctrl+s")
+        self.desktop.wait(lambda: b"edited" in self.file.read_bytes(), "the saved word")
+        self.assertEqual(read_vocabulary(self.file.read_bytes())[0], ("edited", self.first[1]))
+
+    def test_a_limit_of_the_files_size(self):
+        limit = len(self.before) // 2
+        self.edit(through=["prlimit", f"--fsize={limit}"])
+        self.desktop.key("ctrl+s")
+        self.expect_failure()
+        self.assertEqual(self.file.read_bytes(), self.before)
+        self.assertEqual(os.listdir(self.file.parent).count(self.file.name), 1)
+
+    def test_a_folder_that_is_read_only(self):
+        folder = self.home / "words"
+        folder.mkdir()
+        self.file = shutil.move(self.file, folder / "words.gla")
+        self.edit(through=self.mounting(READ_ONLY, folder))
+        self.desktop.key("ctrl+s")
+        self.expect_failure()
+        self.assertEqual(self.file.read_bytes(), self.before)
+        # Elsewhere it can be saved.
+        elsewhere = self.home / "elsewhere.gla"
+        self.open_dialog("Save Glosaria Document", "alt+f", "a")
+        self.desktop.type(f"{elsewhere}\r")
+        self.desktop.wait(elsewhere.exists, "the saved file")
+        self.assertEqual(read_vocabulary(elsewhere.read_bytes())[0], ("edited", self.first[1]))
+
+    def test_a_full_disk(self):
+        full = self.home / "full"
+        full.mkdir()
+        program = self.edit(through=self.mounting(FULL, full))
+        seen = f"/proc/{program.pid}/root{full}"
+        self.desktop.key("alt+f", "a")
+        self.expect_active(name="Save Glosaria Document")
+        self.desktop.type(f"{full}/new.gla\r")
+        self.expect_failure()
+        self.assertEqual(os.listdir(seen), ["rest"])
+        self.save()
+
+    def test_a_folder_that_has_vanished(self):
+        folder = self.home / "stick"
+        folder.mkdir()
+        self.file = shutil.move(self.file, folder / "words.gla")
+        self.edit()
+        folder.rename(self.home / "pulled")
+        self.desktop.key("ctrl+s")
+        self.expect_failure()
+        (self.home / "pulled").rename(folder)
+        self.assertEqual(self.file.read_bytes(), self.before)
+        self.save()
+
+    def test_a_file_that_somebody_else_has_changed(self):
+        self.edit()
+        changed = self.before + b"added   [0000000285]\r\nhinzu\r\n"
+        self.file.write_bytes(changed)
+        for answer in ("alt+n", "alt+y"):
+            self.assertEqual(self.file.read_bytes(), changed)
+            self.open_dialog("Glosaria Alert", "ctrl+s")
+            self.close_dialog("Glosaria Alert", answer)
+            self.expect_column(0, ["edited"])
+        self.desktop.wait(lambda: b"edited" in self.file.read_bytes(), "the saved word")
+
+
+if __name__ == "__main__":
+    run()
