@@ -134,23 +134,34 @@ void offerRecovery(RecoveryKeeper &keeper, AlertBox &alert, QWidget &window)
         frmRecovery(keeper, std::move(orphans), alert, &window).exec();
 }
 
-/// The main window shows while the splash still stands before it. When the splash has gone, what was left behind by a
-/// crash is offered, and the file named on the command line opens.
-void showInTurn(frmSplash &splash, frmApp &window, const CommandLine &commandLine, const std::function<void()> &offer)
+/// The splash in its start-up role, or null if the user wants none.
+std::unique_ptr<frmSplash> makeSplash(const CommandLine &commandLine)
 {
-    const int showAfter = commandLine.splash ? ShowMainAfter : 0;
-    const int closeAfter = commandLine.splash ? CloseSplashAfter : 0;
-    if (commandLine.splash)
-        splash.show();
-    QTimer::singleShot(showAfter, &window, [&splash, &window] {
+    if (!commandLine.splash)
+        return {};
+    auto splash = std::make_unique<frmSplash>(QVersionNumber::fromString(QApplication::applicationVersion()));
+    splash->setLoadStatus(frmSplash::StartUp);
+    splash->Form_Load();
+    return splash;
+}
+
+/// The main window shows while the splash still stands before it. When the splash has gone, what was left behind by a
+/// crash is offered, and the file named on the command line opens. Without a splash nothing waits.
+void showInTurn(frmSplash *splash, frmApp &window, const QString &file, const std::function<void()> &offer)
+{
+    if (splash)
+        splash->show();
+    QTimer::singleShot(splash ? ShowMainAfter : 0, &window, [splash, &window] {
         window.show();
-        splash.raise();
+        if (splash)
+            splash->raise();
     });
-    QTimer::singleShot(closeAfter, &window, [&splash, &window, offer, text = commandLine.text] {
-        splash.close();
+    QTimer::singleShot(splash ? CloseSplashAfter : 0, &window, [splash, &window, offer, file] {
+        if (splash)
+            splash->close();
         offer();
-        if (!text.isEmpty())
-            window.OpenRequestedFile(text);
+        if (!file.isEmpty())
+            window.OpenRequestedFile(file);
     });
 }
 
@@ -189,9 +200,7 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     const ScreenFit screenFit(application);
     readSettings(program);
 
-    frmSplash splash(QVersionNumber::fromString(QApplication::applicationVersion()));
-    splash.setLoadStatus(frmSplash::StartUp);
-    splash.Form_Load();
+    const std::unique_ptr<frmSplash> splash = makeSplash(commandLine);
     frmApp window({program.flags, program.undo, program.settings, program.store, program.alert, program.prompts,
                    program.printer, program.dialogs, program.codePage, program.random, program.errorSound,
                    program.help});
@@ -203,7 +212,7 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     RecoveryKeeper keeper(window.context().documents, window.context().files, program.codePage,
                           UserFolders::state() + QStringLiteral("/recovery"));
     askAtEnd(application, window, watcher, keeper);
-    showInTurn(splash, window, commandLine, [&] { offerRecovery(keeper, program.alert, window); });
+    showInTurn(splash.get(), window, commandLine.text, [&] { offerRecovery(keeper, program.alert, window); });
     QGuiApplication::restoreOverrideCursor();
     return QApplication::exec();
 }

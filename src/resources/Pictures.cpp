@@ -20,7 +20,8 @@ constexpr std::array Files = {
     "questionanswer", "exit", "undo", "cut", "copy", "paste", "clear", "insert", "delete", "find", "replace",
     "languages", "mode1", "mode2", "mode3", "mode4", "mode5", "rowheight", "columnwidth", "font", "sort", "cascade",
     "tilehorizontally", "tilevertically", "arrangeicons", "helptopics", "whatsthis", "about", "previous", "next",
-    "weblink", "maillink", "home", "navigation", "zoomin", "zoomout", "zoomnormal", "right", "wrong", "gridcursor", "glosaria", "document",
+    "weblink", "maillink", "home", "navigation", "zoomin", "zoomout", "zoomnormal", "right", "wrong", "gridcursor",
+    "glosaria", "document", "more",
 };
 // clang-format on
 

@@ -59,6 +59,7 @@ enum PictureNumber {
     PictureGridCursor,  ///< mouse pointer over the grid, hot spot in the middle
     PictureApplication, ///< icon of the program
     PictureDocument,    ///< icon of a vocabulary
+    PictureMore,        ///< what has no room on a bar
 };
 
 /// The icon with this number, crisp at every size: it is drawn anew for the size, the screen and the palette's colours

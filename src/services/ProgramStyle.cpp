@@ -1,5 +1,7 @@
 #include "services/ProgramStyle.h"
 
+#include "resources/Pictures.h"
+
 #include <QPainter>
 #include <QStyleOption>
 
@@ -148,6 +150,13 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
         frame.rect.setTop(subControlRect(control, option, SC_GroupBoxLabel, widget).bottom() + GroupTitleGap);
         drawOutline(*painter, frame, Shape::Frame);
     }
+}
+
+QIcon ProgramStyle::standardIcon(StandardPixmap standard, const QStyleOption *option, const QWidget *widget) const
+{
+    if (standard == SP_ToolBarHorizontalExtensionButton || standard == SP_ToolBarVerticalExtensionButton)
+        return picture(PictureMore);
+    return QProxyStyle::standardIcon(standard, option, widget);
 }
 
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,

@@ -4,7 +4,8 @@
 
 /// The desktop's own style, mended where it would hide something: pictures of chosen menu entries, titles of documents
 /// on a light highlight, and, in the toolkit's Fusion style, outlines of controls on dark windows. Buttons of dialogs
-/// carry no icons.
+/// carry no icons. The picture of a bar's button for what has no room is the program's own: the style's would be read
+/// from a file, for which the start would have to load every image format there is.
 class ProgramStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -16,6 +17,8 @@ public:
                      const QWidget *widget = nullptr) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
                             const QWidget *widget = nullptr) const override;
+    QIcon standardIcon(StandardPixmap standard, const QStyleOption *option = nullptr,
+                       const QWidget *widget = nullptr) const override;
     int styleHint(StyleHint hint, const QStyleOption *option = nullptr, const QWidget *widget = nullptr,
                   QStyleHintReturn *returnData = nullptr) const override;
 
