@@ -96,8 +96,10 @@ void bareSave(benchmark::State &state, Letters letters, const char *encoding)
     for (auto _ : state) {
         QString text;
         for (size_t row = 0; row < vocabulary.first.size(); ++row)
-            text += vocabulary.first[row] + QLatin1String("   [0000000285]\r\n") + vocabulary.second[row] +
-                    QLatin1String("\r\n");
+            text.append(vocabulary.first[row])
+                .append(QLatin1String("   [0000000285]\r\n"))
+                .append(vocabulary.second[row])
+                .append(QLatin1String("\r\n"));
         QStringEncoder encoder(encoding);
         AtomicFile::write(folder.file(), QByteArray(encoder(text)));
     }

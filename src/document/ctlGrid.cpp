@@ -183,6 +183,7 @@ void ctlGrid::setGridFont(const QFont &font)
 {
     FlexGrid::setGridFont(font);
     m_text1->setFont(font);
+    m_textWidth = TextWidth(font);
     const int lineHeight = Twips::fromPixelsY(int(std::ceil(QFontMetricsF(font).height())));
     setDefaultRowHeight(GridRules::defaultRowHeight(lineHeight));
 }

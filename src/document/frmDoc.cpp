@@ -10,7 +10,6 @@
 #include "services/rules/clsAppProperties.h"
 
 #include <QCloseEvent>
-#include <QFontMetricsF>
 #include <QMdiSubWindow>
 #include <QVBoxLayout>
 
@@ -234,13 +233,15 @@ void frmDoc::endEdit()
 
 void frmDoc::makeRoomFor(int row, int col, const QString &text)
 {
-    const QFontMetricsF metrics(m_grid->Font());
-    const int width = int(std::lround(metrics.horizontalAdvance(text) * Twips::perPixelX()));
-    const int height = int(std::lround(metrics.height() * Twips::perPixelY()));
-    const int present = m_grid->RowHeight(row);
-    const int grown = GridRules::grownRowHeight(width, height, m_grid->ColWidth(col), present);
-    if (grown != present)
-        m_grid->setRowHeight(row, grown);
+    TextWidth &measure = m_grid->textWidth();
+    if (!measure.surelyFits(text, m_grid->ColWidth(col) / Twips::perPixelX())) {
+        const int width = int(std::lround(measure.of(text) * Twips::perPixelX()));
+        const int height = int(std::lround(measure.lineHeight() * Twips::perPixelY()));
+        const int present = m_grid->RowHeight(row);
+        const int grown = GridRules::grownRowHeight(width, height, m_grid->ColWidth(col), present);
+        if (grown != present)
+            m_grid->setRowHeight(row, grown);
+    }
     if (row >= m_grid->Rows() - 1)
         m_grid->AddItem(QString::number(m_grid->Rows()));
 }

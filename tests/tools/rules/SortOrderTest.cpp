@@ -2,6 +2,11 @@
 
 #include "MemoryCells.h"
 
+#include <QCollator>
+
+#include <random>
+#include <set>
+
 namespace {
 
 const QLocale German(QLocale::German, QLocale::Germany);
@@ -66,6 +71,43 @@ TEST(SortOrder, OrdersRowsWithEqualKeysByTheOtherLanguage)
     EXPECT_EQ(sorted(2, 5, {2, 1}, false), (std::vector{4, 2, 5, 3}));
     EXPECT_EQ(sorted(8, 9, {1, 2}, false), (std::vector{9, 8}));
     EXPECT_EQ(sorted(5, 4, {1}, false), std::vector<int>());
+}
+
+/// Told by the definition, for numbers that a double holds exactly.
+int compare(const QString &one, const QString &other, bool descending)
+{
+    const auto isEmpty = [](const QString &text) { return text.trimmed().isEmpty(); };
+    const auto rank = [](const QString &text) { return SortOrder::isNumber(text, u',') ? 0 : 1; };
+    if (isEmpty(one) || isEmpty(other))
+        return int(isEmpty(one)) - int(isEmpty(other));
+    int order = rank(one) - rank(other);
+    if (order == 0 && rank(one) == 0)
+        order = one.toInt() - other.toInt();
+    else if (order == 0)
+        order = QCollator(German).compare(one, other);
+    return descending ? -order : order;
+}
+
+TEST(SortOrder, OfRandomWordsIsCompleteAndStable)
+{
+    const QString some[] = {"", " ", "a", "A", "ä", "b", "B", "aa", "7", "-7", "07", "10", "ё", "猫"};
+    std::mt19937 random(7);
+    for (int round = 0; round < 500; ++round) {
+        MemoryCells cells{};
+        for (unsigned rows = random() % 30; rows > 0; --rows)
+            cells.words.push_back({some[random() % std::size(some)], some[random() % std::size(some)]});
+        const bool descending = round % 2;
+        const int column = 1 + int(random() % 2);
+        const int bottom = int(cells.words.size());
+        const std::vector<int> order = SortOrder::sortedRows(cells, {1, bottom, {column}, descending, German});
+        ASSERT_EQ(std::set(order.begin(), order.end()).size(), cells.words.size());
+        for (size_t i = 1; i < order.size(); ++i) {
+            const QString before = cells.TextMatrix(order[i - 1], column);
+            const QString after = cells.TextMatrix(order[i], column);
+            const int by = compare(before, after, descending);
+            EXPECT_TRUE(by < 0 || (by == 0 && order[i - 1] < order[i])) << before.toStdString() << after.toStdString();
+        }
+    }
 }
 
 } // namespace
