@@ -9,6 +9,12 @@
 #include <QFileInfo>
 #include <QLocale>
 
+namespace {
+
+enum Column { NameColumn, TimeColumn, FolderColumn };
+
+} // namespace
+
 frmRecovery::frmRecovery(RecoveryKeeper &keeper, std::vector<RecoveryFolder::Orphan> orphans, AlertBox &alert,
                          QWidget *parent)
     : QDialog(parent)
@@ -34,16 +40,21 @@ frmRecovery::~frmRecovery() = default;
 
 void frmRecovery::fill()
 {
-    m_ui->lstCopies->setHeaderLabels({resText(12613), resText(12614), resText(12615)});
+    m_ui->lstCopies->setHeaderLabels({resText(12613), resText(12615), resText(12614)});
     for (const RecoveryFolder::Orphan &orphan : m_orphans) {
         const RecoveryCopy &copy = orphan.copy;
         const QString name = copy.isFileChanged() ? resText(12628).arg(copy.caption) : copy.caption;
         const QString folder = copy.docName.isEmpty() ? resText(12619) : QFileInfo(copy.docName).path();
         const QString time = QLocale().toString(copy.time, QLocale::ShortFormat);
-        new QTreeWidgetItem(m_ui->lstCopies, {name, folder, time});
+        auto *item = new QTreeWidgetItem(m_ui->lstCopies, {name, time, folder});
+        item->setToolTip(NameColumn, name);
+        item->setToolTip(FolderColumn, folder);
     }
-    for (int column = 0; column < m_ui->lstCopies->columnCount(); ++column)
+    // The folder takes what is left, so that name and time are always in sight.
+    for (int column = 0; column < FolderColumn; ++column)
         m_ui->lstCopies->resizeColumnToContents(column);
+    const int half = width() / 2; // of the dialog, which is not laid out yet
+    m_ui->lstCopies->setColumnWidth(NameColumn, std::min(m_ui->lstCopies->columnWidth(NameColumn), half));
 }
 
 /// From the last to the first, so that rows can be taken out in that order.
