@@ -231,14 +231,21 @@ void frmApp::DoMenuClick(const QString &key)
 
 QString frmApp::UndoAction() const
 {
-    return resText(int(m_context->undo.kind()));
+    return resText(int(undoable()));
 }
 
-void frmApp::onUndoKind(UndoKind kind)
+/// Another document can become the active one before a change is complete: while a dialog asks how to sort, say.
+UndoKind frmApp::undoable() const
 {
-    const QString caption = resText(int(kind));
+    const UndoRecord &undo = m_context->undo;
+    return undo.belongsTo(m_context->documents.active()) ? undo.kind() : UndoKind::None;
+}
+
+void frmApp::onUndoKind()
+{
+    const QString caption = UndoAction();
     m_commands.action(QStringLiteral("mnuEditUndo"))->setText(caption);
-    m_commands.setAvailable(QStringLiteral("mnuEditUndo"), kind != UndoKind::None);
+    m_commands.setAvailable(QStringLiteral("mnuEditUndo"), undoable() != UndoKind::None);
     m_toolbars->setToolTip(QStringLiteral("Undo"), caption);
     m_context->status.ShowStatus(Ready);
 }

@@ -108,7 +108,8 @@ private:
     std::vector<QRect> placesFor(WindowArrangement how, const QList<QMdiSubWindow *> &windows) const;
     void onRemoved();
     void updateState();
-    void onUndoKind(UndoKind kind);
+    UndoKind undoable() const;
+    void onUndoKind();
     void connectPreview();
     bool applyPosition();
     void useWorkArea();

@@ -44,6 +44,10 @@ TEST_F(MenusAndToolbarsTest, TheUndoCaptionNamesAndEnablesTheCommand)
     EXPECT_EQ(button("STANDARD", "Undo")->toolTip(), "Undo Cut");
     undo.clear();
     EXPECT_FALSE(button("STANDARD", "Undo")->isEnabled());
+    newDocument();
+    undo.setKind(UndoKind::Sort, document);
+    EXPECT_FALSE(button("STANDARD", "Undo")->isEnabled()) << "there is nothing to undo in the active document";
+    EXPECT_EQ(window->UndoAction(), resText(419));
 }
 
 TEST_F(MenusAndToolbarsTest, ModesStepInARingAndShowEverywhere)
