@@ -162,6 +162,8 @@ void frmApp::placeDocument(frmDoc *document)
     frame->setWindowIcon(picture(PictureDocument));
     frame->setGeometry(WindowLayout::nextPlace(m_area->viewport()->rect(), document->Tag(), cascadeStep()));
     frame->layout()->activate(); // the document measures its columns before it is shown
+    if (const QMdiSubWindow *active = m_area->activeSubWindow(); active && active->isMaximized())
+        document->resize(m_area->viewport()->size()); // so will this one be
     freeCloseKey(*frame->systemMenu());
     m_menus->watchSystemMenu(frame->systemMenu());
 
