@@ -55,28 +55,33 @@ modMsgBox::modMsgBox(OpenTopic openTopic)
 
 AlertBox::Answer modMsgBox::show(QWidget *owner, const Alert &alert)
 {
-    QMessageBox box(owner ? owner : m_mainWindow.data());
-    box.setWindowTitle(alert.title.isEmpty() ? resText(507) : alert.title);
-    box.setTextFormat(Qt::PlainText);
-    box.setText(alert.prompt);
+    // An owner that goes while the box is open takes the box with it.
+    const QPointer<QMessageBox> box = new QMessageBox(owner ? owner : m_mainWindow.data());
+    box->setWindowTitle(alert.title.isEmpty() ? resText(507) : alert.title);
+    box->setTextFormat(Qt::PlainText);
+    box->setText(alert.prompt);
     if (alert.exclamation)
-        box.setIcon(QMessageBox::Warning);
+        box->setIcon(QMessageBox::Warning);
     else
-        box.setIconPixmap(QApplication::windowIcon().pixmap(QSize(48, 48), box.devicePixelRatio()));
+        box->setIconPixmap(QApplication::windowIcon().pixmap(QSize(48, 48), box->devicePixelRatio()));
     const ButtonSet buttons = setOf(alert.buttons);
-    box.setStandardButtons(buttons.all);
-    box.setDefaultButton(buttons.enter);
-    box.setEscapeButton(buttons.escape);
+    box->setStandardButtons(buttons.all);
+    box->setDefaultButton(buttons.enter);
+    box->setEscapeButton(buttons.escape);
     if (buttons.help) {
         // Without its own connections the button does not end the box.
-        QPushButton *help = box.addButton(QMessageBox::Help);
+        QPushButton *help = box->addButton(QMessageBox::Help);
         help->disconnect();
         help->setText(resText(HelpCaption));
         const auto open = [this, &alert] { m_openTopic(alert.helpId); };
-        QObject::connect(help, &QPushButton::clicked, &box, open);
-        QObject::connect(new QShortcut(QKeySequence::HelpContents, &box), &QShortcut::activated, &box, open);
+        QObject::connect(help, &QPushButton::clicked, box, open);
+        QObject::connect(new QShortcut(QKeySequence::HelpContents, box), &QShortcut::activated, box, open);
     }
     if (alert.sound)
         QApplication::beep();
-    return answerOf(box.exec());
+    const int button = box->exec();
+    if (!box)
+        return answerOf(buttons.escape);
+    delete box;
+    return answerOf(button);
 }

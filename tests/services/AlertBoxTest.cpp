@@ -26,5 +26,8 @@ TEST(AlertBox, TheHelpKeyOpensTheTopicAndEscapeAnswers)
         });
         EXPECT_EQ(box.show(nullptr, alert), answer) << int(buttons);
         EXPECT_EQ(topics, help ? std::vector{1400} : std::vector<int>{});
+        auto *owner = new QWidget;
+        QTimer::singleShot(0, [owner] { delete owner; });
+        EXPECT_EQ(box.show(owner, alert), answer) << "the owner has gone";
     }
 }
