@@ -315,7 +315,8 @@ void frmOva::done(int result)
 
 void frmOva::Form_Terminate()
 {
-    QWidget *document = std::exchange(m_document, nullptr);
+    QWidget *document = m_document;
+    m_document = nullptr;
     if (!document)
         return;
     document->setWindowState(m_documentState);

@@ -5,6 +5,7 @@
 #include "widgets/clsTimer.h"
 
 #include <QDialog>
+#include <QPointer>
 
 #include <memory>
 
@@ -32,7 +33,7 @@ public:
     /// "1" once the quiz is ready, "0" when it could not be built.
     QString Tag() const { return m_tag; }
 
-    /// Builds the quiz from the words of a document and minimises the document's window, which must outlive this one.
+    /// Builds the quiz from the words of a document and minimises the document's window.
     void Form_Load(const WordSource &words, QWidget &document, const QString &documentTitle);
 
     /// The quiz that is running; null until it is ready.
@@ -87,7 +88,7 @@ private:
     RandomSource &m_random;
     SoundPlayer &m_errorSound;
     std::unique_ptr<QuizSession> m_session;
-    QWidget *m_document = nullptr;
+    QPointer<QWidget> m_document; ///< may close while the quiz is open, when the program is told to end
     Qt::WindowStates m_documentState;
     qint16 m_quizType = 0;
     QString m_tag = QStringLiteral("0");

@@ -191,6 +191,10 @@ TEST_F(frmOvaTest, TheDocumentStepsAsideAndComesBack)
     EXPECT_FALSE(window->isVisible());
     EXPECT_TRUE(m_document->isMaximized());
     EXPECT_EQ(m_document, m_area.activeSubWindow());
+    open(Practice);
+    delete m_document; // the program is told to end
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(window->isVisible());
 }
 
 TEST_F(frmOvaTest, AScreenReaderHearsTheWordTheVerdictAndTheCounters)
