@@ -27,7 +27,7 @@ std::optional<Search::Match> Search::FindNext(const CellSource &cells)
     std::optional<Match> match = findInColumn(cells, textFinder);
     if (!match && wholeDocument && CurCol == 1) {
         CurCol = 2;
-        CurRow = 1;
+        CurRow = CurPos = 1;
         match = findInColumn(cells, textFinder);
     }
     return match;

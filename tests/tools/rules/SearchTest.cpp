@@ -77,5 +77,7 @@ TEST(Search, LooksOnlyAtColumnTwoOnceThereUntilTheRegionEnds)
     search.EndRegion();
     EXPECT_TRUE(search.SearchDone && !search.FoundAny);
     EXPECT_EQ(search.FindNext(cells), (Search::Match{2, 1, 0, 1}));
+    cells.words.pop_back(); // the row of the match has gone
+    EXPECT_EQ(search.FindNext(cells), (Search::Match{1, 2, 0, 1}));
 }
 } // namespace
