@@ -161,7 +161,7 @@ void frmFindReplace::replaceMatch()
     if (!isMatch)
         return;
     grid.setSelText(m_ReplaceWith);
-    grid.setTextMatrix(m_search.CurRow, m_search.CurCol, grid.EditText());
+    DocumentCells(document()).setTextMatrix(m_search.CurRow, m_search.CurCol, grid.EditText());
     noteReplacement();
     m_search.SkipReplacement(m_ReplaceWith);
 }
@@ -205,8 +205,9 @@ void frmFindReplace::ReplaceAllMatches()
 
 void frmFindReplace::endRegion(const QString &message)
 {
-    m_needs.alert.show(this, {message, resText(507), Alert::Ok, 0, true});
     m_search.EndRegion();
+    // the last step: the dialog may be gone afterwards, with the document that was closed meanwhile
+    m_needs.alert.show(this, {message, resText(507), Alert::Ok, 0, true});
 }
 
 /// What the user has typed into the cell editor is stored, so that the search sees it and keeps it.
@@ -229,7 +230,9 @@ void frmFindReplace::done(int result)
         m_open = false;
         document().endEdit();
         m_needs.flags.FindMode = m_needs.flags.ReplaceMode = false;
-        if (!m_leaving)
+        if (m_leaving)
+            m_needs.undo.clear(); // an entry in the document that is left is nothing to undo in the other
+        else
             document().Rutor()->setFocus();
         if (!m_leaving && m_ReplaceWasMade)
             leaveUndoStep();

@@ -106,7 +106,11 @@ TEST_F(FindReplace, ReplacesTheSelectedMatchOnly)
     grid.SelectEditText(0, 2);
     click("btnReplace");
     EXPECT_EQ(grid.TextMatrix(3, 1), "cats");
+    control<QLineEdit>("txtReplace")->setText(QString(200, u'x'));
+    for (const char *name : {"btnFind", "btnFind", "btnReplace"})
+        click(name);
     QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    EXPECT_GT(grid.RowHeight(3), 285); // also of the last match
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_TRUE(document.Dirty());
     EXPECT_EQ(undo.kind(), UndoKind::Replace);
@@ -155,6 +159,9 @@ TEST_F(FindReplace, LeavesNoUndoStepToAnotherDocument)
     open(true);
     type("txtFind", "cat");
     click("btnReplaceAll");
+    type("txtFind", "Katze");
+    click("btnFind");
+    QTest::keyClicks(grid.hwndText(), "u");
     undo.clear();
     dialog->leaveDocument();
     EXPECT_FALSE(dialog->isVisible() || flags.searching());
