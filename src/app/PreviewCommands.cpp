@@ -1,11 +1,13 @@
 #include "app/AppCommands.h"
 #include "app/AppContext.h"
 #include "app/CommandTable.h"
+#include "app/frmApp.h"
 #include "document/DocumentList.h"
 #include "document/ctlGrid.h"
 #include "print/GridSource.h"
 #include "print/PrintCommands.h"
 #include "resources/Pictures.h"
+#include "tools/frmFindReplace.h"
 
 namespace {
 
@@ -19,12 +21,20 @@ GridSource activeDocument(const AppContext &context)
     return {*document->Rutor(), document->Caption()};
 }
 
+/// The search goes with the documents, which the preview hides: a match could not be seen.
+void openPreview(const AppContext &context)
+{
+    if (auto *search = context.window.findChild<frmFindReplace *>())
+        search->close();
+    context.print.ShowPrintPreview(std::make_unique<GridSource>(activeDocument(context)));
+}
+
 void togglePreview(const AppContext &context)
 {
     if (context.print.preview().isOpen())
         context.print.preview().close();
     else
-        context.print.ShowPrintPreview(std::make_unique<GridSource>(activeDocument(context)));
+        openPreview(context);
 }
 
 void print(const AppContext &context)

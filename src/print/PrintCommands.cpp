@@ -67,6 +67,12 @@ void PrintCommands::PrintDocument(const PrintSource &document)
         report(fault);
 }
 
+void PrintCommands::printPreviewed()
+{
+    const std::shared_ptr<const PrintSource> document = m_preview.document();
+    PrintDocument(*document);
+}
+
 /// The layout then holds the document with the printer's present paper; a preview's pages stay as they are.
 void PrintCommands::countPages(const PrintSource &document)
 {

@@ -26,7 +26,7 @@ public:
     void PageSetup();
     /// Asks for pages and copies and prints them. While the preview is open, its document is printed.
     void PrintDocument(const PrintSource &document);
-    void printPreviewed() { PrintDocument(m_preview.document()); }
+    void printPreviewed();
 
 private:
     void countPages(const PrintSource &document);

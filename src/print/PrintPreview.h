@@ -23,7 +23,8 @@ public:
     ~PrintPreview() override;
 
     bool isOpen() const { return m_document != nullptr; }
-    const PrintSource &document() const { return *m_document; }
+    /// The document shown. Whoever prints it shares it: the preview may close while the print dialog is open.
+    std::shared_ptr<const PrintSource> document() const { return m_document; }
 
     /// Shows the first page at one third of its size.
     void open(std::unique_ptr<PrintSource> document);
@@ -67,6 +68,7 @@ private:
     modUtskrift &m_layout;
     PrintHost &m_host;
     PreviewPages m_pages;
-    std::unique_ptr<PrintSource> m_document;
+    std::shared_ptr<const PrintSource> m_document;
     double m_zoomDivisor = 3.0;
+    int m_wheelTurned = 0; ///< pixels since the wheel turned a page
 };

@@ -79,8 +79,13 @@ TEST_F(PreviewCommandsTest, MaximisedAndMinimisedDocumentsStaySo)
 TEST_F(PreviewCommandsTest, OpeningAFileAndLeavingTheProgramEndThePreview)
 {
     document(1);
+    window->DoMenuClick("mnuEditFind");
     window->DoMenuClick("mnuFilePrintPreview");
-    window->OpenRequestedFile(writeVocabulary("other.gla"));
+    EXPECT_FALSE(flags.searching());
+    dialogs.pages = PrintChoice{1, 1, 1, false, false, true};
+    dialogs.duringPrint = [this] { window->OpenRequestedFile(writeVocabulary("other.gla")); };
+    window->DoMenuClick("mnuFilePrint");
+    EXPECT_TRUE(printer.sheets.front().find("Untitled 1 1"));
     EXPECT_FALSE(preview().isOpen());
     EXPECT_EQ(documents().active()->Caption(), QString("other"));
     EXPECT_EQ(window->state(), AppState::StateDocument);

@@ -12,6 +12,7 @@ struct ScriptedDialogs : CommonDialogs
     std::optional<PrintChoice> pages; ///< empty: the print dialogs are cancelled
     QString printerFault;
     std::function<void()> duringSetup; ///< what the user does in the page setup
+    std::function<void()> duringPrint; ///< what happens while the print dialog is open
     FileRequest file;
     PrintRequest print;
 
@@ -28,6 +29,8 @@ struct ScriptedDialogs : CommonDialogs
         print = request;
         if (!printerFault.isEmpty())
             throw PrinterError(printerFault);
+        if (duringPrint)
+            duringPrint();
         return pages;
     }
     bool setUpPrinter(QWidget *) override
