@@ -17,6 +17,7 @@ constexpr int ClickToZoom = 505;
 constexpr int GapBelow = 2000;  // twips between the bottom of a page scrolled to its end and the area's lower edge
 constexpr int GapAbove = 7;     // pixels for each unit of the divisor, above a page scrolled to its beginning
 constexpr int LinesOfArea = 12; // a small step is this part of the area's height
+constexpr int WheelNotch = 60;  // pixels for one notch of a mouse wheel; touchpads turn by far less at a time
 
 } // namespace
 
@@ -189,9 +190,10 @@ void PrintPreview::onWheel(int pixels)
 {
     const QRect page = pageWindow()->geometry();
     if (!m_host.clientArea()->rect().contains(page))
-        scrollBy(0, pixels);
-    else if (pixels != 0)
-        pixels < 0 ? nextPage() : previousPage();
+        return scrollBy(0, pixels);
+    m_wheelTurned += pixels;
+    if (std::abs(m_wheelTurned) >= WheelNotch)
+        std::exchange(m_wheelTurned, 0) < 0 ? nextPage() : previousPage();
 }
 
 bool PrintPreview::eventFilter(QObject *watched, QEvent *event)

@@ -62,6 +62,11 @@ struct Preview : ::testing::Test
         QTest::mouseClick(page(), button, modifiers, page()->rect().center());
     }
     void press(Qt::Key key) { QTest::keyClick(page(), key); }
+    void turnWheel(int angle)
+    {
+        QWheelEvent event({}, {}, {}, {0, angle}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(page(), &event);
+    }
 };
 
 TEST_F(Preview, OpensAtAThirdOfTheSizeInTheMiddle)
@@ -86,6 +91,7 @@ TEST_F(Preview, TurnsPagesToTheEndAndBack)
     const auto next = [this] { preview.nextPage(); };
     const auto previous = [this] { preview.previousPage(); };
     const auto key = [this](Qt::Key code) { return [this, code] { press(code); }; };
+    const auto wheel = [this](int angle) { return [this, angle] { turnWheel(angle); }; };
     const std::pair<std::function<void()>, const char *> steps[] = {
         {next, "<Page 2 of 3>"},
         {next, "<Page 3 of 3"},
@@ -97,6 +103,9 @@ TEST_F(Preview, TurnsPagesToTheEndAndBack)
         {key(Qt::Key_End), "<Page 3 of 3"},
         {key(Qt::Key_PageUp), "<Page 2 of 3>"},
         {key(Qt::Key_Home), "Page 1 of 3>"},
+        {wheel(-120), "<Page 2 of 3>"},
+        {wheel(60), "<Page 2 of 3>"}, // a touchpad
+        {wheel(60), "Page 1 of 3>"},
     };
     for (const auto &[turn, expected] : steps) {
         turn();
