@@ -80,7 +80,8 @@ void AppPrintHost::showDocuments()
         frame->show();
     }
     if (frmDoc *active = m_window.context().documents.active()) {
-        m_window.activate(active);
+        m_window.documentArea()->setActiveSubWindow(qobject_cast<QMdiSubWindow *>(active->frame()));
+        active->setFocus();
         active->refreshCellReference();
     }
 }

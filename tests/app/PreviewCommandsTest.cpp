@@ -74,6 +74,11 @@ TEST_F(PreviewCommandsTest, MaximisedAndMinimisedDocumentsStaySo)
     EXPECT_EQ(large->frame()->size(), window->documentArea()->viewport()->size());
     large->frame()->showNormal();
     EXPECT_NE(large->frame()->size(), window->documentArea()->viewport()->size());
+    large->frame()->showMinimized();
+    window->DoMenuClick("mnuFilePrintPreview");
+    window->DoMenuClick("mnuFilePrintPreview");
+    EXPECT_EQ(window->documentArea()->activeSubWindow(), large->frame());
+    EXPECT_TRUE(large->frame()->isMinimized());
 }
 
 TEST_F(PreviewCommandsTest, OpeningAFileAndLeavingTheProgramEndThePreview)
