@@ -3,11 +3,50 @@
 #include "platform/Twips.h"
 
 #include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QImage>
+#include <QPaintEngine>
 #include <QPainter>
+#include <QRawFont>
+#include <QTextBoundaryFinder>
+#include <QTextLayout>
+
+#include <algorithm>
 
 namespace {
 
 constexpr int PointsPerInch = 72;
+constexpr qreal PictureTwips = 1440 / 600.0; ///< size of a picture's pixel
+constexpr char16_t FirstPicture = 0x2000;    ///< no letter before it is drawn as a picture
+
+bool mayHoldPictures(const QString &text)
+{
+    return std::any_of(text.begin(), text.end(), [](QChar c) { return c >= FirstPicture; });
+}
+
+/// Whether the font draws coloured pictures.
+bool drawsPictures(const QGlyphRun &run)
+{
+    const QRawFont font = run.rawFont();
+    return !font.fontTable("CBLC").isEmpty() || !font.fontTable("COLR").isEmpty();
+}
+
+/// Draws text, its baseline at y, as a picture that is as high as a line.
+void drawAsPicture(QPainter &painter, const QString &text, qreal x, qreal y, qreal width)
+{
+    const QFontMetricsF metrics(painter.font(), painter.device());
+    const QRectF place(x, y - metrics.ascent(), width, metrics.height());
+    QImage picture((place.size() / PictureTwips).toSize(), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter picturePainter(&picture);
+    picturePainter.setRenderHint(QPainter::SmoothPixmapTransform);
+    picturePainter.scale(1 / PictureTwips, 1 / PictureTwips);
+    picturePainter.setFont(painter.font());
+    picturePainter.setPen(painter.pen());
+    picturePainter.drawText(QPointF(0, metrics.ascent()), text);
+    picturePainter.end();
+    painter.drawImage(place, picture);
+}
 
 } // namespace
 
@@ -42,7 +81,39 @@ void PaintedSurface::setForeColor(QRgb color)
 
 void PaintedSurface::drawText(int x, int y, const QString &text, bool rightToLeft)
 {
+    const QString shown = shownText(text);
     m_painter.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-    const qreal left = rightToLeft ? x - m_painter.fontMetrics().horizontalAdvance(text) : x;
-    m_painter.drawText(QPointF(left, y + m_ascent), text);
+    const qreal left = rightToLeft ? x - m_painter.fontMetrics().horizontalAdvance(shown) : x;
+    const QPointF baseline(left, y + m_ascent);
+    m_painter.drawText(baseline, shown);
+    if (m_painter.paintEngine()->type() == QPaintEngine::Pdf && mayHoldPictures(shown))
+        drawPictures(baseline, shown, rightToLeft);
+}
+
+/// A PDF file knows glyphs by their outlines only; those without any are put over the gaps that they left.
+void PaintedSurface::drawPictures(QPointF baseline, const QString &text, bool rightToLeft)
+{
+    QTextLayout layout(text, m_painter.font(), m_painter.device());
+    QTextOption option;
+    option.setTextDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    option.setWrapMode(QTextOption::NoWrap);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, text);
+    for (int from = 0, to; (to = int(letters.toNextBoundary())) >= 0; from = to) {
+        const QList<QGlyphRun> runs = line.glyphRuns(from, to - from);
+        if (std::none_of(runs.begin(), runs.end(), drawsPictures))
+            continue;
+        const qreal begin = line.cursorToX(from);
+        const qreal end = line.cursorToX(to);
+        drawAsPicture(m_painter, text.mid(from, to - from), baseline.x() + std::min(begin, end), baseline.y(),
+                      std::abs(end - begin));
+    }
+}
+
+QString PaintedSurface::shownText(const QString &text)
+{
+    return text.normalized(QString::NormalizationForm_C);
 }

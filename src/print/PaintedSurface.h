@@ -19,8 +19,13 @@ public:
 
     /// The font for a painter or a measure whose unit is one twip.
     static QFont fontInTwips(const PrintFont &font);
+    /// The text as it is measured and drawn: letters that stand apart from their accents are joined with them, since a
+    /// font may have the whole letter only.
+    static QString shownText(const QString &text);
 
 private:
+    void drawPictures(QPointF baseline, const QString &text, bool rightToLeft);
+
     QPainter &m_painter;
     PrintFont m_font;
     qreal m_ascent = 0;

@@ -24,7 +24,10 @@ public:
         : m_metrics(font, &printer)
     {
     }
-    int TextWidth(const QString &text) const override { return int(std::lround(m_metrics.horizontalAdvance(text))); }
+    int TextWidth(const QString &text) const override
+    {
+        return int(std::lround(m_metrics.horizontalAdvance(PaintedSurface::shownText(text))));
+    }
     int TextHeight() const override { return int(std::lround(m_metrics.height())); }
 
 private:

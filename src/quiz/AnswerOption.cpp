@@ -25,7 +25,8 @@ AnswerOption::AnswerOption(QWidget *parent)
 void AnswerOption::setFullText(int number, const QString &text)
 {
     m_number = number;
-    m_fullText = text;
+    // A font may have the whole letter only, not the accent that a text puts behind it.
+    m_fullText = text.normalized(QString::NormalizationForm_C);
     setAccessibleName(QString::number(number) + u' ' + text);
     fit();
 }

@@ -34,7 +34,8 @@ FittedLabel::FittedLabel(QWidget *parent)
 
 void FittedLabel::setFullText(const QString &text)
 {
-    m_fullText = text;
+    // A font may have the whole letter only, not the accent that a text puts behind it.
+    m_fullText = text.normalized(QString::NormalizationForm_C);
     setAccessibleName(text);
     // The text's own direction places its punctuation; the label stays at the side where the window's lines begin.
     const bool mirrored = parentWidget() && parentWidget()->isRightToLeft();
@@ -53,7 +54,7 @@ void FittedLabel::setTypeSizes(double preferred, double smallest)
 
 void FittedLabel::setRoomFor(const QString &text)
 {
-    m_roomFor = text;
+    m_roomFor = text.normalized(QString::NormalizationForm_C);
     fit();
 }
 

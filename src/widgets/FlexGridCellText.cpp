@@ -24,6 +24,13 @@ QTextOption optionsFor(const FlexGridCellText::Setting &setting, bool wrap)
     return options;
 }
 
+/// The text as it is drawn: letters that stand apart from their accents are joined with them, since a font may have the
+/// whole letter only.
+QString shownText(const QString &text)
+{
+    return text.left(LongestShown).normalized(QString::NormalizationForm_C);
+}
+
 /// Lays out lines below each other until they would be higher than height; returns the height used and sets cut when
 /// text is left over.
 double layOut(QTextLayout &layout, double width, double height, bool &cut)
@@ -67,7 +74,7 @@ Qt::Alignment alignmentOf(int value, const QString &text)
 
 void draw(QPainter &painter, const QRectF &rect, const Setting &setting)
 {
-    const QString text = setting.text.left(LongestShown);
+    const QString text = shownText(setting.text);
     QTextLayout layout(text, setting.font, painter.device());
     layout.setTextOption(optionsFor(setting, setting.wrap));
     bool cut = false;
@@ -91,7 +98,7 @@ void draw(QPainter &painter, const QRectF &rect, const Setting &setting)
 
 double heightFor(double width, const Setting &setting)
 {
-    QTextLayout layout(setting.text.left(LongestShown), setting.font);
+    QTextLayout layout(shownText(setting.text), setting.font);
     layout.setTextOption(optionsFor(setting, setting.wrap));
     bool cut = false;
     return layOut(layout, std::max(1.0, width), 1e9, cut);

@@ -23,6 +23,13 @@ qsizetype matchingPlaces(const QString &text, const QString &answer)
     return matches;
 }
 
+/// The text with every letter and its accents in one, where there is such a character: how an accented letter was typed
+/// makes no difference.
+QString composed(const QString &text)
+{
+    return text.normalized(QString::NormalizationForm_C);
+}
+
 /// The first characters of text, count of them or a few more: a letter is never parted from its accents.
 QString wholeLetters(const QString &text, qsizetype count)
 {
@@ -179,15 +186,16 @@ QuizSession::Verdict QuizSession::judgeText()
     m_givenAnswer = std::exchange(m_answerText, QString());
     if (m_givenAnswer == resText(PromptId))
         m_givenAnswer.clear();
-    return m_givenAnswer == question().correctAnswer() && !hintCounts ? Verdict::Correct : Verdict::Wrong;
+    const bool isCorrect = composed(m_givenAnswer) == composed(question().correctAnswer());
+    return isCorrect && !hintCounts ? Verdict::Correct : Verdict::Wrong;
 }
 
 void QuizSession::fGiveHint()
 {
     if (m_kind == QuizKind::QuestionAndAnswer && m_answerText == resText(PromptId))
         m_answerText.clear();
-    const QString &answer = question().correctAnswer();
-    m_answerText = wholeLetters(answer, 1 + matchingPlaces(m_answerText, answer));
+    const QString answer = composed(question().correctAnswer());
+    m_answerText = wholeLetters(answer, 1 + matchingPlaces(composed(m_answerText), answer));
     m_hintUsed = true;
     Q_EMIT answerRevealed();
 }
@@ -215,7 +223,7 @@ void QuizSession::revealTick()
 {
     if (!asking() || !revealing())
         return;
-    if (m_answerText.size() < question().correctAnswer().size()) {
+    if (m_answerText.size() < composed(question().correctAnswer()).size()) {
         fGiveHint();
         m_pauseTicks = 0;
     } else if (m_pauseTicks < PauseTicks) {
