@@ -122,6 +122,9 @@ void frmDoc::commitRunningEdit()
 {
     if (!m_grid->EditMode())
         return;
+    // a search opens the edit box to show a match: that alone is no change
+    if (m_shared.flags.searching() && m_grid->EditText() == m_grid->Text())
+        return;
     m_grid->setText(m_grid->EditText());
     setDirty(true);
 }

@@ -103,14 +103,11 @@ const QString &FlexGridCells::word(int row, int col) const
 
 void FlexGridCells::setText(int row, int col, const QString &text)
 {
-    if (!hasCell(row, col) || isNumber(row, col))
+    if (!hasCell(row, col) || isNumber(row, col) || text == word(row, col))
         return;
     std::vector<QString> &texts = m_columns[size_t(col)].texts;
-    if (size_t(row) >= texts.size()) {
-        if (text.isEmpty())
-            return;
+    if (size_t(row) >= texts.size())
         texts.resize(size_t(row) + 1);
-    }
     ++m_revision;
     texts[size_t(row)] = FlexGridText::withoutLineBreaks(text);
 }
