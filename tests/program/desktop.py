@@ -170,7 +170,7 @@ class Desktop:
     def type(self, text):
         """Types on a keyboard that gets a key for each letter it lacks."""
         self._add_keys(text)
-        self.tool("xdotool", "type", "--clearmodifiers", "--delay", "20", text)
+        self.tool("xdotool", "type", "--clearmodifiers", "--delay", "2", text)
 
     def click(self, x, y, button=1, times=1):
         """Clicks at a point of the screen."""
