@@ -107,8 +107,7 @@ class HelpCase(ProgramCase):
 
     def test_f1_explains_a_dialog_and_the_search_finds_other_topics(self):
         self.open(self.sample("german-basics.gla"))
-        self.desktop.key("alt+v", "s")
-        self.desktop.wait_for("dialog", "Sort")
+        self.open_dialog("Sort", "alt+v", "s")
         self.desktop.key("F1")
         viewer = self.help_on("Sort")
         self.desktop.key("alt+s")
