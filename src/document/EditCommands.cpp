@@ -4,7 +4,6 @@
 #include "document/ctlGridEdit.h"
 #include "document/frmDoc.h"
 #include "document/modUndo.h"
-#include "services/rules/ProgramFlags.h"
 
 #include <QClipboard>
 
@@ -44,9 +43,8 @@ GridSelection pastedCells(const GridSelection &selection, const std::vector<Clip
 
 } // namespace
 
-EditCommands::EditCommands(UndoRecord &record, const ProgramFlags &flags, QClipboard &clipboard)
+EditCommands::EditCommands(UndoRecord &record, QClipboard &clipboard)
     : m_record(record)
-    , m_flags(flags)
     , m_clipboard(clipboard)
 {
 }
@@ -55,7 +53,7 @@ void EditCommands::Copy(frmDoc &document)
 {
     ctlGrid &grid = *document.Rutor();
     m_clipboard.clear();
-    if (!m_flags.gridMode) {
+    if (grid.EditMode()) {
         grid.hwndText()->copyText();
         return;
     }
@@ -66,22 +64,22 @@ void EditCommands::Copy(frmDoc &document)
 void EditCommands::Cut(frmDoc &document)
 {
     ctlGrid &grid = *document.Rutor();
-    if (m_flags.gridMode) {
+    if (grid.EditMode()) {
+        grid.hwndText()->cutText();
+        m_record.overwritten = {};
+    } else {
         recordCells(document, document.selection());
         m_clipboard.setText(grid.Clip());
         emptySelection(document);
         document.setDirty(true);
         grid.setFocus();
-    } else {
-        grid.hwndText()->cutText();
-        m_record.overwritten = {};
     }
     m_record.setKind(UndoKind::Cut, &document);
 }
 
 void EditCommands::Paste(frmDoc &document)
 {
-    if (!m_flags.gridMode) {
+    if (document.Rutor()->EditMode()) {
         document.Rutor()->hwndText()->pasteText();
         m_record.overwritten = {};
         m_record.setKind(UndoKind::Paste, &document);

@@ -6,15 +6,14 @@
 class QClipboard;
 class ctlGrid;
 class frmDoc;
-struct ProgramFlags;
 
 /// The commands of the Edit menu that change a document, and their undo. While the grid is browsing they act on its
 /// selection, while a cell is being edited on the edit box. Each leaves a record of what it did, Copy excepted.
 class EditCommands
 {
 public:
-    /// All three outlive the object.
-    EditCommands(UndoRecord &record, const ProgramFlags &flags, QClipboard &clipboard);
+    /// Both outlive the object.
+    EditCommands(UndoRecord &record, QClipboard &clipboard);
 
     void Copy(frmDoc &document);
     void Cut(frmDoc &document);
@@ -41,6 +40,5 @@ private:
     void undoDelete(frmDoc &document);
 
     UndoRecord &m_record;
-    const ProgramFlags &m_flags;
     QClipboard &m_clipboard;
 };

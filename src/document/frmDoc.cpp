@@ -66,8 +66,6 @@ void frmDoc::connectGrid()
     connect(m_grid, &ctlGrid::MouseMove, this, &frmDoc::onMouseMove);
     connect(m_grid, &ctlGrid::MouseUp, this, [this](int button, int, float x, float y) { onMouseUp(button, x, y); });
     connect(m_grid, &ctlGrid::Scroll, m_grid, &ctlGrid::RefreshTextPos);
-    // a search keeps the edit box open when the focus comes to the grid
-    connect(m_grid, &ctlGrid::GotFocus, this, [this] { m_shared.flags.gridMode = !m_grid->EditMode(); });
 }
 
 void frmDoc::setCaption(const QString &caption)
@@ -183,7 +181,6 @@ void frmDoc::rememberEntry()
 
 void frmDoc::onBeforeEdit()
 {
-    m_shared.flags.gridMode = false;
     m_textBeforeEdit = m_grid->Text();
     // a search opens the edit box to show a match: that alone is nothing to undo
     if (!m_shared.flags.searching()) {
@@ -219,7 +216,6 @@ void frmDoc::noteEntry(int row, int col)
 void frmDoc::ceasedToEdit()
 {
     m_shared.status.ShowStatus(506);
-    m_shared.flags.gridMode = true;
     Q_EMIT editingChanged(false);
 }
 

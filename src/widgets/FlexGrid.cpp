@@ -38,10 +38,7 @@ void FlexGrid::connectView()
     connect(m_view, &FlexGridView::keyReleased, this, &FlexGrid::KeyUp);
     connect(m_view, &FlexGridView::characterTyped, this, &FlexGrid::typeCharacter);
     connect(m_view, &FlexGridView::inputMethodUsed, this, [this](QInputMethodEvent *event) { inputMethodUsed(event); });
-    connect(m_view, &FlexGridView::focusArrived, this, [this] {
-        gridFocused();
-        Q_EMIT GotFocus();
-    });
+    connect(m_view, &FlexGridView::focusArrived, this, [this] { gridFocused(); });
     const auto relay = [this](auto viewSignal, auto gridSignal) {
         connect(m_view, viewSignal, this, [this, gridSignal](int button, int shift, const QPointF &position) {
             const QPointF at = m_view->viewport()->mapTo(this, position);

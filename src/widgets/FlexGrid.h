@@ -301,7 +301,6 @@ Q_SIGNALS:
     void MouseMove(int Button, int Shift, float X, float Y);
     void MouseUp(int Button, int Shift, float X, float Y);
     void Scroll();
-    void GotFocus(); ///< the cells, not an editor over them, have the focus
     /// A persisted property was written.
     void PropertyChanged(const QString &name);
 

@@ -4,6 +4,7 @@
 #include "platform/Twips.h"
 #include "resources/StringTable.h"
 
+#include <QClipboard>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMimeData>
@@ -60,7 +61,21 @@ TEST_F(MainWindowTest, ClosingADocumentAmidAnEditLeavesNothingToDo)
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(window->state(), AppState::StateNoDocument);
     EXPECT_EQ(window->UndoAction(), resText(419));
-    EXPECT_TRUE(flags.gridMode);
+}
+
+TEST_F(MainWindowTest, AnEditThatAnotherDocumentInterruptedGoesOn)
+{
+    frmDoc *document = newDocument();
+    document->Rutor()->GridEdit('x');
+    QApplication::processEvents();
+    window->OpenRequestedFile(writeVocabulary("other.gla"));
+    EXPECT_EQ(window->state(), AppState::StateDocument);
+    QApplication::processEvents();
+    window->documentArea()->setActiveSubWindow(qobject_cast<QMdiSubWindow *>(document->frame()));
+    EXPECT_EQ(window->state(), AppState::StateEditing);
+    QGuiApplication::clipboard()->setText("y");
+    window->DoMenuClick("mnuEditPaste");
+    EXPECT_EQ(document->Rutor()->EditText(), QString("xy"));
 }
 
 TEST_F(MainWindowTest, ClosingADocumentReturnsToTheOneBefore)

@@ -23,7 +23,7 @@ struct Editing : ::testing::Test, OpenDocument
     }
 
     QClipboard &clipboard = *QGuiApplication::clipboard();
-    EditCommands commands{undo, flags, clipboard};
+    EditCommands commands{undo, clipboard};
     const Words before = words();
 };
 
@@ -138,11 +138,10 @@ TEST_F(Editing, UndoLeavesNothingToTheEditBoxOfASearch)
     flags.FindMode = true;
     clipboard.clear();
     for (const auto command : {&EditCommands::Clear, &EditCommands::Paste}) {
-        flags.gridMode = command == &EditCommands::Clear;
+        grid.setEditMode(command == &EditCommands::Paste);
         (commands.*command)(document);
         grid.setEditMode(true);
         grid.setFocus();
-        EXPECT_FALSE(flags.gridMode);
         expectUndone(before);
         document.endEdit();
         EXPECT_EQ(words(), before);

@@ -45,7 +45,6 @@ TEST_F(FrmDocTest, NewDocumentsAreSetUpFromTheSettings)
 TEST_F(FrmDocTest, TypingCommitsWithEnterAndMovesOn)
 {
     type("b");
-    EXPECT_FALSE(flags.gridMode);
     EXPECT_EQ(undo.kind(), UndoKind::Typing);
     EXPECT_EQ(undo.entryText, "house");
     EXPECT_EQ(status.text(0), resText(503));
@@ -53,7 +52,6 @@ TEST_F(FrmDocTest, TypingCommitsWithEnterAndMovesOn)
     press(Qt::Key_Return);
     EXPECT_EQ(grid.TextMatrix(1, 1), "barn");
     EXPECT_TRUE(document.Dirty());
-    EXPECT_TRUE(flags.gridMode);
     EXPECT_EQ(undo.kind(), UndoKind::Entry);
     EXPECT_EQ(status.text(0) + status.text(1), resText(506) + " B1");
     EXPECT_EQ(editing, (QList<bool>{true, false}));
@@ -64,7 +62,6 @@ TEST_F(FrmDocTest, EscapeLeavesTheCellAsItWas)
     type("zzz");
     press(Qt::Key_Escape);
     EXPECT_EQ(grid.TextMatrix(1, 1), "house");
-    EXPECT_TRUE(flags.gridMode);
     EXPECT_EQ(status.text(0), resText(506));
 }
 
