@@ -124,6 +124,8 @@ void frmDoc::commitRunningEdit()
     if (m_shared.flags.searching() && m_grid->EditText() == m_grid->Text())
         return;
     m_grid->setText(m_grid->EditText());
+    m_committedEdit = m_grid->Text();
+    makeRoomFor(m_grid->Row(), m_grid->Col(), *m_committedEdit);
     setDirty(true);
 }
 
@@ -182,6 +184,7 @@ void frmDoc::rememberEntry()
 void frmDoc::onBeforeEdit()
 {
     m_textBeforeEdit = m_grid->Text();
+    m_committedEdit.reset();
     // a search opens the edit box to show a match: that alone is nothing to undo
     if (!m_shared.flags.searching()) {
         m_shared.undo.selection.Row = m_grid->Row();
@@ -198,12 +201,14 @@ void frmDoc::onAfterEdit(int row, int col, const QString &text)
     if (!m_shared.flags.searching() || text != m_textBeforeEdit)
         noteEntry(row, col);
     makeRoomFor(row, col, text);
-    m_textBeforeEdit.clear(); // it belongs to this edit only
+    m_textBeforeEdit.clear(); // both belong to this edit only
+    m_committedEdit.reset();
 }
 
 void frmDoc::noteEntry(int row, int col)
 {
-    setDirty(true);
+    if (m_grid->TextMatrix(row, col) != m_committedEdit) // else it may have been saved since
+        setDirty(true);
     if (m_shared.undo.kind() == UndoKind::Replace)
         return;
     m_shared.undo.selection.Row = row;

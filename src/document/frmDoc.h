@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class clsAppProperties;
 class ctlGrid;
 class modSBFunc;
@@ -61,7 +63,7 @@ public:
     /// The window that stands in the document area: the frame around this one, or this one where there is none.
     QWidget *frame() const;
 
-    /// Stores the text of a cell that is being edited in the cell. The edit box stays.
+    /// Stores the text of a cell that is being edited in the cell and makes room for it. The edit box stays.
     void commitRunningEdit();
     /// Ends editing; what was typed is kept.
     void endEdit();
@@ -112,6 +114,7 @@ private:
     Shared m_shared;
     ctlGrid *m_grid;
     QString m_textBeforeEdit;
+    std::optional<QString> m_committedEdit; ///< what commitRunningEdit stored of the edit that is going on
     QString m_docName;
     QString m_caption;
     int m_tag = 0;

@@ -91,6 +91,7 @@ TEST_F(FileCommandsTest, SaveAsksForANameUntilItHasOneAndCommitsTheRunningEdit)
         EXPECT_EQ(document.DocName() + document.Caption(), "Untitled 1");
     }
     prompts.savePath = path("Numbers.gla");
+    QTest::keyClicks(QApplication::focusWidget(), "one");
     files.save();
     EXPECT_FALSE(document.Dirty());
     EXPECT_EQ(document.Caption(), "Numbers");
