@@ -42,6 +42,7 @@ public:
     ~BusyStatus()
     {
         m_status.destroyProgress();
+        m_status.SBSetText(0, modSBFunc::SBT_SUNKEN, resText(Ready)); // a search holds back texts by id
         m_status.ShowStatus(Ready);
         QGuiApplication::restoreOverrideCursor();
     }
@@ -235,18 +236,29 @@ void FileCommands::LoadVocabulary(const QString &path)
 
 void FileCommands::load(const QString &path)
 {
-    if (m_needs.documents.findByPath(path))
-        return alertFile(resText(710) + path + resText(711), AlreadyOpenTopic);
+    if (refuseOpenOne(path))
+        return;
     VocabularyFile file(path);
     const VocabularyCodec::Header header = file.readHeader();
     if (header.outcome == Outcome::BadFormat)
         return alertFile(resText(713) + path + resText(714), BadFormatTopic);
     if (header.outcome == Outcome::NewerVersion)
         return alertFile(withTitle(722, path), NewerTopic);
-    if (header.outcome == Outcome::Ok && header.olderVersion)
+    if (header.outcome == Outcome::Ok && header.olderVersion) {
         alertFile(withTitle(721, path), OlderTopic);
+        if (refuseOpenOne(path)) // handed over once more while the message was on the screen
+            return;
+    }
     if (header.outcome != Outcome::Ok || !readInto(file, path))
         alertFile(resText(712) + path, 0);
+}
+
+bool FileCommands::refuseOpenOne(const QString &path)
+{
+    const bool isOpen = m_needs.documents.findByPath(path);
+    if (isOpen)
+        alertFile(resText(710) + path + resText(711), AlreadyOpenTopic);
+    return isOpen;
 }
 
 bool FileCommands::readInto(const VocabularyFile &file, const QString &path)

@@ -84,6 +84,8 @@ private:
     bool isSecured(frmDoc &document);
     QString pathOrAsk(const frmDoc &document);
     void load(const QString &path);
+    /// Tells the user when the file is open already; true then.
+    bool refuseOpenOne(const QString &path);
     /// Reads the rows of a file and opens them; false when they cannot be read.
     bool readInto(const VocabularyFile &file, const QString &path);
     void openVocabulary(const QString &path, Vocabulary &&vocabulary, const FileStamp &stamp);
