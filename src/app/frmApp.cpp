@@ -115,6 +115,7 @@ void frmApp::createParts(const Needs &needs)
                                                         *m_print, *m_help, needs.random, needs.errorSound});
     setCentralWidget(createCentre());
 
+    connect(documents, &DocumentList::aboutToCreate, this, [this] { m_print->preview().close(); });
     connect(documents, &DocumentList::created, this, &frmApp::placeDocument);
     connect(documents, &DocumentList::activeChanged, this, &frmApp::updateState);
     connect(documents, &DocumentList::removed, this, &frmApp::onRemoved);
@@ -297,10 +298,8 @@ int frmApp::toolbarHeight() const
 void frmApp::OpenRequestedFile(const QString &text)
 {
     const std::optional<QString> path = RequestedFile::requestedPath(text);
-    if (!path)
-        return;
-    m_print->preview().close();
-    m_context->files.LoadVocabulary(*path);
+    if (path)
+        m_context->files.LoadVocabulary(*path);
 }
 
 void frmApp::bringToFront()

@@ -18,6 +18,7 @@ DocumentList::DocumentList(const frmDoc::Shared &shared, QObject *parent)
 
 frmDoc *DocumentList::create()
 {
+    Q_EMIT aboutToCreate();
     auto *document = new frmDoc(m_shared);
     document->resize(FirstSize);
     document->setTag(int(m_slots.size()));

@@ -38,6 +38,8 @@ public:
     void setActive(frmDoc *document);
 
 Q_SIGNALS:
+    /// A document will be made and shown.
+    void aboutToCreate();
     /// A window was made: the receiver puts it into the document area.
     void created(frmDoc *document);
     void activeChanged(frmDoc *document);

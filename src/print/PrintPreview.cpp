@@ -49,7 +49,6 @@ void PrintPreview::close()
     m_host.leavePreview();
     m_pages.closeAll();
     m_document.reset();
-    Q_EMIT closed();
 }
 
 void PrintPreview::rebuild(int page)

@@ -45,7 +45,6 @@ Q_SIGNALS:
     void buttonsChanged(bool previous, bool next);
     /// A text for the status bar, by id.
     void statusText(int id);
-    void closed();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

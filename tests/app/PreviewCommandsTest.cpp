@@ -87,6 +87,8 @@ TEST_F(PreviewCommandsTest, OpeningAFileAndLeavingTheProgramEndThePreview)
     window->DoMenuClick("mnuEditFind");
     window->DoMenuClick("mnuFilePrintPreview");
     EXPECT_FALSE(flags.searching());
+    window->OpenRequestedFile(folder.filePath("missing.gla"));
+    EXPECT_TRUE(preview().isOpen());
     dialogs.pages = PrintChoice{1, 1, 1, false, false, true};
     dialogs.duringPrint = [this] { window->OpenRequestedFile(writeVocabulary("other.gla")); };
     window->DoMenuClick("mnuFilePrint");
