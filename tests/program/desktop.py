@@ -50,7 +50,7 @@ class Missing(Exception):
 
 
 class Desktop:
-    """Owns the processes and the temporary folders. One in a process: the screen reader's library knows one bus only."""
+    """Owns the processes and the temporary folders. One in a process: the screen reader's library knows one bus."""
 
     def __init__(self, program, size="1280x800", environment=None):
         """environment holds variables that the program is started with."""
