@@ -173,6 +173,12 @@ void frmApp::placeDocument(frmDoc *document)
         if (document == m_context->documents.active())
             SetCommandState(editing ? AppState::StateEditing : AppState::StateDocument);
     });
+    connect(frame, &QMdiSubWindow::windowStateChanged, document,
+            [document](Qt::WindowStates before, Qt::WindowStates now) {
+                // Where an edit was ended by minimising, the toolkit knows nothing to give the focus back to.
+                if (before & ~now & Qt::WindowMinimized)
+                    document->setFocus();
+            });
     connect(document, &frmDoc::menuRequested, this,
             [this](const QPoint &position) { m_menus->gridMenu()->popup(position); });
 }

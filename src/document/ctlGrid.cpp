@@ -24,6 +24,7 @@ constexpr int Escape = 27;
 constexpr int Space = 32;
 constexpr int UpArrow = 38;
 constexpr int DownArrow = 40;
+constexpr int ControlOrAlt = 2 | 4;
 constexpr int RowNumberMargin = 6; // pixels beside the last row's number
 constexpr int EditBoxInset = 10;   // twips that the edit box is narrower and lower than its cell
 
@@ -249,7 +250,7 @@ void ctlGrid::gridFocused()
 void ctlGrid::editKeyPressed(int keyCode, int shift, bool &taken)
 {
     taken = true;
-    if (keyCode == Escape)
+    if (keyCode == Escape && !(shift & ControlOrAlt)) // with these it types no character
         closeEditBox();
     else if (keyCode == Enter)
         giveFocusBack();
