@@ -1,13 +1,8 @@
 #!/usr/bin/env python3
 """A learner's evening with the program, with menus, keys and mouse: learner_test.py <program> [unittest arguments]."""
 
-import unicodedata
-
 from cases import ProgramCase, run
-from random_user import read_vocabulary
 
-# In the order in which they are sorted: signs, letters by their scripts.
-SCRIPTS = [("smile", "😀"), ("coffee", "cafe\u0301"), ("peace", "שָׁלוֹם"), ("water", "ماء"), ("house", "家")]
 WORDS = [("house", "casa"), ("tree", "árbol"), ("dog", "perro"), ("cat", "gato"), ("bread", "pan")]
 ANSWERS = dict(WORDS)
 
@@ -19,42 +14,7 @@ def counters(questions, answered, correct, wrong):
     return {f"{title}: {number}" for title, number in numbers if number is not None}
 
 
-class Learner(ProgramCase):
-    """What a learner does with every list."""
-
-    def save_as(self, name):
-        file = self.home / name
-        self.open_dialog("Save Glosaria Document", "alt+f", "a")
-        self.desktop.type(f"{file}\r")
-        self.desktop.wait_for("frame", file.stem)
-        self.list_name = file.stem
-        return file
-
-    def start_quiz(self, entry):
-        self.choose_with_mouse("Quiz", entry + "...")
-        self.quiz = self.desktop.wait_for("dialog", f"{entry} - {self.list_name}")
-        self.expect_active("dialog", self.quiz.name)
-
-    def shown(self, role="label"):
-        return [item.name for item in self.desktop.find_all(role, within=self.quiz)]
-
-    def expect_shown(self, *texts, counted=None):
-        """Waits until the quiz shows these texts and, if counters are given, exactly these."""
-        def shows():
-            shown = self.shown()
-            return set(texts) <= set(shown) and counted in (None, {text for text in shown if ": " in text})
-
-        self.desktop.wait(shows, lambda: f"{texts} and {counted} instead of {self.shown()}")
-
-    def press(self, button):
-        self.desktop.click_on(self.desktop.wait_for("push button", button, self.quiz))
-
-    def close_quiz(self, key):
-        self.close_dialog(self.quiz.name, key)
-        self.desktop.wait(lambda: self.desktop.is_active(self.desktop.find("frame", "Glosaria")), "the list to be back")
-
-
-class LearnerCase(Learner):
+class LearnerCase(ProgramCase):
     """From the first word to a printed list."""
 
     def test_a_list_is_made_drilled_printed_lost_and_recovered(self):
@@ -97,6 +57,13 @@ class LearnerCase(Learner):
         self.expect_column(0, sorted(ANSWERS) + [""])
         self.expect_column(1, [ANSWERS[first] for first in sorted(ANSWERS)] + [""])
 
+    def save_as(self, name):
+        file = self.home / name
+        self.open_dialog("Save Glosaria Document", "alt+f", "a")
+        self.desktop.type(f"{file}\r")
+        self.desktop.wait_for("frame", file.stem)
+        return file
+
     def check_file(self, file, words):
         lines = file.read_bytes().decode("cp1252").split("\r\n")
         rows = [("English", "Spanish"), *words]
@@ -107,10 +74,33 @@ class LearnerCase(Learner):
 
     # Quizzes
 
+    def start_quiz(self, entry):
+        self.choose_with_mouse("Quiz", entry + "...")
+        self.quiz = self.desktop.wait_for("dialog", f"{entry} - holiday")
+        self.expect_active("dialog", self.quiz.name)
+
+    def shown(self, role="label"):
+        return [item.name for item in self.desktop.find_all(role, within=self.quiz)]
+
+    def expect_shown(self, *texts, counted=None):
+        """Waits until the quiz shows these texts and, if counters are given, exactly these."""
+        def shows():
+            shown = self.shown()
+            return set(texts) <= set(shown) and counted in (None, {text for text in shown if ": " in text})
+
+        self.desktop.wait(shows, lambda: f"{texts} and {counted} instead of {self.shown()}")
+
+    def press(self, button):
+        self.desktop.click_on(self.desktop.wait_for("push button", button, self.quiz))
+
     def take_hint(self, expected):
         self.desktop.key("alt+h")
         answer = self.desktop.wait_for("text", "Answer in Spanish", self.quiz).queryText()
         self.desktop.wait(lambda: answer.getText(0, -1) == expected, lambda: f"{expected} as hint")
+
+    def close_quiz(self, key):
+        self.close_dialog(self.quiz.name, key)
+        self.desktop.wait(lambda: self.desktop.is_active(self.desktop.find("frame", "Glosaria")), "the list to be back")
 
     def answer_by_typing(self):
         """Bread is known; gato needs one hint; perro is wrong; the rest is not known. What was missed comes again."""
@@ -222,86 +212,6 @@ class LearnerCase(Learner):
         self.expect_active("frame", "Glosaria")
         self.desktop.key("alt+f", "n")
         self.desktop.wait_for("frame", "Untitled 1")
-
-
-class EveryScriptCase(Learner):
-    """Words that run from the right, stack accents, need thousands of letters or are pictures."""
-
-    def test_words_of_every_script_survive_all_that_is_done_to_them(self):
-        program = self.desktop.start("--no-splash")
-        self.desktop.key("ctrl+n")
-        self.desktop.wait_for("frame", "Untitled 1")
-        unsorted = SCRIPTS[::-1]
-        for first, second in unsorted[:3]:
-            self.desktop.type(f"{first}\r{second}\r")
-        self.expect_column(1, [second for _, second in unsorted[:3]] + [""])
-        self.desktop.copy_elsewhere("".join(f"{first}\t{second}\n" for first, second in unsorted[3:]))
-        self.desktop.key("ctrl+v")
-        self.expect_column(1, [second for _, second in unsorted] + [""])
-
-        self.open_dialog("Sort", "alt+v", "s")
-        self.choose("alt+2", "2 Language 2")
-        self.close_dialog("Sort", "Return")
-        self.expect_column(1, [second for _, second in SCRIPTS] + [""])
-
-        file = self.save_as("scripts.gla")
-        self.assertEqual(read_vocabulary(file.read_bytes()), tuple(SCRIPTS))
-        self.assertEqual(self.desktop.quit(program), 0)
-        self.open(file)
-        self.expect_column(1, [second for _, second in SCRIPTS] + [""])
-        for _, second in SCRIPTS:
-            self.find(second)
-        self.answer()
-        self.print()
-
-    def find(self, text):
-        """Searches from the top; the cell that is found is the current one then, and so can be copied."""
-        self.desktop.key("ctrl+Home")
-        self.open_dialog("Find", "ctrl+f")
-        self.desktop.type(text)
-        self.desktop.key("Return")
-        self.close_dialog("Find", "Escape")
-        self.desktop.key("ctrl+c")
-        self.desktop.wait(lambda: self.desktop.copied() == text, lambda: f"{text} found, not {self.desktop.copied()}")
-
-    def answer(self):
-        self.start_quiz("Question and Answer")
-        for number, (first, second) in enumerate(SCRIPTS, 1):
-            self.expect_shown(first)
-            self.desktop.type(f"{second}\r")
-            self.expect_shown(counted=counters(5, number, number, 0 if number == len(SCRIPTS) else None))
-        self.close_quiz("Escape")
-
-    def print(self):
-        pdf = self.home / "Glosaria - scripts.pdf"
-        self.open_dialog("Print", "ctrl+p")
-        self.close_dialog("Print", "Return")
-        self.desktop.wait(pdf.exists, "the PDF file")
-        letters, marks = self.parts(self.desktop.tool("pdftotext", pdf, "-"))
-        for _, second in SCRIPTS[1:]:
-            word, its_marks = self.parts(second)
-            self.assertTrue(word in letters or word[::-1] in letters, f"{word} in {letters}")
-            self.assertLessEqual(set(its_marks), set(marks))
-        # A page names no letter beyond the first 65,536, but it shows it.
-        self.assertTrue(self.is_drawn_beside(pdf, SCRIPTS[0][0]), SCRIPTS[0])
-
-    def is_drawn_beside(self, pdf, word):
-        """Whether anything stands in a word's line on the right half of the page."""
-        boxes = self.desktop.tool("pdftotext", "-bbox", pdf, "-")
-        box = next(line for line in boxes.splitlines() if f">{word}<" in line).split('"')
-        top, bottom = round(float(box[3])), round(float(box[7]))
-        self.desktop.tool("pdftoppm", "-gray", "-r", "72", "-singlefile", pdf, pdf.with_suffix(""))
-        kind, width, _, _, dots = pdf.with_suffix(".pgm").read_bytes().split(maxsplit=4)
-        self.assertEqual(kind, b"P5")
-        lines = (dots[row * int(width):(row + 1) * int(width)] for row in range(top, bottom))
-        return any(min(line[int(width) // 2:]) < 128 for line in lines)
-
-    @staticmethod
-    def parts(text):
-        """Letters, in whichever direction, and the marks on them: a page tells no more of their order."""
-        kinds = [(unicodedata.category(sign), sign) for sign in unicodedata.normalize("NFKD", text)]
-        letters = "".join(sign for kind, sign in kinds if kind[0] in "LSN")
-        return letters, [sign for kind, sign in kinds if kind == "Mn"]
 
 
 if __name__ == "__main__":
