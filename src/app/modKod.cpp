@@ -96,19 +96,30 @@ void readSettings(Program &program)
         registerFileType();
 }
 
+/// Closes the window as the user does, who would first leave the dialogs before it: the documents that they are about
+/// may close, and yet the window stay.
+void closeFromOutside(frmApp &window)
+{
+    QWidget *const dialog = QApplication::activeModalWidget();
+    if (!dialog)
+        window.close();
+    else if (dialog->close()) // what has shown it must go on before the next one closes
+        QTimer::singleShot(0, &window, [&window] { closeFromOutside(window); });
+}
+
 /// The user is asked for unsaved changes when the desktop session or the process is told to end, as when the window
-/// closes.
+/// closes. A desktop session does not wait for dialogs to be left: what has changed is in the copies then.
 void askAtEnd(QApplication &application, frmApp &window, SignalWatcher &watcher, RecoveryKeeper &keeper)
 {
     QObject::connect(&watcher, &SignalWatcher::endRequested, &window, [&window, &keeper] {
         keeper.flush();
-        window.close();
+        closeFromOutside(window);
     });
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &window,
         [&window, &keeper](QSessionManager &session) {
             keeper.flush();
-            if (session.allowsInteraction() && !window.close())
+            if (session.allowsInteraction() && !QApplication::activeModalWidget() && !window.close())
                 session.cancel();
         },
         Qt::DirectConnection);

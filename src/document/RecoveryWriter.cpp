@@ -76,6 +76,8 @@ bool RecoveryWriter::write(Slot &slot, const RecoveryCopy &copy)
 
 bool RecoveryWriter::remove(Slot &slot)
 {
-    m_folder.remove(std::exchange(slot.m_path, {}));
+    if (!m_folder.remove(slot.m_path))
+        return false; // it is tried again
+    slot.m_path.clear();
     return true;
 }

@@ -264,7 +264,8 @@ void ctlGrid::editKeyPressed(int keyCode, int shift, bool &taken)
 void ctlGrid::commitAndMove(int step)
 {
     giveFocusBack();
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    // What comes from outside, files that are handed over among it, waits until the move is complete.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers);
     const int row = Row() + step;
     if (row >= FixedRows() && row < Rows()) {
         setRow(row);

@@ -2,12 +2,19 @@
 
 #include <fontconfig/fontconfig.h>
 
+#include <system_error>
+
 FontReader::FontReader()
-    : m_thread(&FcInit)
 {
+    try {
+        m_thread = std::thread(&FcInit);
+    } catch (const std::system_error &) {
+        // No thread can be had: the toolkit reads the fonts when it needs them.
+    }
 }
 
 FontReader::~FontReader()
 {
-    m_thread.join();
+    if (m_thread.joinable())
+        m_thread.join();
 }

@@ -102,12 +102,13 @@ QString RecoveryFolder::adopt(const QString &orphanPath)
     return QFileInfo::exists(orphanPath) ? orphanPath : QString();
 }
 
-void RecoveryFolder::remove(const QString &path) const
+bool RecoveryFolder::remove(const QString &path) const
 {
     if (path.isEmpty())
-        return;
-    QFile::remove(path);
+        return true;
+    const bool removed = QFile::remove(path) || !QFileInfo::exists(path);
     const QString place = QFileInfo(path).path();
     if (place != m_place)
         QDir().rmdir(place);
+    return removed;
 }

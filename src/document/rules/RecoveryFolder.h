@@ -33,8 +33,8 @@ public:
     /// Makes a copy left behind this program's own and returns its new path, the old one if it cannot be moved; empty
     /// when another program was quicker.
     QString adopt(const QString &orphanPath);
-    /// Deletes a copy; an empty path stands for none.
-    void remove(const QString &path) const;
+    /// Deletes a copy; an empty path stands for none. False: it is still there.
+    bool remove(const QString &path) const;
 
 private:
     bool takePlace();
