@@ -104,22 +104,29 @@ void AppMenus::applyState(AppState state)
 void AppMenus::rebuild(const MenuLayout::Menu &layout)
 {
     if (layout.key == QStringLiteral("mnuFile"))
-        rebuildFile(menu(layout.key));
+        rebuildFile(menu(layout.key), layout.entries);
     else if (layout.key == QStringLiteral("mnuMode"))
         rebuildMode();
     else if (layout.key == QStringLiteral("mnuWindow"))
         rebuildWindow(menu(layout.key), layout.entries);
 }
 
-void AppMenus::rebuildFile(QMenu *menu)
+/// Of these entries the commands that can be given without a document.
+QStringList AppMenus::withoutDocument(const QStringList &keys) const
+{
+    QStringList kept;
+    for (const QString &key : keys) {
+        const Command *command = m_table.find(key);
+        if (command && command->enabledIn.contains(AppState::StateNoDocument))
+            kept += key;
+    }
+    return kept;
+}
+
+void AppMenus::rebuildFile(QMenu *menu, const QStringList &entries)
 {
     menu->clear();
-    addEntries(menu, {QStringLiteral("mnuFileNew"), QStringLiteral("mnuFileOpen")});
-    if (m_table.state() != AppState::StateNoDocument) {
-        addEntries(menu, {QStringLiteral("mnuFileClose"), QString(), QStringLiteral("mnuFileSave"),
-                          QStringLiteral("mnuFileSaveAs"), QString(), QStringLiteral("mnuFilePageSetup"),
-                          QStringLiteral("mnuFilePrintPreview"), QStringLiteral("mnuFilePrint")});
-    }
+    addEntries(menu, m_table.state() == AppState::StateNoDocument ? withoutDocument(entries) : entries);
     QAction *preview = m_table.action(QStringLiteral("mnuFilePrintPreview"));
     preview->setCheckable(true);
     preview->setChecked(m_table.state() == AppState::StatePreview);

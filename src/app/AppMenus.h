@@ -35,7 +35,8 @@ public:
 private:
     void addMenu(QMenuBar *menuBar, const MenuLayout::Menu &layout);
     void rebuild(const MenuLayout::Menu &layout);
-    void rebuildFile(QMenu *menu);
+    QStringList withoutDocument(const QStringList &keys) const;
+    void rebuildFile(QMenu *menu, const QStringList &entries);
     void addRecentFiles(QMenu *menu);
     void rebuildMode();
     void rebuildWindow(QMenu *menu, const QStringList &fixedEntries);
