@@ -8,6 +8,7 @@
 #include "document/rules/VocabularyFile.h"
 #include "resources/StringTable.h"
 #include "services/AlertBox.h"
+#include "services/Hourglass.h"
 #include "services/modSBFunc.h"
 #include "services/rules/clsMRUFileList.h"
 
@@ -34,7 +35,6 @@ public:
     BusyStatus(modSBFunc &status, int textId, const QString &path, qint64 maximum)
         : m_status(status)
     {
-        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
         m_status.ShowStatus(0);
         m_status.SBSetText(0, modSBFunc::SBT_SUNKEN, resText(textId) + GridRules::fileTitle(path));
         m_status.createProgress(maximum);
@@ -44,13 +44,13 @@ public:
         m_status.destroyProgress();
         m_status.SBSetText(0, modSBFunc::SBT_SUNKEN, resText(Ready)); // a search holds back texts by id
         m_status.ShowStatus(Ready);
-        QGuiApplication::restoreOverrideCursor();
     }
     BusyStatus(const BusyStatus &) = delete;
     BusyStatus &operator=(const BusyStatus &) = delete;
 
 private:
     modSBFunc &m_status;
+    Hourglass m_hourglass;
 };
 
 QString withTitle(int textId, const QString &path)

@@ -36,12 +36,18 @@ QString characterOf(int keyAscii)
     return QString::fromUcs4(&character, 1);
 }
 
+LetterWidths letterWidthsIn(const QFont &font)
+{
+    return LetterWidths([font](const QString &text) { return QFontMetricsF(font).horizontalAdvance(text); });
+}
+
 } // namespace
 
 ctlGrid::ctlGrid(const ProgramFlags *flags, QWidget *parent)
     : FlexGrid(parent)
     , m_flags(flags)
     , m_text1(new ctlGridEdit(this))
+    , m_letterWidths(letterWidthsIn(Font()))
 {
     setAccessibleName(resText(GridName));
     FormTexts::setWhatsThis(this, WhatsThisId);
@@ -184,7 +190,7 @@ void ctlGrid::setGridFont(const QFont &font)
 {
     FlexGrid::setGridFont(font);
     m_text1->setFont(font);
-    m_textWidth = TextWidth(font);
+    m_letterWidths = letterWidthsIn(font);
     const int lineHeight = Twips::fromPixelsY(int(std::ceil(QFontMetricsF(font).height())));
     setDefaultRowHeight(GridRules::defaultRowHeight(lineHeight));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/rules/TextWidth.h"
+#include "document/rules/LetterWidths.h"
 #include "widgets/FlexGrid.h"
 
 class ctlGridEdit;
@@ -49,8 +49,8 @@ public:
     void makeRoomForRowNumbers();
     /// The edit box: the target of the edit commands while a cell is being edited.
     ctlGridEdit *hwndText() const { return m_text1; }
-    /// Measures texts in the grid's font.
-    TextWidth &textWidth() { return m_textWidth; }
+    /// The letters of the grid's font, in pixels.
+    LetterWidths &letterWidths() { return m_letterWidths; }
 
 Q_SIGNALS:
     void LeaveCell(); ///< for containers that know it; never raised, the edit is committed instead
@@ -78,5 +78,5 @@ private:
 
     const ProgramFlags *m_flags;
     ctlGridEdit *m_text1;
-    TextWidth m_textWidth;
+    LetterWidths m_letterWidths;
 };

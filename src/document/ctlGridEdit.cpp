@@ -1,7 +1,7 @@
 #include "document/ctlGridEdit.h"
 
+#include "services/rules/LineBreaks.h"
 #include "widgets/FlexGridKeys.h"
-#include "widgets/FlexGridText.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -22,7 +22,7 @@ public:
 
     State validate(QString &input, int &) const override
     {
-        input = FlexGridText::withoutLineBreaks(input);
+        input = LineBreaks::removed(input);
         return Acceptable;
     }
 };
@@ -47,7 +47,7 @@ void ctlGridEdit::begin(const QString &text)
 
 void ctlGridEdit::pasteText()
 {
-    insert(FlexGridText::withoutLineBreaks(QGuiApplication::clipboard()->text()));
+    insert(LineBreaks::removed(QGuiApplication::clipboard()->text()));
 }
 
 void ctlGridEdit::undoText()

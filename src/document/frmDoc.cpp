@@ -10,6 +10,7 @@
 #include "services/rules/clsAppProperties.h"
 
 #include <QCloseEvent>
+#include <QFontMetricsF>
 #include <QMdiSubWindow>
 #include <QVBoxLayout>
 
@@ -237,10 +238,10 @@ void frmDoc::endEdit()
 
 void frmDoc::makeRoomFor(int row, int col, const QString &text)
 {
-    TextWidth &measure = m_grid->textWidth();
-    if (!measure.surelyFits(text, m_grid->ColWidth(col) / Twips::perPixelX())) {
-        const int width = int(std::lround(measure.of(text) * Twips::perPixelX()));
-        const int height = int(std::lround(measure.lineHeight() * Twips::perPixelY()));
+    if (!m_grid->letterWidths().surelyFits(text, m_grid->ColWidth(col) / Twips::perPixelX())) {
+        const QFontMetricsF metrics(m_grid->Font());
+        const int width = int(std::lround(metrics.horizontalAdvance(text) * Twips::perPixelX()));
+        const int height = int(std::lround(metrics.height() * Twips::perPixelY()));
         const int present = m_grid->RowHeight(row);
         const int grown = GridRules::grownRowHeight(width, height, m_grid->ColWidth(col), present);
         if (grown != present)

@@ -7,6 +7,7 @@
 #include "resources/Pictures.h"
 #include "resources/StringTable.h"
 #include "services/EnterKey.h"
+#include "services/Hourglass.h"
 #include "services/rules/clsAppProperties.h"
 
 #include "ui_frmOva.h"
@@ -17,15 +18,6 @@
 #include <QMdiSubWindow>
 
 namespace {
-
-/// The hourglass while it lives.
-class Hourglass
-{
-public:
-    Hourglass() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~Hourglass() { QGuiApplication::restoreOverrideCursor(); }
-    Q_DISABLE_COPY_MOVE(Hourglass)
-};
 
 void showCount(QLabel *number, QLabel *title, const QString &name, int count, const QColor &colour)
 {

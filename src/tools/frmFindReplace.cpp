@@ -1,7 +1,5 @@
 #include "tools/frmFindReplace.h"
 
-#include "ui_frmFindReplace.h"
-
 #include "document/frmDoc.h"
 #include "document/modUndo.h"
 #include "platform/Twips.h"
@@ -9,10 +7,11 @@
 #include "services/AlertBox.h"
 #include "services/EnterKey.h"
 #include "services/FormTexts.h"
+#include "services/Hourglass.h"
 #include "services/rules/ProgramFlags.h"
 #include "tools/DocumentCells.h"
-#include "tools/Hourglass.h"
 #include "tools/rules/ReplaceAll.h"
+#include "ui_frmFindReplace.h"
 
 namespace {
 

@@ -8,6 +8,7 @@
 #include "services/AlertBox.h"
 #include "services/EnterKey.h"
 #include "services/FormTexts.h"
+#include "services/Hourglass.h"
 #include "services/rules/clsAppProperties.h"
 
 #include <QFontDatabase>
@@ -157,10 +158,9 @@ void frmFont::accept()
     const int color = chosenColor();
     ctlGrid &grid = *document().Rutor();
     if (font != grid.Font()) {
-        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        const Hourglass hourglass;
         grid.setGridFont(font);
         grid.makeRoom();
-        QGuiApplication::restoreOverrideCursor();
     }
     grid.setForeColor(color);
     document().setDirty(true);

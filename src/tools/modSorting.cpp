@@ -2,8 +2,8 @@
 
 #include "document/frmDoc.h"
 #include "document/modUndo.h"
+#include "services/Hourglass.h"
 #include "tools/GridCells.h"
-#include "tools/Hourglass.h"
 #include "tools/frmSort.h"
 #include "tools/rules/SortOrder.h"
 

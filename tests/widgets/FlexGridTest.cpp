@@ -1,5 +1,6 @@
 #include "widgets/FlexGrid.h"
 
+#include "services/rules/LineBreaks.h"
 #include "widgets/FlexGridText.h"
 
 #include <QSignalSpy>
@@ -44,7 +45,7 @@ TEST(FlexGridTextTest, LineBreaksBecomeOneBlank)
         grid.setText(text);
         EXPECT_EQ(everyCell(grid), "a b,a b|a b,");
     }
-    EXPECT_EQ(FlexGridText::withoutLineBreaks("\r\r\n\n"), "   ");
+    EXPECT_EQ(LineBreaks::removed("\r\r\n\n"), "   ");
 }
 
 TEST(FlexGridClipTest, FillsTheSelectionAndNothingElse)

@@ -1,6 +1,7 @@
 #include "document/rules/ProgressTicks.h"
 #include "document/rules/Utf8Text.h"
 #include "document/rules/VocabularyCodec.h"
+#include "services/rules/LineBreaks.h"
 
 #include <cstring>
 
@@ -15,16 +16,6 @@ constexpr int SizeDecimals = 4;
 bool isAscii(QByteArrayView bytes)
 {
     return std::all_of(bytes.begin(), bytes.end(), [](char byte) { return uchar(byte) < 0x80; });
-}
-
-bool isLineBreak(QChar c)
-{
-    return c == u'\r' || c == u'\n';
-}
-
-QString withoutLineBreaks(QString text)
-{
-    return text.replace(QStringLiteral("\r\n"), QStringLiteral(" ")).replace(u'\r', u' ').replace(u'\n', u' ');
 }
 
 /// At most four decimals, none that say nothing.
@@ -61,13 +52,7 @@ public:
         put(LineEnd);
     }
 
-    void putText(const QString &text)
-    {
-        if (std::any_of(text.begin(), text.end(), isLineBreak))
-            putLetters(withoutLineBreaks(text));
-        else
-            putLetters(text);
-    }
+    void putText(const QString &text) { putLetters(LineBreaks::removed(text)); }
 
     /// Ten digits in brackets, three blanks before.
     void putMarker(int height)

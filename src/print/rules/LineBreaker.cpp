@@ -80,6 +80,7 @@ private:
 LineBreaker::LineBreaker(const TextMeasure &measure)
     : m_measure(measure)
     , m_blankWidth(measure.TextWidth(QStringLiteral(" ")))
+    , m_letterWidths([&measure](const QString &text) { return double(measure.TextWidth(text)); })
 {
 }
 
@@ -99,20 +100,4 @@ QStringList LineBreaker::lines(const QString &text, int width) const
         filler.addBlank(m_blankWidth);
     }
     return result;
-}
-
-bool LineBreaker::surelyFits(const QString &text, int width) const
-{
-    // Kerning moves letters apart by far less than this.
-    const int allowance = m_blankWidth / 4;
-    qint64 bound = 0;
-    for (const QChar letter : text) {
-        if (letter.unicode() >= LatinEnd)
-            return false;
-        int &letterWidth = m_letterWidths[letter.unicode()];
-        if (letterWidth == 0)
-            letterWidth = m_measure.TextWidth(QString(letter)) + allowance;
-        bound += letterWidth;
-    }
-    return bound <= width;
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QStringList>
+#include "document/rules/LetterWidths.h"
 
-#include <array>
+#include <QStringList>
 
 class TextMeasure;
 
@@ -18,14 +18,11 @@ public:
     /// when the text begins with one; only Chinese and Japanese, written without blanks, break within such a word.
     QStringList lines(const QString &text, int width) const;
 
-    /// Whether the text is certain to fit on one line. Takes no measuring for letters of the Latin blocks and is true
-    /// for most words, so that long lists can be counted quickly; false leaves it open.
-    bool surelyFits(const QString &text, int width) const;
+    /// Whether the text is certain to fit on one line, so that long lists can be counted quickly; false leaves it open.
+    bool surelyFits(const QString &text, int width) const { return m_letterWidths.surelyFits(text, width); }
 
 private:
-    static constexpr int LatinEnd = 0x250;
-
     const TextMeasure &m_measure;
     int m_blankWidth;
-    mutable std::array<int, LatinEnd> m_letterWidths{}; ///< 0: not measured yet
+    mutable LetterWidths m_letterWidths;
 };

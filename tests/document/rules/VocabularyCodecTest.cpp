@@ -1,5 +1,7 @@
 #include "document/rules/VocabularyCodec.h"
 
+#include "services/rules/LineBreaks.h"
+
 #include <QLocale>
 
 namespace {
@@ -227,7 +229,7 @@ TEST(VocabularyCodec, EveryLetterComesBack)
 {
     Vocabulary vocabulary = withRows({});
     for (int c = 1; c < 0x10000; ++c) {
-        if (c != '\r' && c != '\n')
+        if (LineBreaks::removed(QChar(c)) == QChar(c)) // else no cell holds it
             vocabulary.append(QString(QChar(c)), QChar(c) + QString("]"));
     }
     EXPECT_TRUE(decodeWestern(encode(vocabulary, CodePage())).vocabulary == vocabulary);
