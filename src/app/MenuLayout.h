@@ -38,8 +38,8 @@ struct ContextEntry
     int helpId;
 };
 
-/// The seven menus in the order of the menu bar with their fixed entries. When File drops down, what needs a document is
-/// left out while there is none, and the recent files are added; Window gets the open documents.
+/// The seven menus in the order of the menu bar with their fixed entries. When File drops down, what needs a document
+/// is left out while there is none, and the recent files are added; Window gets the open documents.
 const std::vector<Menu> &menus();
 
 const std::vector<Button> &standardButtons();

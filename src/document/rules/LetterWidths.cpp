@@ -7,6 +7,10 @@ LetterWidths::LetterWidths(Measure measure)
 
 bool LetterWidths::surelyFits(const QString &text, double width)
 {
+    if (m_bounds.empty()) {
+        m_bounds.resize(LatinEnd);
+        m_allowance = m_measure(QStringLiteral(" ")) / 4;
+    }
     double sum = 0;
     for (const QChar letter : text) {
         if (letter.unicode() >= LatinEnd)
@@ -18,10 +22,6 @@ bool LetterWidths::surelyFits(const QString &text, double width)
 
 double LetterWidths::bound(QChar letter)
 {
-    if (m_bounds.empty()) {
-        m_bounds.resize(LatinEnd);
-        m_allowance = m_measure(QStringLiteral(" ")) / 4;
-    }
     double &known = m_bounds[letter.unicode()];
     if (known == 0)
         known = m_measure(QString(letter)) + m_allowance;
