@@ -30,19 +30,19 @@ Button separator()
 const std::vector<Menu> &menus()
 {
     static const std::vector<Menu> all{
-        {QStringLiteral("mnuFile"), 400, 100, 1030,
+        {QStringLiteral("mnuFile"), 400, 1030,
          keys("mnuFileNew mnuFileOpen mnuFileClose - mnuFileSave mnuFileSaveAs - mnuFilePageSetup mnuFilePrintPreview "
               "mnuFilePrint")},
-        {QStringLiteral("mnuEdit"), 418, 101, 1040,
+        {QStringLiteral("mnuEdit"), 418, 1040,
          keys("mnuEditUndo - mnuEditCut mnuEditCopy mnuEditPaste mnuEditClear - mnuEditInsert mnuEditDelete - "
               "mnuEditFind mnuEditReplace")},
-        {QStringLiteral("mnuVocabulary"), 431, 102, 1050,
+        {QStringLiteral("mnuVocabulary"), 431, 1050,
          keys("mnuVocabularyLanguage - mnuVocabularyRowHeight mnuVocabularyColumnWidth - mnuVocabularyFont "
               "mnuVocabularySort")},
-        {QStringLiteral("mnuMode"), 439, 103, 1060, keys("mnuMode1 mnuMode2 mnuMode3 mnuMode4 mnuMode5")},
-        {QStringLiteral("mnuQuiz"), 445, 104, 1070, keys("mnuQuizStudy mnuQuizMultiple mnuQuizQA")},
-        {QStringLiteral("mnuWindow"), 449, 105, 1080, keys("mnuWindow(0) mnuWindow(1) mnuWindow(2) mnuWindow(3)")},
-        {QStringLiteral("mnuHelp"), 454, 106, 1090, keys("mnuHelpTopic - mnuHelpAbout")},
+        {QStringLiteral("mnuMode"), 439, 1060, keys("mnuMode1 mnuMode2 mnuMode3 mnuMode4 mnuMode5")},
+        {QStringLiteral("mnuQuiz"), 445, 1070, keys("mnuQuizStudy mnuQuizMultiple mnuQuizQA")},
+        {QStringLiteral("mnuWindow"), 449, 1080, keys("mnuWindow(0) mnuWindow(1) mnuWindow(2) mnuWindow(3)")},
+        {QStringLiteral("mnuHelp"), 454, 1090, keys("mnuHelpTopic - mnuHelpAbout")},
     };
     return all;
 }

@@ -14,7 +14,6 @@ struct Menu
 {
     QString key;
     int captionId;
-    int helpId;        ///< status text while the pointer is over the menu's title
     int helpContextId; ///< help topic of the drop-down
     QStringList entries;
 };
