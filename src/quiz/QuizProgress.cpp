@@ -1,12 +1,14 @@
 #include "quiz/QuizProgress.h"
 
 #include "quiz/QuizColours.h"
+#include "services/Contrast.h"
 
 #include <QPainterPath>
 
 namespace {
 
 constexpr int Thickness = 6;
+constexpr double TrackStrength = 0.25;
 
 } // namespace
 
@@ -37,7 +39,7 @@ void QuizProgress::paintEvent(QPaintEvent *)
     QPainterPath shape;
     shape.addRoundedRect(bar, bar.height() / 2, bar.height() / 2);
     painter.setClipPath(shape);
-    painter.fillRect(bar, palette().color(QPalette::Mid));
+    painter.fillRect(bar, Contrast::towardsText(palette(), TrackStrength));
     const double correct = bar.width() * m_correct / m_total;
     const double wrong = bar.width() * m_wrong / m_total;
     painter.fillRect(QRectF(bar.left(), bar.top(), correct, bar.height()), QuizColours::Right);

@@ -6,6 +6,7 @@
 #include "quiz/QuizSpeech.h"
 #include "resources/Pictures.h"
 #include "resources/StringTable.h"
+#include "services/Contrast.h"
 #include "services/EnterKey.h"
 #include "services/Hourglass.h"
 #include "services/rules/clsAppProperties.h"
@@ -29,7 +30,7 @@ void showCount(QLabel *number, QLabel *title, const QString &name, int count, co
         return;
     QPalette palette;
     if (count > 0)
-        palette.setColor(QPalette::WindowText, colour);
+        palette.setColor(QPalette::WindowText, Contrast::readable(colour, palette));
     number->setPalette(palette);
 }
 

@@ -2,6 +2,7 @@
 
 #include "quiz/QuizLook.h"
 #include "resources/StringTable.h"
+#include "services/Contrast.h"
 #include "services/FormTexts.h"
 #include "services/ScreenFit.h"
 
@@ -34,7 +35,7 @@ void setBold(QWidget *control)
 void setMuted(QWidget *control)
 {
     QPalette palette = control->palette();
-    palette.setColor(QPalette::WindowText, palette.color(QPalette::PlaceholderText));
+    palette.setColor(QPalette::WindowText, Contrast::readable(palette.color(QPalette::PlaceholderText), palette));
     control->setPalette(palette);
 }
 

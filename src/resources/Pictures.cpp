@@ -21,7 +21,7 @@ constexpr std::array Files = {
     "languages", "mode1", "mode2", "mode3", "mode4", "mode5", "rowheight", "columnwidth", "font", "sort", "cascade",
     "tilehorizontally", "tilevertically", "arrangeicons", "helptopics", "whatsthis", "about", "previous", "next",
     "weblink", "maillink", "home", "navigation", "zoomin", "zoomout", "zoomnormal", "right", "wrong", "gridcursor",
-    "glosaria", "document", "more",
+    "glosaria", "document", "more", "minimize", "maximize", "restore",
 };
 // clang-format on
 

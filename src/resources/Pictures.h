@@ -60,6 +60,9 @@ enum PictureNumber {
     PictureApplication, ///< icon of the program
     PictureDocument,    ///< icon of a vocabulary
     PictureMore,        ///< what has no room on a bar
+    PictureMinimize,    ///< from here on what is done with a document's window
+    PictureMaximize,
+    PictureRestore,
 };
 
 /// The icon with this number, crisp at every size: it is drawn anew for the size, the screen and the palette's colours

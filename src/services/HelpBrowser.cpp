@@ -53,6 +53,7 @@ bool HelpBrowser::findText(const QString &text, bool backward)
 {
     if (text.isEmpty())
         return true;
+    setExtraSelections({}); // which look like the place that is found
     const QTextDocument::FindFlags flags = backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
     if (find(text, flags))
         return true;

@@ -18,7 +18,7 @@ namespace {
 const QString HomePage = QStringLiteral("html/welcome.html");
 const QString ViewerPage = QStringLiteral("html/usinghelp.html");
 
-constexpr QSize FullSize(940, 660);
+constexpr QSize FullSize(970, 660); ///< wide enough for the widest picture on a page
 constexpr QSize SmallSize(560, 460);
 constexpr int NavigationWidth = 270;
 constexpr int WindowTitle = 13003;

@@ -1,11 +1,10 @@
 #include "services/ProgramStyle.h"
 
 #include "resources/Pictures.h"
+#include "services/Contrast.h"
 
 #include <QPainter>
 #include <QStyleOption>
-
-#include <cmath>
 
 namespace {
 
@@ -13,35 +12,15 @@ constexpr double LeastContrast = 3.0; ///< of a title's letters, which are white
 constexpr double OutlineStrength = 0.5;
 constexpr double FrameStrength = 0.3;
 constexpr double OutlineRadius = 2.0;
-constexpr int GroupTitleGap = 3; ///< pixels between the title of a group and its frame
-
-double linear(double channel)
-{
-    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
-
-/// The brightness that an eye sees, 0 to 1.
-double luminance(const QColor &colour)
-{
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-}
+constexpr int SeparatorMargin = 5; ///< pixels beside the line between entries of a menu
+constexpr int GroupTitleGap = 3;   ///< pixels between the title of a group and its frame
 
 /// The colour, darkened until white letters can be read on it.
 QColor groundForWhite(QColor colour)
 {
-    while (1.05 / (luminance(colour) + 0.05) < LeastContrast)
+    while (Contrast::between(colour, Qt::white) < LeastContrast)
         colour = colour.darker(110);
     return colour;
-}
-
-/// A line between text and ground, the nearer to the text the higher strength (0 to 1).
-QColor lineColour(const QPalette &palette, double strength)
-{
-    const QColor text = palette.color(QPalette::WindowText);
-    const QColor ground = palette.color(QPalette::Window);
-    const auto between = [strength](float one, float other) { return float(one * strength + other * (1 - strength)); };
-    return QColor::fromRgbF(between(text.redF(), ground.redF()), between(text.greenF(), ground.greenF()),
-                            between(text.blueF(), ground.blueF()));
 }
 
 enum class Shape { None, Box, Round, Frame };
@@ -63,6 +42,7 @@ Shape shapeOf(QStyle::PrimitiveElement element, const QStyleOption &option)
         return shown && !highlighted ? Shape::Box : Shape::None;
     }
     case QStyle::PE_Frame:
+    case QStyle::PE_PanelMenu:
         return Shape::Frame;
     default:
         return Shape::None;
@@ -74,7 +54,7 @@ void drawOutline(QPainter &painter, const QStyleOption &option, Shape shape)
     const QRectF rect = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.save();
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(lineColour(option.palette, shape == Shape::Frame ? FrameStrength : OutlineStrength));
+    painter.setPen(Contrast::towardsText(option.palette, shape == Shape::Frame ? FrameStrength : OutlineStrength));
     painter.setRenderHint(QPainter::Antialiasing);
     if (shape == Shape::Round)
         painter.drawEllipse(rect);
@@ -83,13 +63,41 @@ void drawOutline(QPainter &painter, const QStyleOption &option, Shape shape)
     painter.restore();
 }
 
-/// The entry with its picture in the colour of chosen text, as it is drawn on the highlight.
+void drawSeparator(QPainter &painter, const QStyleOption &option)
+{
+    const QRect &rect = option.rect;
+    painter.save();
+    painter.setPen(Contrast::towardsText(option.palette, FrameStrength));
+    painter.drawLine(rect.left() + SeparatorMargin, rect.center().y(), rect.right() - SeparatorMargin,
+                     rect.center().y());
+    painter.restore();
+}
+
+/// The entry with its picture in the colour of chosen text, as it is drawn on the highlight, and so is the plate behind
+/// the picture of a checked entry.
 QStyleOptionMenuItem withChosenPicture(const QStyleOptionMenuItem &entry, int size, const QWidget *widget)
 {
     QStyleOptionMenuItem chosen = entry;
     const double scale = widget ? widget->devicePixelRatioF() : 1.0;
     chosen.icon = QIcon(entry.icon.pixmap(QSize(size, size), scale, QIcon::Selected));
+    chosen.palette.setColor(QPalette::Window, entry.palette.color(QPalette::Highlight));
     return chosen;
+}
+
+/// The title bar of a document with letters and signs that can be read. Fusion gives the letters of an active one a
+/// shadow in the colour of text, and black signs to the buttons of an inactive one, both also where windows are dark.
+QStyleOptionTitleBar readableTitle(const QStyleOptionTitleBar &title, bool dark)
+{
+    QStyleOptionTitleBar shown = title;
+    const bool active = title.titleBarState & QStyle::State_Active;
+    const QColor ground = title.palette.color(active ? QPalette::Highlight : QPalette::Window);
+    if (active || dark)
+        shown.palette.setColor(QPalette::Highlight, groundForWhite(ground));
+    if (dark) {
+        shown.titleBarState |= QStyle::State_Active;
+        shown.palette.setColor(QPalette::Text, Qt::black);
+    }
+    return shown;
 }
 
 } // namespace
@@ -121,18 +129,20 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption *optio
         const int size = pixelMetric(PM_SmallIconSize, option, widget);
         const QStyleOptionMenuItem shown = withChosenPicture(*entry, size, widget);
         QProxyStyle::drawControl(element, &shown, painter, widget);
-    } else {
-        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
     }
+    QProxyStyle::drawControl(element, option, painter, widget);
+    if (element == CE_MenuItem && entry && entry->menuItemType == QStyleOptionMenuItem::Separator &&
+        hidesOutlines(*option))
+        drawSeparator(*painter, *option);
 }
 
 void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
                                       const QWidget *widget) const
 {
     const auto *title = qstyleoption_cast<const QStyleOptionTitleBar *>(option);
-    if (control == CC_TitleBar && title && (title->titleBarState & State_Active)) {
-        QStyleOptionTitleBar shown = *title;
-        shown.palette.setColor(QPalette::Highlight, groundForWhite(title->palette.color(QPalette::Highlight)));
+    if (control == CC_TitleBar && title) {
+        const QStyleOptionTitleBar shown = readableTitle(*title, hidesOutlines(*option));
         QProxyStyle::drawComplexControl(control, &shown, painter, widget);
         return;
     }
@@ -154,15 +164,27 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
 
 QIcon ProgramStyle::standardIcon(StandardPixmap standard, const QStyleOption *option, const QWidget *widget) const
 {
-    if (standard == SP_ToolBarHorizontalExtensionButton || standard == SP_ToolBarVerticalExtensionButton)
+    switch (standard) {
+    case SP_ToolBarHorizontalExtensionButton:
+    case SP_ToolBarVerticalExtensionButton:
         return picture(PictureMore);
-    return QProxyStyle::standardIcon(standard, option, widget);
+    case SP_TitleBarMinButton:
+        return picture(PictureMinimize);
+    case SP_TitleBarMaxButton:
+        return picture(PictureMaximize);
+    case SP_TitleBarNormalButton:
+        return picture(PictureRestore);
+    case SP_TitleBarCloseButton:
+        return picture(PictureClose);
+    default:
+        return QProxyStyle::standardIcon(standard, option, widget);
+    }
 }
 
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                             QStyleHintReturn *returnData) const
 {
-    if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons || hint == SH_EtchDisabledText)
         return 0;
     return QProxyStyle::styleHint(hint, option, widget, returnData);
 }

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QColor>
+
+class QPalette;
+
+/// How well colours are told apart, as the guidelines for accessible content measure it.
+namespace Contrast {
+
+/// From 1 for colours of the same brightness to 21 for black and white.
+double between(const QColor &one, const QColor &other);
+
+/// A colour between the window's ground (strength 0) and its text (1).
+QColor towardsText(const QPalette &palette, double strength);
+
+/// The colour, moved towards the window's text until small letters in it can be read on the window.
+QColor readable(const QColor &colour, const QPalette &palette);
+
+} // namespace Contrast
