@@ -28,6 +28,7 @@ void ExtendedComboBox::setAutoComplete()
     setEditable(true);
     completer()->setCompletionMode(QCompleter::InlineCompletion);
     completer()->setCaseSensitivity(Qt::CaseInsensitive);
+    placeTextBox();
     connect(lineEdit(), &QLineEdit::editingFinished, this, &ExtendedComboBox::putBackSelected);
 }
 
@@ -36,6 +37,14 @@ void ExtendedComboBox::setNumbersOnly()
     setEditable(true);
     setLineEdit(new NumberBox(this));
     setCompleter(nullptr);
+    placeTextBox();
+}
+
+/// The text box stands at the end of the window's order of Tab: Shift+Tab from the first box would end in it, that is in
+/// the box that it belongs to. Its place is beside that one.
+void ExtendedComboBox::placeTextBox()
+{
+    setTabOrder(this, lineEdit());
 }
 
 void ExtendedComboBox::putBackSelected()

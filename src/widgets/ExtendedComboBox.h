@@ -29,6 +29,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void placeTextBox();
     void putBackSelected();
     void drawSwatches();
     QIcon swatch(QColor color) const;

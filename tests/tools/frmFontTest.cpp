@@ -52,6 +52,21 @@ TEST_F(FontDialog, ShowsTheGridsFontAndKeepsAColorThatHasNoName)
     EXPECT_FALSE(settings.FontItalic()) << "the default for new documents stays";
 }
 
+TEST_F(FontDialog, IsWalkedThroughBothWays)
+{
+    open();
+    const QStringList forth{"cboSize",    "cboColor", "chkBold",   "chkItalic",
+                            "chkDefault", "btnOK",    "btnCancel", "cboFont"};
+    for (const QString &name : forth) {
+        QTest::keyClick(dialog.get(), Qt::Key_Tab);
+        EXPECT_EQ(dialog->focusWidget()->objectName(), name);
+    }
+    for (qsizetype i = forth.size() - 2; i >= 0; --i) {
+        QTest::keyClick(dialog.get(), Qt::Key_Backtab, Qt::ShiftModifier);
+        EXPECT_EQ(dialog->focusWidget()->objectName(), forth[i]);
+    }
+}
+
 TEST_F(FontDialog, ChecksTheSizeWhileItIsTyped)
 {
     open();
