@@ -145,6 +145,8 @@ QWidget *frmApp::createCentre()
         if (QMdiSubWindow *document = m_area->activeSubWindow())
             document->showSystemMenu();
     });
+    addTurn(Qt::CTRL | Qt::Key_Tab, &QMdiArea::activateNextSubWindow);
+    addTurn(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, &QMdiArea::activatePreviousSubWindow);
     auto *centre = new QWidget(this);
     auto *layout = new QVBoxLayout(centre);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -154,6 +156,16 @@ QWidget *frmApp::createCentre()
     layout->addWidget(m_views, 1);
     layout->addWidget(&m_context->status);
     return centre;
+}
+
+/// A key that goes around the documents in the order of the Window menu; the area's own keys would follow its history.
+void frmApp::addTurn(const QKeySequence &key, void (QMdiArea::*turn)())
+{
+    connect(new QShortcut(key, m_area), &QShortcut::activated, m_area, [this, turn] {
+        m_area->setActivationOrder(QMdiArea::CreationOrder);
+        (m_area->*turn)();
+        m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder);
+    });
 }
 
 void frmApp::placeDocument(frmDoc *document)

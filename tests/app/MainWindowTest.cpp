@@ -88,6 +88,19 @@ TEST_F(MainWindowTest, ClosingADocumentReturnsToTheOneBefore)
     EXPECT_EQ(documents().active(), first);
 }
 
+TEST_F(MainWindowTest, ControlTabGoesAroundTheDocuments)
+{
+    const std::array made = {newDocument(), newDocument(), newDocument()};
+    const auto press = [this](Qt::Key key, Qt::KeyboardModifiers modifiers) {
+        QTest::keyClick(window->focusWidget(), key, modifiers);
+        return documents().active();
+    };
+    for (const int next : {0, 1, 2, 0})
+        EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier), made[size_t(next)]);
+    for (const int next : {2, 1, 0})
+        EXPECT_EQ(press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier), made[size_t(next)]);
+}
+
 TEST_F(MainWindowTest, TilesShareTheAreaWithoutOverlap)
 {
     for (int i = 0; i < 3; ++i)
