@@ -67,7 +67,7 @@ struct frmOva::Sizes
 };
 
 const frmOva::Sizes frmOva::Roomy{2.6, 2.0, 1.6, 1.35, 24};
-const frmOva::Sizes frmOva::Tight{1.7, 1.4, 1.2, 1.1, 8};
+const frmOva::Sizes frmOva::Tight{1.6, 1.4, 1.2, 1.1, 7};
 
 void frmOva::layOut()
 {

@@ -40,8 +40,8 @@ void ExtendedComboBox::setNumbersOnly()
     placeTextBox();
 }
 
-/// The text box stands at the end of the window's order of Tab: Shift+Tab from the first box would end in it, that is in
-/// the box that it belongs to. Its place is beside that one.
+/// The text box stands at the end of the window's order of Tab: Shift+Tab from the first box would end in it, that is
+/// in the box that it belongs to. Its place is beside that one.
 void ExtendedComboBox::placeTextBox()
 {
     setTabOrder(this, lineEdit());
