@@ -1,6 +1,7 @@
 #include "document/ctlGridEdit.h"
 
 #include "services/rules/LineBreaks.h"
+#include "widgets/FlexGridCellText.h"
 #include "widgets/FlexGridKeys.h"
 
 #include <QClipboard>
@@ -13,6 +14,8 @@
 #include <limits>
 
 namespace {
+
+constexpr int OwnMargin = 2; ///< pixels that the toolkit keeps free beside a box's text
 
 /// Turns line breaks into blanks on every way a text can enter: paste, drop, input method.
 class OneLine : public QValidator
@@ -33,7 +36,8 @@ ctlGridEdit::ctlGridEdit(QWidget *parent)
     : QLineEdit(parent)
 {
     setFrame(false);
-    setMaxLength(std::numeric_limits<int>::max()); // a longer cell would be cut when it is edited
+    setTextMargins(FlexGridCellText::Margin - OwnMargin, 0, 0, 0); // the letters stay where the cell has them
+    setMaxLength(std::numeric_limits<int>::max());                 // a longer cell would be cut when it is edited
     setValidator(new OneLine(this));
     connect(this, &QLineEdit::textEdited, this, [this] { m_undone = false; });
 }
