@@ -5,10 +5,10 @@
 #include "app/AppPrintHost.h"
 #include "app/AppToolbars.h"
 #include "app/MainHelp.h"
+#include "app/WindowPosition.h"
 #include "document/DocumentList.h"
 #include "document/FileCommands.h"
 #include "document/ctlGrid.h"
-#include "platform/Twips.h"
 #include "print/PrintCommands.h"
 #include "resources/Pictures.h"
 #include "resources/StringTable.h"
@@ -27,7 +27,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QStyle>
@@ -35,8 +34,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-enum WindowState { Normal = 0, Minimized = 1, Maximized = 2 };
 
 constexpr int RecentFileCount = 4;
 constexpr int Ready = 506;
@@ -86,6 +83,7 @@ frmApp::frmApp(const Needs &needs)
     setAcceptDrops(true);
     createParts(needs);
     loadRecentFiles();
+    m_position = std::make_unique<WindowPosition>(*this, needs.settings);
     PositionWindow();
     m_context->status.createPanels(width());
 
@@ -330,68 +328,13 @@ void frmApp::bringToFront()
 
 void frmApp::PositionWindow()
 {
-    if (applyPosition())
-        return;
-    useWorkArea();
-    applyPosition();
-}
-
-bool frmApp::applyPosition()
-{
-    const clsAppProperties &settings = m_context->settings;
-    const int state = settings.AppWinState();
-    if (state != Normal && state != Maximized)
-        return false;
-    QRect place(Twips::toPixelsX(settings.WinPosLeft()), Twips::toPixelsY(settings.WinPosTop()),
-                Twips::toPixelsX(settings.WinPosRight()), Twips::toPixelsY(settings.WinPosBottom()));
-    const QList<QScreen *> screens = QGuiApplication::screens();
-    const bool reachable = std::any_of(screens.begin(), screens.end(), [&place](const QScreen *screen) {
-        return screen->availableGeometry().intersects(place);
-    });
-    if (!reachable)
-        return false;
-    // The screens may have become smaller, or coarser.
-    place.setSize(place.size().boundedTo(QGuiApplication::primaryScreen()->availableVirtualSize()));
-    move(place.topLeft());
-    resize(place.size());
-    m_restoredSize = place.size();
-    setWindowState(state == Maximized ? Qt::WindowMaximized : Qt::WindowNoState);
-    return true;
-}
-
-void frmApp::useWorkArea()
-{
-    clsAppProperties &settings = m_context->settings;
-    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
-    settings.setAppWinState(Normal);
-    settings.setWinPosLeft(Twips::fromPixelsX(area.left()));
-    settings.setWinPosTop(Twips::fromPixelsY(area.top()));
-    settings.setWinPosRight(Twips::fromPixelsX(area.width()));
-    settings.setWinPosBottom(Twips::fromPixelsY(area.height()));
+    m_position->restore();
 }
 
 void frmApp::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
-    QTimer::singleShot(FrameDelay, this, &frmApp::makeRoomForFrame);
-}
-
-/// How thick the frame is can be told only after the window manager has put it round the window.
-void frmApp::makeRoomForFrame()
-{
-    if (size() == m_restoredSize && windowState() == Qt::WindowNoState)
-        resize(m_restoredSize - (frameSize() - size()));
-    m_restoredSize = {};
-}
-
-void frmApp::storePosition()
-{
-    clsAppProperties &settings = m_context->settings;
-    settings.setAppWinState(isMinimized() ? Minimized : isMaximized() ? Maximized : Normal);
-    settings.setWinPosLeft(Twips::fromPixelsX(x()));
-    settings.setWinPosTop(Twips::fromPixelsY(y()));
-    settings.setWinPosRight(Twips::fromPixelsX(frameSize().width()));
-    settings.setWinPosBottom(Twips::fromPixelsY(frameSize().height()));
+    QTimer::singleShot(FrameDelay, this, [this] { m_position->makeRoomForFrame(); });
 }
 
 void frmApp::reportRegistryErrors(const std::function<void()> &action)
@@ -433,7 +376,7 @@ void frmApp::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
-    storePosition();
+    m_position->store();
     saveSettings();
     // A message about the settings may have kept the user here for long enough to open another file.
     if (!m_context->documents.open().empty()) {

@@ -25,6 +25,7 @@ class QMdiArea;
 class QMdiSubWindow;
 class QStackedWidget;
 class RegistryStore;
+class WindowPosition;
 class frmDoc;
 
 /// The program's one frame window: holds the document windows, the menus, the toolbars and the status bar, keeps the
@@ -112,10 +113,6 @@ private:
     UndoKind undoable() const;
     void onUndoKind();
     void connectPreview();
-    bool applyPosition();
-    void useWorkArea();
-    void makeRoomForFrame();
-    void storePosition();
     void loadRecentFiles();
     void saveSettings();
     void reportRegistryErrors(const std::function<void()> &action);
@@ -129,8 +126,8 @@ private:
     std::unique_ptr<PrintCommands> m_print;
     std::unique_ptr<MainHelp> m_help;
     std::unique_ptr<AppContext> m_context;
+    std::unique_ptr<WindowPosition> m_position;
     CommandTable m_commands;
     AppMenus *m_menus = nullptr;
     AppToolbars *m_toolbars = nullptr;
-    QSize m_restoredSize; ///< with the window manager's frame; empty once that was taken off
 };
