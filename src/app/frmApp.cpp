@@ -143,8 +143,9 @@ QWidget *frmApp::createCentre()
         if (QMdiSubWindow *document = m_area->activeSubWindow())
             document->showSystemMenu();
     });
-    addTurn(Qt::CTRL | Qt::Key_Tab, &QMdiArea::activateNextSubWindow);
-    addTurn(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, &QMdiArea::activatePreviousSubWindow);
+    connect(new QShortcut(Qt::CTRL | Qt::Key_Tab, m_area), &QShortcut::activated, this, [this] { goAround(true); });
+    connect(new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, m_area), &QShortcut::activated, this,
+            [this] { goAround(false); });
     auto *centre = new QWidget(this);
     auto *layout = new QVBoxLayout(centre);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -156,14 +157,16 @@ QWidget *frmApp::createCentre()
     return centre;
 }
 
-/// A key that goes around the documents in the order of the Window menu; the area's own keys would follow its history.
-void frmApp::addTurn(const QKeySequence &key, void (QMdiArea::*turn)())
+/// Goes to the document after or before the active one in the order of the Window menu; the area's own keys would
+/// follow its history.
+void frmApp::goAround(bool forward)
 {
-    connect(new QShortcut(key, m_area), &QShortcut::activated, m_area, [this, turn] {
-        m_area->setActivationOrder(QMdiArea::CreationOrder);
-        (m_area->*turn)();
-        m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder);
-    });
+    m_area->setActivationOrder(QMdiArea::CreationOrder);
+    if (forward)
+        m_area->activateNextSubWindow();
+    else
+        m_area->activatePreviousSubWindow();
+    m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder);
 }
 
 void frmApp::placeDocument(frmDoc *document)

@@ -103,7 +103,7 @@ protected:
 private:
     void createParts(const Needs &needs);
     QWidget *createCentre();
-    void addTurn(const QKeySequence &key, void (QMdiArea::*turn)());
+    void goAround(bool forward);
     void placeDocument(frmDoc *document);
     /// How far the title bar of a window stands from that of the one behind it, in pixels.
     int cascadeStep() const;
