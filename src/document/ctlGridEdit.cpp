@@ -36,7 +36,7 @@ ctlGridEdit::ctlGridEdit(QWidget *parent)
     : QLineEdit(parent)
 {
     setFrame(false);
-    setTextMargins(FlexGridCellText::Margin - OwnMargin, 0, 0, 0); // the letters stay where the cell has them
+    setTextMargins(FlexGridCellText::Margin - OwnMargin, 0, 0, 1); // the letters stay where the cell has them
     setMaxLength(std::numeric_limits<int>::max());                 // a longer cell would be cut when it is edited
     setValidator(new OneLine(this));
     connect(this, &QLineEdit::textEdited, this, [this] { m_undone = false; });
