@@ -7,7 +7,8 @@ is the active one of the desktop. Names begin with "main" where the whole main w
 import pathlib
 import shutil
 
-SAMPLES = pathlib.Path(__file__).resolve().parents[2] / "samples"
+from cases import SAMPLES
+
 MENUS = {"f": "File", "e": "Edit", "v": "Vocabulary", "m": "Mode", "q": "Quiz", "w": "Window", "h": "Help"}
 LONG_PAIRS = (
     ("the insurance company for legal protection", "die Rechtsschutzversicherungsgesellschaft"),
