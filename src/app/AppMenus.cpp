@@ -18,8 +18,6 @@
 namespace {
 
 constexpr int LongestCaption = 32;
-constexpr int FirstMode = 1;
-constexpr int LastMode = 5;
 
 /// Dynamic property of the actions that are no command: the string id of their help text.
 const char HelpIdProperty[] = "statusHelpId";
@@ -154,7 +152,7 @@ void AppMenus::rebuildMode()
     const frmDoc *document = m_context.documents.active();
     if (!document)
         return;
-    for (int mode = FirstMode; mode <= LastMode; ++mode) {
+    for (int mode = 1; mode <= QuizModeCount; ++mode) {
         QAction *action = m_table.action(modeKey(mode));
         const QString text = quizModeText(mode, document->language(1), document->language(2));
         action->setText(QStringLiteral("&%1 ").arg(mode) + FormTexts::escapeMnemonic(text));

@@ -52,11 +52,10 @@ void AppPrintHost::enterPreview()
 
 void AppPrintHost::leavePreview()
 {
-    constexpr int ready = 506;
     m_views.setCurrentWidget(m_window.documentArea());
     showDocuments();
     m_window.SetCommandState(AppState::StateDocument);
-    m_window.context().status.ShowStatus(ready);
+    m_window.context().status.ShowStatus(modSBFunc::Ready);
 }
 
 // The active document stays the active one: the document area is kept from telling that its windows come and go.

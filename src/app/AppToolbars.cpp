@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr int Ready = 506;
 const char HoverHelpProperty[] = "hoverHelpId";
 const char PictureProperty[] = "pictureNumber";
 
@@ -127,6 +126,6 @@ bool AppToolbars::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::Enter)
         m_status.ShowStatus(watched->property(HoverHelpProperty).toInt());
     else if (event->type() == QEvent::Leave)
-        m_status.ShowStatus(Ready);
+        m_status.ShowStatus(modSBFunc::Ready);
     return QObject::eventFilter(watched, event);
 }

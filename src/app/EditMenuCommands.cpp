@@ -16,7 +16,6 @@ using enum AppState;
 constexpr StateSet Document(StateDocument);
 constexpr StateSet DocumentOrEditing(StateDocument, StateEditing);
 constexpr int DialogOpen = 504;
-constexpr int Ready = 506;
 
 std::function<void()> onActive(const AppContext &context, void (EditCommands::*command)(frmDoc &))
 {
@@ -42,7 +41,8 @@ void openFindReplace(const AppContext &context, frmDoc &document, bool replace)
         if (removed == &document)
             dialog->leaveDocument();
     });
-    QObject::connect(dialog, &QDialog::finished, &context.window, [&context] { context.status.ShowStatus(Ready); });
+    QObject::connect(dialog, &QDialog::finished, &context.window,
+                     [&context] { context.status.ShowStatus(modSBFunc::Ready); });
     dialog->show();
 }
 

@@ -15,14 +15,13 @@ constexpr StateSet NotBusy(StateDocument, StateNoDocument);
 constexpr StateSet DocumentOrEditing(StateDocument, StateEditing);
 constexpr StateSet Always(StateDocument, StateNoDocument, StateEditing, StatePreview);
 constexpr int RecentFiles = 4;
-constexpr int Ready = 506;
 
 void addRecentFile(CommandTable &table, const AppContext &context, int n)
 {
     const QString key = QStringLiteral("mnuFileMRU(%1)").arg(n);
     table.add({key, 400, {}, 13, 0, NotBusy, [&context, n] {
                    context.files.LoadVocabulary(context.recentFiles.File(n));
-                   context.status.ShowStatus(Ready);
+                   context.status.ShowStatus(modSBFunc::Ready);
                }});
 }
 

@@ -16,7 +16,6 @@ using enum AppState;
 
 constexpr StateSet Always(StateDocument, StateNoDocument, StateEditing, StatePreview);
 constexpr int HelpButtonForHelp = 504;
-constexpr int Ready = 506;
 
 void showAbout(const AppContext &context)
 {
@@ -31,7 +30,7 @@ void showAbout(const AppContext &context)
     });
     status.ShowStatus(HelpButtonForHelp);
     about.exec();
-    status.ShowStatus(Ready);
+    status.ShowStatus(modSBFunc::Ready);
 }
 
 } // namespace

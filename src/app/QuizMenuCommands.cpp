@@ -3,6 +3,7 @@
 #include "app/CommandTable.h"
 #include "app/frmApp.h"
 #include "document/DocumentList.h"
+#include "document/rules/QuizModeText.h"
 #include "quiz/GridWords.h"
 #include "quiz/frmOva.h"
 #include "resources/Pictures.h"
@@ -15,13 +16,11 @@ using enum AppState;
 
 constexpr StateSet Document(StateDocument);
 constexpr StateSet DocumentOrEditing(StateDocument, StateEditing);
-constexpr int Ready = 506;
 constexpr int NoQuiz = 12013;
-constexpr int LastMode = 5;
 
 void setQuizMode(const AppContext &context, int mode)
 {
-    context.status.ShowStatus(Ready);
+    context.status.ShowStatus(modSBFunc::Ready);
     context.settings.setQuizMode(mode);
     context.window.setButtonPicture(QStringLiteral("Model"), PictureMode1 + mode - 1);
     if (frmDoc *document = context.documents.active())
@@ -47,7 +46,7 @@ void startQuiz(const AppContext &context, QuizKind kind)
 /// The "Model" button steps through the modes in a ring.
 QString nextModeKey(int mode)
 {
-    return QStringLiteral("mnuMode%1").arg(mode >= LastMode ? 1 : mode + 1);
+    return QStringLiteral("mnuMode%1").arg(mode >= QuizModeCount ? 1 : mode + 1);
 }
 
 /// The command of the quiz kind that the "Quiz" button's picture shows; empty for any other picture.
@@ -69,7 +68,7 @@ QString quizKey(int picture)
 
 void AppCommands::addQuizCommands(CommandTable &table, const AppContext &context)
 {
-    for (int mode = 1; mode <= LastMode; ++mode) {
+    for (int mode = 1; mode <= QuizModeCount; ++mode) {
         table.add({QStringLiteral("mnuMode%1").arg(mode), 439 + mode, "", 40 + mode, PictureMode1 + mode - 1,
                    DocumentOrEditing, [&context, mode] { setQuizMode(context, mode); }});
     }

@@ -14,7 +14,6 @@ namespace {
 
 constexpr StateSet Document(AppState::StateDocument);
 constexpr int DialogOpen = 504;
-constexpr int Ready = 506;
 
 /// A command that shows a modal dialog about the active document.
 std::function<void()> withDialog(const AppContext &context, const std::function<void(frmDoc &)> &show)
@@ -25,7 +24,7 @@ std::function<void()> withDialog(const AppContext &context, const std::function<
             return;
         context.status.ShowStatus(DialogOpen);
         show(*document);
-        context.status.ShowStatus(Ready);
+        context.status.ShowStatus(modSBFunc::Ready);
     };
 }
 

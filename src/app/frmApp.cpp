@@ -36,7 +36,6 @@
 namespace {
 
 constexpr int RecentFileCount = 4;
-constexpr int Ready = 506;
 constexpr int FrameDelay = 50; // milliseconds
 
 int desktopTextWidth(const QString &text)
@@ -269,7 +268,7 @@ void frmApp::onUndoKind()
     m_commands.action(QStringLiteral("mnuEditUndo"))->setText(caption);
     m_commands.setAvailable(QStringLiteral("mnuEditUndo"), undoable() != UndoKind::None);
     m_toolbars->setToolTip(QStringLiteral("Undo"), caption);
-    m_context->status.ShowStatus(Ready);
+    m_context->status.ShowStatus(modSBFunc::Ready);
 }
 
 void frmApp::SetCommandState(AppState state)

@@ -26,8 +26,6 @@ enum HelpTopic {
     NewerTopic = 1440
 };
 
-constexpr int Ready = 506;
-
 /// The hourglass pointer, a text in panel 0 and the progress bar, for as long as a file is read or written.
 class BusyStatus
 {
@@ -42,8 +40,8 @@ public:
     ~BusyStatus()
     {
         m_status.destroyProgress();
-        m_status.SBSetText(0, modSBFunc::SBT_SUNKEN, resText(Ready)); // a search holds back texts by id
-        m_status.ShowStatus(Ready);
+        m_status.SBSetText(0, modSBFunc::SBT_SUNKEN, resText(modSBFunc::Ready)); // a search holds back texts by id
+        m_status.ShowStatus(modSBFunc::Ready);
     }
     BusyStatus(const BusyStatus &) = delete;
     BusyStatus &operator=(const BusyStatus &) = delete;
@@ -231,7 +229,7 @@ void FileCommands::alertFile(const QString &prompt, int helpId)
 void FileCommands::LoadVocabulary(const QString &path)
 {
     load(path);
-    m_needs.status.ShowStatus(Ready);
+    m_needs.status.ShowStatus(modSBFunc::Ready);
 }
 
 void FileCommands::load(const QString &path)

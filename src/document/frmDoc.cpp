@@ -221,7 +221,7 @@ void frmDoc::noteEntry(int row, int col)
 
 void frmDoc::ceasedToEdit()
 {
-    m_shared.status.ShowStatus(506);
+    m_shared.status.ShowStatus(modSBFunc::Ready);
     Q_EMIT editingChanged(false);
 }
 
@@ -289,7 +289,7 @@ void frmDoc::onRowColChange()
 
 void frmDoc::showEditStatus()
 {
-    m_shared.status.ShowStatus(m_grid->EditMode() ? 503 : 506);
+    m_shared.status.ShowStatus(m_grid->EditMode() ? 503 : modSBFunc::Ready);
 }
 
 void frmDoc::onMouseMove()

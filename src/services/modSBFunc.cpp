@@ -27,7 +27,7 @@ void modSBFunc::createPanels(int barWidth)
 {
     m_rightEdges[2] = std::max(m_rightEdges[1], barWidth - SizeGripWidth);
     placePanels();
-    m_panels[0]->setText(resText(506));
+    m_panels[0]->setText(resText(Ready));
 }
 
 void modSBFunc::placePanels()

@@ -16,6 +16,9 @@ class modSBFunc : public QWidget
     Q_OBJECT
 
 public:
+    /// The text that panel 0 shows when there is nothing else to tell, by its string id.
+    static constexpr int Ready = 506;
+
     enum Style { SBT_SUNKEN = 0, SBT_NOBORDERS = 256, SBT_POPOUT = 512 };
 
     /// While one of the flags says that the find/replace dialog is open, status texts by id are held back.

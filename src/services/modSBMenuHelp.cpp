@@ -9,7 +9,6 @@
 namespace {
 
 constexpr int FirstTitleHelp = 100;
-constexpr int Ready = 506;
 
 } // namespace
 
@@ -30,7 +29,7 @@ void modSBMenuHelp::watch(QMenu *menu, HelpText helpText)
         m_status.ShowStatus(0);
         m_status.SBSetText(0, modSBFunc::SBT_SUNKEN, text);
     });
-    connect(menu, &QMenu::aboutToHide, this, [this] { m_status.ShowStatus(Ready); });
+    connect(menu, &QMenu::aboutToHide, this, [this] { m_status.ShowStatus(modSBFunc::Ready); });
 }
 
 void modSBMenuHelp::watch(QMenuBar *menuBar)
@@ -53,6 +52,6 @@ bool modSBMenuHelp::eventFilter(QObject *watched, QEvent *event)
 {
     // The keys leave the menu bar with the focus, the pointer without.
     if (watched == m_menuBar && (event->type() == QEvent::Leave || event->type() == QEvent::FocusOut))
-        m_status.ShowStatus(Ready);
+        m_status.ShowStatus(modSBFunc::Ready);
     return QObject::eventFilter(watched, event);
 }

@@ -19,7 +19,7 @@
 namespace {
 
 constexpr int SmallestSize = 3;
-constexpr int LargestSize = 2048;
+constexpr int LargestSize = clsAppProperties::LargestFontSize;
 constexpr int FirstColorTextId = 8008;
 /// 0x00BBGGRR, in the order of their names' ids.
 constexpr int Colors[] = {0x000000, 0x000080, 0x008000, 0x008080, 0x800000, 0x800080, 0x808000, 0x808080,
