@@ -74,8 +74,8 @@ QAction *HelpViewer::addTool(int textId, int pictureNumber, const QList<QKeySequ
 void HelpViewer::addTools()
 {
     HelpBrowser *browser = m_ui->browser;
-    m_navigationTool =
-        addTool(13016, PictureNavigation, {}, [this] { m_ui->navigation->setVisible(m_navigationTool->isChecked()); });
+    m_navigationTool = addTool(13016, PictureNavigation, {QKeySequence(Qt::Key_F9)},
+                               [this] { m_ui->navigation->setVisible(m_navigationTool->isChecked()); });
     m_navigationTool->setCheckable(true);
     m_ui->toolBar->addSeparator();
     QAction *back = addTool(13009, PicturePrevious, QKeySequence::keyBindings(QKeySequence::Back),
