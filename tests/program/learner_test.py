@@ -191,7 +191,12 @@ class LearnerCase(ProgramCase):
         self.desktop.key("ctrl+Home")
         self.desktop.type("loaf\r")
         self.expect_column(0, ["loaf"])
-        self.desktop.wait(lambda: list(self.home.glob("state/**/*.copy")), "the copy of what was not saved")
+        typed = "loaf".encode("utf-16-be")
+
+        def is_kept():
+            return any(typed in copy.read_bytes() for copy in self.home.glob("state/**/*.copy"))
+
+        self.desktop.wait(is_kept, "the copy of what was not saved")
         self.desktop.kill(program)
 
     def recover(self, file):
