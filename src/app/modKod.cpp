@@ -222,6 +222,7 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     QObject::connect(&window, &frmApp::closed, &application, &QApplication::quit);
     RecoveryKeeper keeper(window.context().documents, window.context().files, program.codePage,
                           UserFolders::state() + QStringLiteral("/recovery"));
+    QObject::connect(&window, &frmApp::busyAhead, &keeper, &RecoveryKeeper::flush);
     askAtEnd(application, window, watcher, keeper);
     showInTurn(splash.get(), window, commandLine.text, [&] { offerRecovery(keeper, program.alert, window); });
     QGuiApplication::restoreOverrideCursor();

@@ -100,6 +100,7 @@ bool PrintCommands::choosePages(clsCommDlg &dialog)
 
 void PrintCommands::printCopies(const PrintSource &document, int copies)
 {
+    m_host.aboutToPrint();
     for (int copy = 0; copy < copies; ++copy)
         m_layout.PrintLayout(modUtskrift::PrintMode, document);
     m_printer.endDoc();

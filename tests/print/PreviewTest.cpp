@@ -16,6 +16,7 @@ struct MainWindow : PrintHost
     QWidget area{&frame};
     QStringList status;
     bool inPreview = false;
+    int printRuns = 0;
 
     MainWindow()
     {
@@ -25,6 +26,7 @@ struct MainWindow : PrintHost
     QWidget *window() override { return &frame; }
     QWidget *clientArea() override { return &area; }
     int toolbarHeight() const override { return ToolbarHeight; }
+    void aboutToPrint() override { ++printRuns; }
     void showStatus(const QString &text) override { status.append(text); }
     void enterPreview() override { inPreview = true; }
     void leavePreview() override { inPreview = false; }
@@ -206,6 +208,7 @@ TEST_F(Preview, PrintsPagesAndCopiesAsChosenInOneJob)
         EXPECT_EQ(printer.pageNumbers(), sheets);
         EXPECT_EQ(printer.jobs, 1);
     }
+    EXPECT_EQ(host.printRuns, int(std::size(cases)));
     EXPECT_EQ(host.status.first(), "Printing page 1");
     EXPECT_EQ(host.status.last(), "Ready");
     EXPECT_EQ(dialogs.print.maxPage, 2);
