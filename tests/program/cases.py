@@ -19,6 +19,15 @@ from desktop import Desktop
 SAMPLES = pathlib.Path(__file__).resolve().parents[2] / "samples"
 
 
+def vocabulary(pairs, version="3.1.0"):
+    """The bytes of a vocabulary file."""
+    lines = ["Glosaria", version, "", "[Font Info]", '"Arial"', "10", "#FALSE#", "#FALSE#", "0", "", "[Grid Info]",
+             "340", "4000", "4000", str(len(pairs)), "", "[Vocabulary]"]
+    for first, second in [("English", "German"), *pairs]:
+        lines += [first + "   [0000000285]", second]
+    return ("\r\n".join(lines) + "\r\n").encode("cp1252")
+
+
 class ProgramCase(unittest.TestCase):
     """Each case finds a first run: an empty home."""
 
@@ -43,6 +52,14 @@ class ProgramCase(unittest.TestCase):
         if subprocess.run(["unshare", "-m", "true"], capture_output=True, check=False).returncode != 0:
             self.skipTest("nothing may be mounted here")
         return ["unshare", "-m", "sh", "-c", command + ' && exec "$@"', place]
+
+    def save_as(self, file):
+        self.open_dialog("Save Glosaria Document", "alt+f", "a")
+        self.desktop.type(f"{file}\r")
+
+    def close_document(self, *keys):
+        self.desktop.key(*keys or ("alt+f", "c"))
+        self.desktop.wait(lambda: not self.desktop.find("table"), "the document to close")
 
     # Words
 
@@ -81,12 +98,6 @@ class ProgramCase(unittest.TestCase):
     def expect_active(self, role=None, name=None):
         self.desktop.wait(
             lambda: self.desktop.is_active(self.desktop.find(role, name)), f"{name or role} to take the keys"
-        )
-
-    def choose(self, key, name):
-        self.desktop.key(key)
-        self.desktop.wait(
-            lambda: self.desktop.is_checked(self.desktop.find("radio button", name)), f"{name} to be chosen"
         )
 
 

@@ -20,15 +20,16 @@ class LearnerCase(ProgramCase):
     def test_a_list_is_made_drilled_printed_lost_and_recovered(self):
         program = self.desktop.start("--no-splash")
         self.make_list()
-        file = self.save_as("holiday.gla")
+        file = self.home / "holiday.gla"
+        self.save_as(file)
+        self.desktop.wait_for("frame", file.stem)
         self.check_file(file, sorted(WORDS))
         self.answer_by_typing()
         self.answer_by_choosing()
         self.practise()
         self.print_list()
         self.preview()
-        self.desktop.key("alt+f", "c")
-        self.desktop.wait(lambda: not self.desktop.find("table"), "the list to close")
+        self.close_document()
 
         self.desktop.key("alt+f", "1")
         self.expect_column(1, [second for _, second in sorted(WORDS)])
@@ -56,13 +57,6 @@ class LearnerCase(ProgramCase):
         self.close_dialog("Sort", "Return")
         self.expect_column(0, sorted(ANSWERS) + [""])
         self.expect_column(1, [ANSWERS[first] for first in sorted(ANSWERS)] + [""])
-
-    def save_as(self, name):
-        file = self.home / name
-        self.open_dialog("Save Glosaria Document", "alt+f", "a")
-        self.desktop.type(f"{file}\r")
-        self.desktop.wait_for("frame", file.stem)
-        return file
 
     def check_file(self, file, words):
         lines = file.read_bytes().decode("cp1252").split("\r\n")
@@ -209,8 +203,7 @@ class LearnerCase(ProgramCase):
         self.desktop.key("alt+f", "s")
         self.desktop.wait(lambda: b"loaf" in file.read_bytes(), "the saved word")
         self.check_file(file, edited)
-        self.desktop.key("alt+f", "c")
-        self.desktop.wait(lambda: not self.desktop.find("table"), "the list to close")
+        self.close_document()
         self.assertEqual(self.desktop.quit(program), 0)
         # Nothing is left to recover: no dialog keeps the keys from the menu.
         self.desktop.start("--no-splash")

@@ -26,60 +26,6 @@ class DocumentCase(ProgramCase):
         self.assertEqual(self.desktop.cell(0, 1), "der Mensch")
 
 
-class EditingCase(ProgramCase):
-    """A vocabulary that is made of copied words."""
-
-    def test_copied_words_are_sorted_replaced_undone_and_saved(self):
-        program = self.open(self.sample("german-basics.gla"))
-        self.desktop.key("shift+Down", "shift+Down", "shift+Down", "shift+Right", "ctrl+c", "ctrl+w")
-        self.desktop.wait(lambda: not self.desktop.find("table"), "the sample to close")
-        self.desktop.key("ctrl+n")
-        self.desktop.wait_for("table")
-        self.desktop.key("ctrl+v")
-        self.expect_column(0, ["the person", "the man", "the woman", "the child", ""])
-
-        self.open_dialog("Sort", "alt+v", "s")
-        self.choose("alt+2", "2 Language 2")
-        self.choose("alt+d", "Descending")
-        self.close_dialog("Sort", "Return")
-        sorted_words = ["the woman", "the person", "the man", "the child", ""]
-        self.expect_column(0, sorted_words)
-        self.expect_column(1, ["die Frau", "der Mensch", "der Mann", "das Kind", ""])
-
-        self.open_dialog("Replace", "ctrl+h")
-        self.desktop.type("the ")
-        self.desktop.key("alt+e")
-        self.desktop.type("a ")
-        self.choose("alt+1", "1 Language 1")
-        self.open_dialog("Glosaria Alert", "alt+a")
-        self.close_dialog("Glosaria Alert", "Return", "dialog", "Replace")
-        self.close_dialog("Replace", "Escape")
-        self.expect_column(0, ["a woman", "a person", "a man", "a child", ""])
-        self.desktop.key("ctrl+z")
-        self.expect_column(0, sorted_words)
-
-        self.open_dialog("Font", "alt+v", "f")
-        self.desktop.key("alt+s")
-        self.desktop.type("14")
-        self.close_dialog("Font", "Return")
-        self.open_dialog("Set Row Height", "alt+v", "r")
-        self.desktop.type("40")
-        self.close_dialog("Set Row Height", "Return")
-
-        file = self.home / "copied.gla"
-        self.open_dialog("Save Glosaria Document", "ctrl+s")
-        self.desktop.type(str(file))
-        self.desktop.key("Return")
-        self.desktop.wait(file.exists, "the saved file")
-        self.assertEqual(self.desktop.quit(program), 0)
-        lines = file.read_bytes().split(b"\r\n")
-        self.assertEqual(lines[5], b"14")
-        self.assertEqual(lines[19:21], [b"the woman   [0000000600]", b"die Frau"])
-        self.assertEqual(lines[21:23], [b"the person   [0000000360]", b"der Mensch"])
-        self.open(file)
-        self.expect_column(0, sorted_words)
-
-
 class EndCase(ProgramCase):
     """The program is told to end from outside, by the signal that a system sends when it shuts down."""
 
@@ -127,8 +73,7 @@ class HelpCase(ProgramCase):
         self.desktop.key("Escape")
         self.expect_help_closed("Welcome to Glosaria")
         self.desktop.wait_for(name="Glosaria Alert")
-        self.desktop.key("n")
-        self.desktop.wait(lambda: not self.desktop.find("table"), "the document to close")
+        self.close_document("n")
         self.assertEqual(self.desktop.quit(program), 0)
 
     def test_f1_explains_a_dialog_and_the_search_finds_other_topics(self):
@@ -169,8 +114,7 @@ class ScreenReaderCase(ProgramCase):
         self.assertIn("[german-basics] has changed.", self.desktop.wait_for("label", within=box).name)
         buttons = {button.name for button in self.desktop.find_all("push button", within=box)}
         self.assertEqual(buttons, {"Yes", "No", "Cancel", "Help"})
-        self.desktop.key("alt+n")
-        self.desktop.wait(lambda: not self.desktop.find("table"), "the document to close")
+        self.close_document("alt+n")
         self.assertEqual(self.desktop.quit(program), 0)
 
 

@@ -9,20 +9,13 @@ import random
 import sys
 import time
 
-from cases import ProgramCase, run
+from cases import ProgramCase, run, vocabulary
 from random_user import RandomUser, as_stored, read_vocabulary
 
 PROMISE = 5  # seconds within which a change is safe
 WORDS = [(f"word {number}", f"Wort {number}") for number in range(1, 21)]
 LONG = 30000  # pairs, to be killed amid writing
 IN_PLACE = 'mount --bind "$0" "$0"'  # the file cannot be exchanged for another, and is overwritten
-
-
-def vocabulary(words):
-    rows = [("English", "German"), *words]
-    head = "Glosaria\r\n3.1.0\r\n\r\n[Font Info]\r\n\"Arial\"\r\n10\r\n#FALSE#\r\n#FALSE#\r\n0\r\n\r\n[Grid Info]\r\n"
-    pairs = "".join(f"{first}   [0000000285]\r\n{second}\r\n" for first, second in rows)
-    return (head + f"340\r\n4000\r\n4000\r\n{len(words)}\r\n\r\n[Vocabulary]\r\n" + pairs).encode()
 
 
 class RecoveryCase(ProgramCase):
@@ -116,8 +109,7 @@ class RecoveryCase(ProgramCase):
         self.desktop.wait_for("frame", name)
         self.expect_active("frame")
         saved = self.home / "recovered.gla"
-        self.open_dialog("Save Glosaria Document", "alt+f", "a")
-        self.desktop.type(f"{saved}\r")
+        self.save_as(saved)
         self.desktop.wait(saved.exists, "the saved file")
         self.desktop.kill(program)
         return as_stored(read_vocabulary(saved.read_bytes())), True

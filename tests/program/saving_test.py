@@ -56,8 +56,7 @@ class SavingCase(ProgramCase):
         self.assertEqual(self.file.read_bytes(), self.before)
         # Elsewhere it can be saved.
         elsewhere = self.home / "elsewhere.gla"
-        self.open_dialog("Save Glosaria Document", "alt+f", "a")
-        self.desktop.type(f"{elsewhere}\r")
+        self.save_as(elsewhere)
         self.desktop.wait(elsewhere.exists, "the saved file")
         self.assertEqual(read_vocabulary(elsewhere.read_bytes())[0], ("edited", self.first[1]))
 
@@ -66,9 +65,7 @@ class SavingCase(ProgramCase):
         full.mkdir()
         program = self.edit(through=self.mounting(FULL, full))
         seen = f"/proc/{program.pid}/root{full}"
-        self.desktop.key("alt+f", "a")
-        self.expect_active(name="Save Glosaria Document")
-        self.desktop.type(f"{full}/new.gla\r")
+        self.save_as(full / "new.gla")
         self.expect_failure()
         self.assertEqual(os.listdir(seen), ["rest"])
         self.save()

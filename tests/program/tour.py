@@ -7,7 +7,7 @@ is the active one of the desktop. Names begin with "main" where the whole main w
 import pathlib
 import shutil
 
-from cases import SAMPLES
+from cases import SAMPLES, vocabulary
 
 MENUS = {"f": "File", "e": "Edit", "v": "Vocabulary", "m": "Mode", "q": "Quiz", "w": "Window", "h": "Help"}
 LONG_PAIRS = (
@@ -15,15 +15,6 @@ LONG_PAIRS = (
     ("the captain of a Danube steamboat company", "der Donaudampfschifffahrtsgesellschaftskapitän"),
     ("a bird in the hand is worth two in the bush", "besser den Spatz in der Hand als die Taube auf dem Dach"),
 )
-
-
-def vocabulary(pairs, version="3.1.0"):
-    """The bytes of a vocabulary file."""
-    lines = ["Glosaria", version, "", "[Font Info]", '"Arial"', "10", "#FALSE#", "#FALSE#", "0", "", "[Grid Info]",
-             "340", "4000", "4000", str(len(pairs)), "", "[Vocabulary]", "English   [0000000285]", "German"]
-    for first, second in pairs:
-        lines += [first + "   [0000000285]", second]
-    return ("\r\n".join(lines) + "\r\n").encode("cp1252")
 
 
 class Tour:

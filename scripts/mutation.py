@@ -1,0 +1,302 @@
+#!/usr/bin/python3
+"""Tells how many small faults the unit-level tests notice.
+
+Places of src/, equally many of each folder, get a fault that the environment variable MUTANT switches on, so that one
+build holds them all. It is a build of a copy of the source tree. The tests nearest to a fault run first, until one
+fails, crashes or takes too long. Needs the build of the preset "dev" and python3-clang-14."""
+
+import argparse
+import collections
+import concurrent.futures
+import json
+import os
+import pathlib
+import random
+import re
+import subprocess
+import sys
+import time
+
+from clang import cindex
+from clang.cindex import CursorKind as Kind
+from clang.cindex import TypeKind
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+SWITCH = """#pragma once
+#include <atomic>
+#include <cstdlib>
+#include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
+inline bool mutantOn(int number)
+{
+    static const char *wanted = std::getenv("MUTANT");
+    static const char *report = std::getenv("MUTANTS_REACHED");
+    static const int on = wanted ? std::atoi(wanted) : -1;
+    static std::atomic<char> reached[100000];
+    if (report && !reached[number].exchange(1)) {
+        char line[12];
+        const int file = ::open(report, O_WRONLY | O_APPEND | O_CREAT, 0666);
+        if (file >= 0 && ::write(file, line, size_t(std::snprintf(line, sizeof line, "%d\\n", number))) > 0)
+            ::close(file);
+    }
+    return number == on;
+}
+"""
+SWAPS = {"<": "<=", "<=": "<", ">": ">=", ">=": ">", "==": "!=", "!=": "==", "&&": "||", "||": "&&",
+         "+": "-", "-": "+", "*": "/", "/": "*", "%": "*"}
+ARITHMETIC = set("+-*/%")
+NUMBERS = set(range(TypeKind.BOOL.value, TypeKind.LONGDOUBLE.value + 1))
+FUNCTIONS = {Kind.FUNCTION_DECL, Kind.CXX_METHOD, Kind.CONSTRUCTOR, Kind.DESTRUCTOR, Kind.LAMBDA_EXPR}
+SKIPPED = {Kind.CALL_EXPR, Kind.BINARY_OPERATOR, Kind.COMPOUND_ASSIGNMENT_OPERATOR, Kind.UNARY_OPERATOR}
+ERROR = re.compile(r"/(src/[^:\s]+):(\d+):\d+: error")
+
+Mutant = collections.namedtuple("Mutant", "file line start end text what source")
+
+
+def run(*command, **options):
+    return subprocess.run(command, capture_output=True, text=True, errors="replace", **options)
+
+
+class Places:
+    """The places of one file where a fault can be put."""
+
+    def __init__(self, path, arguments):
+        self.bytes = path.read_bytes()
+        self.relative = str(path.relative_to(ROOT))
+        self.found = []
+        unit = cindex.Index.create().parse(str(path), args=arguments)
+        for child in unit.cursor.get_children():
+            if child.location.file and child.location.file.name == str(path):
+                self.visit(child, None, None)
+
+    def text(self, cursor):
+        return self.bytes[cursor.extent.start.offset : cursor.extent.end.offset].decode()
+
+    def add(self, cursor, what, fault, original=None):
+        text = self.text(cursor)
+        if text.strip():
+            replacement = "(mutantOn(@) ? %s : %s)" % (fault, original or "(%s)" % text)
+            start, end = cursor.extent.start, cursor.extent.end
+            source = self.bytes.split(b"\n")[start.line - 1].decode().strip()
+            self.found.append(Mutant(self.relative, start.line, start.offset, end.offset, replacement, what, source))
+
+    def visit(self, cursor, parent, function):
+        kind = cursor.kind
+        if kind in FUNCTIONS:
+            if kind != Kind.LAMBDA_EXPR and "constexpr" in self.text(cursor).split("{")[0]:
+                return
+            function = cursor
+        elif kind == Kind.VAR_DECL and "constexpr" in self.text(cursor):
+            return
+        children = list(cursor.get_children())
+        if function:
+            self.look(cursor, parent, children, function)
+        if kind == Kind.CASE_STMT:
+            children = children[1:]  # a label is a constant
+        for child in children:
+            self.visit(child, cursor, function)
+
+    def look(self, cursor, parent, children, function):
+        kind = cursor.kind
+        if kind in (Kind.BINARY_OPERATOR, Kind.CALL_EXPR) and len(children) >= 2:
+            self.operator(cursor, children[0], children[-1])
+        if kind == Kind.UNARY_OPERATOR and self.text(cursor).startswith("!"):
+            self.add(cursor, "! left out", "bool(%s)" % self.text(children[0]))
+        if kind in (Kind.IF_STMT, Kind.CONDITIONAL_OPERATOR) and children and children[0].kind.is_expression():
+            condition = self.text(children[0])
+            for value in ("true", "false"):
+                self.add(children[0], "condition " + value, value, "bool(%s)" % condition)
+        if kind == Kind.RETURN_STMT and children:
+            self.returned(children[0], function)
+        if kind == Kind.INTEGER_LITERAL and self.text(cursor).isdigit():
+            self.add(cursor, "number + 1", str(int(self.text(cursor)) + 1))
+        if kind == Kind.CXX_BOOL_LITERAL_EXPR:
+            self.add(cursor, "bool turned", "!" + self.text(cursor))
+        if kind in SKIPPED and self.is_statement(cursor, parent):
+            self.add(cursor, "left out", "void()", "void(%s)" % self.text(cursor))
+
+    def operator(self, cursor, left, right):
+        between = self.bytes[left.extent.end.offset : right.extent.start.offset].decode().strip()
+        whole = (left.extent.start.offset, right.extent.end.offset)
+        if between not in SWAPS or whole != (cursor.extent.start.offset, cursor.extent.end.offset):
+            return
+        if between in ARITHMETIC and cursor.type.get_canonical().kind.value not in NUMBERS:
+            return
+        other = SWAPS[between]
+        self.add(cursor, between + " to " + other, "(%s %s %s)" % (self.text(left), other, self.text(right)))
+
+    def returned(self, value, function):
+        kind = value.type.get_canonical().kind
+        text = self.text(value)
+        if function.result_type.kind in (TypeKind.LVALUEREFERENCE, TypeKind.RVALUEREFERENCE) or text in ("true", "false"):
+            return
+        if kind == TypeKind.BOOL:
+            self.add(value, "result turned", "!bool(%s)" % text)
+        elif kind.value in NUMBERS and not text.isdigit():
+            self.add(value, "result + 1", "((%s) + 1)" % text)
+        elif kind == TypeKind.POINTER and text != "nullptr":
+            self.add(value, "result nullptr", "nullptr")
+        elif value.type.spelling in ("QString", "const QString"):
+            self.add(value, "result empty", "QString()", "QString(%s)" % text)
+
+    def is_statement(self, cursor, parent):
+        if not parent or not self.bytes[cursor.extent.end.offset :].lstrip().startswith(b";"):
+            return False
+        if parent.kind == Kind.COMPOUND_STMT:
+            return True
+        return parent.kind in (Kind.IF_STMT, Kind.CXX_FOR_RANGE_STMT, Kind.WHILE_STMT) and cursor != next(
+            parent.get_children())
+
+
+def candidates():
+    """The places by folder."""
+    folders, jobs = collections.defaultdict(list), []
+    with concurrent.futures.ProcessPoolExecutor(2) as pool:
+        for entry in json.loads((ROOT / "build" / "dev" / "compile_commands.json").read_text()):
+            path = pathlib.Path(entry["file"])
+            if path.is_relative_to(ROOT / "src") and path.name != "main.cpp":
+                jobs.append((path, pool.submit(places, path, entry["command"].split())))
+        for path, job in sorted(jobs, key=lambda pair: pair[0]):
+            folders[str(path.parent.relative_to(ROOT / "src"))] += job.result()
+    return folders
+
+
+def places(path, words):
+    own = [word.replace('\\"', '"') for word in words if word[:2] in ("-I", "-D")]
+    system = [word for at, name in enumerate(words) if name == "-isystem" for word in words[at : at + 2]]
+    windows = ["-include", str(ROOT / "cmake" / "pch_windows.h")]
+    return Places(path, ["-std=c++20", "-fPIC", "-w", *own, *system, *windows]).found
+
+
+def choose(found, count, chance, wanted):
+    """COUNT places that do not overlap, or those that are wanted again."""
+    chosen = []
+    for mutant in chance.sample(found, len(found)):
+        if len(chosen) == count:
+            break
+        known = wanted is None or (mutant.file, mutant.what, mutant.source) in wanted
+        if known and all(m.file != mutant.file or m.end <= mutant.start or mutant.end <= m.start for m in chosen):
+            chosen.append(mutant)
+    return chosen
+
+
+def write_tree(tree, mutants):
+    """A copy of the repository with the faults; what is as before is left alone for the build's sake."""
+    names = {name for name in run("git", "ls-files", cwd=ROOT).stdout.split("\n") if (ROOT / name).is_file()}
+    content = {name: (ROOT / name).read_bytes() for name in names}
+    content["cmake/mutants.h"] = SWITCH.encode()
+    for header in ("cmake/pch_rules.h", "cmake/pch_windows.h"):
+        content[header] += b'#include "mutants.h"\n'
+    for number, mutant in sorted(mutants.items(), key=lambda pair: -pair[1].start):
+        code, text = content[mutant.file], mutant.text.replace("@", str(number), 1).encode()
+        content[mutant.file] = code[: mutant.start] + text + code[mutant.end :]
+    for name, code in content.items():
+        target = tree / name
+        target.parent.mkdir(parents=True, exist_ok=True)
+        if not (target.is_file() and target.read_bytes() == code):
+            target.write_bytes(code)
+            target.chmod((ROOT / name).stat().st_mode if name in names else 0o644)
+    for path in [*(tree / "src").rglob("*"), *(tree / "tests").rglob("*")]:
+        if path.is_file() and str(path.relative_to(tree)) not in names:
+            path.unlink()
+
+
+def build_all(tree, build, through, mutants):
+    """Builds the faults; those that the compiler refuses are left out."""
+    while True:
+        write_tree(tree, mutants)
+        run("cmake", "-S", tree, "-B", build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0",
+            check=True)
+        built = run(*through, "cmake", "--build", str(build), "--", "-j2", "-k", "0")
+        if built.returncode == 0:
+            return
+        errors = {(name, int(line)) for name, line in ERROR.findall(built.stdout)}
+        files = {name for name, _ in errors}
+        refused = [number for number, m in mutants.items() if (m.file, m.line) in errors] or [
+            number for number, m in mutants.items() if m.file in files]
+        print(f"The compiler refuses {len(refused)} faults", flush=True)
+        if not refused:
+            sys.exit(built.stdout[-5000:])
+        for number in refused:
+            del mutants[number]
+
+
+class Tests:
+    """The unit-level test programs, and which places each of them comes to."""
+
+    def __init__(self, build, through):
+        self.build, self.through, self.seconds, self.reached = build, through, {}, {}
+        for path in sorted((build / "tests").glob("*_test")):
+            report = build / "reached.txt"
+            report.unlink(missing_ok=True)
+            began = time.monotonic()
+            if self.run(path.name, {"MUTANTS_REACHED": str(report)}, 600):
+                sys.exit(f"{path.name} fails without a fault")
+            self.seconds[path.name] = time.monotonic() - began
+            self.reached[path.name] = set(map(int, report.read_text().split())) if report.exists() else set()
+
+    def run(self, name, variables, limit):
+        command = ["timeout", "--kill-after=5", str(limit), str(self.build / "tests" / name), "--gtest_fail_fast"]
+        environment = dict(os.environ, **variables)
+        return run(*self.through, *command, env=environment, cwd=self.build).returncode
+
+    def nearest_first(self, mutant):
+        own = mutant.file.split("/")[1:-1]
+        names = ["_".join(own) + "_test", own[0] + "_test"]
+        return sorted(self.seconds, key=lambda name: (names.index(name) if name in names else 2, self.seconds[name]))
+
+    def noticed_by(self, number, mutant):
+        for name in self.nearest_first(mutant):
+            if number in self.reached[name]:
+                if self.run(name, {"MUTANT": str(number)}, int(20 + 5 * self.seconds[name])):
+                    return name
+        return "" if any(number in numbers for numbers in self.reached.values()) else None
+
+
+def tell(mutants, results):
+    table = collections.defaultdict(lambda: [0, 0])
+    for number, mutant in sorted(mutants.items(), key=lambda pair: (pair[1].file, pair[1].line)):
+        folder = mutant.file[4:].rpartition("/")[0]
+        table[folder][0] += 1
+        table[folder][1] += bool(results[number])
+        if not results[number]:
+            print(f"{mutant.file}:{mutant.line}: {mutant.what}{'' if results[number] is not None else ' (never reached)'}"
+                  f"    {mutant.source}")
+    for folder, (count, noticed) in sorted(table.items()):
+        print(f"{folder:16} {noticed:4} of {count:4}  {100 * noticed / count:5.1f} %")
+    count, noticed = map(sum, zip(*table.values()))
+    print(f"{'all':16} {noticed:4} of {count:4}  {100 * noticed / count:5.1f} %")
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--count", type=int, default=22, help="faults in each folder")
+    parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--folder", help="this one only")
+    parser.add_argument("--jobs", type=int, default=2, help="test programs at a time")
+    parser.add_argument("--survivors", action="store_true", help="only what the last run's tests did not notice")
+    parser.add_argument("--through", default="", help="a command that runs builds and tests, such as nice")
+    parser.add_argument("--place", type=pathlib.Path, default=ROOT / "build" / "mutation")
+    options = parser.parse_args()
+    tree, build, last = options.place / "tree", options.place / "build", options.place / "survivors.json"
+    through = options.through.split()
+
+    wanted = {tuple(key) for key in json.loads(last.read_text())} if options.survivors else None
+    chance, chosen = random.Random(options.seed), []
+    for folder, found in sorted(candidates().items()):
+        if options.folder in (None, folder):
+            chosen += choose(found, options.count if wanted is None else len(found), chance, wanted)
+    mutants = dict(enumerate(chosen, 1))
+    build_all(tree, build, through, mutants)
+
+    tests = Tests(build, through)
+    with concurrent.futures.ThreadPoolExecutor(options.jobs) as pool:
+        results = dict(zip(mutants, pool.map(tests.noticed_by, mutants, mutants.values())))
+    tell(mutants, results)
+    survivors = [(m.file, m.what, m.source) for number, m in mutants.items() if not results[number]]
+    last.write_text(json.dumps(survivors))
+
+
+if __name__ == "__main__":
+    main()
