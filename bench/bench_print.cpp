@@ -2,9 +2,10 @@
 
 #include "support/SampleVocabulary.h"
 
+#include "platform/CupsServer.h"
 #include "print/PaintedSurface.h"
 #include "print/QtPrinter.h"
-#include "print/rules/modUtskrift.h"
+#include "print/rules/PrintRun.h"
 
 #include <QFile>
 #include <QImage>
@@ -13,27 +14,15 @@
 
 namespace {
 
-class VocabularySource : public PrintSource
+std::shared_ptr<const PrintSource> sourceOf(qsizetype pairs)
 {
-public:
-    explicit VocabularySource(qsizetype pairs)
-        : m_vocabulary(SampleVocabulary::make(pairs))
-    {
-    }
-    QString Caption() const override { return QStringLiteral("Words"); }
-    int Rows() const override { return int(m_vocabulary.rows()); }
-    QString TextMatrix(int row, int col) const override
-    {
-        if (col == 0)
-            return QString::number(row);
-        return (col == 1 ? m_vocabulary.first : m_vocabulary.second)[size_t(row)];
-    }
-    PrintFont Font() const override { return {QStringLiteral("Arial"), 10, false, false}; }
-    int ForeColor() const override { return 0; }
-
-private:
-    Vocabulary m_vocabulary;
-};
+    Vocabulary words = SampleVocabulary::make(pairs);
+    return std::make_shared<const PrintSource>(PrintSource{QStringLiteral("Words"),
+                                                           {QStringLiteral("Arial"), 10, false, false},
+                                                           0,
+                                                           std::move(words.first),
+                                                           std::move(words.second)});
+}
 
 /// A value of the process's memory in MB: VmRSS, or VmHWM for the most since forgetPeak.
 double megabytes(const QByteArray &name)
@@ -72,23 +61,24 @@ private:
 
 void countPages(benchmark::State &state)
 {
-    const VocabularySource source(state.range(0));
-    QtPrinter printer;
+    const std::shared_ptr<const PrintSource> source = sourceOf(state.range(0));
+    CupsServer server;
+    QtPrinter printer(server);
     const PeakMemory memory;
-    modUtskrift layout(printer);
+    int pages = 0;
     for (auto _ : state)
-        layout.PrintLayout(modUtskrift::PreviewMode, source);
+        pages = PrintLayout(source, printer).pageCount();
     memory.report(state);
-    state.counters["pages"] = layout.pageCount();
+    state.counters["pages"] = pages;
 }
 
 void drawPreviewPage(benchmark::State &state)
 {
-    const VocabularySource source(state.range(0));
-    QtPrinter printer;
+    const std::shared_ptr<const PrintSource> source = sourceOf(state.range(0));
+    CupsServer server;
+    QtPrinter printer(server);
     const PeakMemory memory;
-    modUtskrift layout(printer);
-    layout.PrintLayout(modUtskrift::PreviewMode, source);
+    const PrintLayout layout(source, printer);
     QImage image(800, 1130, QImage::Format_RGB32);
     for (auto _ : state) {
         QPainter painter(&image);
@@ -102,17 +92,20 @@ void drawPreviewPage(benchmark::State &state)
 void printToPdf(benchmark::State &state)
 {
     const QTemporaryDir folder;
-    const VocabularySource source(state.range(0));
-    QtPrinter printer;
+    const std::shared_ptr<const PrintSource> source = sourceOf(state.range(0));
+    CupsServer server;
+    QtPrinter printer(server);
     printer.printer().setOutputFileName(folder.filePath(QStringLiteral("words.pdf")));
     const PeakMemory memory;
-    modUtskrift layout(printer);
+    int pages = 0;
     for (auto _ : state) {
-        layout.PrintLayout(modUtskrift::PrintMode, source);
-        printer.endDoc();
+        PrintRun run(source, printer, {});
+        for (; !run.finished(); ++pages)
+            run.printSheet();
+        run.end();
     }
     memory.report(state);
-    state.counters["pages"] = layout.pageCount();
+    state.counters["pages"] = benchmark::Counter(pages, benchmark::Counter::kAvgIterations);
 }
 
 } // namespace

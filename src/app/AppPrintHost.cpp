@@ -50,11 +50,6 @@ void AppPrintHost::enterPreview()
     m_views.setCurrentWidget(m_area);
 }
 
-void AppPrintHost::aboutToPrint()
-{
-    Q_EMIT m_window.busyAhead();
-}
-
 void AppPrintHost::leavePreview()
 {
     m_views.setCurrentWidget(m_window.documentArea());

@@ -16,7 +16,6 @@ public:
     QWidget *clientArea() override { return m_area; }
     int toolbarHeight() const override;
     void showStatus(const QString &text) override;
-    void aboutToPrint() override;
     void enterPreview() override;
     void leavePreview() override;
 

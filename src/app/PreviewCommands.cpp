@@ -15,10 +15,10 @@ constexpr StateSet Preview(AppState::StatePreview);
 constexpr StateSet DocumentOrPreview(AppState::StateDocument, AppState::StatePreview);
 constexpr StateSet AnyWindow(AppState::StateDocument, AppState::StateEditing, AppState::StatePreview);
 
-GridSource activeDocument(const AppContext &context)
+PrintSource activeDocument(const AppContext &context)
 {
     const frmDoc *document = context.documents.active();
-    return {*document->Rutor(), document->Caption()};
+    return GridSource::read(*document->Rutor(), document->Caption());
 }
 
 /// The search goes with the documents, which the preview hides: a match could not be seen.
@@ -26,7 +26,7 @@ void openPreview(const AppContext &context)
 {
     if (auto *search = context.window.findChild<frmFindReplace *>())
         search->close();
-    context.print.ShowPrintPreview(std::make_unique<GridSource>(activeDocument(context)));
+    context.print.ShowPrintPreview(activeDocument(context));
 }
 
 void togglePreview(const AppContext &context)

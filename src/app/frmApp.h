@@ -93,8 +93,6 @@ public:
 Q_SIGNALS:
     /// The window has closed and its settings are stored: the program can end.
     void closed();
-    /// Long work begins, during which no timer runs: what must not wait for its end is to be done now.
-    void busyAhead();
 
 protected:
     void showEvent(QShowEvent *event) override;

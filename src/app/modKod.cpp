@@ -6,6 +6,7 @@
 #include "document/RecoveryKeeper.h"
 #include "document/rules/CodePage.h"
 #include "platform/CommonControls.h"
+#include "platform/CupsServer.h"
 #include "platform/DetachedProcess.h"
 #include "platform/FileAssociation.h"
 #include "platform/InstancePlace.h"
@@ -53,7 +54,8 @@ struct Program
     UndoRecord undo;
     modMsgBox alert{[this](int topic) { help.HtmlHelp(HelpTarget::ofAlertBoxes(), HH_HELP_CONTEXT, topic); }};
     HelpViewers help{alert, UserFolders::state() + QStringLiteral("/help-favorites")};
-    QtPrinter printer;
+    CupsServer printServer;
+    QtPrinter printer{printServer};
     QtDialogs dialogs{printer, [this](const QString &file, int command, int key) {
                           HelpTarget target = HelpTarget::ofProgram();
                           target.HTMLHelpFile = file;
@@ -222,7 +224,6 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     QObject::connect(&window, &frmApp::closed, &application, &QApplication::quit);
     RecoveryKeeper keeper(window.context().documents, window.context().files, program.codePage,
                           UserFolders::state() + QStringLiteral("/recovery"));
-    QObject::connect(&window, &frmApp::busyAhead, &keeper, &RecoveryKeeper::flush);
     askAtEnd(application, window, watcher, keeper);
     showInTurn(splash.get(), window, commandLine.text, [&] { offerRecovery(keeper, program.alert, window); });
     QGuiApplication::restoreOverrideCursor();

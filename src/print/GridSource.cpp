@@ -1,32 +1,22 @@
 #include "print/GridSource.h"
 
 #include "document/ctlGrid.h"
+#include "print/rules/PrintSource.h"
 
 #include <QFontInfo>
 
-GridSource::GridSource(const ctlGrid &grid, const QString &caption)
-    : m_grid(grid)
-    , m_caption(caption)
+PrintSource GridSource::read(const ctlGrid &grid, const QString &caption)
 {
-}
-
-int GridSource::Rows() const
-{
-    return m_grid.Rows();
-}
-
-QString GridSource::TextMatrix(int row, int col) const
-{
-    return m_grid.TextMatrix(row, col);
-}
-
-PrintFont GridSource::Font() const
-{
-    const QFont font = m_grid.Font();
-    return {font.family(), qRound(QFontInfo(font).pointSizeF()), font.bold(), font.italic()};
-}
-
-int GridSource::ForeColor() const
-{
-    return m_grid.ForeColor();
+    const QFont font = grid.Font();
+    PrintSource source;
+    source.Caption = caption;
+    source.Font = {font.family(), qRound(QFontInfo(font).pointSizeF()), font.bold(), font.italic()};
+    source.ForeColor = grid.ForeColor();
+    source.first.reserve(size_t(grid.Rows()));
+    source.second.reserve(size_t(grid.Rows()));
+    for (int row = 0; row < grid.Rows(); ++row) {
+        source.first.push_back(grid.word(row, 1));
+        source.second.push_back(grid.word(row, 2));
+    }
+    return source;
 }

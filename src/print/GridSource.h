@@ -1,22 +1,12 @@
 #pragma once
 
-#include "print/rules/PrintSource.h"
-
+struct PrintSource;
 class ctlGrid;
+class QString;
 
-/// The vocabulary in a document's grid, for printing. The grid must outlive it.
-class GridSource : public PrintSource
-{
-public:
-    GridSource(const ctlGrid &grid, const QString &caption);
+/// Takes what is to be printed from a document's grid.
+namespace GridSource {
 
-    QString Caption() const override { return m_caption; }
-    int Rows() const override;
-    QString TextMatrix(int row, int col) const override;
-    PrintFont Font() const override;
-    int ForeColor() const override;
+PrintSource read(const ctlGrid &grid, const QString &caption);
 
-private:
-    const ctlGrid &m_grid;
-    QString m_caption;
-};
+} // namespace GridSource

@@ -2,13 +2,11 @@
 
 #include "platform/Twips.h"
 #include "print/PrintHost.h"
-#include "print/rules/modUtskrift.h"
 
 #include <algorithm>
 
-PreviewPages::PreviewPages(modUtskrift &layout, PrintHost &host)
-    : m_layout(layout)
-    , m_host(host)
+PreviewPages::PreviewPages(PrintHost &host)
+    : m_host(host)
 {
 }
 
@@ -17,11 +15,11 @@ PreviewPages::~PreviewPages()
     delete m_window;
 }
 
-frmPrtPrev *PreviewPages::build(int page)
+frmPrtPrev *PreviewPages::build(std::shared_ptr<const PrintLayout> layout, int page)
 {
     closeAll();
-    m_window = new frmPrtPrev(m_layout, m_host.clientArea());
-    show(page);
+    m_window = new frmPrtPrev(std::move(layout), m_host.clientArea());
+    show(std::clamp(page, 0, count() - 1));
     return m_window;
 }
 
@@ -34,11 +32,6 @@ void PreviewPages::closeAll()
     m_window->hide();
     m_window->deleteLater();
     m_window = nullptr;
-}
-
-int PreviewPages::count() const
-{
-    return m_window ? m_layout.pageCount() : 0;
 }
 
 int PreviewPages::visiblePage() const

@@ -6,20 +6,20 @@
 #include <QPointer>
 
 class PrintHost;
-class modUtskrift;
 
 /// The page windows of the preview as one list. However many pages there are, only the one that is looked at has a
 /// window; the others are remembered by where they were scrolled to.
 class PreviewPages
 {
 public:
-    PreviewPages(modUtskrift &layout, PrintHost &host);
+    explicit PreviewPages(PrintHost &host);
     ~PreviewPages();
 
-    /// Makes the window for the laid out pages and shows one of them (from 0). The window before it is gone then.
-    frmPrtPrev *build(int page);
+    /// Makes the window for the pages of a layout and shows one of them (from 0), or the last if there are no more as
+    /// many. The window before it is gone then.
+    frmPrtPrev *build(std::shared_ptr<const PrintLayout> layout, int page);
     void closeAll();
-    int count() const;
+    int count() const { return m_window ? m_window->pageCount() : 0; }
 
     /// The page in the window, from 0; -1 when there is none.
     int visiblePage() const;
@@ -35,7 +35,6 @@ public:
 private:
     QPoint startPosition() const;
 
-    modUtskrift &m_layout;
     PrintHost &m_host;
     QPointer<frmPrtPrev> m_window;
     QHash<int, QPoint> m_positions; ///< of the pages that were moved, in pixels of the client area

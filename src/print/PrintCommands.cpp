@@ -3,9 +3,11 @@
 #include "print/BusyWindow.h"
 #include "print/PrintHost.h"
 #include "print/clsCommDlg.h"
+#include "print/frmPrinting.h"
 #include "print/rules/PrinterDevice.h"
 #include "resources/StringTable.h"
 #include "services/AlertBox.h"
+#include "services/Hourglass.h"
 
 #include <QWidget>
 
@@ -20,12 +22,11 @@ PrintCommands::PrintCommands(PrinterDevice &printer, CommonDialogs &dialogs, Ale
     , m_dialogs(dialogs)
     , m_alertBox(alertBox)
     , m_host(host)
-    , m_layout(printer, [this](int page) { showPrinting(page); })
-    , m_preview(m_layout, host)
+    , m_preview(printer, host)
 {
 }
 
-void PrintCommands::ShowPrintPreview(std::unique_ptr<PrintSource> document)
+void PrintCommands::ShowPrintPreview(PrintSource document)
 {
     m_preview.open(std::move(document));
 }
@@ -44,74 +45,72 @@ void PrintCommands::PageSetup()
         m_preview.rebuild(0);
 }
 
-void PrintCommands::PrintDocument(const PrintSource &document)
+void PrintCommands::PrintDocument(PrintSource document)
 {
-    countPages(document);
-    clsCommDlg dialog(m_dialogs, m_alertBox);
-    if (!choosePages(dialog))
+    print(std::make_shared<const PrintSource>(std::move(document)));
+}
+
+void PrintCommands::printPreviewed()
+{
+    print(m_preview.document());
+}
+
+void PrintCommands::print(const std::shared_ptr<const PrintSource> &document)
+{
+    const std::optional<PageChoice> choice = choosePages(countPages(document));
+    if (!choice)
         return;
-    const bool collate = dialog.flags & clsCommDlg::Collate;
-    m_layout.CopiesOfPage = collate ? 1 : dialog.Copies;
+    const int visiblePage = m_preview.visiblePage();
     QString fault;
-    const int page = m_preview.visiblePage();
     try {
-        const BusyWindow busy(m_host.window());
-        printCopies(document, collate ? dialog.Copies : 1);
+        const Hourglass hourglass;
+        PrintRun run(document, m_printer, *choice);
+        printPages(run);
     } catch (const PrinterError &error) {
         fault = error.text();
     }
     m_host.showStatus(resText(506));
     if (m_preview.isOpen())
-        m_preview.rebuild(page);
+        m_preview.rebuild(visiblePage);
     if (!fault.isEmpty())
         report(fault);
 }
 
-void PrintCommands::printPreviewed()
-{
-    const std::shared_ptr<const PrintSource> document = m_preview.document();
-    PrintDocument(*document);
-}
-
-/// The layout then holds the document with the printer's present paper; a preview's pages stay as they are.
-void PrintCommands::countPages(const PrintSource &document)
+int PrintCommands::countPages(const std::shared_ptr<const PrintSource> &document)
 {
     const BusyWindow busy(m_host.window());
-    m_layout.PrintLayout(modUtskrift::PreviewMode, document);
-    m_printer.setDocName(m_layout.PageTitle());
+    const PrintLayout layout(document, m_printer);
+    m_printer.setDocName(layout.PageTitle());
+    return layout.pageCount();
 }
 
-bool PrintCommands::choosePages(clsCommDlg &dialog)
+std::optional<PageChoice> PrintCommands::choosePages(int pageCount)
 {
+    clsCommDlg dialog(m_dialogs, m_alertBox);
     dialog.Owner = m_host.window();
     dialog.MinPage = 1;
-    dialog.MaxPage = m_layout.pageCount();
+    dialog.MaxPage = pageCount;
     dialog.flags = PrintFlags;
     try {
         dialog.setAction(clsCommDlg::ActionPrint);
     } catch (const CommDlgError &) {
-        return false;
+        return std::nullopt;
     }
-    const bool range = dialog.flags & clsCommDlg::PageNumbers;
-    m_layout.FromPage = range ? dialog.FromPage : 0;
-    m_layout.ToPage = range ? dialog.ToPage : 0;
-    return true;
+    PageChoice choice;
+    if (dialog.flags & clsCommDlg::PageNumbers) {
+        choice.FromPage = dialog.FromPage;
+        choice.ToPage = dialog.ToPage;
+    }
+    choice.Copies = dialog.Copies;
+    choice.Collate = dialog.flags & clsCommDlg::Collate;
+    return choice;
 }
 
-void PrintCommands::printCopies(const PrintSource &document, int copies)
+void PrintCommands::printPages(PrintRun &run)
 {
-    m_host.aboutToPrint();
-    for (int copy = 0; copy < copies; ++copy)
-        m_layout.PrintLayout(modUtskrift::PrintMode, document);
-    m_printer.endDoc();
-}
-
-// The lock on redrawing is lifted for the moment, so that the status bar can follow.
-void PrintCommands::showPrinting(int page)
-{
-    m_host.window()->setUpdatesEnabled(true);
-    m_host.showStatus(resText(12405) + QString::number(page));
-    m_host.window()->setUpdatesEnabled(false);
+    frmPrinting box(
+        run, [this](const QString &text) { m_host.showStatus(text); }, m_host.window());
+    box.print();
 }
 
 void PrintCommands::report(const QString &text)

@@ -1,18 +1,17 @@
 #pragma once
 
 #include "print/PrintPreview.h"
-#include "print/rules/modUtskrift.h"
+#include "print/rules/PrintRun.h"
 
-#include <memory>
+#include <optional>
 
 class AlertBox;
 class CommonDialogs;
 class PrinterDevice;
 class PrintHost;
-class clsCommDlg;
 
-/// The commands Page Setup, Print Preview and Print. Owns the layout and the preview; the printer, the dialogs and the
-/// main window are handed in and must outlive it.
+/// The commands Page Setup, Print Preview and Print. Owns the preview; the printer, the dialogs and the main window are
+/// handed in and must outlive it.
 class PrintCommands
 {
 public:
@@ -21,24 +20,24 @@ public:
     PrintPreview &preview() { return m_preview; }
 
     /// Opens the preview of a document.
-    void ShowPrintPreview(std::unique_ptr<PrintSource> document);
+    void ShowPrintPreview(PrintSource document);
     /// Shows the page setup; a preview that is open follows it.
     void PageSetup();
-    /// Asks for pages and copies and prints them. While the preview is open, its document is printed.
-    void PrintDocument(const PrintSource &document);
+    /// Asks for pages and copies and prints them. The program answers while it prints. While the preview is open, its
+    /// document is printed.
+    void PrintDocument(PrintSource document);
     void printPreviewed();
 
 private:
-    void countPages(const PrintSource &document);
-    bool choosePages(clsCommDlg &dialog);
-    void printCopies(const PrintSource &document, int copies);
-    void showPrinting(int page);
+    void print(const std::shared_ptr<const PrintSource> &document);
+    int countPages(const std::shared_ptr<const PrintSource> &document);
+    std::optional<PageChoice> choosePages(int pageCount);
+    void printPages(PrintRun &run);
     void report(const QString &text);
 
     PrinterDevice &m_printer;
     CommonDialogs &m_dialogs;
     AlertBox &m_alertBox;
     PrintHost &m_host;
-    modUtskrift m_layout;
     PrintPreview m_preview;
 };

@@ -19,9 +19,6 @@ public:
     /// Shows a text in the first status panel at once, even if no events are handled afterwards.
     virtual void showStatus(const QString &text) = 0;
 
-    /// A run of the printer begins: nothing else is done until it ends.
-    virtual void aboutToPrint() = 0;
-
     /// Shows the preview's toolbar in place of the standard one, empties the first two status panels, and hides every
     /// document window, keeping its place.
     virtual void enterPreview() = 0;

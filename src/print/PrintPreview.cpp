@@ -21,21 +21,21 @@ constexpr int WheelNotch = 60;  // pixels for one notch of a mouse wheel; touchp
 
 } // namespace
 
-PrintPreview::PrintPreview(modUtskrift &layout, PrintHost &host, QObject *parent)
+PrintPreview::PrintPreview(const PrinterMetrics &printer, PrintHost &host, QObject *parent)
     : QObject(parent)
-    , m_layout(layout)
+    , m_printer(printer)
     , m_host(host)
-    , m_pages(layout, host)
+    , m_pages(host)
 {
 }
 
 PrintPreview::~PrintPreview() = default;
 
-void PrintPreview::open(std::unique_ptr<PrintSource> document)
+void PrintPreview::open(PrintSource document)
 {
     const BusyWindow busy(m_host.window());
     m_host.enterPreview();
-    m_document = std::move(document);
+    m_document = std::make_shared<const PrintSource>(std::move(document));
     m_zoomDivisor = ThirdSize;
     m_host.clientArea()->installEventFilter(this);
     build(0);
@@ -60,9 +60,8 @@ void PrintPreview::rebuild(int page)
 void PrintPreview::build(int page)
 {
     m_pages.closeAll();
-    m_layout.ZoomDivisor = m_zoomDivisor;
-    m_layout.PrintLayout(modUtskrift::PreviewMode, *m_document);
-    frmPrtPrev *window = m_pages.build(std::clamp(page, 0, m_layout.PageIndex()));
+    auto layout = std::make_shared<const PrintLayout>(m_document, m_printer, m_zoomDivisor);
+    frmPrtPrev *window = m_pages.build(std::move(layout), page);
     connect(window, &frmPrtPrev::zoomInRequested, this, [this] { zoom(m_zoomDivisor - 1); });
     connect(window, &frmPrtPrev::zoomOutRequested, this, [this] { zoom(m_zoomDivisor + 1); });
     connect(window, &frmPrtPrev::keyPressed, this, &PrintPreview::onKeyPressed);

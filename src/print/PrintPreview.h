@@ -6,7 +6,8 @@
 
 #include <memory>
 
-class PrintSource;
+class PrinterMetrics;
+struct PrintSource;
 
 /// The print preview: shows the pages of a document one at a time in the main window's client area, turns, zooms and
 /// scrolls them.
@@ -19,7 +20,7 @@ class PrintPreview : public QObject
     Q_OBJECT
 
 public:
-    PrintPreview(modUtskrift &layout, PrintHost &host, QObject *parent = nullptr);
+    PrintPreview(const PrinterMetrics &printer, PrintHost &host, QObject *parent = nullptr);
     ~PrintPreview() override;
 
     bool isOpen() const { return m_document != nullptr; }
@@ -27,7 +28,7 @@ public:
     std::shared_ptr<const PrintSource> document() const { return m_document; }
 
     /// Shows the first page at one third of its size.
-    void open(std::unique_ptr<PrintSource> document);
+    void open(PrintSource document);
     /// Gives the client area back to the documents. Nothing happens when the preview is not open.
     void close();
 
@@ -64,7 +65,7 @@ private:
     int areaHeight() const;
     int areaStep() const;
 
-    modUtskrift &m_layout;
+    const PrinterMetrics &m_printer;
     PrintHost &m_host;
     PreviewPages m_pages;
     std::shared_ptr<const PrintSource> m_document;

@@ -1,15 +1,15 @@
 #include "print/QtPrinter.h"
 
+#include "platform/PrintServer.h"
 #include "platform/Twips.h"
 #include "print/PaintedSurface.h"
+#include "print/PrintJob.h"
 #include "resources/StringTable.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPageRanges>
-#include <QPainter>
 #include <QPrintEngine>
 #include <QPrinterInfo>
 
@@ -34,20 +34,12 @@ private:
     QFontMetricsF m_metrics;
 };
 
-void useTwips(QPrinter &printer)
-{
-    printer.setResolution(Twips::PerInch);
-    printer.setFullPage(true);
-    printer.setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Point);
-}
-
-/// The options that go to the print server with a job, as names and values in turn.
 constexpr auto ServerOptions = QPrintEngine::PrintEnginePropertyKey(0xfe00);
 
 /// Takes an option away from the printer and returns its value.
 QString takeServerOption(QPrinter &printer, const QString &name)
 {
-    QStringList options = printer.printEngine()->property(ServerOptions).toStringList();
+    QStringList options = QtPrinter::serverOptions(printer);
     const qsizetype at = options.indexOf(name);
     if (at < 0 || at + 1 >= options.size())
         return {};
@@ -57,21 +49,26 @@ QString takeServerOption(QPrinter &printer, const QString &name)
     return value;
 }
 
-/// Whether a PDF file was written to its end; the platform does not tell when a disk has filled up.
-bool isWholePdf(const QString &path)
-{
-    constexpr qint64 tailLength = 32;
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QFile::ReadOnly))
-        return false;
-    file.seek(std::max<qint64>(0, file.size() - tailLength));
-    return file.readAll().trimmed().endsWith("%%EOF");
-}
-
 } // namespace
 
-QtPrinter::QtPrinter() = default;
+QtPrinter::QtPrinter(PrintServer &server)
+    : m_server(server)
+{
+}
+
 QtPrinter::~QtPrinter() = default;
+
+void QtPrinter::useTwips(QPrinter &printer)
+{
+    printer.setResolution(Twips::PerInch);
+    printer.setFullPage(true);
+    printer.setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Point);
+}
+
+QStringList QtPrinter::serverOptions(const QPrinter &printer)
+{
+    return printer.printEngine()->property(ServerOptions).toStringList();
+}
 
 QPrinter &QtPrinter::printer() const
 {
@@ -86,6 +83,13 @@ QPrinter &QtPrinter::printer() const
 bool QtPrinter::writesFile() const
 {
     return printer().outputFormat() == QPrinter::PdfFormat;
+}
+
+/// The queue that jobs are sent to; empty where the printer itself takes what is drawn. An instance of a queue, which
+/// the name tells after a slash, is known by its options.
+QString QtPrinter::queue() const
+{
+    return writesFile() || !m_server.isThere() ? QString() : printer().printerName().section(u'/', 0, 0);
 }
 
 void QtPrinter::settle()
@@ -121,17 +125,17 @@ std::unique_ptr<TextMeasure> QtPrinter::measure(const PrintFont &font) const
 
 void QtPrinter::setFont(const PrintFont &font)
 {
-    m_surface->setFont(font);
+    m_job->surface().setFont(font);
 }
 
 void QtPrinter::setForeColor(QRgb color)
 {
-    m_surface->setForeColor(color);
+    m_job->surface().setForeColor(color);
 }
 
 void QtPrinter::drawText(int x, int y, const QString &text, bool rightToLeft)
 {
-    m_surface->drawText(x, y, text, rightToLeft);
+    m_job->surface().drawText(x, y, text, rightToLeft);
 }
 
 void QtPrinter::setDocName(const QString &name)
@@ -147,37 +151,21 @@ void QtPrinter::setDocName(const QString &name)
 
 void QtPrinter::startPage()
 {
-    if (m_painter) {
-        if (!printer().newPage() || printer().printerState() == QPrinter::Error)
-            fail();
-        return;
-    }
-    m_painter = std::make_unique<QPainter>();
-    if (!m_painter->begin(&printer()))
-        fail();
-    m_surface = std::make_unique<PaintedSurface>(*m_painter);
+    if (m_job)
+        m_job->newPage();
+    else
+        m_job = std::make_unique<PrintJob>(printer(), queue(), m_server);
 }
 
 void QtPrinter::endDoc()
 {
-    if (!m_painter)
-        return;
-    const bool ended = m_painter->end() && printer().printerState() != QPrinter::Error;
-    if (!ended || (writesFile() && !isWholePdf(printer().outputFileName())))
-        fail();
-    m_surface.reset();
-    m_painter.reset();
+    if (const std::unique_ptr<PrintJob> job = std::move(m_job))
+        job->end();
 }
 
-void QtPrinter::fail()
+void QtPrinter::killDoc()
 {
-    if (m_painter->isActive()) {
-        printer().abort();
-        m_painter->end();
-    }
-    m_surface.reset();
-    m_painter.reset();
-    throw PrinterError(writesFile() ? resText(12404).arg(printer().outputFileName()) : resText(12403));
+    m_job.reset();
 }
 
 bool QtPrinter::lastPageFirst() const

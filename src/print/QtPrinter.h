@@ -6,19 +6,22 @@
 
 #include <memory>
 
-class PaintedSurface;
-class QPainter;
+class PrintJob;
+class PrintServer;
 
 /// The platform's printer at 1440 dots per inch over the full page, so that one unit is one twip. Without a printer
 /// installed its pages go to a PDF file.
 class QtPrinter : public PrinterDevice
 {
 public:
-    QtPrinter();
+    /// The server must outlive the object.
+    explicit QtPrinter(PrintServer &server);
     ~QtPrinter() override;
 
     /// The printer as its dialogs need it, made when first asked for.
     QPrinter &printer() const;
+    /// Whether the pages go to a PDF file, not to a printer.
+    bool writesFile() const;
     /// To be called after a dialog: brings resolution and margins back, and takes over what the program does itself,
     /// copies and the choice of pages. Throws PrinterError when the printer does not exist.
     void settle();
@@ -35,16 +38,21 @@ public:
     void setDocName(const QString &name) override;
     void startPage() override;
     void endDoc() override;
+    void killDoc() override;
 
     bool lastPageFirst() const override;
     bool wantsPage(int page) const override;
 
-private:
-    [[noreturn]] void fail();
-    bool writesFile() const;
+    /// Makes one unit of a printer one twip, its origin the corner of the page.
+    static void useTwips(QPrinter &printer);
+    /// The options that go to the print server with a job, as names and values in turn.
+    static QStringList serverOptions(const QPrinter &printer);
 
+private:
+    QString queue() const;
+
+    PrintServer &m_server;
     mutable std::unique_ptr<QPrinter> m_printer;
     QString m_pageSet; ///< "odd" or "even": only those pages are wanted
-    std::unique_ptr<QPainter> m_painter;
-    std::unique_ptr<PaintedSurface> m_surface;
+    std::unique_ptr<PrintJob> m_job;
 };

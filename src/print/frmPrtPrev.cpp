@@ -23,21 +23,28 @@ bool actsOnRelease(int key)
 
 } // namespace
 
-frmPrtPrev::frmPrtPrev(modUtskrift &layout, QWidget *parent)
+frmPrtPrev::frmPrtPrev(std::shared_ptr<const PrintLayout> layout, QWidget *parent)
     : QWidget(parent)
-    , m_layout(layout)
+    , m_layout(std::move(layout))
 {
     setFocusPolicy(Qt::StrongFocus);
     FormTexts::setWhatsThis(this, WhatsThisId);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    resize(Twips::toPixelsX(layout.pageWidth()), Twips::toPixelsY(layout.pageHeight()));
+    resize(Twips::toPixelsX(m_layout->pageWidth()), Twips::toPixelsY(m_layout->pageHeight()));
+}
+
+frmPrtPrev::~frmPrtPrev() = default;
+
+int frmPrtPrev::pageCount() const
+{
+    return m_layout->pageCount();
 }
 
 void frmPrtPrev::setPage(int page)
 {
     m_page = page;
-    setAccessibleName(resText(12406).arg(page + 1).arg(m_layout.pageCount()));
+    setAccessibleName(resText(12406).arg(page + 1).arg(pageCount()));
     update();
 }
 
@@ -51,7 +58,7 @@ void frmPrtPrev::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::TextAntialiasing);
     painter.scale(1 / Twips::perPixelX(), 1 / Twips::perPixelY());
     PaintedSurface surface(painter);
-    m_layout.drawPage(m_page, surface);
+    m_layout->drawPage(m_page, surface);
 }
 
 void frmPrtPrev::keyPressEvent(QKeyEvent *event)

@@ -2,21 +2,24 @@
 
 #include <QWidget>
 
-class modUtskrift;
+#include <memory>
 
-/// A page of the preview on the screen. It draws its page of the laid out document when it is looked at; the size and
-/// the divisor are those of the layout when it was made. It knows nothing of the other pages: what the user does with
-/// it goes up as signals.
+class PrintLayout;
+
+/// A page of the preview on the screen, drawn from its layout when it is looked at. It knows nothing of the other
+/// pages: what the user does with it goes up as signals.
 class frmPrtPrev : public QWidget
 {
     Q_OBJECT
 
 public:
-    frmPrtPrev(modUtskrift &layout, QWidget *parent);
+    frmPrtPrev(std::shared_ptr<const PrintLayout> layout, QWidget *parent);
+    ~frmPrtPrev() override;
 
     /// The page shown, from 0.
     int page() const { return m_page; }
     void setPage(int page);
+    int pageCount() const;
 
 Q_SIGNALS:
     void zoomInRequested();
@@ -37,6 +40,6 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
-    modUtskrift &m_layout;
+    std::shared_ptr<const PrintLayout> m_layout;
     int m_page = 0;
 };

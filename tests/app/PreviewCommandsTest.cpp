@@ -94,6 +94,12 @@ TEST_F(PreviewCommandsTest, OpeningAFileAndLeavingTheProgramEndThePreview)
     window->DoMenuClick("mnuFilePrint");
     EXPECT_TRUE(printer.sheets.front().find("Untitled 1 1"));
     EXPECT_FALSE(preview().isOpen());
+    dialogs.duringPrint = nullptr;
+    printer.duringSheet = [this] { documents().active()->frame()->close(); };
+    window->DoMenuClick("mnuFilePrint");
+    EXPECT_EQ(printer.jobs, 2) << "what closes meanwhile is printed to its end";
+    EXPECT_EQ(documents().open().size(), 1U);
+    window->OpenRequestedFile(writeVocabulary("other.gla"));
     EXPECT_EQ(documents().active()->Caption(), QString("other"));
     EXPECT_EQ(window->state(), AppState::StateDocument);
     window->DoMenuClick("mnuFilePrintPreview");

@@ -6,6 +6,7 @@
 #include "support/Files.h"
 #include "support/ScriptedAlertBox.h"
 #include "support/ScriptedDialogs.h"
+#include "support/ScriptedPrintServer.h"
 
 #include <QFileDialog>
 #include <QMessageBox>
@@ -80,7 +81,8 @@ TEST(FileFilter, BecomesThePlatformsFilters)
 struct RealDialogs : ::testing::Test
 {
     QTemporaryDir folder;
-    QtPrinter printer;
+    ScriptedPrintServer server;
+    QtPrinter printer{server};
     QtDialogs dialogs{printer, [](const QString &, int, int) { return false; }};
     ScriptedAlertBox alerts;
     clsCommDlg dialog{dialogs, alerts};

@@ -16,7 +16,6 @@ struct MainWindow : PrintHost
     QWidget area{&frame};
     QStringList status;
     bool inPreview = false;
-    int printRuns = 0;
 
     MainWindow()
     {
@@ -26,7 +25,6 @@ struct MainWindow : PrintHost
     QWidget *window() override { return &frame; }
     QWidget *clientArea() override { return &area; }
     int toolbarHeight() const override { return ToolbarHeight; }
-    void aboutToPrint() override { ++printRuns; }
     void showStatus(const QString &text) override { status.append(text); }
     void enterPreview() override { inPreview = true; }
     void leavePreview() override { inPreview = false; }
@@ -48,9 +46,7 @@ struct Preview : ::testing::Test
         host.frame.show();
         host.frame.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&host.frame));
-        auto source = std::make_unique<PairSource>();
-        source->fill(rows);
-        commands.ShowPrintPreview(std::move(source));
+        commands.ShowPrintPreview(sourceOf(rows));
     }
     frmPrtPrev *page() const { return preview.pageWindow(); }
     /// The page on view, with a sign for each button that leads to another.
@@ -179,6 +175,8 @@ TEST_F(Preview, PrintingKeepsSizeAndPage)
     click();
     preview.nextPage();
     dialogs.pages = PrintChoice{2, 1, 3, false, false, true};
+    const QImage shown = page()->grab().toImage();
+    printer.duringSheet = [&] { EXPECT_EQ(page()->grab().toImage(), shown); };
     commands.printPreviewed();
     EXPECT_EQ(printer.pageNumbers(), std::vector<int>({1, 2, 3, 1, 2, 3}));
     EXPECT_EQ(printer.sheets.front().find("one 1")->font.Size, 10);
@@ -196,8 +194,7 @@ TEST_F(Preview, PrintsPagesAndCopiesAsChosenInOneJob)
         {{1, 2, 2, true, false, true}, {2}},
         {{1, 1, 2, false, false, true}, {1, 2}}, // a range does not outlive its run
     };
-    PairSource source;
-    source.fill(RowsOfPage + 1);
+    const PrintSource source = sourceOf(RowsOfPage + 1);
     commands.PrintDocument(source); // cancelled
     EXPECT_TRUE(printer.sheets.empty() && alerts.shown.empty() && host.status.isEmpty());
     for (const auto &[choice, sheets] : cases) {
@@ -208,20 +205,47 @@ TEST_F(Preview, PrintsPagesAndCopiesAsChosenInOneJob)
         EXPECT_EQ(printer.pageNumbers(), sheets);
         EXPECT_EQ(printer.jobs, 1);
     }
-    EXPECT_EQ(host.printRuns, int(std::size(cases)));
     EXPECT_EQ(host.status.first(), "Printing page 1");
     EXPECT_EQ(host.status.last(), "Ready");
     EXPECT_EQ(dialogs.print.maxPage, 2);
     EXPECT_EQ(printer.docName, "Glosaria - Words");
 }
 
+TEST_F(Preview, TheProgramAnswersDuringALongRunThatCanBeCancelled)
+{
+    const std::tuple<std::function<void(QDialog &)>, int, size_t> cases[] = {
+        {[](QDialog &) {}, 0, 8},
+        {[](QDialog &box) { box.findChild<QPushButton *>("btnCancel")->click(); }, 1, 3},
+        {[](QDialog &box) { box.close(); }, 1, 3}, // as when the program is told to end
+    };
+    dialogs.pages = PrintChoice{1, 1, 8, false, false, true};
+    for (const auto &[step, killed, sheets] : cases) {
+        printer = {};
+        printer.duringSheet = [&] {
+            QTest::qSleep(printer.sheets.size() == 1 ? 310 : 40); // the box shows after the first
+            if (printer.sheets.size() != 2)
+                return;
+            QTimer::singleShot(0, &host.frame, [&] {
+                auto &box = dynamic_cast<QDialog &>(*QApplication::activeModalWidget());
+                EXPECT_TRUE(host.frame.updatesEnabled());
+                EXPECT_EQ(box.findChild<QLabel *>("lblPage")->text(), "Printing page 2");
+                step(box);
+            });
+        };
+        commands.PrintDocument(sourceOf(8 * RowsOfPage - 1));
+        EXPECT_EQ(std::tuple(printer.jobs, printer.killed), std::tuple(1 - killed, killed));
+        EXPECT_EQ(printer.sheets.size(), sheets);
+        EXPECT_EQ(host.status.last(), "Ready");
+        EXPECT_FALSE(QApplication::overrideCursor());
+    }
+    EXPECT_TRUE(alerts.shown.empty());
+}
+
 TEST_F(Preview, APrinterThatFailsInTheMiddleIsReported)
 {
-    PairSource source;
-    source.fill(5 * RowsOfPage);
     dialogs.pages = PrintChoice{3, 1, 6, false, false, true};
     printer.failingSheet = 4;
-    commands.PrintDocument(source);
+    commands.PrintDocument(sourceOf(5 * RowsOfPage));
     EXPECT_EQ(printer.sheets.size(), 3U);
     EXPECT_EQ(alerts.onlyPrompt(), "out of paper");
     EXPECT_EQ(alerts.shown.front().title, "Printer Error");

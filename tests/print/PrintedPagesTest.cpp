@@ -1,6 +1,8 @@
+#include "print/PrintJob.h"
 #include "print/QtPrinter.h"
-#include "print/rules/modUtskrift.h"
+#include "print/rules/PrintRun.h"
 #include "support/RecordingPrinter.h"
+#include "support/ScriptedPrintServer.h"
 
 #include <QProcess>
 
@@ -18,41 +20,74 @@ QString outputOf(const QString &program, const QStringList &arguments)
 struct PrintedPages : ::testing::Test
 {
     QTemporaryDir folder;
-    QtPrinter printer;
-    modUtskrift layout{printer};
-    PairSource source;
+    ScriptedPrintServer server;
+    QtPrinter printer{server};
+    PrintSource source;
     QString file = folder.filePath("out.pdf");
 
     void print()
     {
         printer.printer().setOutputFileName(file);
-        layout.PrintLayout(modUtskrift::PrintMode, source);
-        printer.endDoc();
+        PrintRun run(std::make_shared<PrintSource>(source), printer, {});
+        while (!run.finished())
+            run.printSheet();
+        run.end();
     }
 };
 
 TEST_F(PrintedPages, HoldWordsOfEveryScriptOnSheetsOfA4)
 {
-    source.fill(120);
-    source.pairs[1] = {"слово", "λέξη"};
-    source.pairs[119] = {"漢字", "שלום"};
+    source = sourceOf(120);
+    std::tie(source.first[2], source.second[2]) = std::pair("слово", "λέξη");
+    std::tie(source.first[120], source.second[120]) = std::pair("漢字", "שלום");
     print();
     const QString info = outputOf("pdfinfo", {file}).simplified();
     EXPECT_TRUE(info.contains("Pages: 3 ") && info.contains("(A4)")) << info.toStdString();
     const QString text = outputOf("pdftotext", {file, "-"});
-    for (const auto &[first, second] : source.pairs)
-        EXPECT_TRUE(text.contains(first) && text.contains(second)) << text.toStdString();
+    for (size_t row = 0; row < source.first.size(); ++row)
+        EXPECT_TRUE(text.contains(source.first[row]) && text.contains(source.second[row])) << text.toStdString();
 }
 
 TEST_F(PrintedPages, AFileThatCannotBeWrittenIsAPrinterError)
 {
-    source.fill(5);
+    source = sourceOf(5);
     for (const char *path : {"/no/such/folder/out.pdf", "/dev/full"}) {
         file = path;
         EXPECT_THROW(print(), PrinterError) << path;
     }
     file = folder.filePath("out.pdf");
     EXPECT_NO_THROW(print()) << "the next run is not concerned";
+}
+
+TEST_F(PrintedPages, AQueueIsSentWholeJobsOnly)
+{
+    printer.printer().setPageOrientation(QPageLayout::Landscape);
+    const auto draw = [this](const std::function<void(PrintJob &)> &last) {
+        PrintJob job(printer.printer(), "office", server);
+        job.surface().drawText(100, 100, "words", false);
+        job.newPage();
+        last(job);
+    };
+    draw([](PrintJob &) {}); // cancelled
+    EXPECT_EQ(server.queue, "");
+    draw([](PrintJob &job) { job.end(); });
+    EXPECT_EQ(server.queue, "office");
+    EXPECT_TRUE(server.file.contains("/Count 2")) << "both pages";
+    EXPECT_EQ(server.options, (PrintServer::Options{{"media", "A4"}, {"sides", "one-sided"}, {"landscape", "true"}}));
+    server.refusal = "no jobs today";
+    EXPECT_THROW(draw([](PrintJob &job) { job.end(); }), PrinterError);
+}
+
+TEST_F(PrintedPages, ARunThatIsCancelledLeavesNoFile)
+{
+    source = sourceOf(120);
+    printer.printer().setOutputFileName(file);
+    {
+        PrintRun run(std::make_shared<PrintSource>(source), printer, {});
+        run.printSheet();
+        EXPECT_TRUE(QFile::exists(file));
+    }
+    EXPECT_FALSE(QFile::exists(file));
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <QSize>
 
 #include <algorithm>
+#include <functional>
 #include <vector>
 
 struct DrawnText
@@ -50,7 +51,9 @@ struct RecordingPrinter : PrinterDevice
     bool reverse = false;
     QList<int> wanted; ///< empty: every page
     int jobs = 0;
+    int killed = 0;
     QString docName;
+    std::function<void()> duringSheet; ///< what happens while a sheet is printed
 
     int Width() const override { return size.width(); }
     int Height() const override { return size.height(); }
@@ -74,8 +77,11 @@ struct RecordingPrinter : PrinterDevice
         if (!m_open)
             throw PrinterError(QStringLiteral("out of paper"));
         sheets.emplace_back();
+        if (duringSheet)
+            duringSheet();
     }
     void endDoc() override { jobs += std::exchange(m_open, false); }
+    void killDoc() override { killed += std::exchange(m_open, false); }
     bool lastPageFirst() const override { return reverse; }
     bool wantsPage(int page) const override { return wanted.isEmpty() || wanted.contains(page); }
 
@@ -92,29 +98,22 @@ private:
     bool m_open = false;
 };
 
-/// A vocabulary to print, kept as pairs of words.
-struct PairSource : PrintSource
+/// A vocabulary to print, made of pairs of words.
+inline PrintSource sourceOf(const std::vector<std::pair<QString, QString>> &pairs)
+{
+    PrintSource source{"Words", {"Liberation Sans", 10, false, false}, 0, {"English"}, {"German"}};
+    for (const auto &[first, second] : pairs) {
+        source.first.push_back(first);
+        source.second.push_back(second);
+    }
+    return source;
+}
+
+/// Pairs "one n", "zwei n" for n from 1.
+inline PrintSource sourceOf(int count)
 {
     std::vector<std::pair<QString, QString>> pairs;
-    QString language2 = QStringLiteral("German");
-    int color = 0;
-
-    /// Pairs "one n", "zwei n" for n from 1.
-    void fill(int count)
-    {
-        pairs.clear();
-        for (int n = 1; n <= count; ++n)
-            pairs.emplace_back(QStringLiteral("one %1").arg(n), QStringLiteral("zwei %1").arg(n));
-    }
-    QString Caption() const override { return QStringLiteral("Words"); }
-    int Rows() const override { return int(pairs.size()) + 1; }
-    QString TextMatrix(int row, int col) const override
-    {
-        if (col == 0)
-            return QString::number(row);
-        const auto words = row ? pairs[size_t(row) - 1] : std::pair(QStringLiteral("English"), language2);
-        return col == 1 ? words.first : words.second;
-    }
-    PrintFont Font() const override { return {QStringLiteral("Liberation Sans"), 10, false, false}; }
-    int ForeColor() const override { return color; }
-};
+    for (int n = 1; n <= count; ++n)
+        pairs.emplace_back(QStringLiteral("one %1").arg(n), QStringLiteral("zwei %1").arg(n));
+    return sourceOf(pairs);
+}

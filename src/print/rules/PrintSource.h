@@ -4,19 +4,17 @@
 
 #include <QString>
 
-/// A vocabulary as printing sees it.
-class PrintSource
-{
-public:
-    virtual ~PrintSource() = default;
+#include <vector>
 
-    /// The caption of the document's window.
-    virtual QString Caption() const = 0;
-    /// The number of rows with the header row.
-    virtual int Rows() const = 0;
-    /// The text of a cell: row 0 holds the language names, column 0 the row numbers.
-    virtual QString TextMatrix(int row, int col) const = 0;
-    virtual PrintFont Font() const = 0;
-    /// 0x00BBGGRR; with the top bit set a colour of the system.
-    virtual int ForeColor() const = 0;
+/// A vocabulary as it is to be printed: what its document held when the command was given. The document may change or
+/// close while its pages are drawn.
+struct PrintSource
+{
+    QString Caption; ///< of the document's window
+    PrintFont Font;
+    int ForeColor = 0; ///< 0x00BBGGRR; with the top bit set a colour of the system
+
+    /// One entry a row in both; row 0 holds the names of the languages and is always there.
+    std::vector<QString> first;
+    std::vector<QString> second;
 };

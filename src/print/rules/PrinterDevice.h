@@ -27,6 +27,8 @@ public:
     virtual void startPage() = 0;
     /// Ends the print job, if one has begun. Throws PrinterError when not all of it came out.
     virtual void endDoc() = 0;
+    /// Throws the print job away, if one has begun.
+    virtual void killDoc() = 0;
 
     /// Choices of the print dialog that the printer keeps: the last page comes first; a page (from 1) is among those
     /// listed one by one.

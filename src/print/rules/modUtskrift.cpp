@@ -1,7 +1,7 @@
 #include "print/rules/modUtskrift.h"
 
 #include "print/rules/LineBreaker.h"
-#include "print/rules/PrinterDevice.h"
+#include "resources/StringTable.h"
 
 #include <QColor>
 
@@ -29,207 +29,191 @@ QRgb textColorOf(int color)
 
 int lastRowWithWord(const PrintSource &document)
 {
-    int row = document.Rows() - 1;
-    while (row > 0 && document.TextMatrix(row, 1).isEmpty())
+    int row = int(document.first.size()) - 1;
+    while (row > 0 && document.first[size_t(row)].isEmpty())
         --row;
-    return std::max(0, row);
+    return row;
+}
+
+PrintFont bold(PrintFont font)
+{
+    font.Bold = true;
+    return font;
 }
 
 } // namespace
 
-modUtskrift::modUtskrift(PrinterDevice &printer, PageStarted pageStarted)
-    : m_printer(printer)
-    , m_pageStarted(std::move(pageStarted))
+/// Lays out one page from the title to the page number. Without a device it only finds where the page ends.
+class PrintLayout::Page
 {
-}
-
-modUtskrift::~modUtskrift() = default;
-
-void modUtskrift::PrintLayout(Mode mode, const PrintSource &document)
-{
-    readDocument(document);
-    findPages();
-    if (mode == PrintMode)
-        printPages();
-}
-
-void modUtskrift::readDocument(const PrintSource &document)
-{
-    m_document = &document;
-    m_pageTitle = QStringLiteral("Glosaria - ") + document.Caption();
-    m_heading1 = u' ' + document.TextMatrix(0, 1);
-    m_heading2 = u' ' + document.TextMatrix(0, 2);
-    m_font = document.Font();
-    m_textColor = textColorOf(document.ForeColor());
-    m_lastRow = lastRowWithWord(document);
-
-    PrintFont bold = m_font;
-    bold.Bold = true;
-    m_measure = m_printer.measure(m_font);
-    m_boldMeasure = m_printer.measure(bold);
-    m_lineHeight = m_measure->TextHeight() + LineSpacing;
-    m_column2Left = m_printer.Width() / 2 + Column2Offset;
-    m_columnGap = m_measure->TextWidth(QStringLiteral("ZZZZZZZZ"));
-    m_lineBreaker = std::make_unique<LineBreaker>(*m_measure);
-}
-
-void modUtskrift::findPages()
-{
-    m_device = nullptr;
-    m_pageStarts.clear();
-    int row = 1;
-    do
-        m_pageStarts.push_back(row);
-    while (layOutPage(row));
-}
-
-void modUtskrift::printPages()
-{
-    ZoomDivisor = 1.0;
-    for (const int page : chosenPages()) {
-        for (int copy = 0; copy < CopiesOfPage; ++copy) {
-            if (m_pageStarted)
-                m_pageStarted(page + 1);
-            m_printer.startPage();
-            drawPage(page, m_printer);
-        }
+public:
+    Page(const PrintLayout &layout, int number, PrintSurface *PrintDevice)
+        : m_layout(layout)
+        , m_number(number)
+        , m_device(PrintDevice)
+    {
     }
-}
 
-std::vector<int> modUtskrift::chosenPages() const
-{
-    std::vector<int> pages;
-    for (int page = 0; page < pageCount(); ++page) {
-        const bool inRange = FromPage == 0 || (page + 1 >= FromPage && page + 1 <= ToPage);
-        if (inRange && m_printer.wantsPage(page + 1))
-            pages.push_back(page);
-    }
-    if (m_printer.lastPageFirst())
-        std::reverse(pages.begin(), pages.end());
-    return pages;
-}
+    bool layOut(int &row);
 
-void modUtskrift::drawPage(int page, PrintSurface &device)
-{
-    m_device = &device;
-    m_page = page;
-    int row = m_pageStarts.at(size_t(page));
-    layOutPage(row);
-    m_device = nullptr;
-}
+private:
+    void layOutRow(int row);
+    void PrintPageHeader();
+    void PrintPageFooter();
+    void PrintWrapped(const QString &text, int left, int right);
+    void printHeading(const QString &text, int left, int right);
+    void printLine(const QString &line, const TextMeasure &measure, int left, int right, bool rightToLeft);
+    void draw(int x, int y, const QString &text, bool rightToLeft = false);
+    void setColor(QRgb color);
+    void setBold(bool bold);
 
-// Lays out the page that begins with row and sets row to the first row after it. Returns whether another page follows:
-// as the break comes after the row that fills the page, one that the last row has filled is followed by an empty one.
-bool modUtskrift::layOutPage(int &row)
+    const PrintLayout &m_layout;
+    int m_number; ///< from 0
+    PrintSurface *m_device;
+    int m_currentY = 0;
+};
+
+// Begins with row and sets row to the first row after the page. Returns whether another page follows: as the break
+// comes after the row that fills the page, one that the last row has filled is followed by an empty one.
+bool PrintLayout::Page::layOut(int &row)
 {
     PrintPageHeader();
     bool full = false;
-    for (; row <= m_lastRow && !full; ++row) {
+    for (; row <= m_layout.m_lastRow && !full; ++row) {
         layOutRow(row);
-        full = m_currentY > m_printer.ScaleHeight() - BottomHeight;
+        full = m_currentY > m_layout.m_scaleHeight - BottomHeight;
     }
     PrintPageFooter();
     return full;
 }
 
-void modUtskrift::layOutRow(int row)
+void PrintLayout::Page::layOutRow(int row)
 {
     const int rowTop = m_currentY;
     if (m_device) {
-        const QString number = m_document->TextMatrix(row, 0);
+        const QString number = QString::number(row);
         setColor(Black);
-        draw(NumberRight - m_measure->TextWidth(number), rowTop, number);
-        setColor(m_textColor);
+        draw(NumberRight - m_layout.m_measure->TextWidth(number), rowTop, number);
+        setColor(m_layout.m_textColor);
     }
-    PrintWrapped(m_document->TextMatrix(row, 1), Column1Left, m_column2Left);
+    PrintWrapped(m_layout.m_document->first[size_t(row)], Column1Left, m_layout.m_column2Left);
     const int end1 = m_currentY;
     m_currentY = rowTop;
-    PrintWrapped(m_document->TextMatrix(row, 2), m_column2Left, m_printer.Width());
-    m_currentY = std::max(end1, m_currentY) + m_lineHeight;
+    PrintWrapped(m_layout.m_document->second[size_t(row)], m_layout.m_column2Left, m_layout.m_width);
+    m_currentY = std::max(end1, m_currentY) + m_layout.m_lineHeight;
 }
 
-void modUtskrift::PrintPageHeader()
+void PrintLayout::Page::PrintPageHeader()
 {
+    const bool documentBold = m_layout.m_document->Font.Bold;
     m_currentY = HeaderTop;
-    setBold(m_font.Bold);
+    setBold(documentBold);
     setColor(Black);
-    draw(NumberRight, m_currentY, m_pageTitle);
-    m_currentY += m_measure->TextHeight() + 2 * m_lineHeight;
+    draw(NumberRight, m_currentY, m_layout.m_pageTitle);
+    m_currentY += m_layout.m_measure->TextHeight() + 2 * m_layout.m_lineHeight;
     setBold(true);
-    printHeading(m_heading1, Column1Left, m_column2Left);
-    printHeading(m_heading2, m_column2Left, m_printer.Width());
-    m_currentY += m_boldMeasure->TextHeight() + m_lineHeight;
-    setBold(m_font.Bold);
-    setColor(m_textColor);
+    printHeading(m_layout.m_heading1, Column1Left, m_layout.m_column2Left);
+    printHeading(m_layout.m_heading2, m_layout.m_column2Left, m_layout.m_width);
+    m_currentY += m_layout.m_boldMeasure->TextHeight() + m_layout.m_lineHeight;
+    setBold(documentBold);
+    setColor(m_layout.m_textColor);
 }
 
-void modUtskrift::PrintPageFooter()
+void PrintLayout::Page::PrintPageFooter()
 {
-    draw(m_printer.Width() / 2, m_printer.Height() - FooterHeight, QString::number(m_page + 1));
+    draw(m_layout.m_width / 2, m_layout.m_height - FooterHeight, QString::number(m_number + 1));
 }
 
-void modUtskrift::printHeading(const QString &text, int left, int right)
+void PrintLayout::Page::printHeading(const QString &text, int left, int right)
 {
     if (m_device)
-        printLine(text, *m_boldMeasure, left, right, text.isRightToLeft());
+        printLine(text, *m_layout.m_boldMeasure, left, right, text.isRightToLeft());
 }
 
-void modUtskrift::PrintWrapped(const QString &text, int left, int right)
+void PrintLayout::Page::PrintWrapped(const QString &text, int left, int right)
 {
-    const int width = right - m_columnGap - left;
-    if (!m_device && m_lineBreaker->surelyFits(text, width))
+    const int width = right - m_layout.m_columnGap - left;
+    if (!m_device && m_layout.m_lineBreaker->surelyFits(text, width))
         return;
-    const QStringList lines = m_lineBreaker->lines(text, width);
+    const QStringList lines = m_layout.m_lineBreaker->lines(text, width);
     const bool rightToLeft = text.isRightToLeft();
     for (const QString &line : lines) {
         if (m_device)
-            printLine(line, *m_measure, left, right, rightToLeft);
-        m_currentY += m_lineHeight;
+            printLine(line, *m_layout.m_measure, left, right, rightToLeft);
+        m_currentY += m_layout.m_lineHeight;
     }
-    m_currentY -= m_lineHeight;
+    m_currentY -= m_layout.m_lineHeight;
 }
 
 // A text that reads from the right begins where the words of other texts end. One that is too wide runs over to the
 // right as others do.
-void modUtskrift::printLine(const QString &line, const TextMeasure &measure, int left, int right, bool rightToLeft)
+void PrintLayout::Page::printLine(const QString &line, const TextMeasure &measure, int left, int right,
+                                  bool rightToLeft)
 {
-    draw(rightToLeft ? std::max(right - m_columnGap, left + measure.TextWidth(line)) : left, m_currentY, line,
-         rightToLeft);
+    const int end = std::max(right - m_layout.m_columnGap, left + measure.TextWidth(line));
+    draw(rightToLeft ? end : left, m_currentY, line, rightToLeft);
 }
 
-void modUtskrift::draw(int x, int y, const QString &text, bool rightToLeft)
+void PrintLayout::Page::draw(int x, int y, const QString &text, bool rightToLeft)
 {
     if (m_device && !text.isEmpty())
-        m_device->drawText(divided(x), divided(y), text, rightToLeft);
+        m_device->drawText(m_layout.divided(x), m_layout.divided(y), text, rightToLeft);
 }
 
-void modUtskrift::setColor(QRgb color)
+void PrintLayout::Page::setColor(QRgb color)
 {
     if (m_device)
         m_device->setForeColor(color);
 }
 
-void modUtskrift::setBold(bool bold)
+void PrintLayout::Page::setBold(bool bold)
 {
     if (!m_device)
         return;
-    PrintFont font = m_font;
-    font.Size = std::max(1, int(m_font.Size / ZoomDivisor));
+    PrintFont font = m_layout.m_document->Font;
+    font.Size = std::max(1, int(font.Size / m_layout.m_zoomDivisor));
     font.Bold = bold;
     m_device->setFont(font);
 }
 
-int modUtskrift::divided(int twips) const
+PrintLayout::PrintLayout(std::shared_ptr<const PrintSource> document, const PrinterMetrics &printer, double ZoomDivisor)
+    : m_document(std::move(document))
+    , m_zoomDivisor(ZoomDivisor)
+    , m_width(printer.Width())
+    , m_height(printer.Height())
+    , m_scaleHeight(printer.ScaleHeight())
+    , m_pageTitle(resText(14090).arg(m_document->Caption))
+    , m_heading1(u' ' + m_document->first[0])
+    , m_heading2(u' ' + m_document->second[0])
+    , m_textColor(textColorOf(m_document->ForeColor))
+    , m_measure(printer.measure(m_document->Font))
+    , m_boldMeasure(printer.measure(bold(m_document->Font)))
+    , m_lineBreaker(std::make_unique<LineBreaker>(*m_measure))
+    , m_lastRow(lastRowWithWord(*m_document))
+    , m_lineHeight(m_measure->TextHeight() + LineSpacing)
+    , m_column2Left(m_width / 2 + Column2Offset)
+    , m_columnGap(m_measure->TextWidth(QStringLiteral("ZZZZZZZZ")))
 {
-    return int(std::lround(twips / ZoomDivisor));
+    findPages();
 }
 
-int modUtskrift::pageWidth() const
+PrintLayout::~PrintLayout() = default;
+
+void PrintLayout::findPages()
 {
-    return divided(m_printer.Width());
+    int row = 1;
+    do
+        m_pageStarts.push_back(row);
+    while (Page(*this, PageIndex(), nullptr).layOut(row));
 }
 
-int modUtskrift::pageHeight() const
+void PrintLayout::drawPage(int page, PrintSurface &PrintDevice) const
 {
-    return divided(m_printer.Height());
+    int row = m_pageStarts.at(size_t(page));
+    Page(*this, page, &PrintDevice).layOut(row);
+}
+
+int PrintLayout::divided(int twips) const
+{
+    return int(std::lround(twips / m_zoomDivisor));
 }

@@ -1,4 +1,4 @@
-#include "print/rules/modUtskrift.h"
+#include "print/rules/PrintRun.h"
 #include "support/RecordingPrinter.h"
 
 namespace {
@@ -19,16 +19,13 @@ QString word(int letters, QChar letter = 'x')
 struct PageLayout : ::testing::Test
 {
     RecordingPrinter printer;
-    PairSource source;
-    std::vector<int> started;
-    modUtskrift layout{printer, [this](int page) { started.push_back(page); }};
+    PrintSource source;
 
-    RecordingSurface page(int number, double zoom = 1.0)
+    PrintLayout layout(double zoom = 1.0) const { return {std::make_shared<PrintSource>(source), printer, zoom}; }
+    RecordingSurface page(int number, double zoom = 1.0) const
     {
-        layout.PrintLayout(modUtskrift::PreviewMode, source);
-        layout.ZoomDivisor = zoom;
         RecordingSurface surface;
-        layout.drawPage(number, surface);
+        layout(zoom).drawPage(number, surface);
         return surface;
     }
 };
@@ -42,8 +39,8 @@ void expectAt(const RecordingSurface &surface, const QString &text, int x, int y
 
 TEST_F(PageLayout, PutsTitleHeadingsRowsAndNumberInTheirPlaces)
 {
-    source.pairs = {{"house", "Haus"}, {"dog", {}}};
-    source.color = 0x0000ff; // red
+    source = sourceOf({{"house", "Haus"}, {"dog", {}}});
+    source.ForeColor = 0x0000ff; // red
     const RecordingSurface sheet = page(0);
     constexpr QRgb black = 0xff000000;
     constexpr QRgb red = 0xffff0000;
@@ -67,8 +64,8 @@ TEST_F(PageLayout, PutsTitleHeadingsRowsAndNumberInTheirPlaces)
 
 TEST_F(PageLayout, RowNumbersEndAtOneEdgeAndSystemColoursAreBlack)
 {
-    source.fill(12);
-    source.color = int(0x80000008u);
+    source = sourceOf(12);
+    source.ForeColor = int(0x80000008u);
     expectAt(page(0), "12", 1300, FirstRowTop + 11 * LineHeight);
     EXPECT_EQ(page(0).find("one 12")->color, 0xff000000);
 }
@@ -88,7 +85,7 @@ TEST_F(PageLayout, WrapsWordsWithinTheirColumn)
         {"a " + han, {"a " + han.left(39), han.left(11)}}, // written without blanks
     };
     for (const auto &[text, lines] : cases) {
-        source.pairs = {{text, "short"}, {"next", word(30) + ' ' + word(33)}, {"last", {}}};
+        source = sourceOf({{text, "short"}, {"next", word(30) + ' ' + word(33)}, {"last", {}}});
         const RecordingSurface sheet = page(0);
         int y = FirstRowTop;
         for (const QString &line : lines) {
@@ -106,12 +103,13 @@ TEST_F(PageLayout, WrapsWordsWithinTheirColumn)
 TEST_F(PageLayout, RightToLeftTextsReadFromTheRightOfTheirColumn)
 {
     const QString shalom = "שלום";
-    source.language2 = "עברית";
-    source.pairs = {{"peace " + shalom, shalom + " New York"}, {word(30, u'א') + ' ' + word(12, u'ב'), word(60, u'ש')}};
+    source =
+        sourceOf({{"peace " + shalom, shalom + " New York"}, {word(30, u'א') + ' ' + word(12, u'ב'), word(60, u'ש')}});
+    source.second[0] = "עברית";
     const RecordingSurface sheet = page(0);
     expectAt(sheet, " עברית", 11100, 1740, true);
-    expectAt(sheet, source.pairs[0].first, Column1Left, FirstRowTop);
-    expectAt(sheet, source.pairs[0].second, 11100, FirstRowTop, true);
+    expectAt(sheet, source.first[1], Column1Left, FirstRowTop);
+    expectAt(sheet, source.second[1], 11100, FirstRowTop, true);
     expectAt(sheet, word(30, u'א'), 5900, FirstRowTop + LineHeight, true);
     expectAt(sheet, word(12, u'ב'), 5900, FirstRowTop + 2 * LineHeight, true);
     expectAt(sheet, word(60, u'ש'), Column2Left + 6000, FirstRowTop + 2 * LineHeight, true); // runs over
@@ -119,12 +117,12 @@ TEST_F(PageLayout, RightToLeftTextsReadFromTheRightOfTheirColumn)
 
 TEST_F(PageLayout, EndsWithTheLastRowThatHasAFirstWord)
 {
-    source.pairs = {{"a", {}}, {{}, {}}, {"b", {}}, {{}, "lost"}};
+    source = sourceOf({{"a", {}}, {{}, {}}, {"b", {}}, {{}, "lost"}});
     const RecordingSurface sheet = page(0);
     expectAt(sheet, "2", 1400, FirstRowTop + LineHeight); // an empty row before it keeps its number
     expectAt(sheet, "b", Column1Left, FirstRowTop + 2 * LineHeight);
     EXPECT_FALSE(sheet.find("lost"));
-    source.pairs = {{{}, "lost"}};
+    source = sourceOf({{{}, "lost"}});
     EXPECT_EQ(page(0).texts.size(), 4U) << "title, headings and number";
 }
 
@@ -133,9 +131,8 @@ TEST_F(PageLayout, BreaksThePageAfterTheRowThatFillsIt)
     const std::tuple<int, int, int> cases[] = {{48, 1, 1}, {49, 2, 0},  {50, 2, 50},
                                                {98, 3, 0}, {99, 3, 99}, {100000, 2041, 99961}};
     for (const auto &[rows, pages, lastPageFirstRow] : cases) {
-        source.fill(rows);
-        layout.PrintLayout(modUtskrift::PreviewMode, source);
-        ASSERT_EQ(layout.pageCount(), pages) << rows;
+        source = sourceOf(rows);
+        ASSERT_EQ(layout().pageCount(), pages) << rows;
         const RecordingSurface last = page(pages - 1);
         EXPECT_EQ(last.texts.back().text, QString::number(pages));
         if (lastPageFirstRow)
@@ -147,12 +144,12 @@ TEST_F(PageLayout, BreaksThePageAfterTheRowThatFillsIt)
 
 TEST_F(PageLayout, AZoomedPageBreaksWhereThePrintedOneDoes)
 {
-    source.fill(60);
-    source.pairs[3].first = word(20) + ' ' + word(21) + ' ' + word(9);
+    source = sourceOf(60);
+    source.first[4] = word(20) + ' ' + word(21) + ' ' + word(9);
     const RecordingSurface printed = page(0);
     for (const double zoom : {2.0, 3.0}) {
         const RecordingSurface shown = page(0, zoom);
-        EXPECT_EQ(layout.pageWidth(), qRound(11900 / zoom));
+        EXPECT_EQ(layout(zoom).pageWidth(), qRound(11900 / zoom));
         ASSERT_EQ(shown.texts.size(), printed.texts.size());
         for (size_t i = 0; i < shown.texts.size(); ++i) {
             EXPECT_EQ(shown.texts[i].text, printed.texts[i].text);
@@ -163,24 +160,38 @@ TEST_F(PageLayout, AZoomedPageBreaksWhereThePrintedOneDoes)
     }
 }
 
-TEST_F(PageLayout, PrintsTheChosenPages)
+TEST_F(PageLayout, ARunPrintsTheChosenPagesAsOneJob)
 {
-    const std::tuple<int, int, QList<int>, bool, int, std::vector<int>> cases[] = {
-        {0, 0, {}, false, 1, {1, 2, 3, 4, 5}}, {3, 4, {}, false, 1, {3, 4}},   {4, 9, {}, false, 1, {4, 5}},
-        {2, 5, {2, 5}, false, 1, {2, 5}},      {1, 3, {}, true, 1, {3, 2, 1}}, {1, 2, {}, false, 2, {1, 1, 2, 2}},
+    // from, to, listed by the printer's dialog, last page first, copies, collated
+    const std::tuple<PageChoice, QList<int>, bool, std::vector<int>> cases[] = {
+        {{0, 0, 1, true}, {}, false, {1, 2, 3, 4, 5}},
+        {{3, 4, 1, true}, {}, false, {3, 4}},
+        {{4, 9, 1, true}, {}, false, {4, 5}},
+        {{2, 5, 1, true}, {2, 5, 9}, false, {2, 5}},
+        {{1, 3, 1, true}, {}, true, {3, 2, 1}},
+        {{1, 2, 2, true}, {}, false, {1, 2, 1, 2}},
+        {{1, 2, 2, false}, {}, false, {1, 1, 2, 2}},
+        {{0, 0, 1, true}, {6}, false, {}},
+        {{6, 9, 1, true}, {}, false, {}},
     };
-    source.fill(4 * 49 + 10);
-    for (const auto &[from, to, listed, reverse, copiesOfPage, numbers] : cases) {
-        printer.sheets.clear();
-        started.clear();
-        layout.FromPage = from;
-        layout.ToPage = to;
-        layout.CopiesOfPage = copiesOfPage;
+    source = sourceOf(4 * 49 + 10);
+    for (const auto &[choice, listed, reverse, numbers] : cases) {
+        printer = {};
         printer.wanted = listed;
         printer.reverse = reverse;
-        layout.PrintLayout(modUtskrift::PrintMode, source);
+        std::vector<int> told;
+        try {
+            PrintRun run(std::make_shared<PrintSource>(source), printer, choice);
+            for (; !run.finished(); run.printSheet())
+                told.push_back(run.page());
+            run.end();
+        } catch (const PrinterError &error) {
+            EXPECT_EQ(error.text(), "None of these pages exists. The last page is 5.");
+        }
         EXPECT_EQ(printer.pageNumbers(), numbers);
-        EXPECT_EQ(started, numbers);
+        EXPECT_EQ(told, numbers);
+        EXPECT_EQ(printer.jobs, numbers.empty() ? 0 : 1);
+        EXPECT_EQ(printer.killed, 0);
     }
 }
 

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/PrintServer.h"
+
+#include <QFile>
+
+/// A print server that answers as it is told and keeps what it was sent.
+struct ScriptedPrintServer : PrintServer
+{
+    QString refusal;
+    QString queue;
+    QByteArray file;
+    Options options;
+
+    bool isThere() override { return true; }
+    QString send(const QString &to, const QString &path, const QString &, const Options &with) override
+    {
+        QFile sent(path);
+        file = sent.open(QFile::ReadOnly) ? sent.readAll() : QByteArray();
+        queue = to;
+        options = with;
+        return refusal;
+    }
+};
