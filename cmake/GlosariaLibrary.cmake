@@ -1,14 +1,18 @@
-# glosaria_library(<folder> FLOOR <n> [RULES] LINKS <folder or Qt target>...)
+# glosaria_library(<folder> FLOOR <n> [RULES] [ROOMS <folder>...] LINKS <folder or Qt target>...)
 #
 # One static library a folder below src/. The library of src/document/rules is called document_rules. A library may
 # link only what stands on a lower floor, or the rules of its own folder: anything else stops the configuration.
 # RULES marks a library that knows no screen; it gets the small precompiled header and never sees Qt Widgets.
-# Every .cpp, .h, .ui and .qrc file of the folder belongs to its library.
+# Every .cpp, .h, .ui and .qrc file of the folder belongs to its library, and those of its ROOMS.
 function(glosaria_library folder)
-  cmake_parse_arguments(ARG "RULES" "FLOOR" "LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "RULES" "FLOOR" "ROOMS;LINKS" ${ARGN})
   string(REPLACE "/" "_" name ${folder})
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${folder}/*.cpp ${CMAKE_SOURCE_DIR}/src/${folder}/*.h
-       ${CMAKE_SOURCE_DIR}/src/${folder}/*.ui ${CMAKE_SOURCE_DIR}/src/${folder}/*.qrc)
+  foreach(room IN LISTS folder ARG_ROOMS)
+    foreach(kind cpp h ui qrc)
+      list(APPEND patterns ${CMAKE_SOURCE_DIR}/src/${room}/*.${kind})
+    endforeach()
+  endforeach()
+  file(GLOB sources CONFIGURE_DEPENDS ${patterns})
   if(sources)
     add_library(${name} STATIC ${sources})
     set(scope PUBLIC)

@@ -2,8 +2,8 @@
 
 #include "Require.h"
 
+#include "app/rules/RequestedFile.h"
 #include "platform/HandOff.h"
-#include "services/rules/RequestedFile.h"
 
 #include <cstdint>
 

@@ -4,9 +4,9 @@
 #include "Require.h"
 
 #include "platform/RegistryText.h"
-#include "services/rules/clsAppProperties.h"
-#include "services/rules/clsMRUFileList.h"
-#include "services/rules/clsRegistry.h"
+#include "services/settings/clsAppProperties.h"
+#include "services/settings/clsMRUFileList.h"
+#include "services/settings/clsRegistry.h"
 
 #include <cstdint>
 

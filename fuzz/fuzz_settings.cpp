@@ -3,7 +3,7 @@
 #include "Require.h"
 
 #include "platform/RegistryTree.h"
-#include "services/rules/clsAppProperties.h"
+#include "services/settings/clsAppProperties.h"
 
 #include <cstdint>
 

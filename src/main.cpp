@@ -1,7 +1,7 @@
 #include "app/modKod.h"
+#include "app/rules/CommandLine.h"
 #include "platform/FontReader.h"
 #include "resources/Pictures.h"
-#include "services/rules/CommandLine.h"
 
 #include <QApplication>
 #include <QDir>

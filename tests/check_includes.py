@@ -10,7 +10,7 @@ import re
 import sys
 
 WINDOWS_MODULES = ("QtWidgets", "QtPrintSupport", "QtSvgWidgets")
-ALL_RULES = {"platform", "resources"}  # folders that know no screen as a whole
+ALL_RULES = (("platform",), ("resources",), ("services", "settings"))  # folders that know no screen as a whole
 FLOOR_ROW = re.compile(r"^\| (\d) \| `(\w+)/` \|", re.MULTILINE)
 INCLUDE = re.compile(r'^\s*#\s*include\s+(?:"([^"]+)"|<([^>]+)>)', re.MULTILINE)
 
@@ -29,7 +29,7 @@ def windows_headers(qt_headers):
 
 
 def knows_no_screen(path):
-    return path.parts[0] in ALL_RULES or "rules" in path.parts
+    return "rules" in path.parts or any(path.parts[: len(room)] == room for room in ALL_RULES)
 
 
 def own_header_fault(includer, header, source, floor_of):

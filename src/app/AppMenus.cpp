@@ -8,9 +8,9 @@
 #include "document/rules/QuizModeText.h"
 #include "resources/StringTable.h"
 #include "services/FormTexts.h"
-#include "services/modSBMenuHelp.h"
-#include "services/rules/clsAppProperties.h"
-#include "services/rules/clsMRUFileList.h"
+#include "services/settings/clsAppProperties.h"
+#include "services/settings/clsMRUFileList.h"
+#include "services/status/modSBMenuHelp.h"
 
 #include <QMenu>
 #include <QMenuBar>

@@ -3,7 +3,7 @@
 #include "app/frmApp.h"
 #include "document/DocumentList.h"
 #include "platform/Twips.h"
-#include "services/modSBFunc.h"
+#include "services/status/modSBFunc.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>

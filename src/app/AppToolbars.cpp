@@ -5,7 +5,7 @@
 #include "resources/Pictures.h"
 #include "resources/StringTable.h"
 #include "services/FormTexts.h"
-#include "services/modSBFunc.h"
+#include "services/status/modSBFunc.h"
 
 #include <QMainWindow>
 #include <QMenu>

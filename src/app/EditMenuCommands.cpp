@@ -5,8 +5,8 @@
 #include "document/DocumentList.h"
 #include "document/EditCommands.h"
 #include "resources/Pictures.h"
-#include "services/modSBFunc.h"
 #include "services/rules/ProgramFlags.h"
+#include "services/status/modSBFunc.h"
 #include "tools/frmFindReplace.h"
 
 namespace {

@@ -4,8 +4,8 @@
 #include "app/frmApp.h"
 #include "document/FileCommands.h"
 #include "resources/Pictures.h"
-#include "services/modSBFunc.h"
-#include "services/rules/clsMRUFileList.h"
+#include "services/settings/clsMRUFileList.h"
+#include "services/status/modSBFunc.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include "app/frmApp.h"
 #include "quiz/frmSplash.h"
 #include "resources/Pictures.h"
-#include "services/modSBFunc.h"
+#include "services/status/modSBFunc.h"
 
 #include <QApplication>
 #include <QWhatsThis>

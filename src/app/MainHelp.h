@@ -1,6 +1,6 @@
 #pragma once
 
-#include "services/clsHtmlHelp.h"
+#include "services/help/clsHtmlHelp.h"
 
 class AppToolbars;
 struct AppContext;

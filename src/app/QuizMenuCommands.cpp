@@ -7,8 +7,8 @@
 #include "quiz/GridWords.h"
 #include "quiz/frmOva.h"
 #include "resources/Pictures.h"
-#include "services/modSBFunc.h"
-#include "services/rules/clsAppProperties.h"
+#include "services/settings/clsAppProperties.h"
+#include "services/status/modSBFunc.h"
 
 namespace {
 

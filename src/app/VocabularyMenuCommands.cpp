@@ -5,7 +5,7 @@
 #include "document/DocumentList.h"
 #include "quiz/frmLang.h"
 #include "resources/Pictures.h"
-#include "services/modSBFunc.h"
+#include "services/status/modSBFunc.h"
 #include "tools/frmColRow.h"
 #include "tools/frmFont.h"
 #include "tools/modSorting.h"

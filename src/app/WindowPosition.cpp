@@ -1,7 +1,7 @@
 #include "app/WindowPosition.h"
 
 #include "platform/Twips.h"
-#include "services/rules/clsAppProperties.h"
+#include "services/settings/clsAppProperties.h"
 
 #include <QGuiApplication>
 #include <QScreen>

@@ -6,6 +6,7 @@
 #include "app/AppToolbars.h"
 #include "app/MainHelp.h"
 #include "app/WindowPosition.h"
+#include "app/rules/RequestedFile.h"
 #include "document/DocumentList.h"
 #include "document/FileCommands.h"
 #include "document/ctlGrid.h"
@@ -13,10 +14,9 @@
 #include "resources/Pictures.h"
 #include "resources/StringTable.h"
 #include "services/AlertBox.h"
-#include "services/modSBFunc.h"
-#include "services/rules/RequestedFile.h"
-#include "services/rules/clsAppProperties.h"
-#include "services/rules/clsRegistry.h"
+#include "services/settings/clsAppProperties.h"
+#include "services/settings/clsRegistry.h"
+#include "services/status/modSBFunc.h"
 
 #include <QClipboard>
 #include <QCloseEvent>

@@ -5,7 +5,7 @@
 #include "app/WindowArrangement.h"
 #include "document/EditCommands.h"
 #include "document/rules/UndoRecord.h"
-#include "services/rules/clsMRUFileList.h"
+#include "services/settings/clsMRUFileList.h"
 
 #include <QMainWindow>
 

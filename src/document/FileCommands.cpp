@@ -9,8 +9,8 @@
 #include "resources/StringTable.h"
 #include "services/AlertBox.h"
 #include "services/Hourglass.h"
-#include "services/modSBFunc.h"
-#include "services/rules/clsMRUFileList.h"
+#include "services/settings/clsMRUFileList.h"
+#include "services/status/modSBFunc.h"
 
 #include <QGuiApplication>
 

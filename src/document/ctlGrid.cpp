@@ -6,8 +6,8 @@
 #include "resources/StringTable.h"
 #include "services/FormTexts.h"
 #include "services/rules/ProgramFlags.h"
-#include "widgets/FlexGridColours.h"
-#include "widgets/FlexGridView.h"
+#include "widgets/grid/FlexGridColours.h"
+#include "widgets/grid/FlexGridView.h"
 
 #include <QFontMetricsF>
 #include <QInputMethodEvent>

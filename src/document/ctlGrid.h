@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/rules/LetterWidths.h"
-#include "widgets/FlexGrid.h"
+#include "widgets/grid/FlexGrid.h"
 
 class ctlGridEdit;
 struct ProgramFlags;

@@ -1,8 +1,8 @@
 #include "document/ctlGridEdit.h"
 
 #include "services/rules/LineBreaks.h"
-#include "widgets/FlexGridCellText.h"
-#include "widgets/FlexGridKeys.h"
+#include "widgets/grid/FlexGridCellText.h"
+#include "widgets/grid/FlexGridKeys.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -5,9 +5,9 @@
 #include "document/rules/QuizModeText.h"
 #include "platform/Twips.h"
 #include "resources/StringTable.h"
-#include "services/modSBFunc.h"
 #include "services/rules/ProgramFlags.h"
-#include "services/rules/clsAppProperties.h"
+#include "services/settings/clsAppProperties.h"
+#include "services/status/modSBFunc.h"
 
 #include <QCloseEvent>
 #include <QFontMetricsF>

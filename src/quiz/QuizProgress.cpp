@@ -1,7 +1,7 @@
 #include "quiz/QuizProgress.h"
 
 #include "quiz/QuizColours.h"
-#include "services/Contrast.h"
+#include "services/desktop/Contrast.h"
 
 #include <QPainterPath>
 

@@ -6,10 +6,10 @@
 #include "quiz/QuizSpeech.h"
 #include "resources/Pictures.h"
 #include "resources/StringTable.h"
-#include "services/Contrast.h"
-#include "services/EnterKey.h"
 #include "services/Hourglass.h"
-#include "services/rules/clsAppProperties.h"
+#include "services/desktop/Contrast.h"
+#include "services/desktop/EnterKey.h"
+#include "services/settings/clsAppProperties.h"
 
 #include "ui_frmOva.h"
 

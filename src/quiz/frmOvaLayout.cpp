@@ -2,9 +2,9 @@
 
 #include "quiz/QuizLook.h"
 #include "resources/StringTable.h"
-#include "services/Contrast.h"
 #include "services/FormTexts.h"
-#include "services/ScreenFit.h"
+#include "services/desktop/Contrast.h"
+#include "services/desktop/ScreenFit.h"
 
 #include "ui_frmOva.h"
 

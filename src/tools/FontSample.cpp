@@ -1,6 +1,6 @@
 #include "tools/FontSample.h"
 
-#include "widgets/FlexGridColours.h"
+#include "widgets/grid/FlexGridColours.h"
 
 #include <QFontMetricsF>
 

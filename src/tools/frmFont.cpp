@@ -6,10 +6,10 @@
 #include "document/frmDoc.h"
 #include "resources/StringTable.h"
 #include "services/AlertBox.h"
-#include "services/EnterKey.h"
 #include "services/FormTexts.h"
 #include "services/Hourglass.h"
-#include "services/rules/clsAppProperties.h"
+#include "services/desktop/EnterKey.h"
+#include "services/settings/clsAppProperties.h"
 
 #include <QFontDatabase>
 #include <QGuiApplication>

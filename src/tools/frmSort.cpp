@@ -3,8 +3,8 @@
 #include "ui_frmSort.h"
 
 #include "document/frmDoc.h"
-#include "services/EnterKey.h"
 #include "services/FormTexts.h"
+#include "services/desktop/EnterKey.h"
 #include "tools/rules/SortOrder.h"
 
 frmSort::frmSort(frmDoc &document, QWidget *parent)

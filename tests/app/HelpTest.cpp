@@ -5,9 +5,9 @@
 #include "document/ctlGrid.h"
 #include "print/PrintCommands.h"
 #include "resources/StringTable.h"
-#include "services/DialogHelp.h"
 #include "services/FormTexts.h"
-#include "services/rules/HelpBook.h"
+#include "services/help/DialogHelp.h"
+#include "services/help/rules/HelpBook.h"
 #include "support/Files.h"
 
 #include <QAbstractButton>

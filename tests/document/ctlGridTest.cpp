@@ -2,7 +2,7 @@
 
 #include "document/ctlGridEdit.h"
 #include "services/rules/ProgramFlags.h"
-#include "widgets/FlexGridView.h"
+#include "widgets/grid/FlexGridView.h"
 
 #include <QClipboard>
 

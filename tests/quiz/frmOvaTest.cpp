@@ -7,7 +7,7 @@
 #include "resources/Pictures.h"
 #include "resources/StringTable.h"
 #include "services/FormTexts.h"
-#include "services/rules/clsAppProperties.h"
+#include "services/settings/clsAppProperties.h"
 #include "support/ListWords.h"
 
 #include <QAccessible>

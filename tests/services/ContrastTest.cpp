@@ -1,4 +1,4 @@
-#include "services/Contrast.h"
+#include "services/desktop/Contrast.h"
 
 #include <QPalette>
 

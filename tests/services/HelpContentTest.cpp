@@ -1,5 +1,5 @@
-#include "services/HelpFile.h"
-#include "services/rules/HelpBook.h"
+#include "services/help/HelpFile.h"
+#include "services/help/rules/HelpBook.h"
 #include "support/Files.h"
 
 #include <QDir>

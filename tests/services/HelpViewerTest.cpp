@@ -1,6 +1,6 @@
-#include "services/HelpViewer.h"
-#include "services/HelpBrowser.h"
-#include "services/HelpViewers.h"
+#include "services/help/HelpViewer.h"
+#include "services/help/HelpBrowser.h"
+#include "services/help/HelpViewers.h"
 #include "support/Files.h"
 #include "support/ScriptedAlertBox.h"
 

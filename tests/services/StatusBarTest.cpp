@@ -1,5 +1,5 @@
 #include "resources/StringTable.h"
-#include "services/modSBFunc.h"
+#include "services/status/modSBFunc.h"
 
 #include <QProgressBar>
 

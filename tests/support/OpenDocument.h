@@ -3,9 +3,9 @@
 #include "document/ctlGrid.h"
 #include "document/frmDoc.h"
 #include "platform/RegistryTree.h"
-#include "services/modSBFunc.h"
 #include "services/rules/ProgramFlags.h"
-#include "services/rules/clsAppProperties.h"
+#include "services/settings/clsAppProperties.h"
+#include "services/status/modSBFunc.h"
 
 #include <array>
 #include <random>

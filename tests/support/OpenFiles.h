@@ -3,10 +3,10 @@
 #include "document/DocumentList.h"
 #include "document/FileCommands.h"
 #include "platform/RegistryTree.h"
-#include "services/modSBFunc.h"
 #include "services/rules/ProgramFlags.h"
-#include "services/rules/clsAppProperties.h"
-#include "services/rules/clsMRUFileList.h"
+#include "services/settings/clsAppProperties.h"
+#include "services/settings/clsMRUFileList.h"
+#include "services/status/modSBFunc.h"
 #include "support/ScriptedAlertBox.h"
 #include "support/ScriptedPrompts.h"
 

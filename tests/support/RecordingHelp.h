@@ -1,6 +1,6 @@
 #pragma once
 
-#include "services/HelpDisplay.h"
+#include "services/help/HelpDisplay.h"
 
 #include <vector>
 

@@ -1,5 +1,5 @@
-#include "widgets/FlexGrid.h"
-#include "widgets/FlexGridView.h"
+#include "widgets/grid/FlexGrid.h"
+#include "widgets/grid/FlexGridView.h"
 
 #include <QAccessible>
 

@@ -1,7 +1,7 @@
-#include "widgets/FlexGrid.h"
-#include "widgets/FlexGridCellText.h"
-#include "widgets/FlexGridColours.h"
-#include "widgets/FlexGridView.h"
+#include "widgets/grid/FlexGrid.h"
+#include "widgets/grid/FlexGridCellText.h"
+#include "widgets/grid/FlexGridColours.h"
+#include "widgets/grid/FlexGridView.h"
 
 #include <cmath>
 

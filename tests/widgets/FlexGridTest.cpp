@@ -1,7 +1,7 @@
-#include "widgets/FlexGrid.h"
+#include "widgets/grid/FlexGrid.h"
 
 #include "services/rules/LineBreaks.h"
-#include "widgets/FlexGridText.h"
+#include "widgets/grid/FlexGridText.h"
 
 #include <QSignalSpy>
 

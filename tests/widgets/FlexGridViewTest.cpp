@@ -1,5 +1,5 @@
-#include "widgets/FlexGridView.h"
-#include "widgets/FlexGrid.h"
+#include "widgets/grid/FlexGridView.h"
+#include "widgets/grid/FlexGrid.h"
 
 #include <QScrollBar>
 #include <QSignalSpy>

@@ -1,7 +1,7 @@
 #include "quiz/rules/QuizSession.h"
 
 #include "resources/StringTable.h"
-#include "services/rules/clsAppProperties.h"
+#include "services/settings/clsAppProperties.h"
 
 #include <QLocale>
 #include <QTextBoundaryFinder>

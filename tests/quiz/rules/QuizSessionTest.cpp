@@ -2,7 +2,7 @@
 
 #include "platform/RegistryTree.h"
 #include "resources/StringTable.h"
-#include "services/rules/clsAppProperties.h"
+#include "services/settings/clsAppProperties.h"
 #include "support/ListWords.h"
 
 /// A quiz that has begun, with its two timers: they hold their interval and tick when told to.

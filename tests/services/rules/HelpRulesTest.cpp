@@ -1,5 +1,5 @@
-#include "services/rules/HelpBook.h"
-#include "services/rules/HelpSearch.h"
+#include "services/help/rules/HelpBook.h"
+#include "services/help/rules/HelpSearch.h"
 
 #include <gtest/gtest.h>
 

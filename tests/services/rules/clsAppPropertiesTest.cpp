@@ -1,4 +1,4 @@
-#include "services/rules/clsAppProperties.h"
+#include "services/settings/clsAppProperties.h"
 
 #include "platform/RegistryTree.h"
 

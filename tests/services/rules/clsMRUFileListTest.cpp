@@ -1,7 +1,7 @@
-#include "services/rules/clsMRUFileList.h"
+#include "services/settings/clsMRUFileList.h"
 
 #include "platform/RegistryTree.h"
-#include "services/rules/clsRegistry.h"
+#include "services/settings/clsRegistry.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "services/rules/clsRegistry.h"
+#include "services/settings/clsRegistry.h"
 
 #include "platform/RegistryTree.h"
 

@@ -1,0 +1,114 @@
+#include "services/status/modSBFunc.h"
+
+#include "resources/StringTable.h"
+#include "services/status/StatusPanel.h"
+
+#include <QProgressBar>
+
+namespace {
+
+constexpr int SizeGripWidth = 20;
+constexpr int LargestRange = 32767;
+constexpr int BarHeight = 20;
+
+} // namespace
+
+modSBFunc::modSBFunc(const ProgramFlags &flags, QWidget *parent)
+    : QWidget(parent)
+    , m_flags(flags)
+{
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    for (StatusPanel *&panel : m_panels)
+        panel = new StatusPanel(this);
+    m_panels[3]->setFrameStyle(QFrame::NoFrame);
+}
+
+void modSBFunc::createPanels(int barWidth)
+{
+    m_rightEdges[2] = std::max(m_rightEdges[1], barWidth - SizeGripWidth);
+    placePanels();
+    m_panels[0]->setText(resText(Ready));
+}
+
+void modSBFunc::placePanels()
+{
+    int left = 0;
+    for (size_t i = 0; i < m_panels.size(); ++i) {
+        const int right = i < m_rightEdges.size() ? m_rightEdges[i] : std::max(left, width());
+        m_panels[i]->setGeometry(left, 1, right - left - 2, height() - 1);
+        left = right;
+    }
+}
+
+void modSBFunc::SBSetText(int panel, int style, const QString &text)
+{
+    const int target = style == SBT_SUNKEN && panel >= 0 && panel <= 2 ? panel : 0;
+    m_panels[size_t(target)]->setText(text);
+    if (style != SBT_SUNKEN)
+        update();
+}
+
+void modSBFunc::ShowStatus(int id)
+{
+    if (m_flags.searching() || id == m_shownId)
+        return;
+    m_shownId = id;
+    if (id)
+        SBSetText(0, SBT_SUNKEN, resText(id));
+}
+
+QString modSBFunc::text(int panel) const
+{
+    return m_panels.at(size_t(panel))->text();
+}
+
+QRect modSBFunc::panelRect(int panel) const
+{
+    return m_panels.at(size_t(panel))->geometry();
+}
+
+void modSBFunc::createProgress(qint64 maximum)
+{
+    destroyProgress();
+    m_progress = new QProgressBar(this);
+    m_progress->setTextVisible(false);
+    m_progress->setAccessibleName(text(0));
+    m_progress->setGeometry(panelRect(1));
+    m_progress->setRange(0, maximum <= LargestRange ? int(maximum) : 100);
+    m_progress->show();
+    repaint();
+}
+
+void modSBFunc::setProgress(qint64 position)
+{
+    if (!m_progress)
+        return;
+    const int value = int(std::min<qint64>(position, m_progress->maximum()));
+    if (value == m_progress->value())
+        return;
+    m_progress->setValue(value);
+    m_progress->repaint();
+}
+
+void modSBFunc::destroyProgress()
+{
+    delete m_progress;
+    m_progress = nullptr;
+}
+
+QSize modSBFunc::sizeHint() const
+{
+    return {m_rightEdges[1] + SizeGripWidth, std::max(BarHeight, fontMetrics().height() + 6)};
+}
+
+void modSBFunc::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    placePanels();
+}
+
+void modSBFunc::enterEvent(QEnterEvent *event)
+{
+    QWidget::enterEvent(event);
+    ShowStatus(2000);
+}

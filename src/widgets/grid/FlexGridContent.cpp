@@ -1,0 +1,203 @@
+#include "widgets/grid/FlexGrid.h"
+
+#include "widgets/grid/FlexGridAccessible.h"
+#include "widgets/grid/FlexGridSort.h"
+#include "widgets/grid/FlexGridText.h"
+#include "widgets/grid/FlexGridView.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+void FlexGrid::setRows(int rows)
+{
+    rows = std::max(rows, FixedRows());
+    if (rows <= Row())
+        leavingCell();
+    m_state.cells.setRows(rows);
+    restructured();
+    propertyChanged("Rows");
+}
+
+void FlexGrid::setCols(int cols)
+{
+    cols = std::max(cols, FixedCols());
+    if (cols <= Col())
+        leavingCell();
+    m_state.cells.setCols(cols);
+    restructured();
+    propertyChanged("Cols");
+}
+
+void FlexGrid::setFixedRows(int rows)
+{
+    m_state.fixedRows = std::clamp(rows, 0, Rows());
+    setRowNumbers(m_rowNumbers);
+    restructured();
+    propertyChanged("FixedRows");
+}
+
+void FlexGrid::setFixedCols(int cols)
+{
+    m_state.fixedCols = std::clamp(cols, 0, Cols());
+    restructured();
+    propertyChanged("FixedCols");
+}
+
+void FlexGrid::setTextMatrix(int row, int col, const QString &text)
+{
+    m_state.cells.setText(row, col, text);
+    draw();
+    FlexGridAccessible::announceText(*m_view, row, col);
+}
+
+QString FlexGrid::TextArray(int index) const
+{
+    return Cols() > 0 && index >= 0 ? TextMatrix(index / Cols(), index % Cols()) : QString();
+}
+
+void FlexGrid::setTextArray(int index, const QString &text)
+{
+    if (Cols() > 0 && index >= 0)
+        setTextMatrix(index / Cols(), index % Cols(), text);
+}
+
+QString FlexGrid::Text() const
+{
+    return TextMatrix(Row(), Col());
+}
+
+void FlexGrid::setText(const QString &text)
+{
+    setTextMatrix(Row(), Col(), text);
+}
+
+void FlexGrid::AddItem(const QString &item, int index)
+{
+    const int at = index < 0 ? Rows() : index;
+    if (!insertRows(at, 1))
+        return;
+    const QStringList cells = item.split(u'\t');
+    for (int col = 0; col < std::min(int(cells.size()), Cols()); ++col)
+        m_state.cells.setText(at, col, cells.at(col));
+}
+
+bool FlexGrid::RemoveItem(int index)
+{
+    return removeRows(index, 1);
+}
+
+bool FlexGrid::insertRows(int index, int count)
+{
+    if (index < FixedRows() || index > Rows() || count <= 0)
+        return false;
+    if (index <= Row())
+        leavingCell();
+    m_state.cells.insertRows(std::min(index, Rows()), count);
+    restructured();
+    return true;
+}
+
+bool FlexGrid::removeRows(int index, int count)
+{
+    if (index < FixedRows() || count <= 0 || count > Rows() - index || count >= Rows() - FixedRows())
+        return false;
+    if (index <= Row())
+        leavingCell();
+    m_state.cells.removeRows(index, count);
+    restructured();
+    return true;
+}
+
+void FlexGrid::Clear()
+{
+    leavingCell();
+    m_state.cells.clear();
+    draw();
+}
+
+void FlexGrid::setRowPosition(int row, int position)
+{
+    if (row < 0 || row >= Rows() || position < 0 || position >= Rows() || row == position)
+        return;
+    leavingCell();
+    m_state.cells.moveRow(row, position);
+    restructured();
+}
+
+void FlexGrid::setColPosition(int col, int position)
+{
+    if (col < 0 || col >= Cols() || position < 0 || position >= Cols() || col == position)
+        return;
+    leavingCell();
+    m_state.cells.moveColumn(col, position);
+    restructured();
+}
+
+void FlexGrid::setRowNumbers(bool numbers)
+{
+    m_rowNumbers = numbers;
+    m_state.cells.numberRowsFrom(numbers ? FixedRows() : -1);
+    layOutAgain();
+}
+
+void FlexGrid::setWords(std::vector<QString> &&first, std::vector<QString> &&second, std::vector<int> &&heights)
+{
+    leavingCell();
+    m_state.cells.setWords(std::move(first), std::move(second), std::move(heights));
+    m_state.fixedRows = std::min(m_state.fixedRows, Rows());
+    restructured();
+}
+
+QString FlexGrid::Clip() const
+{
+    const FlexGridSelection &selection = m_state.selection;
+    if (!m_state.cells.hasCell(selection.top(), selection.left()))
+        return {};
+    QString text;
+    for (int row = selection.top(); row <= selection.bottom(); ++row) {
+        if (row > selection.top())
+            text += u'\r';
+        for (int col = selection.left(); col <= selection.right(); ++col) {
+            if (col > selection.left())
+                text += u'\t';
+            text += m_state.cells.isNumber(row, col) ? TextMatrix(row, col) : word(row, col);
+        }
+    }
+    return text;
+}
+
+void FlexGrid::setClip(const QString &text)
+{
+    const FlexGridSelection selection = m_state.selection;
+    FlexGridText::readCells(text, [&](int row, int col, const QString &cell) {
+        if (selection.contains(selection.top() + row, selection.left() + col))
+            m_state.cells.setText(selection.top() + row, selection.left() + col, cell);
+    });
+    draw();
+}
+
+void FlexGrid::setSort(int kind)
+{
+    if (kind <= SortNone || kind > SortCustom || !m_state.hasData())
+        return;
+    leavingCell();
+    const FlexGridSelection &selection = m_state.selection;
+    const bool all = selection.row == selection.rowSel;
+    FlexGridSort sort(m_state.cells, locale());
+    sort.keys = {selection.left(), selection.right()};
+    sort.rows = {all ? FixedRows() : std::max(selection.top(), FixedRows()), all ? Rows() - 1 : selection.bottom()};
+    const std::vector<int> order = sort.order(kind, [this](int row1, int row2) {
+        int result = 0;
+        Q_EMIT Compare(row1, row2, result);
+        return result;
+    });
+    reorderRows(sort.rows.first, order);
+}
+
+void FlexGrid::reorderRows(int first, const std::vector<int> &order)
+{
+    leavingCell();
+    m_state.cells.reorderRows(first, order);
+    restructured();
+}

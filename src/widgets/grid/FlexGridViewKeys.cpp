@@ -1,0 +1,180 @@
+#include "widgets/grid/FlexGridView.h"
+
+#include "widgets/grid/FlexGridAccessible.h"
+#include "widgets/grid/FlexGridKeys.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+
+#include <algorithm>
+
+bool FlexGridView::focusNextPrevChild(bool)
+{
+    return false;
+}
+
+void FlexGridView::focusInEvent(QFocusEvent *event)
+{
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+    Q_EMIT focusArrived();
+    // after the toolkit's own word that the whole table has the focus
+    QMetaObject::invokeMethod(
+        this, [this] { FlexGridAccessible::announceCurrentCell(*this); }, Qt::QueuedConnection);
+}
+
+void FlexGridView::focusOutEvent(QFocusEvent *event)
+{
+    QAbstractScrollArea::focusOutEvent(event);
+    viewport()->update();
+}
+
+void FlexGridView::changeEvent(QEvent *event)
+{
+    QAbstractScrollArea::changeEvent(event);
+    viewport()->update();
+}
+
+void FlexGridView::keyPressEvent(QKeyEvent *event)
+{
+    Q_EMIT keyPressed(FlexGridKeys::virtualKey(*event), FlexGridKeys::shiftBits(event->modifiers()));
+    if (navigate(*event))
+        return;
+    const bool isTab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+    if (!FlexGridKeys::typesCharacter(*event)) {
+        event->setAccepted(isTab); // otherwise the parent would move the focus
+        return;
+    }
+    for (const char32_t character : event->text().toUcs4())
+        Q_EMIT characterTyped(int(character));
+}
+
+void FlexGridView::keyReleaseEvent(QKeyEvent *event)
+{
+    Q_EMIT keyReleased(FlexGridKeys::virtualKey(*event), FlexGridKeys::shiftBits(event->modifiers()));
+}
+
+void FlexGridView::inputMethodEvent(QInputMethodEvent *event)
+{
+    Q_EMIT inputMethodUsed(event);
+}
+
+QVariant FlexGridView::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    if (query == Qt::ImEnabled)
+        return isEnabled();
+    if (query == Qt::ImCursorRectangle)
+        return cellRect(m_state.selection.row, m_state.selection.col).translated(viewport()->pos());
+    return QAbstractScrollArea::inputMethodQuery(query);
+}
+
+bool FlexGridView::navigate(const QKeyEvent &event)
+{
+    if (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier) || !m_state.hasData())
+        return false;
+    const FlexGridSelection at = m_state.selection;
+    if (event.matches(QKeySequence::SelectAll)) {
+        Q_EMIT selectionWanted(
+            {m_state.fixedRows, m_state.fixedCols, m_state.cells.rows() - 1, m_state.cells.cols() - 1});
+        return true;
+    }
+    const bool extend = event.modifiers() & Qt::ShiftModifier;
+    const bool far = event.modifiers() & Qt::ControlModifier;
+    const int row = extend ? at.rowSel : at.row;
+    const int col = extend ? at.colSel : at.col;
+    const int lastRow = m_state.cells.rows();
+    switch (event.key()) {
+    case Qt::Key_Up:
+        move(far ? rowBeside(m_state.fixedRows - 1, 1) : rowBeside(row, -1), col, extend);
+        return true;
+    case Qt::Key_Down:
+        move(far ? rowBeside(lastRow, -1) : rowBeside(row, 1), col, extend);
+        return true;
+    case Qt::Key_Left:
+    case Qt::Key_Right: {
+        const int step = (event.key() == Qt::Key_Right) != m_state.rightToLeft ? 1 : -1;
+        move(row, far ? colAtEnd(step) : colBeside(col, step), extend);
+        return true;
+    }
+    case Qt::Key_Home:
+        move(far ? rowBeside(m_state.fixedRows - 1, 1) : row, colAtEnd(-1), extend);
+        return true;
+    case Qt::Key_End:
+        move(far ? rowBeside(lastRow, -1) : row, colAtEnd(1), extend);
+        return true;
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        if (far)
+            return false;
+        movePage(event.key() == Qt::Key_PageDown ? 1 : -1, row, col, extend);
+        return true;
+    default:
+        return false;
+    }
+}
+
+int FlexGridView::rowBeside(int row, int step) const
+{
+    for (int next = row + step; next >= m_state.fixedRows && next < m_state.cells.rows(); next += step) {
+        if (rowPixels(next) > 0)
+            return next;
+    }
+    return std::clamp(row, m_state.fixedRows, m_state.cells.rows() - 1);
+}
+
+int FlexGridView::colBeside(int col, int step) const
+{
+    for (int next = col + step; next >= m_state.fixedCols && next < m_state.cells.cols(); next += step) {
+        if (colPixels(next) > 0)
+            return next;
+    }
+    return std::clamp(col, m_state.fixedCols, m_state.cells.cols() - 1);
+}
+
+int FlexGridView::colAtEnd(int direction) const
+{
+    return direction > 0 ? colBeside(m_state.cells.cols(), -1) : colBeside(m_state.fixedCols - 1, 1);
+}
+
+int FlexGridView::rowsOnPage() const
+{
+    qint64 left = cellArea().height();
+    int rows = 0;
+    for (int row = m_topRow; row < m_state.cells.rows() && left >= rowPixels(row); ++row, ++rows)
+        left -= rowPixels(row);
+    return std::max(1, rows);
+}
+
+void FlexGridView::movePage(int direction, int row, int col, bool extend)
+{
+    const int step = direction * rowsOnPage();
+    const int top = m_topRow;
+    const int target = std::clamp(row + step, m_state.fixedRows, m_state.cells.rows() - 1);
+    setTopRow(top + step);
+    move(rowPixels(target) > 0 ? target : rowBeside(target, direction), col, extend);
+}
+
+void FlexGridView::move(int row, int col, bool extend)
+{
+    FlexGridSelection wanted = m_state.selection;
+    wanted.rowSel = row;
+    wanted.colSel = col;
+    if (!extend) {
+        wanted.row = row;
+        wanted.col = col;
+    }
+    Q_EMIT selectionWanted(widened(wanted));
+    scrollToCell(row, col);
+}
+
+FlexGridSelection FlexGridView::widened(FlexGridSelection selection) const
+{
+    if (m_state.look.SelectionMode == FlexGridLook::SelectionByRow) {
+        selection.col = m_state.fixedCols;
+        selection.colSel = m_state.cells.cols() - 1;
+    } else if (m_state.look.SelectionMode == FlexGridLook::SelectionByCol) {
+        selection.row = m_state.fixedRows;
+        selection.rowSel = m_state.cells.rows() - 1;
+    }
+    return selection;
+}
