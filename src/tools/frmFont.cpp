@@ -64,12 +64,9 @@ void frmFont::fillColors()
 
 void frmFont::fillSizes()
 {
-    m_ui->cboSize->setNumbersOnly();
     for (const int size : Sizes)
         m_ui->cboSize->addItem(QString::number(size), size);
-    const double size = document().Rutor()->Font().pointSizeF();
-    m_ui->cboSize->setCurrentIndex(m_ui->cboSize->findData(size));
-    m_ui->cboSize->setEditText(QString::number(size));
+    m_ui->cboSize->setNumbersOnly(document().Rutor()->Font().pointSizeF());
 }
 
 void frmFont::fillFonts()
@@ -78,10 +75,7 @@ void frmFont::fillFonts()
         if (!QFontDatabase::isPrivateFamily(family))
             m_ui->cboFont->addItem(family);
     }
-    m_ui->cboFont->setAutoComplete();
-    const QString name = document().Rutor()->Font().family();
-    m_ui->cboFont->setCurrentIndex(m_ui->cboFont->findText(name, Qt::MatchFixedString));
-    m_ui->cboFont->setEditText(name);
+    m_ui->cboFont->setAutoComplete(document().Rutor()->Font().family());
 }
 
 void frmFont::connectControls()

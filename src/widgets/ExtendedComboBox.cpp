@@ -4,6 +4,7 @@
 
 #include <QAbstractItemView>
 #include <QCompleter>
+#include <QKeyEvent>
 
 namespace {
 
@@ -23,36 +24,39 @@ void ExtendedComboBox::addColor(const QString &name, QColor color, const QVarian
     setItemData(count() - 1, color, ColorRole);
 }
 
-void ExtendedComboBox::setAutoComplete()
+void ExtendedComboBox::setAutoComplete(const QString &shown)
 {
-    setEditable(true);
+    setTextBox(new QLineEdit(this));
     completer()->setCompletionMode(QCompleter::InlineCompletion);
     completer()->setCaseSensitivity(Qt::CaseInsensitive);
-    placeTextBox();
-    connect(lineEdit(), &QLineEdit::editingFinished, this, &ExtendedComboBox::putBackSelected);
+    setCurrentIndex(findText(shown, Qt::MatchFixedString));
+    setEditText(shown);
+    connect(lineEdit(), &QLineEdit::editingFinished, this, [this, shown] { putBackSelected(shown); });
 }
 
-void ExtendedComboBox::setNumbersOnly()
+void ExtendedComboBox::setNumbersOnly(double shown)
 {
-    setEditable(true);
-    setLineEdit(new NumberBox(this));
+    auto *box = new NumberBox(this);
+    setTextBox(box);
     setCompleter(nullptr);
-    placeTextBox();
+    setCurrentIndex(findData(shown));
+    box->setValue(shown);
 }
 
-/// The text box stands at the end of the window's order of Tab: Shift+Tab from the first box would end in it, that is
-/// in the box that it belongs to. Its place is beside that one.
-void ExtendedComboBox::placeTextBox()
+/// The text box takes its place in the order of Tab, beside this box, before this box is its focus proxy: afterwards the
+/// toolkit would follow the proxy back, and chain the text box to itself.
+void ExtendedComboBox::setTextBox(QLineEdit *box)
 {
-    setTabOrder(this, lineEdit());
+    setTabOrder(this, box);
+    setEditable(true);
+    setLineEdit(box);
 }
 
-void ExtendedComboBox::putBackSelected()
+void ExtendedComboBox::putBackSelected(const QString &unlisted)
 {
     if (const int match = matchingIndex(); match >= 0)
         setCurrentIndex(match);
-    if (currentIndex() >= 0)
-        setEditText(itemText(currentIndex()));
+    setEditText(currentIndex() >= 0 ? itemText(currentIndex()) : unlisted);
 }
 
 void ExtendedComboBox::showEvent(QShowEvent *event)
@@ -68,6 +72,15 @@ void ExtendedComboBox::changeEvent(QEvent *event)
     QComboBox::changeEvent(event);
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange)
         drawSwatches();
+}
+
+void ExtendedComboBox::keyPressEvent(QKeyEvent *event)
+{
+    // some desktops would have Enter open a list that is not typed into
+    if (!isEditable() && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+        event->ignore();
+    else
+        QComboBox::keyPressEvent(event);
 }
 
 void ExtendedComboBox::drawSwatches()

@@ -27,7 +27,7 @@ TEST(ExtendedComboBox, CompletesFromItsListAndComesBackToIt)
 {
     ExtendedComboBox box;
     box.addItems({"Liberation Mono", "Liberation Sans", "Noto Serif"});
-    box.setAutoComplete();
+    box.setAutoComplete("Cambria");
     box.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
     box.lineEdit()->selectAll();
