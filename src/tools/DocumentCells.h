@@ -5,7 +5,7 @@
 class frmDoc;
 
 /// The words of a document for Replace All: a word that is written grows its row and keeps the last row empty as a
-/// committed edit does, without opening the edit box.
+/// committed edit does, without opening the edit box. An edit that is going on ends when the first word is written.
 class DocumentCells : public CellStore
 {
 public:

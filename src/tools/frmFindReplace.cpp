@@ -160,7 +160,7 @@ void frmFindReplace::replaceMatch()
     if (!isMatch)
         return;
     grid.setSelText(m_ReplaceWith);
-    DocumentCells(document()).setTextMatrix(m_search.CurRow, m_search.CurCol, grid.EditText());
+    document().commitRunningEdit();
     noteReplacement();
     m_search.SkipReplacement(m_ReplaceWith);
 }
@@ -186,20 +186,22 @@ void frmFindReplace::showMatch(const Search::Match &match)
 
 void frmFindReplace::ReplaceAllMatches()
 {
-    int count = 0;
+    ReplaceAll::Summary summary;
     {
         const Hourglass hourglass;
-        document().endEdit();
+        keepTyped();
         ReadOptions();
         ctlGrid &grid = *document().Rutor();
         grid.setRedraw(false);
         DocumentCells cells(document());
-        count = ReplaceAll(m_search, m_ReplaceWith).run(cells);
+        summary = ReplaceAll(m_search, m_ReplaceWith).run(cells);
         grid.setRedraw(true);
-        if (count > 0)
+        if (summary.count > 0) {
             noteReplacement();
+            showMatch({summary.row, summary.col, summary.end, 0});
+        }
     }
-    endRegion(resText(7014) + u' ' + QString::number(count) + resText(7015));
+    endRegion(resText(7014) + u' ' + QString::number(summary.count) + resText(7015));
 }
 
 void frmFindReplace::endRegion(const QString &message)
@@ -244,4 +246,5 @@ void frmFindReplace::leaveUndoStep()
     m_needs.undo.selection = document().selection();
     m_needs.undo.snapshot = std::move(m_snapshot);
     m_needs.undo.setKind(UndoKind::Replace, &document());
+    document().setDirty(true); // it may have been saved since, and the undo step leads away from the file
 }

@@ -43,8 +43,8 @@ void ExtendedComboBox::setNumbersOnly(double shown)
     box->setValue(shown);
 }
 
-/// The text box takes its place in the order of Tab, beside this box, before this box is its focus proxy: afterwards the
-/// toolkit would follow the proxy back, and chain the text box to itself.
+/// The text box takes its place in the order of Tab, beside this box, before this box is its focus proxy: afterwards
+/// the toolkit would follow the proxy back, and chain the text box to itself.
 void ExtendedComboBox::setTextBox(QLineEdit *box)
 {
     setTabOrder(this, box);

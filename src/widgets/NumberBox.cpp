@@ -8,7 +8,10 @@ namespace {
 const auto Whole = QStringLiteral("[0-9]*");
 const auto WithFraction = QStringLiteral("[0-9]*\\.?[0-9]*");
 
-bool isDigit(QChar ch) { return ch >= u'0' && ch <= u'9'; }
+bool isDigit(QChar ch)
+{
+    return ch >= u'0' && ch <= u'9';
+}
 
 } // namespace
 

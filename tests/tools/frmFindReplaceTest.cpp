@@ -37,7 +37,7 @@ struct FindReplace : ::testing::Test, OpenDocument
     QString shown() const
     {
         const QString place = QString("%1,%2:[%3]%4").arg(grid.Row()).arg(grid.Col()).arg(grid.SelText());
-        return grid.EditMode() ? place.arg(grid.hwndText()->selectionStart()) : "nothing";
+        return grid.EditMode() ? place.arg(grid.hwndText()->cursorPosition() - grid.SelText().size()) : "nothing";
     }
 
     ScriptedAlertBox alert;
@@ -129,6 +129,10 @@ TEST_F(FindReplace, ReplaceAllIsOneUndoStep)
     EXPECT_EQ(words(),
               (Words{{longWord, "Katze"}, {"the " + longWord + " sat", "die Katze saß"}, {longWord + "s", "a"}, {}}));
     EXPECT_GT(grid.RowHeight(1), 285);
+    EXPECT_EQ(shown(), "3,1:[]200"); // the last match
+    click("btnReplaceAll");
+    EXPECT_EQ(shown(), "3,1:[]200");
+    document.setDirty(false); // as saving does
     dialog->close();
     EXPECT_TRUE(document.Dirty());
     EditCommands(undo, *QGuiApplication::clipboard()).Undo(document);

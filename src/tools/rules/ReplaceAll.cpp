@@ -16,12 +16,17 @@ public:
     /// Moves everything before the next match to the final text and drops the match; false when there is none.
     bool takeUpToMatch() { return takeMatchInTail() || (!m_failed && takeMatchInRest()); }
 
-    void insertAsFinal(const QString &with) { m_final += with; }
+    void insertAsFinal(const QString &with)
+    {
+        m_final += with;
+        m_end = m_final.size();
+    }
 
     /// Inserts a text whose first character is passed over and whose others are searched. An empty one passes over the
     /// character behind.
     void insertAndSearch(const QString &with)
     {
+        m_end = m_final.size() + with.size();
         if (!with.isEmpty()) {
             m_final += with.front();
             m_tail = QStringView(with).mid(1);
@@ -37,6 +42,9 @@ public:
         m_final += m_rest;
         return std::move(m_final);
     }
+
+    /// Where the text that was inserted last ends.
+    qsizetype end() const { return m_end; }
 
     void reserve(qsizetype size) { m_final.reserve(size); }
 
@@ -85,6 +93,7 @@ private:
 
     const TextFinder &m_finder;
     QString m_final;
+    qsizetype m_end = 0;
     QStringView m_tail;
     QStringView m_rest;
     bool m_failed = false;
@@ -100,24 +109,25 @@ ReplaceAll::ReplaceAll(const Search &search, const QString &ReplaceWith)
 {
 }
 
-int ReplaceAll::run(CellStore &cells) const
+ReplaceAll::Summary ReplaceAll::run(CellStore &cells) const
 {
-    if (m_flags & SearchFlag::WholeDocument)
-        return runColumn(cells, 1) + runColumn(cells, 2);
-    return runColumn(cells, m_flags & SearchFlag::Language2 ? 2 : 1);
+    Summary summary;
+    if (!(m_flags & SearchFlag::Language2))
+        runColumn(cells, 1, summary);
+    if (!(m_flags & SearchFlag::Language1))
+        runColumn(cells, 2, summary);
+    return summary;
 }
 
-int ReplaceAll::runColumn(CellStore &cells, int col) const
+void ReplaceAll::runColumn(CellStore &cells, int col, Summary &summary) const
 {
-    int count = 0;
     for (int row = 1; row < cells.Rows(); ++row) {
         const Replaced result = replaced(cells.TextMatrix(row, col));
         if (result.count == 0)
             continue;
-        count += result.count;
+        summary = {summary.count + result.count, row, col, int(result.end)};
         cells.setTextMatrix(row, col, result.text);
     }
-    return count;
 }
 
 ReplaceAll::Replaced ReplaceAll::replaced(const QString &text) const
@@ -134,5 +144,6 @@ ReplaceAll::Replaced ReplaceAll::replaced(const QString &text) const
     }
     if (result.count > 0)
         result.text = passage.finish();
+    result.end = passage.end();
     return result;
 }

@@ -10,19 +10,29 @@ public:
     /// Takes search text, scope and options from the search.
     ReplaceAll(const Search &search, const QString &ReplaceWith);
 
-    /// Each cell with a match is written once, column 1 from the top, then column 2. Returns the number of matches.
-    int run(CellStore &cells) const;
+    /// How many matches were replaced, the cell of the last, and the 0-based position behind what was inserted there.
+    struct Summary
+    {
+        int count = 0;
+        int row = 0;
+        int col = 0;
+        int end = 0;
+        bool operator==(const Summary &) const = default;
+    };
+    /// Each cell with a match is written once, column 1 from the top, then column 2.
+    Summary run(CellStore &cells) const;
 
-    /// The cell's text with every match replaced, and how many there were.
+    /// The cell's text with every match replaced, how many there were, and where the last replacement ends.
     struct Replaced
     {
         QString text;
         int count = 0;
+        qsizetype end = 0;
     };
     Replaced replaced(const QString &text) const;
 
 private:
-    int runColumn(CellStore &cells, int col) const;
+    void runColumn(CellStore &cells, int col, Summary &summary) const;
 
     TextFinder m_finder;
     int m_flags;

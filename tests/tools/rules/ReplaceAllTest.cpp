@@ -15,17 +15,18 @@ Search searchFor(const QString &what, int flags)
 }
 
 /// Replaces match by match: each step replaces the match of the step before and finds the next.
-int replaceStepByStep(MemoryCells &cells, Search search, const QString &with)
+ReplaceAll::Summary replaceStepByStep(MemoryCells &cells, Search search, const QString &with)
 {
-    int steps = 0;
+    ReplaceAll::Summary summary;
     while (const auto match = search.FindNext(cells)) {
-        if (++steps > 10000)
+        summary = {search.MatchCount, match->row, match->col, match->start + int(with.size())};
+        if (summary.count > 10000)
             break;
         QString text = cells.TextMatrix(match->row, match->col);
         cells.setTextMatrix(match->row, match->col, text.replace(match->start, match->length, with));
         search.SkipReplacement(with);
     }
-    return search.MatchCount;
+    return summary;
 }
 
 TEST(ReplaceAll, ReplacesWhatTheSingleStepsReplace)
@@ -42,7 +43,7 @@ TEST(ReplaceAll, ReplacesWhatTheSingleStepsReplace)
     };
     for (const auto &[text, what, with, result, count] : cases) {
         MemoryCells cells{{text, QString()}, {}};
-        EXPECT_EQ(ReplaceAll(searchFor(what, WholeDocument), with).run(cells), count);
+        EXPECT_EQ(ReplaceAll(searchFor(what, WholeDocument), with).run(cells).count, count);
         EXPECT_EQ(cells.words[0][0], result);
     }
 }
@@ -61,8 +62,8 @@ TEST(ReplaceAll, EqualsTheSingleStepsOnRandomWords)
         const int scopes[] = {Language1, Language2, WholeDocument};
         const int flags = scopes[engine() % 3] | (engine() % 2 ? MatchCase : 0) | (engine() % 2 ? WholeWords : 0);
         const Search search = searchFor(what, flags);
-        const int count = replaceStepByStep(expected, search, with);
-        EXPECT_EQ(ReplaceAll(search, with).run(cells), count);
+        const ReplaceAll::Summary summary = replaceStepByStep(expected, search, with);
+        EXPECT_EQ(ReplaceAll(search, with).run(cells), summary);
         ASSERT_EQ(cells.words, expected.words) << what.toStdString() << " -> " << with.toStdString() << " " << flags;
     }
 }
@@ -72,7 +73,7 @@ TEST(ReplaceAll, GoesThroughLongCellsOnce)
     const QString a(200000, u'a');
     EXPECT_EQ(ReplaceAll(searchFor("ab", WholeDocument), "ca").replaced(a + u'b').text, QString(199999, u'a') + "ca");
     MemoryCells cells{{a, QString()}};
-    EXPECT_EQ(ReplaceAll(searchFor("A", WholeDocument), "xyz").run(cells), 200000);
+    EXPECT_EQ(ReplaceAll(searchFor("A", WholeDocument), "xyz").run(cells).count, 200000);
     EXPECT_EQ(cells.words[0][0].size(), 600000);
     EXPECT_EQ(cells.words.size(), 2U); // a change in the last row appends one
 }
