@@ -76,8 +76,8 @@ class Desktop:
             "QT_QPA_PLATFORM": "xcb",
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
         }
-        sanitizers = ("ASAN_OPTIONS", "UBSAN_OPTIONS")
-        self._environment.update({name: os.environ[name] for name in sanitizers if name in os.environ})
+        checks = ("ASAN_OPTIONS", "UBSAN_OPTIONS", "MALLOC_PERTURB_")
+        self._environment.update({name: os.environ[name] for name in checks if name in os.environ})
         for interruption in INTERRUPTIONS:
             signal.signal(interruption, _interrupt)
         self._environment.update(self._given)
