@@ -5,6 +5,7 @@
 #include "document/GridContent.h"
 #include "document/ctlGrid.h"
 #include "document/rules/GridRules.h"
+#include "document/rules/RowNumbers.h"
 #include "document/rules/VocabularyFile.h"
 #include "resources/StringTable.h"
 #include "services/AlertBox.h"
@@ -19,6 +20,7 @@ namespace {
 using VocabularyCodec::Outcome;
 
 enum HelpTopic {
+    SavingTopic = 1110,
     ClosingTopic = 1400,
     AlreadyOpenTopic = 1410,
     BadFormatTopic = 1420,
@@ -50,6 +52,13 @@ private:
     modSBFunc &m_status;
     Hourglass m_hourglass;
 };
+
+/// textId: of a text about the rows (%1) that a file (%2) cannot hold, and about the name of language 1 (%3).
+QString unstoredText(int textId, const frmDoc &document, const std::vector<qsizetype> &rows)
+{
+    const QString language = document.language(1);
+    return resText(textId).arg(rowNumbersText(rows), document.DocName(), language.isEmpty() ? resText(501) : language);
+}
 
 QString withTitle(int textId, const QString &path)
 {
@@ -131,22 +140,24 @@ QString FileCommands::pathOrAsk(const frmDoc &document)
     return document.DocName().isEmpty() ? m_needs.prompts.askSave(document.Caption()) : document.DocName();
 }
 
-FileCommands::SaveOutcome FileCommands::saveUnder(frmDoc &document, const QString &path, QString &error)
+FileCommands::SaveOutcome FileCommands::saveUnder(frmDoc &document, const QString &path, SaveReport &report)
 {
     if (path.isEmpty())
         return SaveOutcome::Cancelled;
     if (path == document.DocName() && !mayOverwrite(document))
         return SaveOutcome::Refused;
-    SaveVocabulary(document, path, &error);
+    report = SaveVocabulary(document, path);
     m_needs.recentFiles.AddFile(path);
-    return error.isEmpty() ? SaveOutcome::Saved : SaveOutcome::Failed;
+    return report.error.isEmpty() ? SaveOutcome::Saved : SaveOutcome::Failed;
 }
 
 void FileCommands::saveAndTell(frmDoc &document, const QString &path)
 {
-    QString error;
-    if (saveUnder(document, path, error) == SaveOutcome::Failed)
-        warn(resText(12625).arg(path, error));
+    SaveReport report;
+    if (saveUnder(document, path, report) == SaveOutcome::Failed)
+        warn(resText(12625).arg(path, report.error));
+    else if (const auto &rows = report.unstoredRows; !rows.empty())
+        warn(unstoredText(14063, document, rows), SavingTopic);
 }
 
 bool FileCommands::isSecured(frmDoc &document)
@@ -183,35 +194,42 @@ bool FileCommands::confirmClose(frmDoc &document)
         Q_EMIT givenUp(&document);
     if (answer != AlertBox::AnswerYes)
         return answer != AlertBox::AnswerCancel;
-    QString error;
+    SaveReport report;
     const QString path = pathOrAsk(document);
-    const SaveOutcome outcome = saveUnder(document, path, error);
-    return outcome == SaveOutcome::Saved || (outcome != SaveOutcome::Refused && mayCloseUnsaved(document, path, error));
+    const SaveOutcome outcome = saveUnder(document, path, report);
+    if (outcome == SaveOutcome::Saved && report.unstoredRows.empty())
+        return true;
+    return outcome != SaveOutcome::Refused && mayCloseUnsaved(document, path, report);
 }
 
-bool FileCommands::mayCloseUnsaved(frmDoc &document, const QString &path, const QString &error)
+bool FileCommands::mayCloseUnsaved(frmDoc &document, const QString &path, const SaveReport &report)
 {
     if (!isSecured(document))
-        return mayLose(document);
-    if (!error.isEmpty())
-        warn(resText(12626).arg(path, error));
+        return mayLose(document, report);
+    if (!report.error.isEmpty())
+        warn(resText(12626).arg(path, report.error));
+    else if (!report.unstoredRows.empty())
+        warn(unstoredText(14064, document, report.unstoredRows), SavingTopic);
     return true;
 }
 
-bool FileCommands::mayLose(const frmDoc &document)
+bool FileCommands::mayLose(const frmDoc &document, const SaveReport &report)
 {
     Alert alert;
-    alert.prompt = resText(12627).arg(document.Caption());
+    alert.prompt = report.unstoredRows.empty() ? resText(12627).arg(document.Caption())
+                                               : unstoredText(14065, document, report.unstoredRows);
     alert.buttons = Alert::YesNo;
     alert.sound = true;
     alert.exclamation = true;
     return m_needs.alert.show(nullptr, alert) == AlertBox::AnswerYes;
 }
 
-void FileCommands::warn(const QString &prompt)
+void FileCommands::warn(const QString &prompt, int helpId)
 {
     Alert alert;
     alert.prompt = prompt;
+    alert.buttons = helpId ? Alert::OkHelp : Alert::Ok;
+    alert.helpId = helpId;
     alert.sound = true;
     alert.exclamation = true;
     m_needs.alert.show(nullptr, alert);
@@ -283,8 +301,9 @@ void FileCommands::openVocabulary(const QString &path, Vocabulary &&vocabulary, 
     Q_EMIT opened(document);
 }
 
-void FileCommands::SaveVocabulary(frmDoc &document, const QString &path, QString *error)
+FileCommands::SaveReport FileCommands::SaveVocabulary(frmDoc &document, const QString &path)
 {
+    SaveReport report;
     const int rows = document.Rutor()->Rows();
     const BusyStatus busy(m_needs.status, 716, path, qint64(rows) * 2);
     const Vocabulary vocabulary = GridContent::read(*document.Rutor());
@@ -293,11 +312,13 @@ void FileCommands::SaveVocabulary(frmDoc &document, const QString &path, QString
         [this, rows](qint64 done) { m_needs.status.setProgress(rows + done); },
         [this, &document] { isSecured(document); }, // being killed meanwhile would leave half of each
     };
-    if (!VocabularyFile(path).save(vocabulary, m_codePage, watchers, error))
-        return;
+    if (!VocabularyFile(path).save(vocabulary, m_codePage, watchers, &report.error))
+        return report;
+    report.unstoredRows = vocabulary.unstoredRows();
     document.setCaption(GridRules::fileTitle(path));
-    document.setDirty(false);
+    document.setDirty(!report.unstoredRows.empty());
     document.setDocName(path);
     document.fileStamp = FileStamp::of(path);
     Q_EMIT saved(&document);
+    return report;
 }

@@ -48,9 +48,17 @@ public:
     /// leaves no window.
     void LoadVocabulary(const QString &path);
 
-    /// Writes a document to a file, replacing the one of that name whole or not at all. The user is not told of a
-    /// failure: the document keeps its caption, its path and its changes, and error, if given, says why.
-    void SaveVocabulary(frmDoc &document, const QString &path, QString *error = nullptr);
+    /// What the user has to learn after a vocabulary was saved.
+    struct SaveReport
+    {
+        QString error;                       ///< why it failed; empty when it did not
+        std::vector<qsizetype> unstoredRows; ///< whose words the file cannot hold
+    };
+
+    /// Writes a document to a file, replacing the one of that name whole or not at all. The user is told nothing: after
+    /// a failure the document keeps its caption, its path and its changes, and it stays changed when it has words that
+    /// the file cannot hold.
+    SaveReport SaveVocabulary(frmDoc &document, const QString &path);
 
 Q_SIGNALS:
     /// A document was made or read and is shown.
@@ -72,12 +80,12 @@ private:
     };
 
     bool confirmClose(frmDoc &document);
-    /// Whether a document that was not saved may close all the same.
-    bool mayCloseUnsaved(frmDoc &document, const QString &path, const QString &error);
+    /// Whether a document may close all the same that was not saved, or not whole.
+    bool mayCloseUnsaved(frmDoc &document, const QString &path, const SaveReport &report);
     /// Whether a document may close of which there is not even a copy.
-    bool mayLose(const frmDoc &document);
-    /// An empty path stands for a cancelled dialog. error is set when saving failed.
-    SaveOutcome saveUnder(frmDoc &document, const QString &path, QString &error);
+    bool mayLose(const frmDoc &document, const SaveReport &report);
+    /// An empty path stands for a cancelled dialog.
+    SaveOutcome saveUnder(frmDoc &document, const QString &path, SaveReport &report);
     /// The same as a command: the user learns of a failure.
     void saveAndTell(frmDoc &document, const QString &path);
     bool mayOverwrite(const frmDoc &document);
@@ -90,7 +98,7 @@ private:
     bool readInto(const VocabularyFile &file, const QString &path);
     void openVocabulary(const QString &path, Vocabulary &&vocabulary, const FileStamp &stamp);
     void alertFile(const QString &prompt, int helpId);
-    void warn(const QString &prompt);
+    void warn(const QString &prompt, int helpId = 0);
     void onCreated(frmDoc *document);
 
     Needs m_needs;

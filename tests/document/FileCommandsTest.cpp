@@ -128,6 +128,38 @@ TEST_F(FileCommandsTest, TheClosingQuestionDecides)
     }
 }
 
+TEST_F(FileCommandsTest, WordsBelowTheLastRowWrittenAreToldAndKeepTheDocumentChanged)
+{
+    const std::pair<std::vector<int>, const char *> cases[] = {
+        {{}, nullptr},
+        {{2}, "row 2"},
+        {{2, 3, 4, 6, 9, 10}, "rows 2-4, 6, 9-10"},
+        {{2, 4, 6, 8, 10, 12, 14, 16, 17, 19, 21, 22}, "rows 2, 4, 6, 8, 10, 12, 14, 16-17 and 3 more"},
+    };
+    frmDoc &document = *load(write("100%1.gla", Words.first(Words.indexOf("tree"))));
+    for (const auto &[rows, told] : cases) {
+        document.Rutor()->setRows(2);
+        document.Rutor()->setRows(30);
+        for (const int row : rows)
+            document.Rutor()->setTextMatrix(row, 2, "Wort");
+        document.setDirty(true);
+        alert.shown.clear();
+        files.save();
+        EXPECT_EQ(readFile(document.DocName()).count("Wort"), 0) << "the format has no place for them";
+        EXPECT_EQ(document.Dirty(), bool(told));
+        ASSERT_EQ(alert.shown.size(), told ? 1u : 0u);
+        if (told)
+            EXPECT_TRUE(alert.onlyPrompt().startsWith("The words in " + QString(told) + " are not in the file " +
+                                                      document.DocName() + ": a vocabulary file ends with the last "
+                                                                           "row that has a word under [English]."))
+                << alert.onlyPrompt();
+    }
+    alert.answers = {AlertBox::AnswerYes, AlertBox::AnswerOk};
+    EXPECT_TRUE(files.closeAll()) << "as whoever asks for it wants it, but not without a word";
+    EXPECT_EQ(alert.shown.back().helpId, 1110);
+    EXPECT_EQ(alert.shown.size(), 3u);
+}
+
 TEST_F(FileCommandsTest, ClosingAllStopsAtTheFirstRefusalAndAsksAgainLater)
 {
     newDocument();

@@ -15,3 +15,13 @@ qsizetype Vocabulary::storedRows() const
         --count;
     return count;
 }
+
+std::vector<qsizetype> Vocabulary::unstoredRows() const
+{
+    std::vector<qsizetype> found;
+    for (qsizetype row = storedRows(); row < rows(); ++row) {
+        if (!second[size_t(row)].isEmpty())
+            found.push_back(row);
+    }
+    return found;
+}

@@ -49,6 +49,8 @@ struct Vocabulary
     qsizetype filledRows() const;
     /// How many of them a file holds: up to the last with a word in the first language.
     qsizetype storedRows() const;
+    /// The rows after those that have words all the same, which a file cannot hold.
+    std::vector<qsizetype> unstoredRows() const;
 
     bool operator==(const Vocabulary &) const = default;
 };
