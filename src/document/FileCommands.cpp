@@ -292,6 +292,7 @@ void FileCommands::openVocabulary(const QString &path, Vocabulary &&vocabulary, 
 {
     frmDoc *document = m_needs.documents.create();
     GridContent::fill(*document->Rutor(), std::move(vocabulary));
+    m_needs.status.setProgress(stamp.size * 2);
     document->setCaption(GridRules::fileTitle(path));
     document->setDirty(false);
     document->setDocName(path);
