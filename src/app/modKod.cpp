@@ -1,8 +1,8 @@
 #include "app/modKod.h"
 
 #include "app/CommonFilePrompts.h"
+#include "app/RecoveryOffer.h"
 #include "app/frmApp.h"
-#include "app/frmRecovery.h"
 #include "app/rules/CommandLine.h"
 #include "document/RecoveryKeeper.h"
 #include "document/rules/CodePage.h"
@@ -127,24 +127,17 @@ void askAtEnd(QApplication &application, frmApp &window, SignalWatcher &watcher,
         Qt::DirectConnection);
 }
 
-void listen(SingleInstance &instance, frmApp &window)
+void listen(SingleInstance &instance, frmApp &window, RecoveryOffer &offer)
 {
     QObject::connect(&instance, &SingleInstance::activated, &window, &frmApp::bringToFront);
-    QObject::connect(&instance, &SingleInstance::received, &window, &frmApp::OpenRequestedFile);
+    QObject::connect(&instance, &SingleInstance::received, &window,
+                     [&offer](const QString &text) { offer.open(text); });
     QObject::connect(&window, &frmApp::closed, &instance, [&instance] {
         const QStringList unanswered = instance.leave();
         for (const QString &text : unanswered)
             DetachedProcess::start(QApplication::applicationFilePath(), {text});
     });
     instance.serve();
-}
-
-/// Asks what is to become of the copies that a crash left behind, if there are any.
-void offerRecovery(RecoveryKeeper &keeper, AlertBox &alert, QWidget &window)
-{
-    std::vector<RecoveryFolder::Orphan> orphans = keeper.orphans();
-    if (!orphans.empty())
-        frmRecovery(keeper, std::move(orphans), alert, &window).exec();
 }
 
 /// The splash in its start-up role, or null if the user wants none.
@@ -158,9 +151,9 @@ std::unique_ptr<frmSplash> makeSplash(const CommandLine &commandLine)
     return splash;
 }
 
-/// The main window shows while the splash still stands before it. When the splash has gone, what was left behind by a
-/// crash is offered, and the file named on the command line opens. Without a splash nothing waits.
-void showInTurn(frmSplash *splash, frmApp &window, const QString &file, const std::function<void()> &offer)
+/// The main window shows while the splash still stands before it. When the splash has gone, the file named on the
+/// command line opens, and what was left behind is offered. Without a splash nothing waits.
+void showInTurn(frmSplash *splash, frmApp &window, const QString &file, RecoveryOffer &offer)
 {
     if (splash)
         splash->show();
@@ -169,12 +162,10 @@ void showInTurn(frmSplash *splash, frmApp &window, const QString &file, const st
         if (splash)
             splash->raise();
     });
-    QTimer::singleShot(splash ? CloseSplashAfter : 0, &window, [splash, &window, offer, file] {
+    QTimer::singleShot(splash ? CloseSplashAfter : 0, &window, [splash, &offer, file] {
         if (splash)
             splash->close();
-        offer();
-        if (!file.isEmpty())
-            window.OpenRequestedFile(file);
+        offer.start(file);
     });
 }
 
@@ -220,12 +211,13 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     DialogHelp dialogHelp(program.help, program.alert, HelpTarget::ofProgram());
     program.alert.setMainWindow(&window);
     program.prompts.setOwner(&window);
-    listen(instance, window);
     QObject::connect(&window, &frmApp::closed, &application, &QApplication::quit);
     RecoveryKeeper keeper(window.context().documents, window.context().files, program.codePage,
                           UserFolders::state() + QStringLiteral("/recovery"));
+    RecoveryOffer offer(keeper, program.alert, window);
+    listen(instance, window, offer);
     askAtEnd(application, window, watcher, keeper);
-    showInTurn(splash.get(), window, commandLine.text, [&] { offerRecovery(keeper, program.alert, window); });
+    showInTurn(splash.get(), window, commandLine.text, offer);
     QGuiApplication::restoreOverrideCursor();
     return QApplication::exec();
 }

@@ -1,0 +1,99 @@
+#include "app/RecoveryOffer.h"
+#include "MainWindowFixture.h"
+#include "document/FileCommands.h"
+#include "document/RecoveryKeeper.h"
+#include "document/ctlGrid.h"
+#include "resources/StringTable.h"
+
+#include <QPushButton>
+#include <QTreeWidget>
+
+struct RecoveryOfferTest : MainWindowFixture
+{
+    std::unique_ptr<RecoveryKeeper> keeper;
+    std::unique_ptr<RecoveryOffer> offer;
+
+    void SetUp() override { start(); }
+    /// A program over what the one before it has left.
+    void start()
+    {
+        offer.reset();
+        keeper.reset();
+        window.reset();
+        MainWindowFixture::SetUp();
+        keeper = std::make_unique<RecoveryKeeper>(documents(), window->context().files, codePage,
+                                                  folder.filePath("recovery"));
+        offer = std::make_unique<RecoveryOffer>(*keeper, alert, *window);
+    }
+    void change(const QString &path)
+    {
+        window->OpenRequestedFile(path);
+        documents().active()->Rutor()->setTextMatrix(1, 1, "changed");
+        documents().active()->setDirty(true);
+        keeper->flush();
+    }
+    QStringList captions()
+    {
+        QStringList found;
+        for (const frmDoc *document : documents().open())
+            found.append(document->Caption() + (document->Dirty() ? "*" : ""));
+        return found;
+    }
+    /// Starts on a file and answers the offer by a button.
+    void answer(const QString &file, const QString &button, const std::function<void(QTreeWidget &)> &visit)
+    {
+        QTimer::singleShot(0, window.get(), [&] {
+            QWidget *dialog = QApplication::activeModalWidget();
+            ASSERT_TRUE(dialog);
+            visit(*dialog->findChild<QTreeWidget *>());
+            dialog->findChild<QPushButton *>(button)->click();
+            dialog->close();
+        });
+        offer->start(file);
+    }
+};
+
+TEST_F(RecoveryOfferTest, WhatIsRecoveredCountsAsTheFileThatWasAskedFor)
+{
+    const QString one = writeVocabulary("one.gla");
+    const QString two = writeVocabulary("two.gla");
+    const QString other = writeVocabulary("other.gla");
+    change(one);
+    change(two);
+    const auto isOpen = [this](const QString &path) { return documents().findByPath(path) != nullptr; };
+
+    start();
+    answer(two, "btnLater", [&](QTreeWidget &list) {
+        EXPECT_EQ(list.topLevelItem(0)->text(1), resText(14067)) << "it ended unexpectedly";
+        EXPECT_FALSE(isOpen(two)) << "it waits for what becomes of its copy";
+        offer->open(other);
+        EXPECT_TRUE(isOpen(other)) << "others do not";
+    });
+    EXPECT_EQ(captions(), QStringList({"other", "two"}));
+
+    start();
+    window->OpenRequestedFile(one);
+    answer(two, "btnRecover", [&](QTreeWidget &list) {
+        offer->open(one); // as by a double click
+        ASSERT_EQ(alert.onlyPrompt(), resText(710) + one + resText(711)) << "which it is";
+        EXPECT_EQ(list.selectedItems().size(), 2);
+    });
+    EXPECT_EQ(captions(), QStringList({"one*", "two*"})) << "each once";
+    EXPECT_EQ(documents().active()->Caption(), "two");
+    EXPECT_EQ(alert.shown.size(), 1u);
+}
+
+TEST_F(RecoveryOfferTest, TakesOnlyWhatIsSelected)
+{
+    for (const char *name : {"a.gla", "b.gla", "c.gla"})
+        change(writeVocabulary(name));
+    start();
+    alert.answers = {AlertBox::AnswerYes};
+    answer({}, "btnDiscard", [](QTreeWidget &list) {
+        list.topLevelItem(0)->setSelected(false);
+        EXPECT_EQ(list.topLevelItem(0)->text(0), "c") << "the newest first";
+    });
+    EXPECT_EQ(alert.onlyPrompt(), resText(12620).arg(2));
+    answer({}, "btnRecover", [](QTreeWidget &list) { EXPECT_EQ(list.topLevelItemCount(), 1); });
+    EXPECT_EQ(captions(), QStringList("c*"));
+}
