@@ -11,7 +11,19 @@
 
 namespace {
 
-enum Column { NameColumn, TimeColumn, FolderColumn };
+enum Column { NameColumn, CauseColumn, TimeColumn, FolderColumn };
+
+QString causeText(RecoveryCopy::Cause cause)
+{
+    switch (cause) {
+    case RecoveryCopy::Cause::Closed:
+        return resText(14068);
+    case RecoveryCopy::Cause::NotInFile:
+        return resText(14069);
+    default:
+        return resText(14067);
+    }
+}
 
 } // namespace
 
@@ -40,21 +52,21 @@ frmRecovery::~frmRecovery() = default;
 
 void frmRecovery::fill()
 {
-    m_ui->lstCopies->setHeaderLabels({resText(12613), resText(12615), resText(12614)});
+    m_ui->lstCopies->setHeaderLabels({resText(12613), resText(14066), resText(12615), resText(12614)});
     for (const RecoveryFolder::Orphan &orphan : m_orphans) {
         const RecoveryCopy &copy = orphan.copy;
         const QString name = copy.isFileChanged() ? resText(12628).arg(copy.caption) : copy.caption;
         const QString folder = copy.docName.isEmpty() ? resText(12619) : QFileInfo(copy.docName).path();
         const QString time = QLocale().toString(copy.time, QLocale::ShortFormat);
-        auto *item = new QTreeWidgetItem(m_ui->lstCopies, {name, time, folder});
+        auto *item = new QTreeWidgetItem(m_ui->lstCopies, {name, causeText(copy.cause), time, folder});
         item->setToolTip(NameColumn, name);
         item->setToolTip(FolderColumn, folder);
     }
-    // The folder takes what is left, so that name and time are always in sight.
+    // The folder takes what is left, so that the others are always in sight.
     for (int column = 0; column < FolderColumn; ++column)
         m_ui->lstCopies->resizeColumnToContents(column);
-    const int half = width() / 2; // of the dialog, which is not laid out yet
-    m_ui->lstCopies->setColumnWidth(NameColumn, std::min(m_ui->lstCopies->columnWidth(NameColumn), half));
+    const int share = width() / 3; // of the dialog, which is not laid out yet
+    m_ui->lstCopies->setColumnWidth(NameColumn, std::min(m_ui->lstCopies->columnWidth(NameColumn), share));
 }
 
 /// From the last to the first, so that rows can be taken out in that order.

@@ -13,8 +13,8 @@ namespace Ui {
 class frmRecovery;
 }
 
-/// Offers what a crash left behind: each vocabulary with its name, folder and time can be recovered or discarded; what
-/// is neither stays for the next start.
+/// Offers what was left behind: each vocabulary, with the cause why it is there, can be recovered or discarded; what is
+/// neither stays for the next start.
 class frmRecovery : public QDialog
 {
     Q_OBJECT

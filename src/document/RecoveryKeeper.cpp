@@ -13,8 +13,8 @@ namespace {
 RecoveryCopy copyOf(const frmDoc &document)
 {
     const ctlGrid &grid = *document.Rutor();
-    RecoveryCopy copy{document.Caption(), document.DocName(), document.fileStamp, QDateTime::currentDateTime(),
-                      GridContent::read(grid)};
+    RecoveryCopy copy{document.Caption(),           document.DocName(),      document.fileStamp,
+                      QDateTime::currentDateTime(), GridContent::read(grid), {}};
     if (grid.EditMode()) {
         auto &column = grid.Col() == 1 ? copy.vocabulary.first : copy.vocabulary.second;
         column[size_t(grid.Row())] = grid.EditText();
@@ -30,7 +30,7 @@ RecoveryKeeper::RecoveryKeeper(DocumentList &documents, FileCommands &files, con
     , m_documents(documents)
     , m_codePage(codePage)
     , m_folder(folder)
-    , m_writer(m_folder)
+    , m_writer(m_folder, codePage)
 {
     connect(&files, &FileCommands::opened, this, &RecoveryKeeper::watch);
     connect(&files, &FileCommands::saved, this, &RecoveryKeeper::settle);
@@ -113,10 +113,7 @@ void RecoveryKeeper::release(frmDoc *document)
     const auto place = m_kept.find(document);
     if (place == m_kept.end())
         return;
-    if (document->Dirty())
-        keep(*document, *place);
-    else
-        m_writer.leave(place->slot, copyOf(*document));
+    m_writer.leave(place->slot, copyOf(*document), document->Dirty());
     m_kept.erase(place);
 }
 
@@ -150,6 +147,7 @@ void RecoveryKeeper::recover(const RecoveryFolder::Orphan &orphan)
     const QString path = m_folder.adopt(orphan.path);
     if (path.isEmpty())
         return;
+    closeUnchanged(orphan.copy.docName);
     frmDoc *document = m_documents.create();
     GridContent::fillAll(*document->Rutor(), Vocabulary(orphan.copy.vocabulary));
     document->setCaption(orphan.copy.caption);
@@ -158,6 +156,14 @@ void RecoveryKeeper::recover(const RecoveryFolder::Orphan &orphan)
     document->setDirty(true);
     m_kept.insert(document, {stateOf(*document), std::make_shared<RecoveryWriter::Slot>(path)});
     document->showDocument();
+}
+
+/// A file that was opened before its copy is recovered has no second window.
+void RecoveryKeeper::closeUnchanged(const QString &path)
+{
+    frmDoc *open = path.isEmpty() ? nullptr : m_documents.findByPath(path);
+    if (open && !open->Dirty() && !open->Rutor()->EditMode())
+        open->frame()->close();
 }
 
 void RecoveryKeeper::discard(const RecoveryFolder::Orphan &orphan)

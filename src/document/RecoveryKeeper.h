@@ -15,8 +15,8 @@ class FileCommands;
 class frmDoc;
 
 /// Keeps a copy of every changed document in the recovery folder, brought up to date shortly after a change. A copy
-/// goes when its document has been saved or the user let the changes go; a document that closes otherwise leaves its
-/// copy for the next start.
+/// goes when its document has been saved or closed by the user; one that closes with words that its file does not hold
+/// leaves a copy for the next start, unless the user has let the changes go.
 class RecoveryKeeper : public QObject
 {
     Q_OBJECT
@@ -32,7 +32,7 @@ public:
     /// Brings every copy up to date and returns when all are on the disk.
     void flush();
 
-    /// The copies that a crash left behind, newest first. One that holds nothing but what its file holds is removed.
+    /// The copies that were left behind, newest first. One that holds nothing but what its file holds is removed.
     std::vector<RecoveryFolder::Orphan> orphans();
     /// Opens a copy as a changed document under its old name. Its file stays until that document is saved or given up.
     void recover(const RecoveryFolder::Orphan &orphan);
@@ -65,8 +65,9 @@ private:
     void secure(frmDoc *document, bool &secured);
     /// The user wants the changes no more.
     void giveUp(frmDoc *document);
-    /// The document closes; what has neither been saved nor given up stays in its copy.
+    /// The document closes; words that have neither been saved nor given up stay in its copy.
     void release(frmDoc *document);
+    void closeUnchanged(const QString &path);
     bool holdsOnlyItsFile(const RecoveryCopy &copy) const;
 
     DocumentList &m_documents;

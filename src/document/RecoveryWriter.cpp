@@ -1,5 +1,7 @@
 #include "document/RecoveryWriter.h"
 
+#include "document/rules/VocabularyFile.h"
+
 namespace {
 
 VocabularyDigest wholeDigest(const RecoveryCopy &copy)
@@ -7,10 +9,19 @@ VocabularyDigest wholeDigest(const RecoveryCopy &copy)
     return VocabularyDigest::of(copy.vocabulary, copy.vocabulary.filledRows());
 }
 
+/// What a file holds; nothing when it cannot be read.
+Vocabulary contentOf(const QString &path, const CodePage &codePage)
+{
+    VocabularyFile file(path);
+    const bool isReadable = file.readHeader().outcome == VocabularyCodec::Outcome::Ok;
+    return isReadable ? file.read(codePage).vocabulary : Vocabulary();
+}
+
 } // namespace
 
-RecoveryWriter::RecoveryWriter(RecoveryFolder &folder)
+RecoveryWriter::RecoveryWriter(RecoveryFolder &folder, const CodePage &codePage)
     : m_folder(folder)
+    , m_codePage(codePage)
 {
     m_thread.setMaxThreadCount(1);
 }
@@ -28,6 +39,8 @@ void RecoveryWriter::begin(const SharedSlot &slot, RecoveryCopy &&now)
 {
     run(slot, [copy = std::move(now)](Slot &own) {
         own.m_stored = wholeDigest(copy);
+        if (copy.docName.isEmpty())
+            own.m_begun = copy.vocabulary;
         return true;
     });
 }
@@ -52,11 +65,24 @@ void RecoveryWriter::settle(const SharedSlot &slot, RecoveryCopy &&now)
     });
 }
 
-void RecoveryWriter::leave(const SharedSlot &slot, RecoveryCopy &&now)
+void RecoveryWriter::leave(const SharedSlot &slot, RecoveryCopy &&now, bool wanted)
 {
-    run(slot, [this, copy = std::move(now)](Slot &own) {
-        return wholeDigest(copy).words == own.m_stored.words ? remove(own) : write(own, copy);
+    run(slot, [this, copy = std::move(now), wanted](Slot &own) mutable {
+        if (!isWorthACopy(own, copy, wanted))
+            return remove(own);
+        const bool isSaved = VocabularyDigest::of(copy.vocabulary, copy.vocabulary.storedRows()) == own.m_stored;
+        copy.cause = isSaved && !copy.docName.isEmpty() ? RecoveryCopy::Cause::NotInFile : RecoveryCopy::Cause::Closed;
+        return write(own, copy);
     });
+}
+
+bool RecoveryWriter::isWorthACopy(const Slot &slot, const RecoveryCopy &last, bool wanted) const
+{
+    if (wholeDigest(last) == slot.m_stored)
+        return false;
+    if (last.docName.isEmpty())
+        return last.vocabulary.hasWordsBeyond(slot.m_begun);
+    return wanted || last.vocabulary.hasWordsBeyond(contentOf(last.docName, m_codePage));
 }
 
 void RecoveryWriter::discard(const SharedSlot &slot)

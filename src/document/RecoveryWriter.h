@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/rules/CodePage.h"
 #include "document/rules/RecoveryFolder.h"
 #include "document/rules/VocabularyDigest.h"
 
@@ -33,10 +34,12 @@ public:
         std::atomic<bool> m_failed = false;
         QString m_path;            ///< empty: there is no copy
         VocabularyDigest m_stored; ///< what the document's file holds; empty: none of it
+        Vocabulary m_begun;        ///< what the document was made with that has no file
     };
     using SharedSlot = std::shared_ptr<Slot>;
 
-    explicit RecoveryWriter(RecoveryFolder &folder);
+    /// codePage is the character set of vocabulary files.
+    RecoveryWriter(RecoveryFolder &folder, const CodePage &codePage);
 
     /// The document is as it was read or made: it needs no copy.
     void begin(const SharedSlot &slot, RecoveryCopy &&now);
@@ -46,9 +49,9 @@ public:
     void secure(const SharedSlot &slot, RecoveryCopy &&now);
     /// The document has been saved. A copy stays if it has words that a file does not hold.
     void settle(const SharedSlot &slot, RecoveryCopy &&now);
-    /// The document closes and the user was not asked, since nothing counts as changed: only its words are worth a
-    /// copy.
-    void leave(const SharedSlot &slot, RecoveryCopy &&now);
+    /// The document closes. If it was to be saved first (wanted), everything is worth a copy that its file does not
+    /// hold, else only its words are.
+    void leave(const SharedSlot &slot, RecoveryCopy &&now, bool wanted);
     /// The copy is not wanted any more.
     void discard(const SharedSlot &slot);
 
@@ -57,9 +60,11 @@ public:
 
 private:
     void run(const SharedSlot &slot, std::function<bool(Slot &)> job);
+    bool isWorthACopy(const Slot &slot, const RecoveryCopy &last, bool wanted) const;
     bool write(Slot &slot, const RecoveryCopy &copy);
     bool remove(Slot &slot);
 
     RecoveryFolder &m_folder;
+    CodePage m_codePage;
     QThreadPool m_thread;
 };

@@ -112,6 +112,7 @@ TEST_F(RecoveryTest, EveryLaterChangeReachesTheCopyAndGoesWhenItIsUndone)
     EXPECT_EQ(copies().size(), 1);
     restart();
     const RecoveryFolder::Orphan orphan = run->keeper.orphans().at(0);
+    EXPECT_EQ(orphan.copy.cause, RecoveryCopy::Cause::Ended);
     EXPECT_LT(orphan.copy.time.secsTo(QDateTime::currentDateTime()), 60);
     run->keeper.recover(orphan);
     ASSERT_EQ(run->documents.open().size(), 1u);
@@ -128,18 +129,6 @@ TEST_F(RecoveryTest, EveryLaterChangeReachesTheCopyAndGoesWhenItIsUndone)
     EXPECT_EQ(copies().size(), 2);
     document->Rutor()->setTextMatrix(1, 1, QString());
     EXPECT_EQ(copies().size(), 1) << "only what was recovered";
-}
-
-TEST_F(RecoveryTest, WordsThatNoFileHoldsStayInACopy)
-{
-    frmDoc *document = run->changedDocument("one");
-    document->Rutor()->setTextMatrix(2, 2, "a translation without its word");
-    run->prompts.savePath = home.filePath("words.gla");
-    run->files.save();
-    EXPECT_EQ(copies().size(), 1);
-    run->files.closeActive();
-    restart();
-    ASSERT_EQ(run->keeper.orphans().size(), 1u);
 }
 
 TEST_F(RecoveryTest, TheCopiesOfRunningProgramsAreNobodyElses)
@@ -164,38 +153,65 @@ TEST_F(RecoveryTest, TheCopiesOfRunningProgramsAreNobodyElses)
     EXPECT_TRUE(QDir(folder).isEmpty());
 }
 
-TEST_F(RecoveryTest, AnUnsavedDocumentThatClosesLeavesItsCopy)
+TEST_F(RecoveryTest, AClosedDocumentLeavesTheWordsThatItsFileLacksAndWhy)
 {
+    using enum RecoveryCopy::Cause;
+    using Change = void (*)(ctlGrid &);
+    const Change word = [](ctlGrid &grid) { grid.setTextMatrix(1, 2, "eins"); };
+    const Change layout = [](ctlGrid &grid) { grid.setColWidth(1, 777); };
+    const Change clear = [](ctlGrid &grid) { grid.setTextMatrix(1, 1, QString()); };
+    const Change insert = [](ctlGrid &grid) { grid.insertRows(1, 1); };
+    const Change below = [](ctlGrid &grid) { grid.setTextMatrix(9, 2, "neun"); };
+    enum Saving { Cancelled, Fails, Works };
     struct Case
     {
         const char *name;
-        bool dirty;
-        QString path;
-        bool told;
-        bool kept;
+        bool hasFile;
+        Change change;
+        bool asked; ///< and answered with Yes
+        Saving saving;
+        size_t boxes; ///< that the user sees
+        std::optional<RecoveryCopy::Cause> left;
     };
-    const Case cases[] = {{"the save dialog was cancelled", true, {}, false, true},
-                          {"saving failed", true, home.filePath("none/words.gla"), true, true},
-                          {"words changed without a question", false, {}, false, true},
-                          {"sizes changed without a question", false, {}, false, false}};
+    const Case cases[] = {
+        {"a first save that is given up", false, word, true, Cancelled, 1, Closed},
+        {"the same without any word", false, layout, true, Cancelled, 1, {}},
+        {"a first save that fails", false, word, true, Fails, 2, Closed},
+        {"a later save that fails", true, clear, true, Fails, 3, Closed},
+        {"words below the last row", true, below, true, Works, 2, NotInFile},
+        {"words below the last row, not saved", false, below, true, Cancelled, 1, Closed},
+        {"a cleared cell", true, clear, false, Works, 0, {}},
+        {"an inserted row", true, insert, false, Works, 0, {}},
+        {"a size", true, layout, false, Works, 0, {}},
+        {"a word that came back by Undo", true, word, false, Works, 0, Closed},
+    };
     for (const Case &c : cases) {
-        frmDoc *document = run->newDocument();
-        if (c.kept)
-            document->Rutor()->setTextMatrix(1, 1, QLatin1String(c.name));
-        else
-            document->Rutor()->setColWidth(1, 777);
+        SCOPED_TRACE(c.name);
+        const QString path = home.filePath("words.gla");
+        QDir().rmdir(path);
+        frmDoc *document = c.hasFile ? run->changedDocument("one") : run->newDocument();
+        run->prompts.savePath = path;
+        if (c.hasFile)
+            run->files.save();
+        c.change(*document->Rutor());
         EXPECT_EQ(copies().size(), 1);
-        document->setDirty(c.dirty);
-        run->prompts.savePath = c.path;
+        document->setDirty(c.asked);
+        if (c.saving != Works)
+            run->prompts.savePath.clear();
+        if (c.saving == Fails) { // where a folder stands
+            QFile::remove(path);
+            QDir().mkdir(path);
+            run->prompts.savePath = path;
+        }
         run->alert.shown.clear();
-        run->alert.answers = {AlertBox::AnswerYes};
+        run->alert.answers = {AlertBox::AnswerYes, AlertBox::AnswerYes};
         run->files.closeActive();
         EXPECT_TRUE(run->documents.open().empty());
-        const QString told = run->alert.shown.empty() ? QString() : run->alert.shown.back().prompt;
-        EXPECT_EQ(told.startsWith("The file"), c.told) << c.name;
-        run->alert.answers.clear();
+        EXPECT_EQ(run->alert.shown.size(), c.boxes);
         restart();
-        EXPECT_EQ(run->keeper.orphans().size(), c.kept) << c.name;
+        const std::vector<RecoveryFolder::Orphan> orphans = run->keeper.orphans();
+        ASSERT_EQ(orphans.size(), c.left ? 1u : 0u);
+        EXPECT_TRUE(!c.left || orphans[0].copy.cause == *c.left);
         discardAll();
     }
 }

@@ -6,7 +6,8 @@
 namespace {
 
 constexpr quint32 Signature = 0x474C5231;
-constexpr quint32 EndMark = 0x454E4431;
+constexpr quint32 EndMark = 0x454E4431; ///< of the first cause; those of the others follow
+constexpr quint32 LastCause = quint32(RecoveryCopy::Cause::NotInFile);
 
 void write(QDataStream &stream, const VocabularyFont &font)
 {
@@ -79,7 +80,7 @@ QByteArray RecoveryCopy::toBytes() const
     stream.setVersion(QDataStream::Qt_6_0);
     stream << Signature << caption << docName << fileStamp.size << fileStamp.changed << time;
     write(stream, vocabulary);
-    stream << EndMark;
+    stream << EndMark + quint32(cause);
     return bytes;
 }
 
@@ -96,7 +97,9 @@ std::optional<RecoveryCopy> RecoveryCopy::fromBytes(const QByteArray &bytes)
     stream >> copy.caption >> copy.docName >> copy.fileStamp.size >> copy.fileStamp.changed >> copy.time;
     read(stream, copy.vocabulary);
     stream >> end;
-    if (stream.status() != QDataStream::Ok || end != EndMark || !stream.atEnd() || !isUsable(copy.vocabulary))
+    const quint32 cause = end - EndMark;
+    if (stream.status() != QDataStream::Ok || cause > LastCause || !stream.atEnd() || !isUsable(copy.vocabulary))
         return {};
+    copy.cause = Cause(cause);
     return copy;
 }

@@ -9,11 +9,19 @@
 /// called.
 struct RecoveryCopy
 {
+    /// Why the copy is there at a later start.
+    enum class Cause : quint8 {
+        Ended,    ///< the program ended before the document closed
+        Closed,   ///< the document closed without being saved
+        NotInFile ///< the document was saved, but the file cannot hold all its words
+    };
+
     QString caption;
     QString docName;     ///< path of its file; empty for a document that was never saved
     FileStamp fileStamp; ///< that file as the document was read from it
     QDateTime time;      ///< when the copy was made
     Vocabulary vocabulary;
+    Cause cause = Cause::Ended;
 
     static constexpr qint64 SignatureSize = 4;
     /// Whether bytes can be those of a copy, judged by the first SignatureSize of them.

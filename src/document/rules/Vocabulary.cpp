@@ -1,5 +1,27 @@
 #include "document/rules/Vocabulary.h"
 
+#include <algorithm>
+
+namespace {
+
+std::vector<QStringView> sortedWords(const std::vector<QString> &column)
+{
+    std::vector<QStringView> words;
+    std::copy_if(column.begin(), column.end(), std::back_inserter(words),
+                 [](QStringView word) { return !word.isEmpty(); });
+    std::sort(words.begin(), words.end());
+    return words;
+}
+
+bool includes(const std::vector<QString> &column, const std::vector<QString> &part)
+{
+    const std::vector<QStringView> all = sortedWords(column);
+    const std::vector<QStringView> some = sortedWords(part);
+    return std::includes(all.begin(), all.end(), some.begin(), some.end());
+}
+
+} // namespace
+
 qsizetype Vocabulary::filledRows() const
 {
     qsizetype count = rows();
@@ -24,4 +46,9 @@ std::vector<qsizetype> Vocabulary::unstoredRows() const
             found.push_back(row);
     }
     return found;
+}
+
+bool Vocabulary::hasWordsBeyond(const Vocabulary &other) const
+{
+    return !includes(other.first, first) || !includes(other.second, second);
 }

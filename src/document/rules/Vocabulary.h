@@ -52,5 +52,8 @@ struct Vocabulary
     /// The rows after those that have words all the same, which a file cannot hold.
     std::vector<qsizetype> unstoredRows() const;
 
+    /// Whether it has words that the other lacks, wherever they stand.
+    bool hasWordsBeyond(const Vocabulary &other) const;
+
     bool operator==(const Vocabulary &) const = default;
 };
