@@ -35,8 +35,11 @@ struct RecoveryTest : ::testing::Test
     {
         run->keeper.flush();
         QStringList found;
-        for (QDirIterator it(folder, {"*.copy"}, QDir::Files, QDirIterator::Subdirectories); it.hasNext();)
+        for (QDirIterator it(folder, {"*.copy"}, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
             found += it.next();
+            for (const QString &place : {folder, it.fileInfo().path()})
+                EXPECT_FALSE(QFileInfo(place).permissions() & ~QFile::Permissions(0x7700)) << "others can look in";
+        }
         return found;
     }
     void restart()

@@ -8,12 +8,12 @@
 
 namespace {
 
-QString outputOf(const QString &program, const QStringList &arguments)
+QByteArray outputOf(const QString &program, const QStringList &arguments)
 {
     QProcess process;
     process.start(program, arguments);
     EXPECT_TRUE(process.waitForFinished()) << program.toStdString() << " is needed to read the printed pages back";
-    return QString::fromUtf8(process.readAllStandardOutput());
+    return process.readAllStandardOutput();
 }
 
 /// Vocabularies printed to PDF files and read back.
@@ -38,14 +38,24 @@ struct PrintedPages : ::testing::Test
 TEST_F(PrintedPages, HoldWordsOfEveryScriptOnSheetsOfA4)
 {
     source = sourceOf(120);
+    source.ForeColor = 0x0000ff; // red
     std::tie(source.first[2], source.second[2]) = std::pair("слово", "λέξη");
     std::tie(source.first[120], source.second[120]) = std::pair("漢字", "שלום");
     print();
-    const QString info = outputOf("pdfinfo", {file}).simplified();
-    EXPECT_TRUE(info.contains("Pages: 3 ") && info.contains("(A4)")) << info.toStdString();
+    const QByteArray info = outputOf("pdfinfo", {file}).simplified();
+    EXPECT_TRUE(info.contains("Pages: 3 ") && info.contains("(A4)")) << info.constData();
     const QString text = outputOf("pdftotext", {file, "-"});
     for (size_t row = 0; row < source.first.size(); ++row)
         EXPECT_TRUE(text.contains(source.first[row]) && text.contains(source.second[row])) << text.toStdString();
+    const QByteArray fonts = outputOf("pdffonts", {file});
+    EXPECT_TRUE(fonts.contains("LiberationSans ") && fonts.contains("LiberationSans-Bold ")) << fonts.constData();
+    const QImage page = QImage::fromData(outputOf("pdftoppm", {"-r", "72", "-singlefile", file}));
+    int red = 0;
+    for (int i = 0; i < page.width() * 20; ++i) {
+        const QColor point = page.pixelColor(i / 20, 108 + i % 20);
+        red += point.red() > point.green() + 99;
+    }
+    EXPECT_GT(red, 20) << "the words of the first row";
 }
 
 TEST_F(PrintedPages, AFileThatCannotBeWrittenIsAPrinterError)

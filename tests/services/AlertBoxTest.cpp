@@ -16,9 +16,14 @@ TEST(AlertBox, TheHelpKeyOpensTheTopicAndEscapeAnswers)
         Alert alert;
         alert.buttons = buttons;
         alert.helpId = 1400;
+        alert.prompt = "A question";
+        alert.exclamation = help;
         QTimer::singleShot(0, [&topics, waits = help] {
             QWidget *shown = QApplication::activeModalWidget();
             QApplication::setActiveWindow(shown);
+            const auto *message = qobject_cast<QMessageBox *>(shown);
+            EXPECT_EQ(message->icon(), waits ? QMessageBox::Warning : QMessageBox::NoIcon);
+            EXPECT_EQ(message->text(), "A question");
             QTest::keyClick(shown, Qt::Key_H, Qt::AltModifier);
             EXPECT_TRUE(!waits || QTest::qWaitFor([&topics] { return !topics.empty(); }));
             EXPECT_TRUE(shown->isVisible());

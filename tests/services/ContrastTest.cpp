@@ -4,7 +4,9 @@
 
 TEST(Contrast, BringsColoursOutOnEveryGround)
 {
-    EXPECT_NEAR(Contrast::between(Qt::white, Qt::black), 21, 0.01);
+    for (const auto &[colour, ratio] :
+         {std::pair(Qt::black, 21.0), {Qt::red, 4.0}, {Qt::green, 1.37}, {Qt::blue, 8.59}})
+        EXPECT_NEAR(Contrast::between(Qt::white, colour), ratio, 0.01);
     for (const auto &[ground, text] :
          {std::pair("#efefef", "#000000"), {"#323232", "#eeeeec"}, {"#000000", "#ffffff"}}) {
         QPalette palette;

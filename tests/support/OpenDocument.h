@@ -29,6 +29,8 @@ struct OpenDocument
         document.setDirty(false);
     }
 
+    ~OpenDocument() { EXPECT_TRUE(grid.Redraw()) << "drawing is held back for ever"; }
+
     void setWords(const Words &words)
     {
         grid.setRows(1);

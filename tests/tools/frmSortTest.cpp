@@ -7,8 +7,6 @@
 
 using Words = OpenDocument::Words;
 
-const QLocale English(QLocale::English);
-
 struct Sorting : ::testing::Test, OpenDocument
 {
     Sorting()
@@ -16,40 +14,51 @@ struct Sorting : ::testing::Test, OpenDocument
     {
     }
 
-    /// What the user does in the dialog that SortVocabulary shows.
-    void sortWith(const std::function<void(QDialog &)> &answer)
+    /// Clicks on controls of the dialog that SortVocabulary shows, then presses a key.
+    void sortWith(const QStringList &clicked, Qt::Key key)
     {
-        QTimer::singleShot(0, qApp, [&answer] {
+        QTimer::singleShot(0, qApp, [&] {
             auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
             ASSERT_TRUE(dialog && QTest::qWaitForWindowActive(dialog));
-            answer(*dialog);
+            for (const QString &name : clicked)
+                QTest::mouseClick(dialog->findChild<QAbstractButton *>(name), Qt::LeftButton);
+            QTest::keyClick(dialog, key);
         });
-        modSorting::SortVocabulary(document, undo, English, &window);
-    }
-    static void click(QDialog &dialog, const char *name)
-    {
-        QTest::mouseClick(dialog.findChild<QAbstractButton *>(QString::fromLatin1(name)), Qt::LeftButton);
+        modSorting::SortVocabulary(document, undo, QLocale(QLocale::English), &window);
     }
 };
 
-TEST_F(Sorting, SortsOnlyTheSelectedRows)
+TEST_F(Sorting, OrdersByTheChosenLanguageAndOrderWhatWasChosen)
 {
-    select(4, 2, 3, 1);
-    sortWith([](QDialog &dialog) {
-        click(dialog, "chkSelection");
-        QTest::keyClick(&dialog, Qt::Key_Return);
-    });
-    EXPECT_EQ(words(), (Words{{"b", "2"}, {"", "x"}, {"a", "9"}, {"c", "10"}, {}}));
+    // what is clicked, the columns that are selected in rows 3 and 4, and the words of language 1 afterwards
+    const std::tuple<QStringList, int, QString> cases[] = {
+        {{}, 2, "a,b,c,,"},
+        {{"optOrder1"}, 2, "c,b,a,,"},
+        {{"optLang1"}, 2, "b,a,c,,"},
+        {{"optLang1", "optOrder1"}, 2, ",c,a,b,"},
+        {{"optLang1", "optLang0", "optOrder1", "optOrder0"}, 2, "a,b,c,,"},
+        {{"chkSelection"}, 2, "b,,a,c,"},
+        {{"chkSelection"}, 1, "a,b,c,,"}, // disabled
+    };
+    for (const auto &[clicked, columns, sorted] : cases) {
+        setWords({{"b", "2"}, {"", "x"}, {"c", "10"}, {"a", "9"}});
+        select(4, 2, 3, 3 - columns);
+        sortWith(clicked, Qt::Key_Return);
+        QStringList first;
+        for (const auto &row : words())
+            first += row[0];
+        EXPECT_EQ(first.join(u','), sorted) << clicked.join(u' ').toStdString();
+    }
 }
 
 TEST_F(Sorting, CancelAndASortedVocabularyAreNoChange)
 {
     const Words before = words();
-    sortWith([](QDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    sortWith({}, Qt::Key_Escape);
     EXPECT_EQ(words(), before);
     EXPECT_EQ(undo.kind(), UndoKind::None);
     setWords({{"a", ""}, {"b", ""}});
-    sortWith([](QDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+    sortWith({}, Qt::Key_Return);
     EXPECT_FALSE(document.Dirty());
     EXPECT_EQ(undo.kind(), UndoKind::Sort);
 }
