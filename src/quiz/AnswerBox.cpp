@@ -13,6 +13,26 @@ AnswerBox::AnswerBox(QWidget *parent)
 {
     setFrame(false);
     setTextMargins(SideMargin, EdgeMargin, SideMargin, EdgeMargin + LineWidth);
+    connect(this, &QLineEdit::selectionChanged, this, &AnswerBox::selectPrompt);
+    connect(this, &QLineEdit::cursorPositionChanged, this, &AnswerBox::selectPrompt);
+}
+
+void AnswerBox::selectPrompt()
+{
+    if (promptStands() && !m_releasing && selectedText() != text())
+        selectAll();
+}
+
+/// What the mouse has selected could be pasted elsewhere; the prompt must not take the place of what the user selected
+/// to paste it here.
+void AnswerBox::mouseReleaseEvent(QMouseEvent *event)
+{
+    m_releasing = promptStands() && event->button() == Qt::LeftButton;
+    if (m_releasing)
+        deselect();
+    QLineEdit::mouseReleaseEvent(event);
+    m_releasing = false;
+    selectPrompt();
 }
 
 void AnswerBox::paintEvent(QPaintEvent *event)

@@ -143,6 +143,7 @@ void frmOva::dressKind()
     m_ui->txtTime->setEnabled(m_session->automatic());
     m_ui->chkError->setEnabled(!practice || m_session->automatic());
     m_ui->txtSvar->setPlaceholderText(resText(922));
+    m_ui->txtSvar->setPrompt(resText(922));
 }
 
 void frmOva::showForKind()

@@ -108,6 +108,29 @@ TEST_F(frmOvaTest, AWrongAnswerIsMarkedAndBeepsUnlessThatIsSwitchedOff)
     EXPECT_FALSE(control("btnRep")->isEnabled());
 }
 
+TEST_F(frmOvaTest, ThePromptGivesWayAsAWholeHoweverTheBoxIsTouched)
+{
+    const std::function<void(QLineEdit *)> touches[] = {
+        [](auto *box) { QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(60, box->height() / 2)); },
+        [](auto *box) { QTest::mouseDClick(box, Qt::LeftButton, {}, QPoint(60, box->height() / 2)); },
+        [](auto *box) { QTest::mousePress(box, Qt::LeftButton, Qt::ShiftModifier, QPoint(60, box->height() / 2)); },
+        [](auto *box) { QTest::keyClick(box, Qt::Key_Home); },
+        [](auto *box) { QTest::keyClick(box, Qt::Key_Left, Qt::ShiftModifier); },
+        [](auto *box) { QTest::keyClick(box, Qt::Key_Tab), box->setFocus(); },
+        [](auto *box) { QTest::keyClicks(box, "x"), QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier); },
+    };
+    for (const auto &touch : touches) {
+        open(QuestionAndAnswer);
+        touch(answerBox());
+        EXPECT_EQ(resText(922), answerBox()->selectedText());
+        type("Hund");
+        EXPECT_EQ(u"Hund", control<QLabel>("lblAns")->text());
+        QTest::keyClicks(answerBox(), "Kaze");
+        QTest::mouseClick(answerBox(), Qt::LeftButton, {}, QPoint(1, answerBox()->height() / 2));
+        EXPECT_EQ(0, answerBox()->cursorPosition()) << "what was typed is edited as in any box";
+    }
+}
+
 TEST_F(frmOvaTest, AHeldKeyDoesNotAnswerTheNextQuestion)
 {
     open(QuestionAndAnswer);
