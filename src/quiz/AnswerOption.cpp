@@ -5,7 +5,7 @@
 
 #include <QFontMetricsF>
 #include <QResizeEvent>
-#include <QStyle>
+#include <QStyleOptionButton>
 
 namespace {
 
@@ -29,6 +29,19 @@ void AnswerOption::setFullText(int number, const QString &text)
     m_fullText = text.normalized(QString::NormalizationForm_C);
     setAccessibleName(QString::number(number) + u' ' + text);
     fit();
+}
+
+void AnswerOption::setFocusShown(bool shown)
+{
+    m_focusShown = shown;
+    update();
+}
+
+void AnswerOption::initStyleOption(QStyleOptionButton *option) const
+{
+    QRadioButton::initStyleOption(option);
+    const QStyle::State focus = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+    option->state = m_focusShown && hasFocus() ? option->state | focus : option->state & ~focus;
 }
 
 QSize AnswerOption::sizeHint() const

@@ -15,6 +15,9 @@ public:
     /// Shows a text behind the number, which is the option's key.
     void setFullText(int number, const QString &text);
 
+    /// Whether it shows when it has the focus, in every style.
+    void setFocusShown(bool shown);
+
     /// The same height for every script, so that the window keeps still.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -22,6 +25,7 @@ public:
 protected:
     /// The whole row takes a click, not only its text.
     bool hitButton(const QPoint &position) const override;
+    void initStyleOption(QStyleOptionButton *option) const override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
@@ -30,4 +34,5 @@ private:
 
     int m_number = 0;
     QString m_fullText;
+    bool m_focusShown = false;
 };

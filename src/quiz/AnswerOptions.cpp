@@ -21,6 +21,14 @@ void AnswerOptions::offer(const Question &question)
         option(i)->setFullText(i + 1, question.field(i + Question::FirstOption));
     }
     m_group.setExclusive(true);
+    setReached(false);
+}
+
+void AnswerOptions::setReached(bool reached)
+{
+    m_reached = reached;
+    for (AnswerOption *each : m_options)
+        each->setFocusShown(reached);
 }
 
 void AnswerOptions::setVisible(bool visible)
@@ -40,30 +48,34 @@ bool AnswerOptions::chooseByDigit(int key)
 
 bool AnswerOptions::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::KeyPress)
-        return QObject::eventFilter(watched, event);
     const auto at = std::find(m_options.begin(), m_options.end(), watched);
-    return optionKey(int(at - m_options.begin()), static_cast<QKeyEvent *>(event)->key());
+    if (event->type() == QEvent::KeyPress)
+        return optionKey(int(at - m_options.begin()), static_cast<QKeyEvent *>(event)->key());
+    // A window that opens tells its control of a focus that is not there yet.
+    if (event->type() == QEvent::FocusIn && static_cast<QWidget *>(watched)->hasFocus()) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+        setReached(m_reached || reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason);
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 bool AnswerOptions::optionKey(int index, int key)
 {
-    const bool fresh = !m_choosingChecks && m_group.checkedId() < 0;
+    const bool reached = m_reached || m_group.checkedId() >= 0;
     switch (key) {
     case Qt::Key_Down:
     case Qt::Key_Right:
-        moveTo(fresh ? 0 : (index + 1) % Count);
+        moveTo(reached ? (index + 1) % Count : 0);
         return true;
     case Qt::Key_Up:
     case Qt::Key_Left:
-        moveTo(fresh ? Count - 1 : (index + Count - 1) % Count);
+        moveTo(reached ? (index + Count - 1) % Count : Count - 1);
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (!m_choosingChecks)
-            return false;
-        choose(index);
-        return true;
+        if (m_choosingChecks && reached)
+            choose(index);
+        return m_choosingChecks;
     default:
         return false;
     }
@@ -71,6 +83,7 @@ bool AnswerOptions::optionKey(int index, int key)
 
 void AnswerOptions::moveTo(int index)
 {
+    setReached(true);
     if (m_choosingChecks)
         option(index)->setFocus(Qt::OtherFocusReason);
     else

@@ -9,7 +9,7 @@
 class AnswerOption;
 
 /// The three options of Multiple Choice and the keys that choose among them: the digits 1 to 3, the arrow keys, and
-/// Enter on an option where choosing is checking.
+/// Enter on an option where choosing is checking. An option shows the focus once the user has gone to it.
 class AnswerOptions : public QObject
 {
     Q_OBJECT
@@ -37,10 +37,12 @@ protected:
 
 private:
     bool optionKey(int index, int key);
+    void setReached(bool reached);
     void moveTo(int index);
     void choose(int index);
 
     std::array<AnswerOption *, Count> m_options;
     QButtonGroup m_group;
     bool m_choosingChecks = false;
+    bool m_reached = false; ///< the user has gone to an option of this question
 };

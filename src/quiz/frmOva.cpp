@@ -1,6 +1,7 @@
 #include "quiz/frmOva.h"
 
 #include "platform/SoundPlayer.h"
+#include "quiz/OnePress.h"
 #include "quiz/QuizColours.h"
 #include "quiz/QuizLook.h"
 #include "quiz/QuizSpeech.h"
@@ -90,10 +91,8 @@ void frmOva::connectControls()
     connect(m_ui->txtSvar, &QLineEdit::textChanged, m_session.get(), &QuizSession::setAnswerText);
     connect(&m_tmrSvar, &clsTimer::ThatTime, m_session.get(), &QuizSession::revealTick);
     connect(&m_tmrAutoSvar, &clsTimer::ThatTime, m_session.get(), &QuizSession::autoTick);
-    for (QWidget *control :
-         std::initializer_list<QWidget *>{m_ui->btnCheck, m_ui->btnHint, m_ui->txtSvar, m_ui->txtTime, m_ui->optAnswer0,
-                                          m_ui->optAnswer1, m_ui->optAnswer2})
-        control->installEventFilter(this);
+    m_ui->txtTime->installEventFilter(this);
+    new OnePress(*this, {m_ui->btnCheck, m_ui->optAnswer0, m_ui->optAnswer1, m_ui->optAnswer2});
 }
 
 void frmOva::connectSession()
@@ -283,19 +282,16 @@ void frmOva::keyPressEvent(QKeyEvent *event)
         QDialog::keyPressEvent(event);
 }
 
+/// Enter in the box for seconds leads back to the answer.
 bool frmOva::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::KeyPress)
+    if (watched != m_ui->txtTime || event->type() != QEvent::KeyPress)
         return QDialog::eventFilter(watched, event);
-    const auto *key = static_cast<QKeyEvent *>(event);
-    if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter)
+    const int key = static_cast<QKeyEvent *>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter)
         return false;
-    if (watched == m_ui->txtTime) {
-        answerControl()->setFocus(Qt::OtherFocusReason);
-        return true;
-    }
-    // A key held down a little too long must not answer the next question.
-    return key->isAutoRepeat();
+    answerControl()->setFocus(Qt::OtherFocusReason);
+    return true;
 }
 
 void frmOva::done(int result)

@@ -131,12 +131,37 @@ TEST_F(frmOvaTest, ThePromptGivesWayAsAWholeHoweverTheBoxIsTouched)
     }
 }
 
-TEST_F(frmOvaTest, AHeldKeyDoesNotAnswerTheNextQuestion)
+TEST_F(frmOvaTest, AHeldKeyOrADoubleClickAnswersOneQuestion)
 {
+    settings.setAutoCheck(true);
+    const auto hold = [this](Qt::Key key, Qt::KeyboardModifiers modifiers, const QString &text) {
+        for (int i = 0; i < 5; ++i) {
+            QTest::simulateEvent(window->focusWidget(), true, key, modifiers, text, i > 0);
+            QTest::qWait(i < 2 ? 150 : 0); // a letter presses its button for a while
+        }
+        QTest::keyRelease(window->focusWidget(), key, modifiers);
+    };
+    const auto doubleClick = [this](QWidget *target) {
+        click(target);
+        QTest::mouseDClick(target, Qt::LeftButton);
+        QTest::mouseRelease(target, Qt::LeftButton);
+    };
+    const std::pair<Kind, std::function<void()>> answers[] = {
+        {QuestionAndAnswer, [&] { hold(Qt::Key_Return, {}, "\r"); }},
+        {QuestionAndAnswer, [&] { control("chkBeep")->setFocus(), hold(Qt::Key_Enter, {}, "\r"); }},
+        {QuestionAndAnswer, [&] { doubleClick(control("btnCheck")); }},
+        {MultipleChoice, [&] { hold(Qt::Key_2, {}, "2"); }},
+        {MultipleChoice, [&] { hold(Qt::Key_3, Qt::AltModifier, "3"); }},
+        {MultipleChoice, [&] { doubleClick(option(0)); }},
+    };
+    for (const auto &each : answers) {
+        open(each.first);
+        each.second();
+        EXPECT_EQ(2, window->session()->currentQuestion()) << &each - answers;
+    }
     open(QuestionAndAnswer);
-    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
-    QCoreApplication::sendEvent(answerBox(), &held);
-    EXPECT_EQ(1, window->session()->currentQuestion());
+    hold(Qt::Key_1, {}, "1");
+    EXPECT_EQ(u"11111", answerBox()->text());
 }
 
 TEST_F(frmOvaTest, PracticeSpellsTheAnswersOutByItself)
@@ -175,13 +200,20 @@ TEST_F(frmOvaTest, OptionsAreReachedByArrowsAndMouse)
 TEST_F(frmOvaTest, MultipleChoiceChecksTheChosenOptionByItself)
 {
     open(MultipleChoice);
+    const auto shown = [this](int index) { return option(index)->grab().toImage(); };
+    const QImage plain = shown(1);
     mnemonic(Qt::Key_A);
     EXPECT_TRUE(settings.AutoCheck());
-    // The arrow keys only look around: what they reach is not chosen yet.
+    // The arrow keys only look around: what they reach is not chosen yet, and Enter chooses nothing but that.
+    key(Qt::Key_Return);
     key(Qt::Key_Down);
+    EXPECT_EQ(option(0), window->focusWidget());
     key(Qt::Key_Down);
-    EXPECT_EQ(option(2), window->focusWidget());
+    EXPECT_EQ(option(1), window->focusWidget());
+    EXPECT_NE(plain, shown(1));
     EXPECT_EQ(1, window->session()->currentQuestion());
+    key(Qt::Key_Return);
+    EXPECT_EQ(2, window->session()->currentQuestion());
     key(Qt::Key_Return);
     EXPECT_EQ(2, window->session()->currentQuestion());
     mnemonic(Qt::Key_1);
