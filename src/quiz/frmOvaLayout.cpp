@@ -1,6 +1,7 @@
 #include "quiz/frmOva.h"
 
 #include "quiz/QuizLook.h"
+#include "quiz/rules/Seconds.h"
 #include "resources/StringTable.h"
 #include "services/FormTexts.h"
 #include "services/desktop/Contrast.h"
@@ -14,9 +15,6 @@ namespace {
 
 constexpr double SmallestType = 1.0;
 constexpr int InitialWidth = 620; ///< pixels
-
-/// A number of seconds, with a decimal point or comma.
-const QRegularExpression SecondsPattern(QStringLiteral("[0-9]*[.,]?[0-9]*"));
 
 void scaleType(QWidget *control, double factor)
 {
@@ -139,7 +137,7 @@ void frmOva::dressKind()
     m_ui->txtTime->setVisible(practice);
     m_ui->lblSeconds->setVisible(practice);
     m_ui->txtTime->setText(m_session->autoSeconds());
-    m_ui->txtTime->setValidator(new QRegularExpressionValidator(SecondsPattern, m_ui->txtTime));
+    m_ui->txtTime->setValidator(new QRegularExpressionValidator(Seconds::pattern(), m_ui->txtTime));
     m_ui->txtTime->setEnabled(m_session->automatic());
     m_ui->chkError->setEnabled(!practice || m_session->automatic());
     m_ui->txtSvar->setPlaceholderText(resText(922));

@@ -1,18 +1,14 @@
 #include "quiz/rules/QuizSession.h"
 
+#include "quiz/rules/Seconds.h"
 #include "resources/StringTable.h"
 #include "services/settings/clsAppProperties.h"
 
-#include <QLocale>
 #include <QTextBoundaryFinder>
-
-#include <cmath>
-#include <limits>
 
 namespace {
 
 constexpr int PromptId = 922;
-constexpr double MillisecondsPerSecond = 1000.0;
 
 /// How many characters of text stand where answer has the same.
 qsizetype matchingPlaces(const QString &text, const QString &answer)
@@ -59,18 +55,15 @@ bool QuizSession::fByggMatriser(const WordSource &words, RandomSource &random)
 
 QString QuizSession::autoSeconds() const
 {
-    QLocale locale;
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    return locale.toString(m_autoInterval / MillisecondsPerSecond, 'f', QLocale::FloatingPointShortest);
+    return Seconds::fromMilliseconds(m_autoInterval);
 }
 
 void QuizSession::setAutoSeconds(const QString &text)
 {
-    const double seconds = QLocale::c().toDouble(QString(text).replace(u',', u'.'));
-    if (!(seconds > 0))
+    const std::optional<int> interval = Seconds::toMilliseconds(text);
+    if (!interval)
         return;
-    const double most = std::numeric_limits<int>::max();
-    m_autoInterval = int(std::min(most, std::round(seconds * MillisecondsPerSecond)));
+    m_autoInterval = *interval;
     m_settings.setAutoTimerInterval(m_autoInterval);
 }
 

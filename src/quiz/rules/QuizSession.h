@@ -46,7 +46,7 @@ public:
 
     /// The delay of the automatic answer in seconds, as the user reads and writes it.
     QString autoSeconds() const;
-    /// Takes a delay over if it is a number greater than 0, with a decimal point or comma.
+    /// Takes a delay over if it is a number greater than 0.
     void setAutoSeconds(const QString &text);
     bool automatic() const;
     void setAutomatic(bool on);

@@ -1,6 +1,7 @@
 #include "quiz/rules/QuizSession.h"
 
 #include "platform/RegistryTree.h"
+#include "quiz/rules/Seconds.h"
 #include "resources/StringTable.h"
 #include "services/settings/clsAppProperties.h"
 #include "support/ListWords.h"
@@ -220,4 +221,11 @@ TEST_F(QuizSessionTest, TheDelayIsReadInSecondsAndKeptInMilliseconds)
         EXPECT_EQ(milliseconds, settings.AutoTimerInterval()) << text;
     }
     EXPECT_EQ(u"12", session.autoSeconds());
+    const QLocale before;
+    for (const char *name : {"de", "ar_EG", "fa", "bn", "mr", "my", "dz", "ff_Adlm"}) {
+        QLocale::setDefault(QLocale(name));
+        EXPECT_EQ(12340, Seconds::toMilliseconds(Seconds::fromMilliseconds(12340))) << name;
+        EXPECT_EQ(QString(), Seconds::fromMilliseconds(12340).remove(Seconds::pattern())) << name;
+    }
+    QLocale::setDefault(before);
 }
