@@ -56,7 +56,8 @@ bool frmLang::eventFilter(QObject *watched, QEvent *event)
 {
     auto *box = qobject_cast<QLineEdit *>(watched);
     // Selected once the box has handled its focus, so that the click that brought it does not take the selection away.
-    if (box && event->type() == QEvent::FocusIn)
+    // After a menu of its own the box goes on where it was.
+    if (box && event->type() == QEvent::FocusIn && static_cast<QFocusEvent *>(event)->reason() != Qt::PopupFocusReason)
         QMetaObject::invokeMethod(box, &QLineEdit::selectAll, Qt::QueuedConnection);
     return QDialog::eventFilter(watched, event);
 }
