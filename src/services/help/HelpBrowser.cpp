@@ -2,6 +2,7 @@
 
 #include "services/help/HelpFile.h"
 
+#include <QDesktopServices>
 #include <QRegularExpression>
 #include <QTextBlock>
 #include <QWheelEvent>
@@ -12,9 +13,11 @@ constexpr int SmallestZoom = -4;
 constexpr int LargestZoom = 12;
 constexpr int PageMargin = 16; // pixels
 
+const QString Scheme = QStringLiteral("help");
+
 QUrl urlOf(const QString &page)
 {
-    return QUrl(QStringLiteral("help:/") + page);
+    return QUrl(Scheme + QStringLiteral(":/") + page);
 }
 
 } // namespace
@@ -22,13 +25,23 @@ QUrl urlOf(const QString &page)
 HelpBrowser::HelpBrowser(QWidget *parent)
     : QTextBrowser(parent)
 {
-    setOpenExternalLinks(true);
+    // The toolkit would take every address with a scheme for one outside.
+    setOpenLinks(false);
+    connect(this, &QTextBrowser::anchorClicked, this, &HelpBrowser::follow);
     document()->setDocumentMargin(PageMargin);
 }
 
 void HelpBrowser::showPage(const QString &page)
 {
     setSource(urlOf(page), QTextDocument::HtmlResource);
+}
+
+void HelpBrowser::follow(const QUrl &link)
+{
+    if (link.scheme() == Scheme)
+        setSource(link, QTextDocument::HtmlResource);
+    else
+        QDesktopServices::openUrl(link);
 }
 
 QString HelpBrowser::page() const

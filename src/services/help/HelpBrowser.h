@@ -36,6 +36,8 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
+    void follow(const QUrl &link);
+
     const HelpFile *m_file = nullptr;
     int m_zoom = 0; ///< steps above (or below) the normal size
 };
