@@ -10,12 +10,13 @@
 #include "document/frmDoc.h"
 #include "platform/RegistryTree.h"
 #include "services/rules/ProgramFlags.h"
+#include "services/rules/SortOrder.h"
 #include "services/settings/clsAppProperties.h"
 #include "services/status/modSBFunc.h"
 #include "tools/DocumentCells.h"
 #include "tools/modSorting.h"
 #include "tools/rules/ReplaceAll.h"
-#include "tools/rules/SortOrder.h"
+#include "tools/rules/SortFlag.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -81,8 +82,9 @@ const QString Other = QStringLiteral("xy");
 void sort(benchmark::State &state)
 {
     const SampleCells cells(state.range(0));
+    const auto text = [&cells](int row, int col) { return cells.TextMatrix(row, col); };
     for (auto _ : state) {
-        auto order = SortOrder::sortedRows(cells, {1, cells.Rows() - 1, {1}, false, Locale});
+        auto order = SortOrder::sortedRows(text, {1, cells.Rows() - 1, {1}, false, Locale});
         benchmark::DoNotOptimize(order);
     }
 }

@@ -5,7 +5,7 @@
 #include "document/frmDoc.h"
 #include "services/FormTexts.h"
 #include "services/desktop/EnterKey.h"
-#include "tools/rules/SortOrder.h"
+#include "tools/rules/SortFlag.h"
 
 frmSort::frmSort(frmDoc &document, QWidget *parent)
     : ToolDialog(document, parent)

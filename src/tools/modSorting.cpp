@@ -1,11 +1,12 @@
 #include "tools/modSorting.h"
 
+#include "document/ctlGrid.h"
 #include "document/frmDoc.h"
 #include "document/modUndo.h"
 #include "services/Hourglass.h"
-#include "tools/GridCells.h"
+#include "services/rules/SortOrder.h"
 #include "tools/frmSort.h"
-#include "tools/rules/SortOrder.h"
+#include "tools/rules/SortFlag.h"
 
 namespace {
 
@@ -38,7 +39,8 @@ void sortBy(int SortFlags, frmDoc &document, UndoRecord &undo, const QLocale &lo
     undo.selection = document.selection();
     undo.snapshot = modUndo::takeSnapshot(grid);
     const SortOrder::Request request = requestFor(SortFlags, document, locale);
-    const std::vector<int> order = SortOrder::sortedRows(GridCells(grid), request);
+    const std::vector<int> order =
+        SortOrder::sortedRows([&](int row, int col) { return grid.word(row, col); }, request);
     if (!std::is_sorted(order.begin(), order.end())) {
         grid.setRedraw(false);
         grid.reorderRows(request.top, order);

@@ -4,7 +4,7 @@
 #include "tools/DocumentCells.h"
 #include "tools/modSorting.h"
 #include "tools/rules/ReplaceAll.h"
-#include "tools/rules/SortOrder.h"
+#include "tools/rules/SortFlag.h"
 
 #include <QClipboard>
 

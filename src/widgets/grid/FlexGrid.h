@@ -323,6 +323,8 @@ protected:
 
 private:
     void connectView();
+    std::vector<int> orderByText(int kind, int first, int last) const;
+    std::vector<int> customOrder(int first, int last);
     void select(FlexGridSelection wanted);
     /// Rows or columns came, went or moved: lays out, tells screen readers, keeps the selection inside.
     void restructured();

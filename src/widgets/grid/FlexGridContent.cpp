@@ -1,13 +1,14 @@
 #include "widgets/grid/FlexGrid.h"
 
+#include "services/rules/SortOrder.h"
 #include "widgets/grid/FlexGridAccessible.h"
-#include "widgets/grid/FlexGridSort.h"
 #include "widgets/grid/FlexGridText.h"
 #include "widgets/grid/FlexGridView.h"
 
 #include <QStringList>
 
 #include <algorithm>
+#include <numeric>
 
 void FlexGrid::setRows(int rows)
 {
@@ -184,15 +185,29 @@ void FlexGrid::setSort(int kind)
     leavingCell();
     const FlexGridSelection &selection = m_state.selection;
     const bool all = selection.row == selection.rowSel;
-    FlexGridSort sort(m_state.cells, locale());
-    sort.keys = {selection.left(), selection.right()};
-    sort.rows = {all ? FixedRows() : std::max(selection.top(), FixedRows()), all ? Rows() - 1 : selection.bottom()};
-    const std::vector<int> order = sort.order(kind, [this](int row1, int row2) {
+    const int first = all ? FixedRows() : std::max(selection.top(), FixedRows());
+    const int last = all ? Rows() - 1 : selection.bottom();
+    reorderRows(first, kind == SortCustom ? customOrder(first, last) : orderByText(kind, first, last));
+}
+
+std::vector<int> FlexGrid::orderByText(int kind, int first, int last) const
+{
+    SortOrder::Request request{first, last, {}, kind % 2 == 0, locale(), SortOrder::Rule((kind - 1) / 2)};
+    for (int col = m_state.selection.left(); col <= m_state.selection.right(); ++col)
+        request.columns.push_back(col);
+    return SortOrder::sortedRows([this](int row, int col) { return TextMatrix(row, col); }, request);
+}
+
+std::vector<int> FlexGrid::customOrder(int first, int last)
+{
+    std::vector<int> order(size_t(std::max(0, last - first + 1)));
+    std::iota(order.begin(), order.end(), first);
+    std::stable_sort(order.begin(), order.end(), [this](int row1, int row2) {
         int result = 0;
         Q_EMIT Compare(row1, row2, result);
-        return result;
+        return result < 0;
     });
-    reorderRows(sort.rows.first, order);
+    return order;
 }
 
 void FlexGrid::reorderRows(int first, const std::vector<int> &order)

@@ -1,6 +1,4 @@
-#include "tools/rules/SortOrder.h"
-
-#include "MemoryCells.h"
+#include "services/rules/SortOrder.h"
 
 #include <QCollator>
 
@@ -12,15 +10,22 @@ namespace {
 const QLocale German(QLocale::German, QLocale::Germany);
 const QLocale Swedish(QLocale::Swedish, QLocale::Sweden);
 
+using Row = std::array<QString, 2>;
+
+std::vector<int> sortedRows(const std::vector<Row> &words, const SortOrder::Request &request)
+{
+    return SortOrder::sortedRows([&](int row, int col) { return words[size_t(row - 1)][size_t(col - 1)]; }, request);
+}
+
 /// The texts of column 1 in sorted order, joined by bars.
 QString sortedTexts(const QStringList &texts, bool descending, const QLocale &locale = German)
 {
-    MemoryCells cells{};
+    std::vector<Row> words;
     for (const QString &text : texts)
-        cells.words.push_back({text, QString()});
+        words.push_back({text, QString()});
     QStringList result;
-    for (const int row : SortOrder::sortedRows(cells, {1, int(texts.size()), {1}, descending, locale}))
-        result << cells.TextMatrix(row, 1);
+    for (const int row : sortedRows(words, {1, int(texts.size()), {1}, descending, locale}))
+        result << texts[row - 1];
     return result.join(u'|');
 }
 
@@ -61,10 +66,10 @@ TEST(SortOrder, TakesOnlyPlainNumbersForNumbers)
 
 TEST(SortOrder, OrdersRowsWithEqualKeysByTheOtherLanguage)
 {
-    const MemoryCells cells{{"x", "9"}, {"b", "2"}, {"a", "3"}, {"b", "1"},  {"", "2"},
-                            {"", "1"},  {"b", ""},  {"1", "2"}, {"1.0", "1"}};
+    const std::vector<Row> words{{"x", "9"}, {"b", "2"}, {"a", "3"}, {"b", "1"},  {"", "2"},
+                                 {"", "1"},  {"b", ""},  {"1", "2"}, {"1.0", "1"}};
     const auto sorted = [&](int top, int bottom, std::vector<int> columns, bool descending) {
-        return SortOrder::sortedRows(cells, {top, bottom, std::move(columns), descending, German});
+        return sortedRows(words, {top, bottom, std::move(columns), descending, German});
     };
     EXPECT_EQ(sorted(2, 7, {1, 2}, false), (std::vector{3, 4, 2, 7, 6, 5}));
     EXPECT_EQ(sorted(2, 7, {1, 2}, true), (std::vector{2, 4, 7, 3, 5, 6}));
@@ -93,17 +98,17 @@ TEST(SortOrder, OfRandomWordsIsCompleteAndStable)
     const QString some[] = {"", " ", "a", "A", "ä", "b", "B", "aa", "7", "-7", "07", "10", "ё", "猫"};
     std::mt19937 random(7);
     for (int round = 0; round < 500; ++round) {
-        MemoryCells cells{};
+        std::vector<Row> words;
         for (unsigned rows = random() % 30; rows > 0; --rows)
-            cells.words.push_back({some[random() % std::size(some)], some[random() % std::size(some)]});
+            words.push_back({some[random() % std::size(some)], some[random() % std::size(some)]});
         const bool descending = round % 2;
         const int column = 1 + int(random() % 2);
-        const int bottom = int(cells.words.size());
-        const std::vector<int> order = SortOrder::sortedRows(cells, {1, bottom, {column}, descending, German});
-        ASSERT_EQ(std::set(order.begin(), order.end()).size(), cells.words.size());
+        const int bottom = int(words.size());
+        const std::vector<int> order = sortedRows(words, {1, bottom, {column}, descending, German});
+        ASSERT_EQ(std::set(order.begin(), order.end()).size(), words.size());
         for (size_t i = 1; i < order.size(); ++i) {
-            const QString before = cells.TextMatrix(order[i - 1], column);
-            const QString after = cells.TextMatrix(order[i], column);
+            const QString before = words[size_t(order[i - 1] - 1)][size_t(column - 1)];
+            const QString after = words[size_t(order[i] - 1)][size_t(column - 1)];
             const int by = compare(before, after, descending);
             EXPECT_TRUE(by < 0 || (by == 0 && order[i - 1] < order[i])) << before.toStdString() << after.toStdString();
         }

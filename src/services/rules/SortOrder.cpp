@@ -1,4 +1,4 @@
-#include "tools/rules/SortOrder.h"
+#include "services/rules/SortOrder.h"
 
 #include <QCollator>
 
@@ -67,13 +67,15 @@ private:
 class Sorter
 {
 public:
-    Sorter(const CellSource &cells, const SortOrder::Request &request)
-        : m_cells(cells)
+    Sorter(const SortOrder::CellText &text, const SortOrder::Request &request)
+        : m_text(text)
         , m_request(request)
         // the C locale has no collation: letters of every script then follow the order most languages share
         , m_collator(request.locale.language() == QLocale::C ? QLocale(QLocale::English) : request.locale)
         , m_decimalPoint(request.locale.decimalPoint().front())
     {
+        if (request.rule == SortOrder::Rule::StringNoCase)
+            m_collator.setCaseSensitivity(Qt::CaseInsensitive);
     }
 
     Rows sorted(const Rows &rows, std::size_t key) const
@@ -86,10 +88,10 @@ public:
         std::vector<QCollatorSortKey> textKeys;
         textKeys.reserve(rows.size());
         for (const int row : rows) {
-            QString text = m_cells.TextMatrix(row, column);
+            QString text = m_text(row, column);
             if (QStringView(text).trimmed().isEmpty()) {
                 emptyRows.push_back(row);
-            } else if (SortOrder::isNumber(text, m_decimalPoint)) {
+            } else if (countsAsNumber(text)) {
                 numberRows.push_back(row);
                 numberTexts.push_back(std::move(text));
             } else {
@@ -111,6 +113,18 @@ public:
     }
 
 private:
+    /// Makes a text that is to count as 0 empty.
+    bool countsAsNumber(QString &text) const
+    {
+        using SortOrder::Rule;
+        if (m_request.rule == Rule::String || m_request.rule == Rule::StringNoCase)
+            return false;
+        const bool number = SortOrder::isNumber(text, m_decimalPoint);
+        if (!number && m_request.rule == Rule::Numeric)
+            text.clear();
+        return number || m_request.rule == Rule::Numeric;
+    }
+
     static int compare(const Number &a, const Number &b) { return a.compareTo(b); }
     static int compare(const QCollatorSortKey &a, const QCollatorSortKey &b) { return a.compare(b); }
 
@@ -142,7 +156,7 @@ private:
         }
     }
 
-    const CellSource &m_cells;
+    const SortOrder::CellText &m_text;
     const SortOrder::Request &m_request;
     QCollator m_collator;
     QChar m_decimalPoint;
@@ -152,11 +166,11 @@ private:
 
 namespace SortOrder {
 
-std::vector<int> sortedRows(const CellSource &cells, const Request &request)
+std::vector<int> sortedRows(const CellText &text, const Request &request)
 {
     Rows rows(std::max(request.bottom - request.top + 1, 0));
     std::iota(rows.begin(), rows.end(), request.top);
-    return Sorter(cells, request).sorted(rows, 0);
+    return Sorter(text, request).sorted(rows, 0);
 }
 
 bool isNumber(QStringView text, QChar decimalPoint)
