@@ -222,10 +222,13 @@ TEST_F(RecoveryTest, AClosedDocumentLeavesTheWordsThatItsFileLacksAndWhy)
 TEST_F(RecoveryTest, AWindowWhoseWordsCanBeKeptNowhereClosesOnlyIfTheUserLetsThemGo)
 {
     writeFile(folder, "in the way");
-    run->changedDocument("lost");
+    run->changedDocument("saved")->Rutor()->setTextMatrix(9, 2, "lost");
+    run->prompts.savePath = home.filePath("words.gla");
     run->alert.answers = {AlertBox::AnswerYes, AlertBox::AnswerYes};
     run->files.closeActive();
     EXPECT_TRUE(run->documents.open().empty());
+    EXPECT_TRUE(run->alert.shown.back().prompt.startsWith("The words in row 9 could be kept nowhere"));
+    run->prompts.savePath.clear();
     run->changedDocument("word");
     run->alert.answers = {AlertBox::AnswerYes, AlertBox::AnswerNo};
     run->files.closeActive();

@@ -82,17 +82,6 @@ class SavingCase(ProgramCase):
         self.assertEqual(self.file.read_bytes(), self.before)
         self.save()
 
-    def test_a_file_that_somebody_else_has_changed(self):
-        self.edit()
-        changed = self.before + b"added   [0000000285]\r\nhinzu\r\n"
-        self.file.write_bytes(changed)
-        for answer in ("alt+n", "alt+y"):
-            self.assertEqual(self.file.read_bytes(), changed)
-            self.open_dialog("Glosaria Alert", "ctrl+s")
-            self.close_dialog("Glosaria Alert", answer)
-            self.expect_column(0, ["edited"])
-        self.desktop.wait(lambda: b"edited" in self.file.read_bytes(), "the saved word")
-
 
 if __name__ == "__main__":
     run()

@@ -1,6 +1,5 @@
 #include "document/rules/VocabularyFile.h"
 
-#include "support/FileSizeLimit.h"
 #include "support/Files.h"
 #include "support/OrdinaryUser.h"
 
@@ -23,13 +22,7 @@ struct VocabularyFileTest : ::testing::Test
         return result.outcome;
     }
     Outcome load() { return load(path, vocabulary); }
-    bool save(int rows, QString *error = nullptr) const
-    {
-        Vocabulary words;
-        for (int i = 0; i < rows; ++i)
-            words.append(QString::number(i), "word");
-        return VocabularyFile(path).save(words, CodePage(), {}, error);
-    }
+    bool save() const { return VocabularyFile(path).save(Vocabulary(), CodePage()); }
 
     QTemporaryDir folder;
     const QString path = folder.filePath("words.gla");
@@ -41,12 +34,12 @@ TEST_F(VocabularyFileTest, WhatIsNoReadableFileFails)
     EXPECT_EQ(load(), Outcome::Failed);
     ASSERT_TRUE(QDir().mkdir(path));
     EXPECT_EQ(load(), Outcome::Failed);
-    EXPECT_FALSE(save(1));
+    EXPECT_FALSE(save());
     ASSERT_TRUE(QDir().rmdir(path));
     ASSERT_EQ(::mkfifo(qPrintable(path), 0600), 0);
     EXPECT_EQ(load(), Outcome::Failed);
     ASSERT_TRUE(QFile::remove(path));
-    ASSERT_TRUE(save(1));
+    ASSERT_TRUE(save());
     ASSERT_EQ(::chmod(qPrintable(path), 0) | ::chmod(qPrintable(folder.path()), 0755), 0);
     EXPECT_TRUE(OrdinaryUser::run([this] { return load() == Outcome::Failed; }));
 }
@@ -55,19 +48,6 @@ TEST_F(VocabularyFileTest, HugeFilesOfAnotherKindAreNotRead)
 {
     ASSERT_TRUE(QFile::resize(writeFile(path, "PK"), VocabularyFile::LargestSize));
     EXPECT_EQ(load(), Outcome::BadFormat);
-}
-
-TEST_F(VocabularyFileTest, FailedSaveKeepsTheOldFile)
-{
-    ASSERT_TRUE(save(2000));
-    {
-        const FileSizeLimit limit(60000);
-        QString error;
-        EXPECT_FALSE(save(4000, &error));
-        EXPECT_FALSE(error.isEmpty());
-    }
-    EXPECT_EQ(load(), Outcome::Ok);
-    EXPECT_EQ(vocabulary.rows(), 2000);
 }
 
 TEST_F(VocabularyFileTest, SamplesCanBeRead)
