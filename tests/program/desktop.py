@@ -301,6 +301,7 @@ class Desktop:
     def _start_display(self):
         server = self._launch(
             "Xvfb", "-displayfd", "1", "-screen", "0", self._size + "x24", "-noreset", "-nolisten", "tcp",
+            "-r",  # no key repeats itself because a busy machine is slow to release it
             stdout=subprocess.PIPE,
         )
         number = self._first_line(server)
