@@ -97,6 +97,8 @@ TEST_F(HelpTest, EveryControlOfEveryDialogHasATopicATextANameAndAKey)
             expectTopic(id);
             EXPECT_TRUE(dialog.windowFlags() & Qt::WindowContextHelpButtonHint);
             EXPECT_EQ(mnemonics(dialog), keys);
+            QTest::mouseClick(dialog.findChild<QWidget *>("btnWhatsThis"), Qt::LeftButton);
+            EXPECT_TRUE(QWhatsThis::inWhatsThisMode());
             for (QWidget *control : dialog.findChildren<QWidget *>()) {
                 if (!isControl(control))
                     continue;
