@@ -1,16 +1,14 @@
 #include "print/QtDialogs.h"
 
+#include "print/PrintDialog.h"
 #include "print/QtPrinter.h"
+#include "print/frmPageSetup.h"
 #include "resources/StringTable.h"
 
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QPageSetupDialog>
-#include <QPrintDialog>
-#include <QPushButton>
 #include <QStandardPaths>
 
 namespace {
@@ -21,37 +19,6 @@ constexpr int PrintTopic = 1120;
 void setTopic(QDialog &dialog, int helpContextId)
 {
     dialog.setProperty("helpContextId", helpContextId);
-}
-
-/// The page setup shows only what the layout heeds: it has margins of its own.
-void hideMargins(const QPageSetupDialog &dialog)
-{
-    if (const auto *margin = dialog.findChild<QWidget *>(QStringLiteral("topMargin")))
-        margin->parentWidget()->hide();
-}
-
-/// Pages and copies show at once, not only behind the dialog's own button.
-void showOptions(const QPrintDialog &dialog)
-{
-    const auto *buttons = dialog.findChild<QDialogButtonBox *>();
-    if (!buttons)
-        return;
-    for (QAbstractButton *button : buttons->buttons()) {
-        if (buttons->buttonRole(button) == QDialogButtonBox::ResetRole)
-            button->click();
-    }
-}
-
-PrintChoice choiceOf(const QPrintDialog &dialog, const QPrinter &printer)
-{
-    PrintChoice choice;
-    choice.copies = std::max(1, printer.copyCount());
-    choice.collate = printer.collateCopies();
-    choice.pageNumbers = dialog.printRange() == QAbstractPrintDialog::PageRange;
-    choice.selection = dialog.printRange() == QAbstractPrintDialog::Selection;
-    choice.fromPage = dialog.fromPage();
-    choice.toPage = dialog.toPage();
-    return choice;
 }
 
 } // namespace
@@ -121,33 +88,23 @@ bool QtDialogs::confirmReplace(QWidget *owner, const QString &title, const QStri
 
 std::optional<PrintChoice> QtDialogs::choosePages(const PrintRequest &request)
 {
-    QPrinter &printer = m_printer.printer();
-    printer.setCopyCount(1);
-    printer.setCollateCopies(request.collate);
-    QPrintDialog dialog(&printer, request.owner);
+    std::unique_ptr<QPrinter> printer = m_printer.copy();
+    printer->setCollateCopies(request.collate);
+    PrintDialog dialog(*printer, m_printer, request);
     setTopic(dialog, PrintTopic);
-    dialog.setOption(QAbstractPrintDialog::PrintPageRange, request.offerPageNumbers);
-    dialog.setOption(QAbstractPrintDialog::PrintSelection, request.offerSelection);
-    dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
-    dialog.setMinMax(request.minPage, request.maxPage);
-    dialog.setFromTo(request.fromPage, request.toPage);
-    dialog.setPrintRange(request.pageNumbers ? QAbstractPrintDialog::PageRange : QAbstractPrintDialog::AllPages);
-    showOptions(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    const PrintChoice choice = choiceOf(dialog, printer);
-    m_printer.settle();
+    const PrintChoice choice = dialog.choice();
+    m_printer.adopt(std::move(printer));
     return choice;
 }
 
 bool QtDialogs::setUpPrinter(QWidget *owner)
 {
-    QPageSetupDialog dialog(&m_printer.printer(), owner);
-    hideMargins(dialog);
-    setTopic(dialog, PrintTopic);
+    frmPageSetup dialog(offeredPrinters(), m_printer.setup(), owner);
     if (dialog.exec() != QDialog::Accepted)
         return false;
-    m_printer.settle();
+    m_printer.setUp(dialog.setup());
     return true;
 }
 

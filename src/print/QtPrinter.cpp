@@ -92,15 +92,55 @@ QString QtPrinter::queue() const
     return writesFile() || !m_server.isThere() ? QString() : printer().printerName().section(u'/', 0, 0);
 }
 
-void QtPrinter::settle()
+std::unique_ptr<QPrinter> QtPrinter::copy() const
 {
-    if (!writesFile() && QPrinterInfo(printer()).isNull())
-        throw PrinterError(resText(12401).arg(printer().printerName()));
-    useTwips(printer());
-    printer().setCopyCount(1);
+    auto copy = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    if (writesFile()) {
+        copy->setOutputFormat(QPrinter::PdfFormat);
+        copy->setOutputFileName(printer().outputFileName());
+    } else {
+        copy->setPrinterName(printer().printerName());
+    }
+    copy->setDocName(printer().docName());
+    copy->setCreator(printer().creator());
+    copy->setColorMode(printer().colorMode());
+    copy->setDuplex(printer().duplex());
+    copy->setPageLayout(printer().pageLayout());
+    copy->printEngine()->setProperty(ServerOptions, serverOptions(printer()));
+    useTwips(*copy);
+    return copy;
+}
+
+void QtPrinter::adopt(std::unique_ptr<QPrinter> printer)
+{
+    if (printer->outputFormat() != QPrinter::PdfFormat && QPrinterInfo(*printer).isNull())
+        throw PrinterError(resText(12401).arg(printer->printerName()));
+    m_printer = std::move(printer);
+    useTwips(*m_printer);
+    m_printer->setCopyCount(1);
     // The server would choose among the pages of the job, which holds the chosen pages of every copy already.
-    takeServerOption(printer(), QStringLiteral("page-ranges"));
-    m_pageSet = takeServerOption(printer(), QStringLiteral("page-set"));
+    takeServerOption(*m_printer, QStringLiteral("page-ranges"));
+    m_pageSet = takeServerOption(*m_printer, QStringLiteral("page-set"));
+}
+
+PrinterSetup QtPrinter::setup() const
+{
+    const QPageLayout layout = printer().pageLayout();
+    return {writesFile() ? QString() : printer().printerName(), layout.pageSize(), layout.orientation(),
+            printer().duplex()};
+}
+
+void QtPrinter::setUp(const PrinterSetup &setup)
+{
+    std::unique_ptr<QPrinter> printer = copy();
+    if (setup.printer.isEmpty())
+        printer->setOutputFormat(QPrinter::PdfFormat);
+    else if (setup.printer != printer->printerName())
+        printer->setPrinterName(setup.printer);
+    printer->setPageSize(setup.paper);
+    printer->setPageOrientation(setup.orientation);
+    printer->setDuplex(setup.duplex);
+    adopt(std::move(printer));
 }
 
 int QtPrinter::Width() const

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "print/PrinterSetup.h"
 #include "print/rules/PrinterDevice.h"
-
-#include <QPrinter>
 
 #include <memory>
 
@@ -18,13 +17,19 @@ public:
     explicit QtPrinter(PrintServer &server);
     ~QtPrinter() override;
 
-    /// The printer as its dialogs need it, made when first asked for.
+    /// The platform's printer, made when first asked for.
     QPrinter &printer() const;
+    /// Another printer set up in the same way, for a dialog to change; adopt then takes it over.
+    std::unique_ptr<QPrinter> copy() const;
+    /// Brings resolution and margins back, and leaves copies and the choice of pages to the program. Throws
+    /// PrinterError when the printer does not exist; then the one before stays.
+    void adopt(std::unique_ptr<QPrinter> printer);
+
+    PrinterSetup setup() const;
+    void setUp(const PrinterSetup &setup);
+
     /// Whether the pages go to a PDF file, not to a printer.
     bool writesFile() const;
-    /// To be called after a dialog: brings resolution and margins back, and takes over what the program does itself,
-    /// copies and the choice of pages. Throws PrinterError when the printer does not exist.
-    void settle();
 
     int Width() const override;
     int Height() const override;

@@ -2,12 +2,14 @@
 
 #include "print/QtDialogs.h"
 #include "print/QtPrinter.h"
+#include "print/frmPageSetup.h"
 #include "print/rules/FileDialogRules.h"
 #include "support/Files.h"
 #include "support/ScriptedAlertBox.h"
 #include "support/ScriptedDialogs.h"
 #include "support/ScriptedPrintServer.h"
 
+#include <QComboBox>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPrintDialog>
@@ -129,22 +131,51 @@ TEST_F(RealDialogs, SaveAsAsksAboutTheRealTargetAndGoesBackOnNo)
     EXPECT_EQ(dialog.FileName, folder.filePath("other.gla"));
 }
 
-TEST_F(RealDialogs, PrintTakesNoPagesThatAreNotThere)
+TEST_F(RealDialogs, PrintTakesPagesThatAreThereAndKeepsThePaper)
 {
     printer.printer().setOutputFileName(folder.filePath("out.pdf"));
+    printer.setUp({{}, QPageSize(QPageSize::A5), QPageLayout::Landscape, QPrinter::DuplexNone});
     dialog.MinPage = 1;
     dialog.MaxPage = 5;
-    dialog.flags = 0x100014;
-    onNext<QPrintDialog>([](QPrintDialog &window) {
-        window.findChild<QRadioButton *>("printRange")->click();
-        for (const auto &[box, number] : {std::pair("from", "0"), {"to", "9"}, {"copies", "2"}})
-            type(*window.findChild<QSpinBox *>(box), "qt_spinbox_lineedit", number, Qt::Key_Tab);
-        window.accept();
-    });
-    dialog.setAction(clsCommDlg::ActionPrint);
-    EXPECT_GE(dialog.FromPage, 1);
-    EXPECT_LE(dialog.ToPage, 5);
-    EXPECT_EQ(dialog.flags, 0x100016);
-    EXPECT_EQ(dialog.Copies, 2);
-    EXPECT_EQ(printer.printer().copyCount(), 1) << "the copies are printed by the program";
+    const std::tuple<const char *, const char *, int, int> cases[] = {{"0", "9", 1, 5}, {"4", "2", 2, 4}};
+    for (const auto &[from, to, first, last] : cases) {
+        dialog.flags = 0x100014;
+        onNext<QPrintDialog>([from = from, to = to](QPrintDialog &window) {
+            window.findChild<QRadioButton *>("printRange")->click();
+            for (const auto &[box, number] : {std::pair("from", from), {"to", to}, {"copies", "2"}})
+                type(*window.findChild<QSpinBox *>(box), "qt_spinbox_lineedit", number, Qt::Key_Tab);
+            window.accept();
+        });
+        dialog.setAction(clsCommDlg::ActionPrint);
+        EXPECT_EQ(std::pair(dialog.FromPage, dialog.ToPage), std::pair(first, last));
+        EXPECT_TRUE(printer.wantsPage(first) && printer.wantsPage(last));
+        EXPECT_EQ(dialog.flags, 0x100016);
+        EXPECT_EQ(dialog.Copies, 2);
+        EXPECT_EQ(printer.printer().copyCount(), 1) << "the copies are printed by the program";
+        EXPECT_EQ(QSize(printer.Width(), printer.Height()), QSize(11900, 8400)) << "A5 on its side";
+    }
+}
+
+TEST(PageSetup, OffersPrintersAndWhatEachCanDo)
+{
+    const QPageSize a4(QPageSize::A4);
+    const QPageSize a5(QPageSize::A5);
+    const QPageSize letter(QPageSize::Letter);
+    const std::vector<PrinterOffer> offers{
+        {"laser", {letter, a5}, letter, false}, {"office", {a4, a5}, a4, true}, {{}, {a4}, a4}};
+    frmPageSetup dialog(offers, {"office", a5, QPageLayout::Landscape, QPrinter::DuplexShortSide}, nullptr);
+    auto *printers = dialog.findChild<QComboBox *>("cboPrinter");
+    const auto chosen = [&dialog] {
+        const PrinterSetup setup = dialog.setup();
+        return std::tuple(setup.printer, setup.paper.id(), setup.orientation, setup.duplex);
+    };
+    EXPECT_EQ(chosen(), std::tuple("office", QPageSize::A5, QPageLayout::Landscape, QPrinter::DuplexShortSide));
+    printers->setCurrentIndex(0);
+    EXPECT_EQ(chosen(), std::tuple("laser", QPageSize::A5, QPageLayout::Landscape, QPrinter::DuplexNone));
+    printers->setCurrentIndex(2);
+    dialog.findChild<QRadioButton *>("optPortrait")->click();
+    EXPECT_EQ(printers->currentText(), "Print to File (PDF)");
+    EXPECT_EQ(chosen(), std::tuple("", QPageSize::A4, QPageLayout::Portrait, QPrinter::DuplexNone));
+    frmPageSetup other(offers, {{}, QPageSize(QSizeF(300, 500), QPageSize::Point), {}, {}}, nullptr);
+    EXPECT_EQ(other.setup().paper.sizePoints(), QSize(300, 500)) << "a paper that is not among the common ones";
 }
