@@ -1,8 +1,8 @@
 #include "print/frmPageSetup.h"
 
 #include "resources/StringTable.h"
-#include "services/EnterKey.h"
 #include "services/FormTexts.h"
+#include "services/desktop/EnterKey.h"
 
 #include "ui_frmPageSetup.h"
 
