@@ -20,7 +20,6 @@ HelpButton::HelpButton(QWidget *parent)
     : QToolButton(parent)
 {
     setFocusPolicy(Qt::NoFocus);
-    setAutoRaise(true);
     setText(resText(Sign));
     setAccessibleName(resText(Name));
     setToolTip(resText(ToolTip));
