@@ -186,7 +186,7 @@ void pasteInDocument(benchmark::State &state)
         text += words.TextMatrix(row, 1) + QLatin1Char('\t') + words.TextMatrix(row, 2) + QLatin1Char('\n');
     QGuiApplication::clipboard()->setText(text);
     SampleDocument sample(1);
-    EditCommands commands(sample.undo, *QGuiApplication::clipboard());
+    EditCommands commands(sample.undo, *QGuiApplication::clipboard(), sample.status);
     for (auto _ : state) {
         commands.Paste(sample.document);
         commands.Undo(sample.document);

@@ -71,7 +71,6 @@ void selectRecentFilesKey(clsRegistry &registry)
 frmApp::frmApp(const Needs &needs)
     : m_store(needs.store)
     , m_recentFiles(desktopTextWidth)
-    , m_editCommands(needs.undo, *QGuiApplication::clipboard())
     , m_area(new QMdiArea)
     , m_views(new QStackedWidget)
     , m_printHost(std::make_unique<AppPrintHost>(*this, *m_views))
@@ -107,8 +106,9 @@ void frmApp::createParts(const Needs &needs)
     auto *documents = new DocumentList({needs.flags, needs.undo, *status, needs.settings}, this);
     auto *files =
         new FileCommands({*documents, m_recentFiles, *status, needs.alert, needs.prompts}, needs.codePage, this);
+    m_editCommands = std::make_unique<EditCommands>(needs.undo, *QGuiApplication::clipboard(), *status);
     m_context = std::make_unique<AppContext>(AppContext{*this, needs.flags, needs.undo, needs.settings, needs.alert,
-                                                        *status, *documents, *files, m_editCommands, m_recentFiles,
+                                                        *status, *documents, *files, *m_editCommands, m_recentFiles,
                                                         *m_print, *m_help, needs.random, needs.errorSound});
     setCentralWidget(createCentre());
 

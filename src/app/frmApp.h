@@ -119,7 +119,7 @@ private:
 
     RegistryStore &m_store;
     clsMRUFileList m_recentFiles;
-    EditCommands m_editCommands;
+    std::unique_ptr<EditCommands> m_editCommands;
     QMdiArea *m_area;
     QStackedWidget *m_views; ///< the document area, and the print preview in its place
     std::unique_ptr<PrintHost> m_printHost;

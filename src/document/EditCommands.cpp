@@ -4,8 +4,11 @@
 #include "document/ctlGridEdit.h"
 #include "document/frmDoc.h"
 #include "document/modUndo.h"
+#include "document/rules/GridRules.h"
+#include "services/modSBFunc.h"
 
 #include <QClipboard>
+#include <QMimeData>
 
 namespace {
 
@@ -28,24 +31,25 @@ void keepLastRowEmpty(ctlGrid &grid)
         grid.setRows(grid.Rows() + 1);
 }
 
-/// The cells that a clipboard text takes when it is pasted into a selection.
-GridSelection pastedCells(const GridSelection &selection, const std::vector<ClipText::Row> &rows)
+int columnsOf(const std::vector<ClipText::Row> &rows)
 {
-    if (selection.rowCount() > 1 || selection.colCount() > 1)
-        return selection;
-    size_t fields = 1;
+    size_t columns = 0;
     for (const ClipText::Row &row : rows)
-        fields = std::max(fields, row.size());
-    const int top = selection.top();
-    const int left = selection.left();
-    return {top, left, top + int(rows.size()) - 1, int(std::min(size_t(Columns), size_t(left) + fields - 1))};
+        columns = std::max(columns, row.size());
+    return int(columns);
+}
+
+bool areSeveralCells(const std::vector<ClipText::Row> &rows)
+{
+    return rows.size() > 1 || rows.front().size() > 1;
 }
 
 } // namespace
 
-EditCommands::EditCommands(UndoRecord &record, QClipboard &clipboard)
+EditCommands::EditCommands(UndoRecord &record, QClipboard &clipboard, modSBFunc &status)
     : m_record(record)
     , m_clipboard(clipboard)
+    , m_status(status)
 {
 }
 
@@ -79,19 +83,43 @@ void EditCommands::Cut(frmDoc &document)
 
 void EditCommands::Paste(frmDoc &document)
 {
-    if (document.Rutor()->EditMode()) {
-        document.Rutor()->hwndText()->pasteText();
-        m_record.overwritten = {};
-        m_record.setKind(UndoKind::Paste, &document);
+    ctlGrid &grid = *document.Rutor();
+    const QMimeData *offered = m_clipboard.mimeData();
+    if (!offered || !offered->hasText()) {
+        if (!grid.EditMode())
+            grid.setFocus();
         return;
     }
-    document.Rutor()->setFocus();
     const std::vector<ClipText::Row> rows = ClipText::parse(m_clipboard.text());
-    if (rows.empty())
-        return;
-    fillCells(document, pastedCells(document.selection(), rows), rows);
+    const bool untouched = grid.EditText() == grid.Text();
+    if (grid.EditMode() && !(untouched && areSeveralCells(rows)))
+        pasteInEditBox(document);
+    else
+        pasteCells(document, rows);
+}
+
+void EditCommands::pasteInEditBox(frmDoc &document)
+{
+    document.Rutor()->hwndText()->pasteText();
+    m_record.overwritten = {};
+    m_record.setKind(UndoKind::Paste, &document);
+}
+
+void EditCommands::pasteCells(frmDoc &document, const std::vector<ClipText::Row> &rows)
+{
+    document.endEdit();
+    document.Rutor()->setFocus();
+    const int columns = columnsOf(rows);
+    const GridSelection cells =
+        GridRules::pastedCells(document.selection(), int(rows.size()), columns, document.Rutor()->Rows());
+    fillCells(document, cells, rows);
     document.setDirty(true);
     m_record.setKind(UndoKind::Paste, &document);
+    const QString part = GridRules::pastedPart(cells, int(rows.size()), columns);
+    if (part.isEmpty())
+        return;
+    m_status.ShowStatus(0);
+    m_status.SBSetText(0, modSBFunc::SBT_SUNKEN, part);
 }
 
 void EditCommands::fillCells(frmDoc &document, const GridSelection &cells, const std::vector<ClipText::Row> &rows)
@@ -101,10 +129,12 @@ void EditCommands::fillCells(frmDoc &document, const GridSelection &cells, const
     grid.setRedraw(false);
     grid.setRows(std::max(rowsBefore, cells.bottom() + 1));
     recordCells(document, cells);
-    for (int row = cells.top(); row <= cells.bottom() && row - cells.top() < int(rows.size()); ++row) {
+    for (int row = cells.top(); row <= cells.bottom(); ++row) {
         const ClipText::Row &fields = rows[size_t(row - cells.top())];
-        for (int col = cells.left(); col <= cells.right() && col - cells.left() < int(fields.size()); ++col)
+        for (int col = cells.left(); col <= cells.right() && col - cells.left() < int(fields.size()); ++col) {
             grid.setTextMatrix(row, col, fields[size_t(col - cells.left())]);
+            document.growRow(row, col);
+        }
     }
     keepLastRowEmpty(grid);
     m_record.addedRows = grid.Rows() - rowsBefore;
@@ -192,7 +222,7 @@ bool EditCommands::reverse(frmDoc &document)
         if (reversesCells())
             undoCells(document);
         else
-            undoInEditBox(document);
+            return !undoInEditBox(document);
         break;
     case UndoKind::Entry:
         document.Rutor()->setRow(m_record.selection.Row);

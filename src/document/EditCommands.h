@@ -1,24 +1,27 @@
 #pragma once
 
-#include "document/rules/ClipText.h"
 #include "document/rules/UndoRecord.h"
+#include "services/rules/ClipText.h"
 
 class QClipboard;
 class ctlGrid;
 class frmDoc;
+class modSBFunc;
 
 /// The commands of the Edit menu that change a document, and their undo. While the grid is browsing they act on its
 /// selection, while a cell is being edited on the edit box. Each leaves a record of what it did, Copy excepted.
 class EditCommands
 {
 public:
-    /// Both outlive the object.
-    EditCommands(UndoRecord &record, QClipboard &clipboard);
+    /// All outlive the object.
+    EditCommands(UndoRecord &record, QClipboard &clipboard, modSBFunc &status);
 
     void Copy(frmDoc &document);
     void Cut(frmDoc &document);
-    /// A single selected cell takes the whole clipboard text from there on, as far as it reaches; a larger selection is
-    /// filled and nothing beyond it. Without a text on the clipboard nothing happens in the grid.
+    /// A single selected cell, and a selection that reaches the last row, takes the whole clipboard text from there on;
+    /// any other selection is filled and nothing beyond it, and the status bar tells what did not fit. Without a text
+    /// on the clipboard nothing happens. A text of several cells is pasted as cells also into an edit box in which
+    /// nothing was typed yet.
     void Paste(frmDoc &document);
     void Clear(frmDoc &document);
     /// Inserts as many empty rows as are selected above them.
@@ -32,6 +35,8 @@ private:
     void recordCells(frmDoc &document, const GridSelection &cells);
     void restoreCells(ctlGrid &grid) const;
     void emptySelection(frmDoc &document);
+    void pasteInEditBox(frmDoc &document);
+    void pasteCells(frmDoc &document, const std::vector<ClipText::Row> &rows);
     void fillCells(frmDoc &document, const GridSelection &cells, const std::vector<ClipText::Row> &rows);
 
     bool reversesCells() const;
@@ -41,4 +46,5 @@ private:
 
     UndoRecord &m_record;
     QClipboard &m_clipboard;
+    modSBFunc &m_status;
 };

@@ -1,13 +1,16 @@
 #include "document/ctlGridEdit.h"
 
-#include "services/rules/LineBreaks.h"
+#include "services/rules/CellText.h"
+#include "services/rules/ClipText.h"
 #include "widgets/grid/FlexGridCellText.h"
 #include "widgets/grid/FlexGridKeys.h"
 
 #include <QClipboard>
+#include <QDropEvent>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QPainter>
 #include <QValidator>
 
@@ -16,8 +19,16 @@
 namespace {
 
 constexpr int OwnMargin = 2; ///< pixels that the toolkit keeps free beside a box's text
+constexpr qsizetype FarthestCaret = 1000;
 
-/// Turns line breaks into blanks on every way a text can enter: paste, drop, input method.
+/// Another program would take a move for a reason to delete what it gave.
+void takeAsCopy(QDropEvent &event, const QObject *box)
+{
+    if (event.isAccepted() && event.source() != box)
+        event.setDropAction(Qt::CopyAction);
+}
+
+/// Turns tabs and line breaks into blanks on every way a text can enter: paste, drop, input method.
 class OneLine : public QValidator
 {
 public:
@@ -25,7 +36,7 @@ public:
 
     State validate(QString &input, int &) const override
     {
-        input = LineBreaks::removed(input);
+        input = CellText::cleaned(input);
         return Acceptable;
     }
 };
@@ -45,13 +56,38 @@ ctlGridEdit::ctlGridEdit(QWidget *parent)
 void ctlGridEdit::begin(const QString &text)
 {
     setText(text);
-    end(false);
+    const bool betweenHalves = text.size() > FarthestCaret && text.at(FarthestCaret).isLowSurrogate();
+    setCursorPosition(int(std::min(text.size(), FarthestCaret + (betweenHalves ? 1 : 0))));
     m_undone = false;
+}
+
+void ctlGridEdit::cutText()
+{
+    cut();
+    separateUndo();
 }
 
 void ctlGridEdit::pasteText()
 {
-    insert(LineBreaks::removed(QGuiApplication::clipboard()->text()));
+    const std::vector<ClipText::Row> rows = ClipText::parse(QGuiApplication::clipboard()->text());
+    const bool oneCell = rows.size() == 1 && rows.front().size() == 1;
+    separateUndo();
+    insert(CellText::cleaned(oneCell ? rows.front().front() : QGuiApplication::clipboard()->text()));
+    separateUndo();
+}
+
+/// What is typed before and after is an undo of its own: the toolkit separates at each step of the caret.
+void ctlGridEdit::separateUndo()
+{
+    const int caret = cursorPosition();
+    const int start = selectionStart();
+    const int length = int(selectedText().size());
+    setCursorPosition(caret > 0 ? caret - 1 : caret + 1);
+    setCursorPosition(caret);
+    if (start == caret && length > 0)
+        setSelection(start + length, -length);
+    else if (start >= 0)
+        setSelection(start, length);
 }
 
 void ctlGridEdit::undoText()
@@ -149,6 +185,28 @@ void ctlGridEdit::focusOutEvent(QFocusEvent *event)
     QLineEdit::focusOutEvent(event);
     if (start >= 0)
         setSelection(start, length);
+}
+
+void ctlGridEdit::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->mimeData()->hasUrls()) {
+        event->ignore(); // files are the main window's
+        return;
+    }
+    QLineEdit::dragEnterEvent(event);
+    takeAsCopy(*event, this);
+}
+
+void ctlGridEdit::dragMoveEvent(QDragMoveEvent *event)
+{
+    QLineEdit::dragMoveEvent(event);
+    takeAsCopy(*event, this);
+}
+
+void ctlGridEdit::dropEvent(QDropEvent *event)
+{
+    QLineEdit::dropEvent(event);
+    takeAsCopy(*event, this);
 }
 
 void ctlGridEdit::paintEvent(QPaintEvent *event)

@@ -3,7 +3,7 @@
 #include <QLineEdit>
 
 /// The edit box that a vocabulary grid lays over the cell being edited. It tells the grid of each key before it acts on
-/// it itself, keeps line breaks out, and knows one level of undo, which a second undo takes back.
+/// it itself, keeps tabs and line breaks out, and knows one level of undo, which a second undo takes back.
 class ctlGridEdit : public QLineEdit
 {
     Q_OBJECT
@@ -11,9 +11,9 @@ class ctlGridEdit : public QLineEdit
 public:
     explicit ctlGridEdit(QWidget *parent);
 
-    /// Begins with a text and the caret at its end; there is nothing to undo yet.
+    /// Begins with a text and the caret at its end, in a long text at position 1000; there is nothing to undo yet.
     void begin(const QString &text);
-    void cutText() { cut(); }
+    void cutText();
     void copyText() { copy(); }
     void pasteText();
     /// Undoes the last typing, or redoes it when the last thing done was to undo it.
@@ -35,10 +35,14 @@ protected:
     void inputMethodEvent(QInputMethodEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     bool focusNextPrevChild(bool next) override;
 
 private:
+    void separateUndo();
     QString filtered(const QString &typed);
 
     bool m_undone = false;

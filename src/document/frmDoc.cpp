@@ -126,7 +126,7 @@ void frmDoc::commitRunningEdit()
         return;
     m_grid->setText(m_grid->EditText());
     m_committedEdit = m_grid->Text();
-    makeRoomFor(m_grid->Row(), m_grid->Col(), *m_committedEdit);
+    makeRoomFor(m_grid->Row(), m_grid->Col());
     setDirty(true);
 }
 
@@ -201,7 +201,7 @@ void frmDoc::onAfterEdit(int row, int col, const QString &text)
     ceasedToEdit();
     if (!m_shared.flags.searching() || text != m_textBeforeEdit)
         noteEntry(row, col);
-    makeRoomFor(row, col, text);
+    makeRoomFor(row, col);
     m_textBeforeEdit.clear(); // both belong to this edit only
     m_committedEdit.reset();
 }
@@ -236,19 +236,25 @@ void frmDoc::endEdit()
         noteEntry(m_grid->Row(), m_grid->Col());
 }
 
-void frmDoc::makeRoomFor(int row, int col, const QString &text)
+void frmDoc::makeRoomFor(int row, int col)
 {
-    if (!m_grid->letterWidths().surelyFits(text, m_grid->ColWidth(col) / Twips::perPixelX())) {
-        const QFontMetricsF metrics(m_grid->Font());
-        const int width = int(std::lround(metrics.horizontalAdvance(text) * Twips::perPixelX()));
-        const int height = int(std::lround(metrics.height() * Twips::perPixelY()));
-        const int present = m_grid->RowHeight(row);
-        const int grown = GridRules::grownRowHeight(width, height, m_grid->ColWidth(col), present);
-        if (grown != present)
-            m_grid->setRowHeight(row, grown);
-    }
+    growRow(row, col);
     if (row >= m_grid->Rows() - 1)
         m_grid->AddItem(QString::number(m_grid->Rows()));
+}
+
+void frmDoc::growRow(int row, int col)
+{
+    const QString &text = m_grid->word(row, col);
+    if (m_grid->letterWidths().surelyFits(text, m_grid->ColWidth(col) / Twips::perPixelX()))
+        return;
+    const QFontMetricsF metrics(m_grid->Font());
+    const int width = int(std::lround(metrics.horizontalAdvance(text) * Twips::perPixelX()));
+    const int height = int(std::lround(metrics.height() * Twips::perPixelY()));
+    const int present = m_grid->RowHeight(row);
+    const int grown = GridRules::grownRowHeight(width, height, m_grid->ColWidth(col), present);
+    if (grown != present)
+        m_grid->setRowHeight(row, grown);
 }
 
 void frmDoc::onKeyDown(int, int shift)

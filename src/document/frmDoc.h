@@ -69,7 +69,9 @@ public:
     void endEdit();
     /// To be called when a cell has got a new text: makes its row taller if the text needs it, and appends a row when
     /// the cell stands in the last one.
-    void makeRoomFor(int row, int col, const QString &text);
+    void makeRoomFor(int row, int col);
+    /// The first half of it, for whole lists.
+    void growRow(int row, int col);
 
     QString language(int column) const;
     /// The selected rectangle of cells.

@@ -12,5 +12,5 @@ void DocumentCells::setTextMatrix(int row, int col, const QString &text)
 {
     m_document.endEdit();
     m_document.Rutor()->setTextMatrix(row, col, text);
-    m_document.makeRoomFor(row, col, text);
+    m_document.makeRoomFor(row, col);
 }

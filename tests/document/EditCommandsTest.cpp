@@ -23,7 +23,7 @@ struct Editing : ::testing::Test, OpenDocument
     }
 
     QClipboard &clipboard = *QGuiApplication::clipboard();
-    EditCommands commands{undo, clipboard};
+    EditCommands commands{undo, clipboard, status};
     const Words before = words();
 };
 
@@ -71,15 +71,14 @@ TEST_F(Editing, PasteReachesAsFarAsTheTextOrTheSelection)
     const std::tuple<GridSelection, QString, Words> cases[] = {
         {{1, 1, 1, 1}, "x", {{"x", "b"}, {"c", "d"}, {"e", "f"}, {}}},
         {{2, 1, 2, 1}, "x\ty\nz\n", {{"a", "b"}, {"x", "y"}, {"z", "f"}, {}}},
-        {{2, 2, 2, 2}, "x\ty\r\nz\r\n", {{"a", "b"}, {"c", "x"}, {"e", "z"}, {}}},
         {{2, 1, 2, 1}, "x\ty\tw\r\r1\t2\r3", {{"a", "b"}, {"x", "y"}, {"", "f"}, {"1", "2"}, {"3", ""}, {}}},
         {{4, 2, 4, 2}, "x", {{"a", "b"}, {"c", "d"}, {"e", "f"}, {"", "x"}, {}}},
         {{1, 1, 1, 1}, "\"x\ny\"\tz", {{"x y", "z"}, {"c", "d"}, {"e", "f"}, {}}},
-        {{1, 1, 1, 1}, "\t", {{"", ""}, {"c", "d"}, {"e", "f"}, {}}},
-        {{1, 1, 1, 1}, "", before},
+        {{1, 1, 1, 1}, "", {{"", "b"}, {"c", "d"}, {"e", "f"}, {}}},
         // into a larger selection
         {{1, 1, 2, 1}, "x\ty\nz\nw", {{"x", "b"}, {"z", "d"}, {"e", "f"}, {}}},
         {{2, 1, 4, 2}, "x\n\t\nz", {{"a", "b"}, {"x", "d"}, {"", ""}, {"z", ""}, {}}},
+        {{4, 2, 3, 1}, "x\ny\nz\tw", {{"a", "b"}, {"c", "d"}, {"x", "f"}, {"y", ""}, {"z", "w"}, {}}},
     };
     for (const auto &[selection, text, result] : cases) {
         SCOPED_TRACE(text.toStdString());
@@ -89,11 +88,19 @@ TEST_F(Editing, PasteReachesAsFarAsTheTextOrTheSelection)
         clipboard.setText(text);
         commands.Paste(document);
         EXPECT_EQ(words(), result);
-        EXPECT_EQ(undo.kind(), text.isEmpty() ? UndoKind::None : UndoKind::Paste);
-        EXPECT_EQ(document.Dirty(), !text.isEmpty());
+        EXPECT_EQ(undo.kind(), UndoKind::Paste);
+        EXPECT_TRUE(document.Dirty());
         expectUndone(before);
         EXPECT_EQ(document.selection(), selection);
     }
+    select(2, 2, 3, 2);
+    clipboard.setText(QStringLiteral("long words ").repeated(20) + "\nx\ny\n");
+    commands.Paste(document);
+    EXPECT_EQ(status.text(0), "2 of 3 rows pasted");
+    EXPECT_GT(grid.RowHeight(2), 2 * 285);
+    clipboard.clear();
+    commands.Paste(document);
+    EXPECT_EQ(grid.TextMatrix(3, 2), "x");
 }
 
 TEST_F(Editing, WhileACellIsEditedTheCommandsActOnTheEditBox)
@@ -104,16 +111,46 @@ TEST_F(Editing, WhileACellIsEditedTheCommandsActOnTheEditBox)
     EXPECT_EQ(clipboard.text(), "xy");
     commands.Cut(document);
     EXPECT_EQ(grid.EditText(), "z");
-    EXPECT_EQ(undo.kind(), UndoKind::Cut);
-    commands.Undo(document);
-    EXPECT_EQ(grid.EditText(), "xyz");
+    for (const char *expected : {"xyz", "z", "xyz"}) {
+        EXPECT_EQ(undo.kind(), UndoKind::Cut);
+        commands.Undo(document);
+        EXPECT_EQ(grid.EditText(), expected);
+    }
     grid.SelectEditText(3, 0);
+    QTest::keyClick(grid.hwndText(), Qt::Key_Exclam);
     commands.Paste(document);
+    for (const char *expected : {"xyz!", "xyz!xy"}) {
+        commands.Undo(document);
+        EXPECT_EQ(grid.EditText(), expected);
+        EXPECT_EQ(undo.kind(), UndoKind::Paste);
+    }
+    QTest::keyClicks(grid.hwndText(), "..");
+    commands.Undo(document);
+    EXPECT_EQ(grid.EditText(), "xyz!xy");
     EXPECT_EQ(words(), before);
     QTest::keyClick(grid.hwndText(), Qt::Key_Return);
-    EXPECT_EQ(grid.TextMatrix(1, 1), "xyzxy");
+    EXPECT_EQ(grid.TextMatrix(1, 1), "xyz!xy");
     EXPECT_EQ(undo.kind(), UndoKind::Entry);
     expectUndone(before);
+}
+
+TEST_F(Editing, SeveralCellsArePastedAsCellsUnlessSomethingWasTyped)
+{
+    for (const QString &typed : {QString(), QStringLiteral("!")}) {
+        clipboard.setText("x\ty\nz\n");
+        grid.setEditMode(true);
+        QTest::keyClicks(grid.hwndText(), typed);
+        commands.Paste(document);
+        EXPECT_EQ(grid.EditText(), typed.isEmpty() ? "" : "a!x y z ");
+        EXPECT_EQ(words(), typed.isEmpty() ? (Words{{"x", "y"}, {"z", "d"}, {"e", "f"}, {}}) : before);
+        commands.Undo(document);
+        grid.setEditMode(false);
+        setWords({{"a", "b"}, {"c", "d"}, {"e", "f"}});
+    }
+    clipboard.setText("one\n"); // a line of another program is one cell
+    grid.setEditMode(true);
+    commands.Paste(document);
+    EXPECT_EQ(grid.EditText(), "aone");
 }
 
 TEST_F(Editing, UndoOfTypingTogglesAndEndsWhenThereIsNoTyping)

@@ -5,6 +5,8 @@
 #include "widgets/grid/FlexGridView.h"
 
 #include <QClipboard>
+#include <QDropEvent>
+#include <QMimeData>
 
 /// A grid as a document window sets it up, shown and with the focus, that writes down what it tells its container.
 struct GridEditing : ::testing::Test
@@ -116,6 +118,7 @@ TEST_F(GridEditing, EditingALongCellKeepsAllOfIt)
     type("y");
     key(Qt::Key_Return);
     EXPECT_EQ(cell(1, 1).size(), 40001);
+    EXPECT_EQ(cell(1, 1).indexOf('y'), 1000);
 }
 
 TEST_F(GridEditing, ArrowsCommitAndMove)
@@ -200,6 +203,27 @@ TEST_F(GridEditing, TheBoxPastesOneLineOnEveryWay)
     QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
     box.paste(); // as the box's own menu does
     EXPECT_EQ(grid.EditText(), "housea b ca b ca b c");
+}
+
+TEST_F(GridEditing, TheBoxTakesDroppedTextAsACopyAndLeavesFilesAlone)
+{
+    grid.setEditMode(true);
+    for (const bool files : {true, false}) {
+        QMimeData dragged;
+        dragged.setText("x\ty");
+        if (files)
+            dragged.setUrls({QUrl("file:///words.gla")});
+        QDragEnterEvent enter({2, 2}, Qt::CopyAction | Qt::MoveAction, &dragged, Qt::LeftButton, {});
+        enter.setDropAction(Qt::MoveAction);
+        QCoreApplication::sendEvent(grid.hwndText(), &enter);
+        EXPECT_EQ(enter.isAccepted(), !files);
+        QDropEvent drop({2, 2}, Qt::CopyAction | Qt::MoveAction, &dragged, Qt::LeftButton, {});
+        drop.setDropAction(Qt::MoveAction);
+        if (!files)
+            QCoreApplication::sendEvent(grid.hwndText(), &drop);
+        EXPECT_EQ(drop.dropAction(), files ? Qt::MoveAction : Qt::CopyAction);
+    }
+    EXPECT_EQ(grid.EditText(), "x yhouse");
 }
 
 TEST_F(GridEditing, ComposedTextOpensTheBox)

@@ -39,7 +39,7 @@ protected:
 
     std::mt19937 engine{5};
     const QStringList texts{"", "w", "\"x", "y\"", "p\tq", "long word", "W", "10", "9"};
-    EditCommands commands{undo, *QGuiApplication::clipboard()};
+    EditCommands commands{undo, *QGuiApplication::clipboard(), status};
 };
 
 TEST_F(RandomChanges, OfTheEditMenuAreUndone)
@@ -64,6 +64,30 @@ TEST_F(RandomChanges, OfTheEditMenuAreUndone)
         }
         commands.Delete(document);
         expectUndone(expected, selection);
+    }
+}
+
+TEST_F(RandomChanges, CopiedCellsComeBackOnASelectionOfTheirSize)
+{
+    for (int round = 0; round < 300; ++round) {
+        const Words before = fresh();
+        const GridSelection from = document.selection();
+        commands.Copy(document);
+        const int top = 1 + number(grid.Rows() - from.rowCount());
+        const int left = from.colCount() == 2 ? 1 : 1 + number(2);
+        const GridSelection to{top, left, top + from.rowCount() - 1, left + from.colCount() - 1};
+        document.select(to);
+        commands.Paste(document);
+        Words expected = before;
+        for (int row = 0; row < from.rowCount(); ++row) {
+            for (int col = 0; col < from.colCount(); ++col)
+                expected[size_t(top + row) - 1][size_t(left + col) - 1] =
+                    before[size_t(from.top() + row) - 1][size_t(from.left() + col) - 1];
+        }
+        if (expected.back() != Words::value_type())
+            expected.emplace_back();
+        ASSERT_EQ(words(), expected);
+        expectUndone(before, to);
     }
 }
 

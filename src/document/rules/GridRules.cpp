@@ -1,6 +1,7 @@
 #include "document/rules/GridRules.h"
 
 #include "document/rules/Vocabulary.h"
+#include "resources/StringTable.h"
 
 #include <QChar>
 
@@ -8,6 +9,9 @@
 
 namespace {
 
+constexpr int Columns = 2;
+constexpr int RowsPasted = 14040;
+constexpr int ColumnsPasted = 14041;
 constexpr int LineMargin = 30; ///< twips above and below a line together
 
 QString cellName(int col, int row)
@@ -51,6 +55,29 @@ int grownRowHeight(int textWidth, int textHeight, int colWidth, int rowHeight)
 int defaultRowHeight(int textHeight)
 {
     return std::max(Vocabulary::DefaultRowHeight, textHeight + LineMargin);
+}
+
+GridSelection pastedCells(const GridSelection &selection, int textRows, int textColumns, int rows)
+{
+    const bool single = selection.rowCount() == 1 && selection.colCount() == 1;
+    const bool grows = single || selection.bottom() >= rows - 1;
+    const int bottom = selection.top() + textRows - 1;
+    const int right = selection.left() + textColumns - 1;
+    return {selection.top(), selection.left(), grows ? bottom : std::min(bottom, selection.bottom()),
+            std::min(right, grows ? Columns : selection.right())};
+}
+
+QString pastedPart(const GridSelection &pasted, int textRows, int textColumns)
+{
+    const bool allRows = pasted.rowCount() == textRows;
+    const bool allColumns = pasted.colCount() == textColumns;
+    if (allRows && allColumns)
+        return {};
+    const QString rows = resText(RowsPasted).arg(pasted.rowCount()).arg(textRows);
+    const QString columns = resText(ColumnsPasted).arg(pasted.colCount()).arg(textColumns);
+    if (allColumns)
+        return rows;
+    return allRows ? columns : rows + QStringLiteral(", ") + columns;
 }
 
 QString cellReference(const GridSelection &selection)

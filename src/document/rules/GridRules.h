@@ -28,6 +28,15 @@ int grownRowHeight(int textWidth, int textHeight, int colWidth, int rowHeight);
 /// The height in twips of rows that nobody has set one for, for a font of the given height (twips).
 int defaultRowHeight(int textHeight);
 
+/// The cells that a clipboard text of so many rows and columns takes when it is pasted into a selection. Into a single
+/// cell, and into a selection that reaches the last row, it goes as far as it reaches, to the right up to the second
+/// language; any other selection is not left. rows counts the header row.
+GridSelection pastedCells(const GridSelection &selection, int textRows, int textColumns, int rows);
+
+/// What the status bar tells when only these cells of the text were pasted: "100 of 300 rows pasted". Empty when the
+/// whole text was.
+QString pastedPart(const GridSelection &pasted, int textRows, int textColumns);
+
 /// The cell reference of a selection, with a leading blank: " A5" or " A5:B7".
 QString cellReference(const GridSelection &selection);
 

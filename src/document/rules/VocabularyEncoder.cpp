@@ -1,7 +1,7 @@
 #include "document/rules/ProgressTicks.h"
 #include "document/rules/Utf8Text.h"
 #include "document/rules/VocabularyCodec.h"
-#include "services/rules/LineBreaks.h"
+#include "services/rules/CellText.h"
 
 #include <cstring>
 
@@ -52,7 +52,7 @@ public:
         put(LineEnd);
     }
 
-    void putText(const QString &text) { putLetters(LineBreaks::removed(text)); }
+    void putText(const QString &text) { putLetters(CellText::cleaned(text)); }
 
     /// Ten digits in brackets, three blanks before.
     void putMarker(int height)

@@ -85,7 +85,7 @@ public:
     int FixedCols() const { return m_state.fixedCols; }
     void setFixedCols(int cols);
     QString TextMatrix(int row, int col) const { return m_state.cells.text(row, col); }
-    /// Line breaks become one blank, here and wherever else a text enters a cell.
+    /// Tabs and line breaks become one blank each, here and wherever else a text enters a cell.
     void setTextMatrix(int row, int col, const QString &text);
     /// Cells counted row by row from the top left.
     QString TextArray(int index) const;
@@ -146,8 +146,7 @@ public:
     void Select(int row, int col, int rowSel, int colSel);
     /// The selected cells as text: a tab between cells, a carriage return between rows, nothing at the end.
     QString Clip() const;
-    /// Fills the selection, and nothing beyond it, from such a text. CR, LF and CR LF all separate rows, one at the end
-    /// adds none; cells for which there is no field keep their text.
+    /// Fills the selection, and nothing beyond it, from such a text; cells for which there is no field keep theirs.
     void setClip(const QString &text);
 
     // --- Sizes and places

@@ -1,7 +1,6 @@
 #include "widgets/grid/FlexGridCells.h"
 
-#include "services/rules/LineBreaks.h"
-#include "widgets/grid/FlexGridText.h"
+#include "services/rules/CellText.h"
 
 #include <algorithm>
 #include <numeric>
@@ -110,7 +109,7 @@ void FlexGridCells::setText(int row, int col, const QString &text)
     if (size_t(row) >= texts.size())
         texts.resize(size_t(row) + 1);
     ++m_revision;
-    texts[size_t(row)] = LineBreaks::removed(text);
+    texts[size_t(row)] = CellText::cleaned(text);
 }
 
 void FlexGridCells::setWords(std::vector<QString> &&first, std::vector<QString> &&second, std::vector<int> &&heights)
@@ -121,7 +120,7 @@ void FlexGridCells::setWords(std::vector<QString> &&first, std::vector<QString> 
     m_rows = int(std::max({first.size(), second.size(), heights.size()}));
     for (std::vector<QString> *texts : {&first, &second}) {
         for (QString &text : *texts)
-            text = LineBreaks::removed(text);
+            text = CellText::cleaned(text);
     }
     for (int &height : heights)
         height = height < 0 ? m_defaultRowHeight : std::min(height, LargestSize);

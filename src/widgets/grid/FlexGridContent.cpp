@@ -1,8 +1,8 @@
 #include "widgets/grid/FlexGrid.h"
 
+#include "services/rules/ClipText.h"
 #include "services/rules/SortOrder.h"
 #include "widgets/grid/FlexGridAccessible.h"
-#include "widgets/grid/FlexGridText.h"
 #include "widgets/grid/FlexGridView.h"
 
 #include <QStringList>
@@ -171,10 +171,14 @@ QString FlexGrid::Clip() const
 void FlexGrid::setClip(const QString &text)
 {
     const FlexGridSelection selection = m_state.selection;
-    FlexGridText::readCells(text, [&](int row, int col, const QString &cell) {
-        if (selection.contains(selection.top() + row, selection.left() + col))
-            m_state.cells.setText(selection.top() + row, selection.left() + col, cell);
-    });
+    const std::vector<ClipText::Row> rows = ClipText::parse(text);
+    const int bottom = std::min(selection.bottom(), selection.top() + int(rows.size()) - 1);
+    for (int row = selection.top(); row <= bottom; ++row) {
+        const ClipText::Row &fields = rows[size_t(row - selection.top())];
+        const int right = std::min(selection.right(), selection.left() + int(fields.size()) - 1);
+        for (int col = selection.left(); col <= right; ++col)
+            m_state.cells.setText(row, col, fields[size_t(col - selection.left())]);
+    }
     draw();
 }
 

@@ -29,6 +29,29 @@ TEST(GridRules, RowsGrowForLongTextsAndNeverShrink)
         EXPECT_EQ(grownRowHeight(width, height, column, before), after) << width;
 }
 
+TEST(GridRules, PastedTextGrowsFromASingleCellAndAtTheEndOnly)
+{
+    struct Case
+    {
+        GridSelection selection;
+        int textRows, textColumns;
+        GridSelection pasted;
+        const char *told;
+    };
+    const Case cases[] = {
+        {{2, 1, 2, 1}, 3, 2, {2, 1, 4, 2}, ""},
+        {{2, 2, 2, 2}, 300, 2, {2, 2, 301, 2}, "1 of 2 columns pasted"},
+        {{4, 2, 2, 1}, 300, 2, {2, 1, 4, 2}, "3 of 300 rows pasted"},
+        {{4, 2, 2, 2}, 4, 3, {2, 2, 4, 2}, "3 of 4 rows pasted, 1 of 3 columns pasted"},
+        {{2, 1, 9, 2}, 3, 1, {2, 1, 4, 1}, ""},
+        {{10, 1, 1, 1}, 300, 2, {1, 1, 300, 2}, ""}, // the last row
+    };
+    for (const auto &[selection, textRows, textColumns, pasted, told] : cases) {
+        EXPECT_EQ(pastedCells(selection, textRows, textColumns, 11), pasted);
+        EXPECT_EQ(pastedPart(pasted, textRows, textColumns), told);
+    }
+}
+
 TEST(GridRules, NamesCellsAndFiles)
 {
     EXPECT_EQ(cellReference({4, 2, 4, 2}), " B4");

@@ -1,6 +1,6 @@
 #include "document/rules/VocabularyCodec.h"
 
-#include "services/rules/LineBreaks.h"
+#include "services/rules/CellText.h"
 
 #include <QLocale>
 
@@ -229,7 +229,7 @@ TEST(VocabularyCodec, EveryLetterComesBack)
 {
     Vocabulary vocabulary = withRows({});
     for (int c = 1; c < 0x10000; ++c) {
-        if (LineBreaks::removed(QChar(c)) == QChar(c)) // else no cell holds it
+        if (CellText::cleaned(QChar(c)) == QChar(c)) // else no cell holds it
             vocabulary.append(QString(QChar(c)), QChar(c) + QString("]"));
     }
     EXPECT_TRUE(decodeWestern(encode(vocabulary, CodePage())).vocabulary == vocabulary);

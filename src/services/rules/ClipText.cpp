@@ -1,4 +1,4 @@
-#include "document/rules/ClipText.h"
+#include "services/rules/ClipText.h"
 
 namespace {
 
@@ -16,8 +16,6 @@ public:
     {
     }
 
-    bool atEnd() const { return m_at >= m_text.size(); }
-
     ClipText::Row takeRow()
     {
         ClipText::Row row;
@@ -28,11 +26,25 @@ public:
             if (another)
                 ++m_at;
         }
-        skipLineBreak();
         return row;
     }
 
+    /// Passes over the end of a row; whether another one follows.
+    bool rowFollows()
+    {
+        if (atEnd())
+            return false;
+        if (m_text[m_at] == u'\r')
+            ++m_at;
+        const bool lineFeed = !atEnd() && m_text[m_at] == u'\n';
+        if (lineFeed)
+            ++m_at;
+        return !lineFeed || !atEnd();
+    }
+
 private:
+    bool atEnd() const { return m_at >= m_text.size(); }
+
     QString takeField()
     {
         const qsizetype closing = closingQuote();
@@ -71,14 +83,6 @@ private:
         return -1;
     }
 
-    void skipLineBreak()
-    {
-        if (!atEnd() && m_text[m_at] == u'\r')
-            ++m_at;
-        if (!atEnd() && m_text[m_at] == u'\n')
-            ++m_at;
-    }
-
     const QString &m_text;
     qsizetype m_at = 0;
 };
@@ -91,8 +95,9 @@ std::vector<Row> parse(const QString &text)
 {
     std::vector<Row> rows;
     Reader reader(text);
-    while (!reader.atEnd())
+    do
         rows.push_back(reader.takeRow());
+    while (reader.rowFollows());
     return rows;
 }
 

@@ -1,17 +1,18 @@
-#include "document/rules/ClipText.h"
+#include "services/rules/ClipText.h"
 
 TEST(ClipText, TakesTextsOfAnyProgramApart)
 {
     using Rows = std::vector<ClipText::Row>;
     const std::pair<QString, Rows> cases[] = {
-        {"", {}},
+        {"", {{""}}},
+        {"\n", {{""}}},
         {"a", {{"a"}}},
         {"a\tb\rc\td", {{"a", "b"}, {"c", "d"}}},
         {"a\tb\r\nc\td\r\n", {{"a", "b"}, {"c", "d"}}},
         {"a\n\nb\n", {{"a"}, {""}, {"b"}}},
         {"a\r\r\n\n", {{"a"}, {""}, {""}}},
-        {"\t\r\t\r", {{"", ""}, {"", ""}}},
-        {"\r\r", {{""}, {""}}},
+        {"\t\r\t", {{"", ""}, {"", ""}}},
+        {"a\r\r", {{"a"}, {""}, {""}}},
         {"a\t\tb", {{"a", "", "b"}}},
         {"a\t", {{"a", ""}}},
         // a spreadsheet's cells with a line feed inside
