@@ -2,6 +2,7 @@
 #include "document/rules/ProgressTicks.h"
 #include "document/rules/Utf8Text.h"
 #include "document/rules/VocabularyCodec.h"
+#include "services/rules/CellText.h"
 
 #include <limits>
 
@@ -222,7 +223,7 @@ private:
         if (!word || m_lines.atEnd())
             return false;
         const QByteArrayView secondLine = m_lines.next();
-        vocabulary.append(read(*word), read(secondLine), m_height);
+        vocabulary.append(CellText::cleaned(read(*word)), CellText::cleaned(read(secondLine)), m_height);
         m_done += firstLine.size() + secondLine.size();
         m_ticks.reach(m_done);
         return true;
