@@ -5,7 +5,7 @@
 #include "document/frmDoc.h"
 #include "document/modUndo.h"
 #include "document/rules/GridRules.h"
-#include "services/modSBFunc.h"
+#include "services/status/modSBFunc.h"
 
 #include <QClipboard>
 #include <QMimeData>
