@@ -7,7 +7,10 @@
 #include "resources/Pictures.h"
 #include "services/rules/ProgramFlags.h"
 #include "services/status/modSBFunc.h"
+#include "tools/FindOn.h"
 #include "tools/frmFindReplace.h"
+
+#include <memory>
 
 namespace {
 
@@ -26,11 +29,11 @@ std::function<void()> onActive(const AppContext &context, void (EditCommands::*c
 }
 
 /// The dialog belongs to the document that was active: it closes when that one does or another becomes active.
-void openFindReplace(const AppContext &context, frmDoc &document, bool replace)
+void openFindReplace(const AppContext &context, frmDoc &document, bool replace, Search &last)
 {
     context.status.ShowStatus(DialogOpen);
     (replace ? context.flags.ReplaceMode : context.flags.FindMode) = true;
-    const frmFindReplace::Needs needs{context.flags, context.undo, context.alert};
+    const frmFindReplace::Needs needs{context.flags, context.undo, context.alert, last};
     auto *dialog = new frmFindReplace(document, needs, &context.window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(&context.documents, &DocumentList::activeChanged, dialog, [dialog, &document](frmDoc *active) {
@@ -46,14 +49,45 @@ void openFindReplace(const AppContext &context, frmDoc &document, bool replace)
     dialog->show();
 }
 
-void showFindReplace(const AppContext &context, bool replace)
+frmFindReplace *openDialog(const AppContext &context)
+{
+    auto *dialog = context.window.findChild<frmFindReplace *>();
+    return dialog && dialog->isVisible() ? dialog : nullptr;
+}
+
+void showFindReplace(const AppContext &context, bool replace, Search &last)
 {
     frmDoc *document = context.documents.active();
-    auto *dialog = context.window.findChild<frmFindReplace *>();
-    if (dialog && dialog->isVisible())
+    if (frmFindReplace *dialog = openDialog(context))
         dialog->showAgain(replace);
     else if (document)
-        openFindReplace(context, *document, replace);
+        openFindReplace(context, *document, replace, last);
+}
+
+void findOn(const AppContext &context, bool backwards, Search &last)
+{
+    frmDoc *document = context.documents.active();
+    if (frmFindReplace *dialog = openDialog(context))
+        dialog->findOn(backwards);
+    else if (last.FindWhat.isEmpty())
+        showFindReplace(context, false, last);
+    else if (document)
+        FindOn::run(*document, last, backwards, context.alert, &context.window);
+}
+
+void addFindCommands(CommandTable &table, const AppContext &context)
+{
+    const auto last = std::make_shared<Search>();
+    const auto show = [&context, last](bool replace) {
+        return [&context, last, replace] { showFindReplace(context, replace, *last); };
+    };
+    const auto on = [&context, last](bool backwards) {
+        return [&context, last, backwards] { findOn(context, backwards, *last); };
+    };
+    table.add({"mnuEditFind", 429, "Ctrl+F", 30, PictureFind, Document, show(false)});
+    table.add({"mnuEditReplace", 430, "Ctrl+H", 31, PictureReplace, Document, show(true)});
+    table.add({"mnuEditFindNext", 14042, "F3", 30, 0, DocumentOrEditing, on(false)});
+    table.add({"mnuEditFindPrevious", 14043, "Shift+F3", 30, 0, DocumentOrEditing, on(true)});
 }
 
 } // namespace
@@ -70,8 +104,5 @@ void AppCommands::addEditCommands(CommandTable &table, const AppContext &context
     table.add({"mnuEditClear", 424, "", 25, PictureClear, Document, onActive(context, &EditCommands::Clear)});
     table.add({"mnuEditInsert", 426, "Ctrl+I", 27, PictureInsert, Document, onActive(context, &EditCommands::Insert)});
     table.add({"mnuEditDelete", 427, "Ctrl+K", 28, PictureDelete, Document, onActive(context, &EditCommands::Delete)});
-    table.add(
-        {"mnuEditFind", 429, "Ctrl+F", 30, PictureFind, Document, [&context] { showFindReplace(context, false); }});
-    table.add({"mnuEditReplace", 430, "Ctrl+H", 31, PictureReplace, Document,
-               [&context] { showFindReplace(context, true); }});
+    addFindCommands(table, context);
 }

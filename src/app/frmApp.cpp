@@ -193,6 +193,7 @@ void frmApp::placeDocument(frmDoc *document)
             });
     connect(document, &frmDoc::menuRequested, this,
             [this](const QPoint &position) { m_menus->gridMenu()->popup(position); });
+    connect(document, &frmDoc::clearRequested, this, [this] { DoMenuClick(QStringLiteral("mnuEditClear")); });
 }
 
 int frmApp::cascadeStep() const
@@ -268,6 +269,7 @@ void frmApp::onUndoKind()
     m_commands.action(QStringLiteral("mnuEditUndo"))->setText(caption);
     m_commands.setAvailable(QStringLiteral("mnuEditUndo"), undoable() != UndoKind::None);
     m_toolbars->setToolTip(QStringLiteral("Undo"), caption);
+    m_context->status.ShowStatus(0); // what a command before has told is over
     m_context->status.ShowStatus(modSBFunc::Ready);
 }
 

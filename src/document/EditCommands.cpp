@@ -85,17 +85,14 @@ void EditCommands::Paste(frmDoc &document)
 {
     ctlGrid &grid = *document.Rutor();
     const QMimeData *offered = m_clipboard.mimeData();
-    if (!offered || !offered->hasText()) {
-        if (!grid.EditMode())
-            grid.setFocus();
-        return;
-    }
     const std::vector<ClipText::Row> rows = ClipText::parse(m_clipboard.text());
     const bool untouched = grid.EditText() == grid.Text();
     if (grid.EditMode() && !(untouched && areSeveralCells(rows)))
         pasteInEditBox(document);
-    else
+    else if (offered && offered->hasText())
         pasteCells(document, rows);
+    else
+        grid.setFocus();
 }
 
 void EditCommands::pasteInEditBox(frmDoc &document)
@@ -116,10 +113,8 @@ void EditCommands::pasteCells(frmDoc &document, const std::vector<ClipText::Row>
     document.setDirty(true);
     m_record.setKind(UndoKind::Paste, &document);
     const QString part = GridRules::pastedPart(cells, int(rows.size()), columns);
-    if (part.isEmpty())
-        return;
-    m_status.ShowStatus(0);
-    m_status.SBSetText(0, modSBFunc::SBT_SUNKEN, part);
+    if (!part.isEmpty())
+        m_status.SBSetText(0, modSBFunc::SBT_SUNKEN, part); // in place of Ready, until another text is due
 }
 
 void EditCommands::fillCells(frmDoc &document, const GridSelection &cells, const std::vector<ClipText::Row> &rows)

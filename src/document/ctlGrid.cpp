@@ -5,7 +5,9 @@
 #include "platform/Twips.h"
 #include "resources/StringTable.h"
 #include "services/FormTexts.h"
+#include "services/desktop/Contrast.h"
 #include "services/rules/ProgramFlags.h"
+#include "widgets/grid/FlexGridCellText.h"
 #include "widgets/grid/FlexGridColours.h"
 #include "widgets/grid/FlexGridView.h"
 
@@ -25,8 +27,9 @@ constexpr int Space = 32;
 constexpr int UpArrow = 38;
 constexpr int DownArrow = 40;
 constexpr int ControlOrAlt = 2 | 4;
-constexpr int RowNumberMargin = 6; // pixels beside the last row's number
-constexpr int EditBoxInset = 10;   // twips that the edit box is narrower and lower than its cell
+constexpr int RowNumberMargin = 6;   // pixels beside the last row's number
+constexpr double EditBoxTint = 0.12; // the share of the highlight colour in the ground of a cell that is edited
+constexpr int EditBoxInset = 10;     // twips that the edit box is narrower and lower than its cell
 
 QString characterOf(int keyAscii)
 {
@@ -102,7 +105,8 @@ void ctlGrid::dressEditBox()
 {
     m_text1->setFont(Font());
     QPalette colours = palette();
-    const QColor ground = FlexGridColours::ground(BackColor(), colours);
+    const QColor cell = FlexGridColours::ground(BackColor(), colours);
+    const QColor ground = Contrast::mixed(cell, colours.highlight().color(), EditBoxTint);
     colours.setColor(QPalette::Base, ground);
     colours.setColor(QPalette::Text, FlexGridColours::text(ForeColor(), palette(), ground));
     m_text1->setPalette(colours);
@@ -122,6 +126,12 @@ void ctlGrid::setEditMode(bool edit)
         commit();
     else
         closeEditBox();
+}
+
+void ctlGrid::editAtEnd()
+{
+    GridEdit(Space);
+    m_text1->end(false);
 }
 
 QString ctlGrid::EditText() const
@@ -211,6 +221,28 @@ void ctlGrid::makeRoomForRowNumbers()
 {
     const double width = QFontMetricsF(Font(), this).horizontalAdvance(TextMatrix(Rows() - 1, 0));
     setColWidth(0, std::max(ColWidth(0), Twips::fromPixelsX(int(std::ceil(width)) + RowNumberMargin)));
+}
+
+void ctlGrid::growCutRows()
+{
+    for (int row = FixedRows(); row < Rows(); ++row) {
+        if (surelyShows(row))
+            continue;
+        const int needed = fittingRowHeight(row);
+        if (needed > RowHeight(row))
+            setRowHeight(row, needed);
+    }
+}
+
+/// Whether each word of a row certainly fits on one line.
+bool ctlGrid::surelyShows(int row)
+{
+    for (int col = FixedCols(); col < Cols(); ++col) {
+        const int room = Twips::toPixelsX(ColWidth(col)) - 2 * FlexGridCellText::Margin - GridLineWidth();
+        if (!m_letterWidths.surelyFits(word(row, col), room))
+            return false;
+    }
+    return true;
 }
 
 void ctlGrid::commit()

@@ -29,6 +29,10 @@ public:
     /// true edits the current cell's text; false ends editing and keeps what was typed: AfterEdit is raised only when
     /// that differs from the cell.
     void setEditMode(bool edit);
+    /// Edits the current cell's text with the caret behind its last letter.
+    void editAtEnd();
+    /// Ends editing as Enter in the edit box does: the focus goes back to the grid and the text is committed.
+    void giveFocusBack();
     /// The edit box's text while editing, else empty.
     QString EditText() const;
     /// Selects part of the edit box's text, start counted from 0; nothing happens while browsing.
@@ -47,6 +51,8 @@ public:
     /// nothing becomes smaller.
     void makeRoom();
     void makeRoomForRowNumbers();
+    /// Makes the rows in which a word is cut high enough for it, and no other; quick also where there are many.
+    void growCutRows();
     /// The edit box: the target of the edit commands while a cell is being edited.
     ctlGridEdit *hwndText() const { return m_text1; }
     /// The letters of the grid's font, in pixels.
@@ -71,10 +77,10 @@ private:
     bool beginEdit(const QString &text);
     void commit();
     void closeEditBox();
-    void giveFocusBack();
     void editKeyPressed(int keyCode, int shift, bool &taken);
     void commitAndMove(int step);
     void dressEditBox();
+    bool surelyShows(int row);
 
     const ProgramFlags *m_flags;
     ctlGridEdit *m_text1;

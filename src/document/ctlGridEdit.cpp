@@ -69,10 +69,13 @@ void ctlGridEdit::cutText()
 
 void ctlGridEdit::pasteText()
 {
-    const std::vector<ClipText::Row> rows = ClipText::parse(QGuiApplication::clipboard()->text());
+    const QString text = QGuiApplication::clipboard()->text();
+    if (text.isEmpty())
+        return;
+    const std::vector<ClipText::Row> rows = ClipText::parse(text);
     const bool oneCell = rows.size() == 1 && rows.front().size() == 1;
     separateUndo();
-    insert(CellText::cleaned(oneCell ? rows.front().front() : QGuiApplication::clipboard()->text()));
+    insert(CellText::cleaned(oneCell ? rows.front().front() : text));
     separateUndo();
 }
 
@@ -215,6 +218,7 @@ void ctlGridEdit::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     painter.setPen(palette().highlight().color());
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.drawRect(rect().adjusted(1, 1, -2, -2));
 }
 
 bool ctlGridEdit::focusNextPrevChild(bool)

@@ -18,8 +18,11 @@
 
 namespace {
 
+constexpr int KeyTab = 9;
 constexpr int KeyEnter = 13;
 constexpr int KeyEscape = 27;
+constexpr int KeyDelete = 46;
+constexpr int KeyF2 = 113;
 constexpr int ShiftAlone = 1;
 constexpr int RightButton = 2;
 constexpr int RowNumberWidth = 340;
@@ -257,9 +260,23 @@ void frmDoc::growRow(int row, int col)
         m_grid->setRowHeight(row, grown);
 }
 
-void frmDoc::onKeyDown(int, int shift)
+void frmDoc::onKeyDown(int keyCode, int shift)
 {
     m_shiftAlone = shift == ShiftAlone;
+    if (keyCode == KeyTab && (shift == 0 || m_shiftAlone)) {
+        m_grid->giveFocusBack();
+        walk(m_shiftAlone);
+    } else if (shift == 0 && !m_grid->EditMode()) {
+        onKeyWhileBrowsing(keyCode);
+    }
+}
+
+void frmDoc::onKeyWhileBrowsing(int keyCode)
+{
+    if (keyCode == KeyDelete)
+        Q_EMIT clearRequested();
+    else if (keyCode == KeyF2)
+        m_grid->editAtEnd();
 }
 
 void frmDoc::onKeyPress(int keyAscii)

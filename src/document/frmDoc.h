@@ -91,6 +91,8 @@ Q_SIGNALS:
     void editingChanged(bool editing);
     /// The right mouse button asks for the grid's menu at a point of the screen.
     void menuRequested(const QPoint &globalPosition);
+    /// A key asks for what the Clear command does.
+    void clearRequested();
     /// The window is about to close; a receiver may refuse.
     void closeRequested(bool &accepted);
 
@@ -103,6 +105,7 @@ private:
     void onBeforeEdit();
     void onAfterEdit(int row, int col, const QString &text);
     void onKeyDown(int keyCode, int shift);
+    void onKeyWhileBrowsing(int keyCode);
     void onKeyPress(int keyAscii);
     void onRowColChange();
     void onMouseMove();

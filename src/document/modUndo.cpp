@@ -28,6 +28,7 @@ void UndoSnapshotRestore(frmDoc &document, const UndoRecord &record)
         grid.setTextMatrix(row, 1, pair.first);
         grid.setTextMatrix(row, 2, pair.second);
     }
+    grid.growCutRows();
     grid.setRedraw(true);
     grid.setFocus();
 }

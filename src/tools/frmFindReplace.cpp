@@ -13,6 +13,8 @@
 #include "tools/rules/ReplaceAll.h"
 #include "ui_frmFindReplace.h"
 
+#include <QShortcut>
+
 namespace {
 
 constexpr int ReplaceHeight = 700; ///< twips that the replace layout is higher
@@ -58,6 +60,8 @@ void frmFindReplace::connectControls()
     connect(m_ui->btnReplaceAll, &QPushButton::clicked, this, &frmFindReplace::ReplaceAllMatches);
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &frmFindReplace::reject);
     connect(m_ui->txtFind, &QLineEdit::textChanged, this, &frmFindReplace::restart);
+    connect(new QShortcut(Qt::Key_F3, this), &QShortcut::activated, this, [this] { findOn(false); });
+    connect(new QShortcut(Qt::SHIFT | Qt::Key_F3, this), &QShortcut::activated, this, [this] { findOn(true); });
     for (QAbstractButton *option :
          {static_cast<QAbstractButton *>(m_ui->chkCase), static_cast<QAbstractButton *>(m_ui->chkWord),
           static_cast<QAbstractButton *>(m_ui->optScope0), static_cast<QAbstractButton *>(m_ui->optScope1),
@@ -131,6 +135,7 @@ void frmFindReplace::ReadOptions()
         m_search.SearchFlags |= SearchFlag::WholeWords;
     m_search.FindWhat = m_ui->txtFind->text();
     m_ReplaceWith = m_ui->txtReplace->text();
+    m_needs.lastSearch = m_search;
 }
 
 void frmFindReplace::FindNext(Mode mode)
@@ -142,12 +147,19 @@ void frmFindReplace::FindNext(Mode mode)
             replaceMatch();
         keepTyped();
         ReadOptions();
-        match = m_search.FindNext(GridCells(*document().Rutor()));
+        const GridCells cells(*document().Rutor());
+        match = mode == FindBack ? m_search.FindPrevious(cells) : m_search.FindNext(cells);
         if (match)
             showMatch(*match);
     }
     if (!match)
         endRegion(resText(m_search.FoundAny ? 7014 : 7013));
+}
+
+void frmFindReplace::findOn(bool backwards)
+{
+    if (m_ui->btnFind->isEnabled())
+        FindNext(backwards ? FindBack : Find);
 }
 
 void frmFindReplace::replaceMatch()

@@ -26,6 +26,7 @@ public:
         ProgramFlags &flags;
         UndoRecord &undo;
         AlertBox &alert;
+        Search &lastSearch; ///< what was searched for last, for who finds on without the dialog
     };
 
     /// Opens in the replace layout when ReplaceMode is set, else in the find layout. The owner is the main window.
@@ -34,6 +35,8 @@ public:
 
     /// Brings the dialog to the front for another Find or, with replace true, Replace command.
     void showAgain(bool replace);
+    /// Shows the next or the previous match, as the dialog stands.
+    void findOn(bool backwards);
     /// Closes without an undo step: the document is about to close or another one has become active.
     void leaveDocument();
 
@@ -45,7 +48,7 @@ protected:
     QPoint preferredPlace(const QRect &owner, const QSize &frame) const override;
 
 private:
-    enum Mode { Find, ReplaceAndFind };
+    enum Mode { Find, FindBack, ReplaceAndFind };
 
     void setUpControls();
     void connectControls();

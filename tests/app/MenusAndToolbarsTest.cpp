@@ -3,6 +3,7 @@
 #include "app/MenuLayout.h"
 #include "document/ctlGrid.h"
 #include "resources/StringTable.h"
+#include "tools/frmFindReplace.h"
 
 using MenusAndToolbarsTest = MainWindowFixture;
 
@@ -48,6 +49,30 @@ TEST_F(MenusAndToolbarsTest, TheUndoCaptionNamesAndEnablesTheCommand)
     undo.setKind(UndoKind::Sort, document);
     EXPECT_FALSE(button("STANDARD", "Undo")->isEnabled()) << "there is nothing to undo in the active document";
     EXPECT_EQ(window->UndoAction(), resText(419));
+}
+
+TEST_F(MenusAndToolbarsTest, KeysOfTheGridFindOnAndClear)
+{
+    ctlGrid &grid = *newDocument()->Rutor();
+    for (const int row : {1, 4, 7})
+        grid.setTextMatrix(row, 1, "word");
+    const auto press = [this](Qt::Key key) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        QCoreApplication::processEvents();
+    };
+    press(Qt::Key_F3);
+    auto *dialog = window->findChild<frmFindReplace *>();
+    ASSERT_TRUE(dialog) << "nothing was searched yet";
+    QTest::keyClick(dialog, Qt::Key_Return);
+    window->DoMenuClick("mnuEditFindNext");
+    EXPECT_EQ(grid.Row(), 4);
+    dialog->close();
+    QApplication::setActiveWindow(window.get());
+    press(Qt::Key_F3);
+    EXPECT_EQ(grid.Row(), 7);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(grid.TextMatrix(7, 1), "");
+    EXPECT_EQ(undo.kind(), UndoKind::Clear);
 }
 
 TEST_F(MenusAndToolbarsTest, ModesStepInARingAndShowEverywhere)

@@ -2,6 +2,8 @@
 #include "resources/StringTable.h"
 #include "support/OpenFiles.h"
 
+#include <QSignalSpy>
+
 /// One document, shown, with the focus in its grid and a word in the first row.
 struct FrmDocTest : ::testing::Test, OpenFiles
 {
@@ -77,6 +79,40 @@ TEST_F(FrmDocTest, EnterWalksRoundTheWordsAndBack)
     press(Qt::Key_Return);
     EXPECT_EQ(cell(), std::pair(1, 1));
     EXPECT_EQ(grid.TopRow(), 1);
+}
+
+TEST_F(FrmDocTest, TabCommitsAndGoesWhereEnterGoes)
+{
+    type("barn");
+    press(Qt::Key_Tab);
+    type("x");
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(grid.TextMatrix(1, 1) + grid.TextMatrix(1, 2), "barnx");
+    EXPECT_EQ(undo.kind(), UndoKind::Entry);
+    EXPECT_EQ(cell(), std::pair(1, 1));
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(cell(), std::pair(100, 2));
+    flags.FindMode = true; // a search holds the commit by the focus back
+    type("last");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(cell(), std::pair(101, 1)) << "the row that the entry has added";
+    press(Qt::Key_Tab, Qt::AltModifier);
+    EXPECT_EQ(cell(), std::pair(101, 1));
+}
+
+TEST_F(FrmDocTest, KeysOfTheGridClearAndEditAtTheEnd)
+{
+    QSignalSpy clears(&document, &frmDoc::clearRequested);
+    press(Qt::Key_F2);
+    EXPECT_EQ(grid.EditText(), "house");
+    press(Qt::Key_Delete);
+    EXPECT_EQ(clears.count(), 0) << "it is the edit box's";
+    type("s");
+    press(Qt::Key_Return);
+    EXPECT_EQ(grid.TextMatrix(1, 1), "houses");
+    press(Qt::Key_Delete, Qt::ShiftModifier);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(clears.count(), 1);
 }
 
 TEST_F(FrmDocTest, ALongEntryInTheLastRowMakesItTallerAndAddsAnother)

@@ -6,7 +6,8 @@
 
 TEST(LetterWidths, NeverTakeATextToFitThatDoesNot)
 {
-    const QStringList pieces{"AV", "To", "ffi", "W.", "i", "l", "m", "Œ", "ß", "ñ", " ", "-", "ž", "'"};
+    const QStringList pieces{"AV", "To", "ffi", "W.", "i",  "l",  "m",  "Œ",  "ß",    "ñ",
+                             " ",  "-",  "ž",   "'",  "Ту", "γά", "жд", "、", "かガ", "日本"};
     std::mt19937 random(5);
     for (const char *family : {"Liberation Sans", "Liberation Serif", "DejaVu Sans"}) {
         for (const double size : {6.0, 10.0, 33.0}) {
@@ -33,6 +34,6 @@ TEST(LetterWidths, LeaveScriptsThatJoinAndStackLettersOpen)
 {
     LetterWidths letters([](const QString &) { return 1; });
     EXPECT_TRUE(letters.surelyFits("a word", 100));
-    for (const QString text : {"e\u0301", "שלום", "ﷺ", "日本", "🙂"})
+    for (const QString text : {"e\u0301", "שלום", "ﷺ", "か\u3099", "🙂"})
         EXPECT_FALSE(letters.surelyFits(text, 100)) << text.toStdString();
 }

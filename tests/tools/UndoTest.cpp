@@ -107,6 +107,12 @@ TEST_F(RandomChanges, BySortingMoveWholeRowsAndAreUndone)
         ASSERT_EQ(sorted, rows);
         expectUndone(before, selection);
     }
+    setWords({{"short", ""}, {QStringLiteral("words ").repeated(40), ""}});
+    grid.setRowHeight(2, 3000);
+    modSorting::sortBy(SortFlag::Vocabulary | SortFlag::Descending, document, undo, QLocale("en"));
+    EXPECT_EQ(grid.RowHeight(1), 3000);
+    commands.Undo(document);
+    EXPECT_GE(grid.RowHeight(2), grid.fittingRowHeight(2));
 }
 
 TEST_F(RandomChanges, ByReplaceAllEqualAPlainReplacementAndAreUndone)

@@ -4,6 +4,7 @@
 #include "document/ctlGridEdit.h"
 #include "support/OpenDocument.h"
 #include "support/ScriptedAlertBox.h"
+#include "tools/FindOn.h"
 
 #include <QCheckBox>
 #include <QClipboard>
@@ -21,7 +22,7 @@ struct FindReplace : ::testing::Test, OpenDocument
     void open(bool replace)
     {
         (replace ? flags.ReplaceMode : flags.FindMode) = true;
-        dialog = std::make_unique<frmFindReplace>(document, frmFindReplace::Needs{flags, undo, alert}, &window);
+        dialog = std::make_unique<frmFindReplace>(document, frmFindReplace::Needs{flags, undo, alert, last}, &window);
         dialog->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
     }
@@ -41,6 +42,7 @@ struct FindReplace : ::testing::Test, OpenDocument
     }
 
     ScriptedAlertBox alert;
+    Search last;
     std::unique_ptr<frmFindReplace> dialog;
 };
 
@@ -83,11 +85,26 @@ TEST_F(FindReplace, ShowsMatchAfterMatchAndReportsTheEnd)
     click("optScope1");
     click("btnFind");
     EXPECT_EQ(alert.shown.size(), 3U);
+    type("txtFind", "cat");
+    for (const auto &[modifiers, expected] :
+         {std::pair(Qt::NoModifier, "1,1:[cat]0"), {Qt::NoModifier, "2,1:[cat]4"}, {Qt::ShiftModifier, "1,1:[cat]0"}}) {
+        QTest::keyClick(dialog.get(), Qt::Key_F3, modifiers);
+        EXPECT_EQ(shown(), expected);
+    }
 
     dialog->close();
     EXPECT_TRUE(!flags.searching() && !grid.EditMode());
     EXPECT_EQ(undo.kind(), UndoKind::None);
     EXPECT_FALSE(document.Dirty());
+
+    alert.shown.clear();
+    const std::tuple<bool, int, size_t> rest[] = {
+        {false, 2, 0}, {false, 3, 0}, {true, 2, 0}, {false, 3, 0}, {false, 1, 1}};
+    for (const auto &[backwards, row, told] : rest) {
+        FindOn::run(document, last, backwards, alert, &window);
+        EXPECT_EQ(document.selection(), (GridSelection{row, 1, row, 1}));
+        EXPECT_EQ(alert.shown.size(), told);
+    }
 }
 
 TEST_F(FindReplace, ReplacesTheSelectedMatchOnly)

@@ -1,7 +1,12 @@
 #include "widgets/grid/FlexGrid.h"
+
+#include "services/desktop/Contrast.h"
 #include "widgets/grid/FlexGridCellText.h"
 #include "widgets/grid/FlexGridColours.h"
 #include "widgets/grid/FlexGridView.h"
+
+#include <QHelpEvent>
+#include <QToolTip>
 
 #include <cmath>
 
@@ -91,6 +96,26 @@ TEST_F(PaintedGrid, FirstLinesAreShownWhenNotAllFit)
         EXPECT_EQ(lines.pixelColor(x, half), QColor(Qt::white)) << "no half line below the first";
 }
 
+TEST_F(PaintedGrid, OnlyTextsThatAreCutShowAllOfThemselvesAsToolTip)
+{
+    const QString longText = QStringLiteral("<b> & more ").repeated(9);
+    grid.setWordWrap(true);
+    grid.setTextMatrix(1, 1, longText);
+    grid.setTextMatrix(1, 2, "short");
+    grid.setTextMatrix(2, 1, "three four five six seven");
+    const auto toolTip = [this](int row, int col) {
+        const QPoint at = grid.hwndGrid()->cellRect(row, col).center();
+        QHelpEvent ask(QEvent::ToolTip, at, grid.hwndGrid()->viewport()->mapToGlobal(at));
+        QCoreApplication::sendEvent(grid.hwndGrid()->viewport(), &ask);
+        return QToolTip::text();
+    };
+    EXPECT_EQ(toolTip(1, 2), "");
+    EXPECT_EQ(toolTip(2, 1), "") << "on two lines";
+    EXPECT_EQ(toolTip(1, 1), "<p dir='ltr'>" + longText.toHtmlEscaped() + "</p>");
+    grid.setWordWrap(false);
+    EXPECT_EQ(toolTip(2, 1), "<p dir='ltr'>three four five six seven</p>");
+}
+
 TEST_F(PaintedGrid, SelectionUsesItsColoursAsHighLightSays)
 {
     grid.setBackColorSel(0x0000FF);
@@ -118,6 +143,7 @@ TEST(FlexGridColoursTest, TextsStayReadableOnEveryPalette)
     EXPECT_EQ(text(0, dark), dark.text().color());
     EXPECT_EQ(text(0, light), QColor(Qt::black));
     EXPECT_EQ(text(0x0000FF, light), QColor(Qt::red));
-    EXPECT_GT(text(0x800000, dark).lightnessF(), 0.4) << "navy is lightened";
+    for (const unsigned value : {0x800000U, 0x0000FFU, 0x808080U, 0x101010U})
+        EXPECT_GE(Contrast::between(text(value, dark), dark.base().color()), 4.5) << value;
     EXPECT_EQ(FlexGridColours::ground(0x8000000D, light), light.highlight().color());
 }

@@ -15,16 +15,14 @@ public:
 
     explicit LetterWidths(Measure measure);
 
-    /// Whether a text certainly takes no more than this width. False leaves it open: the text has letters beyond the
-    /// Latin blocks, which can join and stack, or comes too close.
+    /// Whether a text certainly takes no more than this width. False leaves it open: the text comes too close, or has
+    /// letters of a script in which they can join and stack.
     bool surelyFits(const QString &text, double width);
 
 private:
-    static constexpr int LatinEnd = 0x250;
-
     double bound(QChar letter);
 
     Measure m_measure;
     double m_allowance = 0;       ///< kerning moves letters apart by far less than this
-    std::vector<double> m_bounds; ///< by letter; 0: not measured yet
+    std::vector<double> m_bounds; ///< by letter, up to the last one that was met; 0: not measured yet
 };

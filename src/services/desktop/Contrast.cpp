@@ -20,14 +20,6 @@ double luminance(const QColor &colour)
     return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
 }
 
-/// share is that of the second colour.
-QColor mixed(const QColor &first, const QColor &second, double share)
-{
-    const auto between = [share](float one, float other) { return float(one * (1 - share) + other * share); };
-    return QColor::fromRgbF(between(first.redF(), second.redF()), between(first.greenF(), second.greenF()),
-                            between(first.blueF(), second.blueF()));
-}
-
 } // namespace
 
 double Contrast::between(const QColor &one, const QColor &other)
@@ -36,17 +28,28 @@ double Contrast::between(const QColor &one, const QColor &other)
     return (brighter + 0.05) / (darker + 0.05);
 }
 
+QColor Contrast::mixed(const QColor &first, const QColor &second, double share)
+{
+    const auto between = [share](float one, float other) { return float(one * (1 - share) + other * share); };
+    return QColor::fromRgbF(between(first.redF(), second.redF()), between(first.greenF(), second.greenF()),
+                            between(first.blueF(), second.blueF()));
+}
+
 QColor Contrast::towardsText(const QPalette &palette, double strength)
 {
     return mixed(palette.color(QPalette::Window), palette.color(QPalette::WindowText), strength);
 }
 
-QColor Contrast::readable(const QColor &colour, const QPalette &palette)
+QColor Contrast::readable(const QColor &colour, const QColor &ground, const QColor &towards)
 {
-    const QColor ground = palette.color(QPalette::Window);
     const QColor opaque = mixed(ground, colour, colour.alphaF());
     QColor shown = opaque;
     for (double share = Step; share < 1 + Step / 2 && between(shown, ground) < ReadableLetters; share += Step)
-        shown = mixed(opaque, palette.color(QPalette::WindowText), share);
+        shown = mixed(opaque, towards, share);
     return shown;
+}
+
+QColor Contrast::readable(const QColor &colour, const QPalette &palette)
+{
+    return readable(colour, palette.color(QPalette::Window), palette.color(QPalette::WindowText));
 }

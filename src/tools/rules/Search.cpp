@@ -1,5 +1,13 @@
 #include "tools/rules/Search.h"
 
+#include <limits>
+
+namespace {
+
+constexpr int BehindCell = std::numeric_limits<int>::max();
+
+} // namespace
+
 void Search::ResetSearch()
 {
     CurRow = CurCol = CurPos = 1;
@@ -20,12 +28,11 @@ TextFinder Search::finder() const
 
 std::optional<Search::Match> Search::FindNext(const CellSource &cells)
 {
-    const bool wholeDocument = SearchFlags & SearchFlag::WholeDocument;
-    if (!wholeDocument)
-        CurCol = SearchFlags & SearchFlag::Language2 ? 2 : 1;
+    if (!isWhole())
+        CurCol = onlyColumn();
     const TextFinder textFinder = finder();
     std::optional<Match> match = findInColumn(cells, textFinder);
-    if (!match && wholeDocument && CurCol == 1) {
+    if (!match && isWhole() && CurCol == 1) {
         CurCol = 2;
         CurRow = CurPos = 1;
         match = findInColumn(cells, textFinder);
@@ -39,19 +46,63 @@ std::optional<Search::Match> Search::findInColumn(const CellSource &cells, const
     for (int row = CurRow; row < rows; ++row) {
         const QString text = cells.TextMatrix(row, CurCol);
         const int from = std::min(CurPos - 1, int(text.size()));
-        const qsizetype found = finder.find(QStringView(text).mid(from));
-        if (found < 0) {
-            CurPos = 1;
-            continue;
-        }
-        const int start = from + int(found);
-        CurRow = row;
-        CurPos = start + 2;
-        FoundAny = true;
-        ++MatchCount;
-        return Match{row, CurCol, start, int(finder.length())};
+        const qsizetype start = finder.find(QStringView(text).mid(from));
+        if (start >= 0)
+            return found(row, from + int(start), finder);
+        CurPos = 1;
     }
     return std::nullopt;
+}
+
+std::optional<Search::Match> Search::FindPrevious(const CellSource &cells)
+{
+    const bool fromEnd = CurRow == 1 && CurPos == 1 && !(isWhole() && CurCol == 2);
+    if (!isWhole())
+        CurCol = onlyColumn();
+    if (fromEnd)
+        goToEnd(cells, isWhole() ? 2 : CurCol);
+    const TextFinder textFinder = finder();
+    std::optional<Match> match = findUpwards(cells, textFinder);
+    if (!match && isWhole() && CurCol == 2) {
+        goToEnd(cells, 1);
+        match = findUpwards(cells, textFinder);
+    }
+    return match;
+}
+
+void Search::goToEnd(const CellSource &cells, int col)
+{
+    CurCol = col;
+    CurRow = cells.Rows() - 1;
+    CurPos = BehindCell;
+}
+
+std::optional<Search::Match> Search::findUpwards(const CellSource &cells, const TextFinder &finder)
+{
+    for (int row = std::min(CurRow, cells.Rows() - 1); row >= 1; --row) {
+        const qsizetype start = finder.findLast(cells.TextMatrix(row, CurCol), CurPos - 2);
+        if (start >= 0)
+            return found(row, int(start), finder);
+        CurPos = BehindCell;
+    }
+    return std::nullopt;
+}
+
+Search::Match Search::found(int row, int start, const TextFinder &finder)
+{
+    CurRow = row;
+    CurPos = start + 2;
+    FoundAny = true;
+    ++MatchCount;
+    return {row, CurCol, start, int(finder.length())};
+}
+
+void Search::LeaveCell(int row, int col, bool backwards)
+{
+    CurRow = row;
+    CurCol = isWhole() ? col : onlyColumn();
+    const bool skips = backwards ? CurCol >= col : CurCol <= col; // else the row's other cell lies in that direction
+    CurPos = skips == backwards ? 1 : BehindCell;
 }
 
 void Search::SkipReplacement(const QString &ReplaceWith)

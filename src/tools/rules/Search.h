@@ -38,6 +38,10 @@ public:
     /// The next match, which CurRow, CurCol and CurPos then follow; nothing at the end of the region. FindWhat must not
     /// be empty.
     std::optional<Match> FindNext(const CellSource &cells);
+    /// The match before the last one, in the same order; the last one of the region when nothing has been found yet.
+    std::optional<Match> FindPrevious(const CellSource &cells);
+    /// Goes on from a cell, without looking into that one: the next search is for what comes behind it, or before it.
+    void LeaveCell(int row, int col, bool backwards);
     /// Ends the region: the next search begins at the top and has found nothing yet.
     void EndRegion();
     /// To be called when the last match has been replaced: a replacement that holds the search text is not searched
@@ -48,4 +52,9 @@ public:
 
 private:
     std::optional<Match> findInColumn(const CellSource &cells, const TextFinder &finder);
+    std::optional<Match> findUpwards(const CellSource &cells, const TextFinder &finder);
+    Match found(int row, int start, const TextFinder &finder);
+    void goToEnd(const CellSource &cells, int col);
+    bool isWhole() const { return SearchFlags & SearchFlag::WholeDocument; }
+    int onlyColumn() const { return SearchFlags & SearchFlag::Language2 ? 2 : 1; }
 };

@@ -17,13 +17,25 @@ TextFinder::TextFinder(const QString &what, bool matchCase, bool wholeWords)
 {
 }
 
-qsizetype TextFinder::find(QStringView text) const
+bool TextFinder::acceptsAt(QStringView text, qsizetype found) const
 {
-    const qsizetype found = indexIn(text);
-    if (found < 0 || !m_wholeWords)
-        return found;
     const qsizetype end = found + length();
     const QChar before = found > 0 ? text[found - 1] : QChar();
     const QChar after = end < text.size() ? text[end] : QChar();
-    return acceptsBetween(before, after) ? found : -1;
+    return acceptsBetween(before, after);
+}
+
+qsizetype TextFinder::find(QStringView text) const
+{
+    const qsizetype found = indexIn(text);
+    return found >= 0 && acceptsAt(text, found) ? found : -1;
+}
+
+qsizetype TextFinder::findLast(QStringView text, qsizetype before) const
+{
+    qsizetype found = std::min(before, text.size());
+    do
+        found = found > 0 ? text.lastIndexOf(m_matcher.pattern(), found - 1, m_matcher.caseSensitivity()) : -1;
+    while (found >= 0 && !acceptsAt(text, found));
+    return found;
 }

@@ -25,7 +25,12 @@ public:
     /// Position of the first occurrence if it is acceptable, else -1: an occurrence behind it is not looked for.
     qsizetype find(QStringView text) const;
 
+    /// Position of the last acceptable occurrence that begins before a position, -1 for none.
+    qsizetype findLast(QStringView text, qsizetype before) const;
+
 private:
+    bool acceptsAt(QStringView text, qsizetype found) const;
+
     QStringMatcher m_matcher;
     bool m_wholeWords;
 };

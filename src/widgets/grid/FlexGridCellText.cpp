@@ -96,6 +96,15 @@ void draw(QPainter &painter, const QRectF &rect, const Setting &setting)
     ending.draw(&painter, origin + QPointF(0, last.y()));
 }
 
+bool isCut(const QSizeF &size, const Setting &setting)
+{
+    QTextLayout layout(shownText(setting.text), setting.font);
+    layout.setTextOption(optionsFor(setting, setting.wrap));
+    bool cut = false;
+    const double used = layOut(layout, size.width(), size.height(), cut);
+    return cut || used > size.height() || layout.lineAt(layout.lineCount() - 1).naturalTextWidth() > size.width();
+}
+
 double heightFor(double width, const Setting &setting)
 {
     QTextLayout layout(shownText(setting.text), setting.font);

@@ -29,6 +29,9 @@ Qt::Alignment alignmentOf(int value, const QString &text);
 /// and the last line drawn ends in an ellipsis then.
 void draw(QPainter &painter, const QRectF &rect, const Setting &setting);
 
+/// Whether draw would leave out a part of the text in a rectangle of this size.
+bool isCut(const QSizeF &size, const Setting &setting);
+
 /// The height that the text needs in a cell of the given width, in pixels.
 double heightFor(double width, const Setting &setting);
 

@@ -79,6 +79,7 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -138,6 +139,8 @@ private:
     void dragSelectionTo(const QPoint &position);
     void dragBorderTo(const QPoint &position);
     QCursor ownPointer() const;
+    /// The text of the cell at a position if the cell shows a part of it only, else empty.
+    QString cutTextAt(const QPoint &position) const;
 
     const FlexGridState &m_state;
     int m_topRow = 1;

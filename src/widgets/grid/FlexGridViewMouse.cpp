@@ -5,8 +5,10 @@
 
 #include <QContextMenuEvent>
 #include <QFontMetricsF>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
@@ -17,6 +19,14 @@ constexpr int BorderReach = 3;     // pixels on either side of a border in which
 constexpr int AutoScrollStep = 40; // milliseconds
 constexpr int SmallestDragged = 1; // pixels
 constexpr int CustomPointer = 99;
+constexpr qsizetype LongestToolTip = 8192;
+
+/// Of tool tips only paragraphs have their lines broken; what a cell holds is no markup.
+QString inParagraph(const QString &text)
+{
+    const QString direction = text.isRightToLeft() ? QStringLiteral("rtl") : QStringLiteral("ltr");
+    return QStringLiteral("<p dir='%1'>%2</p>").arg(direction, text.left(LongestToolTip).toHtmlEscaped());
+}
 
 } // namespace
 
@@ -49,6 +59,29 @@ int FlexGridView::borderRowAt(const QPoint &position) const
         }
     }
     return found;
+}
+
+bool FlexGridView::viewportEvent(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QAbstractScrollArea::viewportEvent(event);
+    const auto *asked = static_cast<QHelpEvent *>(event);
+    const QString text = cutTextAt(asked->pos());
+    const QRect cell = cellRect(rowAt(asked->pos().y()), colAt(asked->pos().x()));
+    QToolTip::showText(asked->globalPos(), text.isEmpty() ? text : inParagraph(text), viewport(), cell);
+    return true;
+}
+
+QString FlexGridView::cutTextAt(const QPoint &position) const
+{
+    const int row = rowAt(position.y());
+    const int col = colAt(position.x());
+    if (m_state.cells.isNumber(row, col))
+        return {};
+    const FlexGridCellText::Setting setting{m_state.cells.word(row, col), m_state.look.Font, {}, m_state.look.WordWrap};
+    const int line = m_state.look.GridLineWidth;
+    const QSize inside = cellRect(row, col).size() - QSize(line + 2 * FlexGridCellText::Margin, line);
+    return !setting.text.isEmpty() && FlexGridCellText::isCut(inside, setting) ? setting.text : QString();
 }
 
 void FlexGridView::mousePressEvent(QMouseEvent *event)

@@ -34,6 +34,11 @@ std::string foundIn(const MemoryCells &cells, const QString &what, int flags)
     }
     EXPECT_EQ(search.MatchCount, found.size());
     EXPECT_EQ(search.FoundAny, !found.isEmpty());
+    search.EndRegion();
+    QStringList backwards;
+    while (const auto match = search.FindPrevious(cells))
+        backwards.prepend(QStringLiteral("%1%2:%3").arg(QChar(u'@' + match->col)).arg(match->row).arg(match->start));
+    EXPECT_TRUE(backwards == found || flags & WholeWords) << "going back looks at every occurrence";
     return found.join(u' ').toStdString();
 }
 
@@ -62,6 +67,24 @@ TEST(Search, FindsInOrder)
     };
     for (const auto &[cells, what, flags, found] : cases)
         EXPECT_EQ(foundIn(cells, what, flags), found) << what.toStdString() << " " << flags;
+}
+
+TEST(Search, GoesOnFromACellInBothDirections)
+{
+    const MemoryCells cells{{"x", "x"}, {"x x", "xx"}, {"cx x", ""}};
+    const std::tuple<int, int, int, bool, Search::Match> cases[] = {
+        {WholeDocument, 2, 1, false, {3, 1, 1, 1}}, {WholeDocument, 2, 1, true, {1, 1, 0, 1}},
+        {WholeDocument, 1, 2, true, {3, 1, 3, 1}},  {Language1, 2, 2, false, {3, 1, 1, 1}},
+        {Language2, 2, 1, false, {2, 2, 0, 1}},     {Language1, 2, 2, true, {2, 1, 2, 1}},
+        {Language2, 2, 1, true, {1, 2, 0, 1}},      {Language1 | WholeWords, 1, 1, true, {3, 1, 3, 1}},
+    };
+    for (const auto &[flags, row, col, backwards, expected] : cases) {
+        Search search;
+        search.FindWhat = "x";
+        search.SearchFlags = flags;
+        search.LeaveCell(row, col, backwards);
+        EXPECT_EQ(backwards ? search.FindPrevious(cells) : search.FindNext(cells), expected) << flags << row << col;
+    }
 }
 
 TEST(Search, LooksOnlyAtColumnTwoOnceThereUntilTheRegionEnds)
