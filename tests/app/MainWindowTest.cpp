@@ -1,6 +1,7 @@
 #include "MainWindowFixture.h"
 
 #include "document/ctlGrid.h"
+#include "document/ctlGridEdit.h"
 #include "platform/Twips.h"
 #include "resources/StringTable.h"
 
@@ -11,13 +12,14 @@
 
 struct MainWindowTest : MainWindowFixture
 {
-    void drop(const QString &path, int y)
+    /// Drags a file onto what lies at the place, the window itself unless told, and drops it.
+    void drop(const QString &path, int y, QWidget *onto = nullptr)
     {
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(path)});
         const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
         QDragEnterEvent enter(QPoint(300, y), offered, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(window.get(), &enter);
+        QApplication::sendEvent(onto ? onto : window.get(), &enter);
         EXPECT_TRUE(enter.isAccepted());
         QDropEvent event(QPointF(300, y), offered, &data, Qt::LeftButton, Qt::ShiftModifier);
         event.setDropAction(Qt::MoveAction);
@@ -140,8 +142,11 @@ TEST_F(MainWindowTest, OnlyVocabulariesDroppedOnTheDocumentAreaOpen)
     drop(file, window->height() - window->context().status.height() - 52);
     drop(folder.filePath("notes.txt"), window->height() / 2);
     EXPECT_TRUE(documents().open().empty() && alert.shown.empty());
-    drop(file, window->height() / 2);
-    EXPECT_EQ(documents().open().size(), 1u);
+    ctlGrid &grid = *newDocument()->Rutor();
+    grid.setEditMode(true);
+    drop(file, window->height() / 2, grid.hwndText());
+    EXPECT_EQ(documents().open().size(), 2u);
+    EXPECT_EQ(grid.EditText(), "");
 }
 
 TEST_F(MainWindowTest, ItsPlaceIsRestoredOrReplacedByTheWorkArea)
