@@ -3,9 +3,15 @@
 #include "resources/Pictures.h"
 #include "resources/StringTable.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+
+#include <utility>
+
 CommandTable::CommandTable(QObject *parent)
     : QObject(parent)
 {
+    QCoreApplication::instance()->installEventFilter(this);
 }
 
 void CommandTable::add(const Command &command)
@@ -17,12 +23,30 @@ void CommandTable::add(const Command &command)
     action->setMenuRole(QAction::NoRole);
     if (command.picture)
         action->setIcon(picture(command.picture));
-    // Queued: what opens a dialog must not keep the one that asked for it waiting.
-    connect(
-        action, &QAction::triggered, this, [this, key = command.key] { run(key); }, Qt::QueuedConnection);
+    connect(action, &QAction::triggered, this, [this, key = command.key] { onTriggered(key); });
     const auto place = m_entries.emplace(command.key, Entry{command, action}).first;
     m_order.push_back(&place->second.command);
     update(place->second);
+}
+
+/// What a key asks for is done before the next key is looked at, which may have been pressed already. Others who ask,
+/// a screen reader say, must not be kept waiting by a dialog.
+void CommandTable::onTriggered(const QString &key)
+{
+    if (m_inKeyPress)
+        run(key);
+    else
+        QMetaObject::invokeMethod(
+            this, [this, key] { run(key); }, Qt::QueuedConnection);
+}
+
+bool CommandTable::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::Shortcut;
+    if (isKey && !std::exchange(m_inKeyPress, true))
+        QMetaObject::invokeMethod(
+            this, [this] { m_inKeyPress = false; }, Qt::QueuedConnection);
+    return QObject::eventFilter(watched, event);
 }
 
 void CommandTable::run(const QString &key)

@@ -68,6 +68,9 @@ public:
     /// A further condition for a command besides its states (Undo: there is something to undo).
     void setAvailable(const QString &key, bool available);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     struct Entry
     {
@@ -75,9 +78,11 @@ private:
         QAction *action;
         bool available = true;
     };
+    void onTriggered(const QString &key);
     void update(const Entry &entry) const;
 
     std::map<QString, Entry> m_entries;
     std::vector<const Command *> m_order;
     AppState m_state = AppState::StateNoDocument;
+    bool m_inKeyPress = false; ///< a key is being handled
 };

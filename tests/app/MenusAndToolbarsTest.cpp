@@ -35,6 +35,16 @@ TEST_F(MenusAndToolbarsTest, StatesFollowTheActiveDocument)
     EXPECT_EQ(status(1) + status(2), "");
 }
 
+TEST_F(MenusAndToolbarsTest, AKeyTypedAheadComesAfterTheCommandOfTheOneBeforeIt)
+{
+    ctlGrid &grid = *newDocument()->Rutor();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_I, Qt::ControlModifier);
+    EXPECT_EQ(grid.Rows(), 102);
+    menu("mnuEdit")->popup(QPoint());
+    QTest::keyClick(menu("mnuEdit"), Qt::Key_U);
+    EXPECT_EQ(grid.Rows(), 101);
+}
+
 TEST_F(MenusAndToolbarsTest, TheUndoCaptionNamesAndEnablesTheCommand)
 {
     frmDoc *document = newDocument();
