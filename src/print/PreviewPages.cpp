@@ -3,7 +3,15 @@
 #include "platform/Twips.h"
 #include "print/PrintHost.h"
 
+#include <QLabel>
+
 #include <algorithm>
+
+namespace {
+
+constexpr int NumberMargin = 4; ///< pixels around the page's number
+
+} // namespace
 
 PreviewPages::PreviewPages(PrintHost &host)
     : m_host(host)
@@ -13,12 +21,19 @@ PreviewPages::PreviewPages(PrintHost &host)
 PreviewPages::~PreviewPages()
 {
     delete m_window;
+    delete m_number;
 }
 
 frmPrtPrev *PreviewPages::build(std::shared_ptr<const PrintLayout> layout, int page)
 {
     closeAll();
     m_window = new frmPrtPrev(std::move(layout), m_host.clientArea());
+    m_number = new QLabel(m_host.clientArea());
+    m_number->setObjectName(QStringLiteral("lblPage"));
+    m_number->setAutoFillBackground(true);
+    m_number->setMargin(NumberMargin);
+    m_number->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_number->show();
     show(std::clamp(page, 0, count() - 1));
     return m_window;
 }
@@ -32,6 +47,7 @@ void PreviewPages::closeAll()
     m_window->hide();
     m_window->deleteLater();
     m_window = nullptr;
+    delete m_number;
 }
 
 int PreviewPages::visiblePage() const
@@ -45,6 +61,7 @@ void PreviewPages::show(int page)
     m_window->move(m_positions.value(page, startPosition()));
     m_window->show();
     m_window->setFocus();
+    showNumber();
 }
 
 void PreviewPages::placeAgain()
@@ -52,6 +69,18 @@ void PreviewPages::placeAgain()
     m_positions.clear();
     if (m_window)
         m_window->move(startPosition());
+    showNumber();
+}
+
+// Over the margin of a page that is larger than the area.
+void PreviewPages::showNumber()
+{
+    if (!m_number)
+        return;
+    m_number->setText(m_window->accessibleName());
+    m_number->adjustSize();
+    m_number->move(0, m_host.clientArea()->height() - m_number->height());
+    m_number->raise();
 }
 
 void PreviewPages::moveTo(QPoint position)

@@ -6,9 +6,11 @@
 #include <QPointer>
 
 class PrintHost;
+class QLabel;
 
 /// The page windows of the preview as one list. However many pages there are, only the one that is looked at has a
-/// window; the others are remembered by where they were scrolled to.
+/// window; the others are remembered by where they were scrolled to. A label in the corner of the area tells its
+/// number.
 class PreviewPages
 {
 public:
@@ -34,8 +36,10 @@ public:
 
 private:
     QPoint startPosition() const;
+    void showNumber();
 
     PrintHost &m_host;
     QPointer<frmPrtPrev> m_window;
+    QPointer<QLabel> m_number;
     QHash<int, QPoint> m_positions; ///< of the pages that were moved, in pixels of the client area
 };

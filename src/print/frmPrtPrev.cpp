@@ -72,7 +72,7 @@ void frmPrtPrev::keyPressEvent(QKeyEvent *event)
 void frmPrtPrev::keyReleaseEvent(QKeyEvent *event)
 {
     event->setAccepted(actsOnRelease(event->key()));
-    if (event->isAccepted())
+    if (event->isAccepted() && !event->isAutoRepeat())
         Q_EMIT keyReleased(event->key());
 }
 

@@ -72,6 +72,7 @@ TEST_F(Preview, OpensAtAThirdOfTheSizeInTheMiddle)
     open(RowsOfPage - 1);
     EXPECT_EQ(shown(), "Page 1 of 1");
     EXPECT_TRUE(host.inPreview && page()->isVisible() && page()->hasFocus());
+    EXPECT_EQ(host.area.findChild<QLabel *>("lblPage")->text(), "Page 1 of 1");
     EXPECT_EQ(page()->geometry(), QRect(450 - 132, 300 - 187 - ToolbarHeight, 264, 374));
     EXPECT_TRUE(host.frame.updatesEnabled());
     host.area.resize(600, 500);
@@ -111,6 +112,10 @@ TEST_F(Preview, TurnsPagesToTheEndAndBack)
     }
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(host.area.findChildren<frmPrtPrev *>().size(), 1) << "however many pages";
+    QKeyEvent repeated(QEvent::KeyRelease, Qt::Key_PageDown, Qt::NoModifier, {}, true);
+    QCoreApplication::sendEvent(page(), &repeated);
+    EXPECT_EQ(shown(), "Page 1 of 3>") << "a held key turns when it comes up";
+    EXPECT_EQ(host.area.findChild<QLabel *>("lblPage")->text(), "Page 1 of 3");
 }
 
 TEST_F(Preview, ClicksZoomAndKeepThePage)
