@@ -128,6 +128,7 @@ void AppMenus::rebuildFile(QMenu *menu, const QStringList &entries)
     QAction *preview = m_table.action(QStringLiteral("mnuFilePrintPreview"));
     preview->setCheckable(true);
     preview->setChecked(m_table.state() == AppState::StatePreview);
+    preview->setIconVisibleInMenu(!preview->isChecked()); // its check mark would be a shade behind the picture
     addRecentFiles(menu);
     menu->addSeparator();
     addEntries(menu, {QStringLiteral("mnuFileExit")});

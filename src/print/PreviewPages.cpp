@@ -31,6 +31,8 @@ frmPrtPrev *PreviewPages::build(std::shared_ptr<const PrintLayout> layout, int p
     m_number = new QLabel(m_host.clientArea());
     m_number->setObjectName(QStringLiteral("lblPage"));
     m_number->setAutoFillBackground(true);
+    m_number->setBackgroundRole(QPalette::Window); // the area's own is dark
+    m_number->setForegroundRole(QPalette::WindowText);
     m_number->setMargin(NumberMargin);
     m_number->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_number->show();

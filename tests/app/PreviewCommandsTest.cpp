@@ -39,6 +39,8 @@ TEST_F(PreviewCommandsTest, ThePreviewTakesTheDocumentsPlaceAndGivesItBack)
     EXPECT_EQ(menuTitles(), (QStringList{"File", "Help"}));
     for (const char *entry : {"(New)", "(Open...)", "(Close)", "(Save)", "(Save As...)"})
         EXPECT_TRUE(entries("mnuFile").contains(QLatin1String(entry))) << entry;
+    const QAction *check = window->commands().action("mnuFilePrintPreview");
+    EXPECT_TRUE(check->isChecked() && !check->isIconVisibleInMenu());
     for (const auto &[made, place] : places)
         EXPECT_FALSE(made->frame()->isVisible());
     EXPECT_EQ(status(0) + status(1), "");
