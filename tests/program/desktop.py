@@ -52,10 +52,12 @@ class Missing(Exception):
 class Desktop:
     """Owns the processes and the temporary folders. One in a process: the screen reader's library knows one bus."""
 
-    def __init__(self, program, size="1280x800", environment=None):
-        """environment holds variables that the program is started with."""
+    def __init__(self, program, size="1280x800", environment=None, through=(), patience=PATIENCE):
+        """environment holds variables that the program is started with, through the command that starts it."""
         self.program = os.path.abspath(program)
         self._given = environment or {}
+        self._through = through
+        self._patience = patience
         self._size = size
         self._processes = []
         self._programs = []
@@ -121,7 +123,7 @@ class Desktop:
 
     def launch(self, *arguments, through=()):
         """Starts the program and returns the process at once; through is a command that starts what follows it."""
-        process = self._launch(*map(str, through), self.program, *map(str, arguments))
+        process = self._launch(*map(str, (*self._through, *through)), self.program, *map(str, arguments))
         self._processes.remove(process)
         self._programs.append(process)
         return process
@@ -184,7 +186,7 @@ class Desktop:
     def copy_elsewhere(self, text):
         """Puts text on the clipboard, as another program in which it was copied."""
         subprocess.run(
-            ["xclip", "-selection", "clipboard"], input=text.encode(), check=True, timeout=PATIENCE,
+            ["xclip", "-selection", "clipboard"], input=text.encode(), check=True, timeout=self._patience,
             env=self._environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
         )
 
@@ -253,8 +255,9 @@ class Desktop:
     def wait_for(self, role=None, name=None, within=None):
         return self.wait(lambda: self.find(role, name, within), f"{role or 'something'} named {name!r}")
 
-    def wait(self, condition, what, seconds=PATIENCE):
+    def wait(self, condition, what, seconds=None):
         """Returns the condition's first true value; what is the text for a wait in vain, or makes it."""
+        seconds = seconds or self._patience
         end = time.monotonic() + seconds
         while time.monotonic() < end:
             while self._events.iteration(False):
@@ -268,7 +271,21 @@ class Desktop:
         what = what() if callable(what) else what
         raise AssertionError(f"waited {seconds} s in vain for {what}; the desktop stands in {picture}")
 
+    def wait_until_idle(self):
+        """Waits until the programs have nothing to do."""
+        self.wait(lambda: not any(time.sleep(0.03) or self._is_busy() for _ in range(8)), "the program to come to rest")
+
     # Beneath
+
+    def _is_busy(self):
+        for program in self._programs:
+            for state in pathlib.Path(f"/proc/{program.pid}/task").glob("*/stat"):
+                try:
+                    if state.read_text().rpartition(")")[2].split()[0] in "RD":
+                        return True
+                except OSError:
+                    continue  # the thread has ended
+        return False
 
     def tool(self, *command, **options):
         """Runs a command on this desktop and returns what it printed."""
@@ -280,7 +297,7 @@ class Desktop:
         """Runs a command that may fail."""
         return subprocess.run(
             [str(word) for word in command],
-            env=self._environment, capture_output=True, text=True, check=False, timeout=PATIENCE, **options,
+            env=self._environment, capture_output=True, text=True, check=False, timeout=self._patience, **options,
         )
 
     def _add_folder(self, variable, folder):
@@ -343,7 +360,7 @@ class Desktop:
             from gi.repository import GLib  # pylint: disable=import-outside-toplevel
         except ImportError as error:
             raise Missing(f"not installed: {error.name} for {sys.executable}") from error
-        pyatspi.setTimeout(PATIENCE * 1000, PATIENCE * 1000)
+        pyatspi.setTimeout(self._patience * 1000, self._patience * 1000)
         self._atspi = pyatspi
         self._events = GLib.MainContext.default()
 
@@ -367,8 +384,7 @@ class Desktop:
         with process.stdout as output:
             return output.readline().decode().strip()
 
-    @staticmethod
-    def _end(process):
+    def _end(self, process):
         """Ends a process and all that it started in its session."""
         for step in (signal.SIGTERM, signal.SIGKILL):
             try:
@@ -376,7 +392,7 @@ class Desktop:
             except ProcessLookupError:
                 break
             try:
-                process.wait(5)
+                process.wait(self._patience / 6)
             except subprocess.TimeoutExpired:
                 continue
         process.wait()
