@@ -118,7 +118,7 @@ class Tour:
         self._press("Return")
         self._expect("Font")
         self._desktop.type("24")
-        self._press("Return")
+        self._press("alt+o", "Return")
         self._expect("Glosaria")
         self._visit("main, large font")
         self._dialog("Set Row Height", "row height", "alt+v", "r")

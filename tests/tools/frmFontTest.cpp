@@ -39,7 +39,9 @@ TEST_F(FontDialog, ShowsTheGridsFontAndKeepsAColorThatHasNoName)
         grid.setForeColor(color);
         open();
         EXPECT_EQ(box("cboFont")->currentText(), font.family());
-        EXPECT_EQ(box("cboSize")->currentText(), QString::number(grid.Font().pointSizeF()));
+        const QString size = QString::number(grid.Font().pointSizeF());
+        QTest::keyClicks(box("cboSize"), "x.,-");
+        EXPECT_EQ(box("cboSize")->currentText(), size);
         EXPECT_EQ(box("cboColor")->currentText(), name);
         dialog->findChild<QCheckBox *>("chkItalic")->setChecked(true);
         EXPECT_TRUE(sample()->sampleFont().italic());
