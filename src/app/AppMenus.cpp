@@ -18,9 +18,7 @@
 namespace {
 
 constexpr int LongestCaption = 32;
-
-/// Dynamic property of the actions that are no command: the string id of their help text.
-const char HelpIdProperty[] = "statusHelpId";
+constexpr int FirstTitleHelp = 100;
 
 QString modeKey(int mode)
 {
@@ -29,17 +27,17 @@ QString modeKey(int mode)
 
 } // namespace
 
-AppMenus::AppMenus(QMenuBar *tbrMenu, CommandTable &table, const AppContext &context, QObject *parent)
+AppMenus::AppMenus(QMenuBar *tbrMenu, CommandTable &table, const AppContext &context, modSBMenuHelp &help,
+                   QObject *parent)
     : QObject(parent)
     , m_table(table)
     , m_context(context)
-    , m_help(new modSBMenuHelp(context.status, this))
     , m_gridMenu(new QMenu(tbrMenu))
 {
     for (const MenuLayout::Menu &each : MenuLayout::menus())
         addMenu(tbrMenu, each);
-    m_help->watch(tbrMenu);
     buildGridMenu();
+    help.watch(m_gridMenu);
 }
 
 void AppMenus::addMenu(QMenuBar *menuBar, const MenuLayout::Menu &layout)
@@ -47,9 +45,9 @@ void AppMenus::addMenu(QMenuBar *menuBar, const MenuLayout::Menu &layout)
     QMenu *menu = menuBar->addMenu(resText(layout.captionId));
     menu->setObjectName(layout.key);
     menu->setProperty("helpContextId", layout.helpContextId);
+    menu->menuAction()->setStatusTip(resText(FirstTitleHelp + int(m_menus.size())));
     m_menus.insert(layout.key, menu);
     addEntries(menu, layout.entries);
-    m_help->watch(menu, [this](const QAction *action) { return helpText(action); });
     connect(menu, &QMenu::aboutToShow, this, [this, &layout] { rebuild(layout); });
     rebuild(layout);
 }
@@ -76,18 +74,12 @@ void AppMenus::buildGridMenu()
         QAction *command = m_table.action(entry.command);
         auto *action = new QAction(command->icon(), resText(entry.captionId), m_gridMenu);
         action->setObjectName(entry.key);
-        action->setProperty(HelpIdProperty, entry.helpId);
+        action->setStatusTip(resText(entry.helpId));
         connect(action, &QAction::triggered, command, &QAction::trigger);
         connect(m_gridMenu, &QMenu::aboutToShow, action,
                 [action, command] { action->setEnabled(command->isEnabled()); });
         m_gridMenu->addAction(action);
     }
-    m_help->watch(m_gridMenu, [this](const QAction *action) { return helpText(action); });
-}
-
-void AppMenus::watchSystemMenu(QMenu *menu)
-{
-    m_help->watchSystemMenu(menu);
 }
 
 void AppMenus::applyState(AppState state)
@@ -157,6 +149,7 @@ void AppMenus::rebuildMode()
         QAction *action = m_table.action(modeKey(mode));
         const QString text = quizModeText(mode, document->language(1), document->language(2));
         action->setText(QStringLiteral("&%1 ").arg(mode) + FormTexts::escapeMnemonic(text));
+        action->setStatusTip(resText(m_table.find(modeKey(mode))->helpId) + QStringLiteral(" ") + text);
         action->setCheckable(true);
         action->setChecked(mode == m_context.settings.QuizMode());
     }
@@ -181,18 +174,4 @@ void AppMenus::rebuildWindow(QMenu *menu, const QStringList &fixedEntries)
         action->setChecked(document == m_context.documents.active());
         connect(action, &QAction::triggered, document, [this, document] { m_context.window.activate(document); });
     }
-}
-
-QString AppMenus::helpText(const QAction *action) const
-{
-    if (const int id = action->property(HelpIdProperty).toInt())
-        return resText(id);
-    const QString key = action->objectName();
-    const Command *command = m_table.find(key);
-    if (!command || !command->helpId)
-        return {};
-    QString text = resText(command->helpId);
-    if (key.startsWith(QStringLiteral("mnuMode")))
-        text += QStringLiteral(" ") + FormTexts::withoutMnemonic(action->text().mid(3));
-    return text;
 }

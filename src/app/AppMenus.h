@@ -20,7 +20,9 @@ class AppMenus : public QObject
     Q_OBJECT
 
 public:
-    AppMenus(QMenuBar *tbrMenu, CommandTable &table, const AppContext &context, QObject *parent = nullptr);
+    /// help shows what the entries of the grid's menu do.
+    AppMenus(QMenuBar *tbrMenu, CommandTable &table, const AppContext &context, modSBMenuHelp &help,
+             QObject *parent = nullptr);
 
     /// Shows only File and Help where no document can be worked on.
     void applyState(AppState state);
@@ -28,9 +30,6 @@ public:
     /// A drop-down by the key of its title, for example "mnuMode".
     QMenu *menu(const QString &key) const { return m_menus.value(key); }
     QMenu *gridMenu() const { return m_gridMenu; }
-
-    /// Lets the status bar follow the highlight in a document window's own menu.
-    void watchSystemMenu(QMenu *menu);
 
 private:
     void addMenu(QMenuBar *menuBar, const MenuLayout::Menu &layout);
@@ -42,11 +41,9 @@ private:
     void rebuildWindow(QMenu *menu, const QStringList &fixedEntries);
     void addEntries(QMenu *menu, const QStringList &keys);
     void buildGridMenu();
-    QString helpText(const QAction *action) const;
 
     CommandTable &m_table;
     const AppContext &m_context;
-    modSBMenuHelp *m_help;
     QHash<QString, QMenu *> m_menus;
     QMenu *m_gridMenu;
 };

@@ -5,7 +5,6 @@
 #include "resources/Pictures.h"
 #include "resources/StringTable.h"
 #include "services/FormTexts.h"
-#include "services/status/modSBFunc.h"
 
 #include <QMainWindow>
 #include <QMenu>
@@ -14,15 +13,13 @@
 
 namespace {
 
-const char HoverHelpProperty[] = "hoverHelpId";
 const char PictureProperty[] = "pictureNumber";
 
 } // namespace
 
-AppToolbars::AppToolbars(QMainWindow &window, CommandTable &table, const AppMenus &menus, modSBFunc &status)
+AppToolbars::AppToolbars(QMainWindow &window, CommandTable &table, const AppMenus &menus)
     : QObject(&window)
     , m_table(table)
-    , m_status(status)
     , m_standard(addBand(window, QStringLiteral("STANDARD"), 12622, MenuLayout::standardButtons()))
     , m_preview(addBand(window, QStringLiteral("PREVIEW"), 12623, MenuLayout::previewButtons()))
 {
@@ -62,16 +59,15 @@ QAction *AppToolbars::addButton(QToolBar *bar, const MenuLayout::Button &button)
     auto *action = new QAction(command->icon(), resText(button.toolTipId), bar);
     action->setObjectName(button.key);
     action->setWhatsThis(resText(button.whatsThisId));
+    action->setStatusTip(resText(button.hoverHelpId));
     action->setEnabled(command->isEnabled());
     connect(action, &QAction::triggered, command, &QAction::trigger);
     connect(command, &QAction::changed, action, [action, command] { action->setEnabled(command->isEnabled()); });
     bar->addAction(action);
 
     QWidget *widget = bar->widgetForAction(action);
-    widget->setProperty(HoverHelpProperty, button.hoverHelpId);
     widget->setProperty("whatsThisId", button.whatsThisId);
     widget->setAccessibleName(action->text());
-    widget->installEventFilter(this);
     return action;
 }
 
@@ -119,13 +115,4 @@ int AppToolbars::whatsThisAt(const QPoint &point) const
         return button ? button->property("whatsThisId").toInt() : 0;
     }
     return -1;
-}
-
-bool AppToolbars::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::Enter)
-        m_status.ShowStatus(watched->property(HoverHelpProperty).toInt());
-    else if (event->type() == QEvent::Leave)
-        m_status.ShowStatus(modSBFunc::Ready);
-    return QObject::eventFilter(watched, event);
 }

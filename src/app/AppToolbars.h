@@ -11,7 +11,6 @@ class QAction;
 class QMainWindow;
 class QMenu;
 class QToolBar;
-class modSBFunc;
 enum class AppState;
 
 /// The two bands of buttons below the menu bar: STANDARD, and PREVIEW that takes its place during the print preview.
@@ -20,7 +19,7 @@ class AppToolbars : public QObject
     Q_OBJECT
 
 public:
-    AppToolbars(QMainWindow &window, CommandTable &table, const AppMenus &menus, modSBFunc &status);
+    AppToolbars(QMainWindow &window, CommandTable &table, const AppMenus &menus);
 
     void applyState(AppState state);
 
@@ -36,9 +35,6 @@ public:
     QToolBar *standard() const { return m_standard; }
     QToolBar *preview() const { return m_preview; }
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     QToolBar *addBand(QMainWindow &window, const QString &name, int titleId,
                       const std::vector<MenuLayout::Button> &buttons);
@@ -46,7 +42,6 @@ private:
     void addDropDown(const QString &button, QMenu *menu);
 
     CommandTable &m_table;
-    modSBFunc &m_status;
     QHash<QString, QAction *> m_standardButtons;
     QToolBar *m_standard;
     QToolBar *m_preview;

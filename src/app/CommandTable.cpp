@@ -21,6 +21,7 @@ void CommandTable::add(const Command &command)
     action->setObjectName(command.key);
     action->setShortcut(QKeySequence(command.shortcut));
     action->setMenuRole(QAction::NoRole);
+    action->setStatusTip(resText(command.helpId));
     if (command.picture)
         action->setIcon(picture(command.picture));
     connect(action, &QAction::triggered, this, [this, key = command.key] { onTriggered(key); });

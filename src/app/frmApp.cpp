@@ -17,6 +17,7 @@
 #include "services/settings/clsAppProperties.h"
 #include "services/settings/clsRegistry.h"
 #include "services/status/modSBFunc.h"
+#include "services/status/modSBMenuHelp.h"
 
 #include <QClipboard>
 #include <QCloseEvent>
@@ -89,8 +90,10 @@ frmApp::frmApp(const Needs &needs)
     for (const Command *command : m_commands.commands())
         addAction(m_commands.action(command->key));
     menuBar()->setObjectName(QStringLiteral("tbrMenu"));
-    m_menus = new AppMenus(menuBar(), m_commands, *m_context, this);
-    m_toolbars = new AppToolbars(*this, m_commands, *m_menus, m_context->status);
+    m_menuHelp = new modSBMenuHelp(m_context->status, this);
+    m_menuHelp->watch(this);
+    m_menus = new AppMenus(menuBar(), m_commands, *m_context, *m_menuHelp, this);
+    m_toolbars = new AppToolbars(*this, m_commands, *m_menus);
     setButtonPicture(QStringLiteral("Model"), PictureMode1 + needs.settings.QuizMode() - 1);
     setButtonPicture(QStringLiteral("Quiz"), PicturePractice);
     m_help->attach(*m_context, *m_toolbars);
@@ -178,7 +181,7 @@ void frmApp::placeDocument(frmDoc *document)
     if (const QMdiSubWindow *active = m_area->activeSubWindow(); active && active->isMaximized())
         document->resize(m_area->viewport()->size()); // so will this one be
     freeCloseKey(*frame->systemMenu());
-    m_menus->watchSystemMenu(frame->systemMenu());
+    m_menuHelp->watch(frame->systemMenu());
 
     connect(document, &frmDoc::editingChanged, this, [this, document](bool editing) {
         // The edit of a document that is not the active one, closed ones among them, says nothing about the commands.

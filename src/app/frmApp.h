@@ -27,6 +27,7 @@ class QStackedWidget;
 class RegistryStore;
 class WindowPosition;
 class frmDoc;
+class modSBMenuHelp;
 
 /// The program's one frame window: holds the document windows, the menus, the toolbars and the status bar, keeps the
 /// application's state, and takes files that are dropped on it or handed over by a second copy.
@@ -128,6 +129,7 @@ private:
     std::unique_ptr<AppContext> m_context;
     std::unique_ptr<WindowPosition> m_position;
     CommandTable m_commands;
+    modSBMenuHelp *m_menuHelp = nullptr;
     AppMenus *m_menus = nullptr;
     AppToolbars *m_toolbars = nullptr;
 };

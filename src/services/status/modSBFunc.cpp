@@ -10,6 +10,7 @@ namespace {
 constexpr int SizeGripWidth = 20;
 constexpr int LargestRange = 32767;
 constexpr int BarHeight = 20;
+constexpr int TitleAndCredit = 2000;
 
 } // namespace
 
@@ -21,6 +22,7 @@ modSBFunc::modSBFunc(const ProgramFlags &flags, QWidget *parent)
     for (StatusPanel *&panel : m_panels)
         panel = new StatusPanel(this);
     m_panels[3]->setFrameStyle(QFrame::NoFrame);
+    setStatusTip(resText(TitleAndCredit));
 }
 
 void modSBFunc::createPanels(int barWidth)
@@ -50,7 +52,7 @@ void modSBFunc::SBSetText(int panel, int style, const QString &text)
 
 void modSBFunc::ShowStatus(int id)
 {
-    if (m_flags.searching() || id == m_shownId)
+    if (isHeldBack() || id == m_shownId)
         return;
     m_shownId = id;
     if (id)
@@ -105,10 +107,4 @@ void modSBFunc::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     placePanels();
-}
-
-void modSBFunc::enterEvent(QEnterEvent *event)
-{
-    QWidget::enterEvent(event);
-    ShowStatus(2000);
 }

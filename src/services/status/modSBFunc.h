@@ -35,6 +35,8 @@ public:
     /// Shows a string of the table in panel 0, unless it is the one shown last. Id 0 forgets which was shown last and
     /// leaves the text: whoever writes panel 0 by SBSetText calls it first.
     void ShowStatus(int id);
+    /// Whether texts by id are held back now.
+    bool isHeldBack() const { return m_flags.searching(); }
 
     /// The text of a panel, 0 to 3.
     QString text(int panel) const;
@@ -51,7 +53,6 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
-    void enterEvent(QEnterEvent *event) override;
 
 private:
     void placePanels();

@@ -3,12 +3,17 @@
 #include "services/status/modSBFunc.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QMenu>
-#include <QMenuBar>
+#include <QStatusTipEvent>
 
 namespace {
 
-constexpr int FirstTitleHelp = 100;
+const QAction *highlightedEntry()
+{
+    const auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    return menu ? menu->activeAction() : nullptr;
+}
 
 } // namespace
 
@@ -18,40 +23,48 @@ modSBMenuHelp::modSBMenuHelp(modSBFunc &status, QObject *parent)
 {
 }
 
-void modSBMenuHelp::watch(QMenu *menu, HelpText helpText)
+void modSBMenuHelp::watch(QWidget *source)
 {
-    connect(menu, &QMenu::hovered, this, [this, menu, helpText = std::move(helpText)](const QAction *action) {
-        if (!action->isEnabled() || action->isSeparator() || !menu->actions().contains(action))
-            return;
-        const QString text = helpText(action);
-        if (text.isEmpty())
-            return;
-        m_status.ShowStatus(0);
-        m_status.SBSetText(0, modSBFunc::SBT_SUNKEN, text);
-    });
-    connect(menu, &QMenu::aboutToHide, this, [this] { m_status.ShowStatus(modSBFunc::Ready); });
+    source->installEventFilter(this);
 }
 
-void modSBMenuHelp::watch(QMenuBar *menuBar)
+bool modSBMenuHelp::eventFilter(QObject *, QEvent *event)
 {
-    m_menuBar = menuBar;
-    menuBar->installEventFilter(this);
-    connect(menuBar, &QMenuBar::hovered, this, [this, menuBar](QAction *action) {
-        if (const qsizetype i = menuBar->actions().indexOf(action); i >= 0)
-            m_status.ShowStatus(FirstTitleHelp + int(i));
-    });
+    if (event->type() != QEvent::StatusTip)
+        return false;
+    onTip(static_cast<QStatusTipEvent *>(event)->tip());
+    return true;
 }
 
-void modSBMenuHelp::watchSystemMenu(QMenu *menu)
+/// An enabled entry shows its text, be it empty. Those of titles and buttons are held back, as all others, while a
+/// search goes through the cells.
+void modSBMenuHelp::onTip(const QString &tip)
 {
-    connect(menu, &QMenu::aboutToShow, this, [this] { m_status.ShowStatus(0); });
-    watch(menu, [](const QAction *) { return QStringLiteral(" "); });
+    const QAction *entry = highlightedEntry();
+    if (entry && entry->isEnabled())
+        show(tip);
+    else if (!entry && !tip.isEmpty() && !m_status.isHeldBack())
+        show(tip);
+    else
+        leave();
 }
 
-bool modSBMenuHelp::eventFilter(QObject *watched, QEvent *event)
+void modSBMenuHelp::show(const QString &text)
 {
-    // The keys leave the menu bar with the focus, the pointer without.
-    if (watched == m_menuBar && (event->type() == QEvent::Leave || event->type() == QEvent::FocusOut))
+    if (m_status.text(0) != m_shown)
+        m_before = m_status.text(0);
+    m_shown = text;
+    m_status.ShowStatus(0);
+    m_status.SBSetText(0, modSBFunc::SBT_SUNKEN, text);
+}
+
+/// What has been told since, by a dialog that has opened, say, stays.
+void modSBMenuHelp::leave()
+{
+    if (m_status.text(0) != std::exchange(m_shown, {}))
+        return;
+    if (m_status.isHeldBack())
+        m_status.SBSetText(0, modSBFunc::SBT_SUNKEN, m_before);
+    else
         m_status.ShowStatus(modSBFunc::Ready);
-    return QObject::eventFilter(watched, event);
 }

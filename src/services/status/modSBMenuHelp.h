@@ -1,39 +1,35 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 
-#include <functional>
+#include <optional>
 
-class QAction;
-class QMenu;
-class QMenuBar;
 class modSBFunc;
 
-/// Shows in panel 0 of the status bar what the highlighted menu entry does, and "Ready" when the highlight leaves.
+/// Shows in panel 0 of the status bar what the highlighted menu entry, or the title or button under the pointer, is
+/// for, and "Ready" when the highlight leaves. The texts are the status tips of the actions; the toolkit tells of each
+/// change by one event, an empty one when nothing is highlighted any more.
 class modSBMenuHelp : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The help text of an entry; an empty one leaves the status bar as it is.
-    using HelpText = std::function<QString(const QAction *)>;
-
     explicit modSBMenuHelp(modSBFunc &status, QObject *parent = nullptr);
 
-    /// Watches the entries of a menu. Disabled entries and separators show nothing.
-    void watch(QMenu *menu, HelpText helpText);
-
-    /// Watches the titles of a menu bar: title number i, counted from 0, shows string 100 + i.
-    void watch(QMenuBar *menuBar);
-
-    /// Watches a menu that the platform draws itself, such as a document window's system menu. Its entries have no
-    /// texts in the string table: the panel is cleared while one is highlighted.
-    void watchSystemMenu(QMenu *menu);
+    /// Listens to the tips that come to a window: those of its menu bar and toolbars and of what drops down from them;
+    /// or to those of a menu that opens by itself.
+    void watch(QWidget *source);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void onTip(const QString &tip);
+    void show(const QString &text);
+    void leave();
+
     modSBFunc &m_status;
-    QMenuBar *m_menuBar = nullptr;
+    std::optional<QString> m_shown; ///< the help text that shows
+    QString m_before;               ///< what it has taken the place of
 };
