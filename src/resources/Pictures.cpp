@@ -22,6 +22,7 @@ constexpr std::array Files = {
     "tilehorizontally", "tilevertically", "arrangeicons", "helptopics", "whatsthis", "about", "previous", "next",
     "weblink", "maillink", "home", "navigation", "zoomin", "zoomout", "zoomnormal", "right", "wrong", "gridcursor",
     "glosaria", "document", "more", "minimize", "maximize", "restore",
+    "checked",
 };
 // clang-format on
 

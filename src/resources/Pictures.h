@@ -63,6 +63,7 @@ enum PictureNumber {
     PictureMinimize,    ///< from here on what is done with a document's window
     PictureMaximize,
     PictureRestore,
+    PictureChecked, ///< check mark of a menu entry
 };
 
 /// The icon with this number, crisp at every size: it is drawn anew for the size, the screen and the palette's colours

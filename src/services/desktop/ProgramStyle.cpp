@@ -73,14 +73,22 @@ void drawSeparator(QPainter &painter, const QStyleOption &option)
     painter.restore();
 }
 
-/// The entry with its picture in the colour of chosen text, as it is drawn on the highlight, and so is the plate behind
-/// the picture of a checked entry.
+/// The entry with a check mark in the place of its picture: a plate behind the picture, which is all that the style
+/// would show, is no mark to the eye.
+QStyleOptionMenuItem withCheckMark(const QStyleOptionMenuItem &entry)
+{
+    QStyleOptionMenuItem marked = entry;
+    marked.icon = picture(PictureChecked);
+    marked.checked = false;
+    return marked;
+}
+
+/// The entry with its picture in the colour of chosen text, as it is drawn on the highlight.
 QStyleOptionMenuItem withChosenPicture(const QStyleOptionMenuItem &entry, int size, const QWidget *widget)
 {
     QStyleOptionMenuItem chosen = entry;
     const double scale = widget ? widget->devicePixelRatioF() : 1.0;
     chosen.icon = QIcon(entry.icon.pixmap(QSize(size, size), scale, QIcon::Selected));
-    chosen.palette.setColor(QPalette::Window, entry.palette.color(QPalette::Highlight));
     return chosen;
 }
 
@@ -124,6 +132,11 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption *optio
                                const QWidget *widget) const
 {
     const auto *entry = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
+    if (element == CE_MenuItem && entry && entry->checked && !entry->icon.isNull()) {
+        const QStyleOptionMenuItem marked = withCheckMark(*entry);
+        drawControl(element, &marked, painter, widget);
+        return;
+    }
     const State chosen = State_Selected | State_Enabled;
     if (element == CE_MenuItem && entry && (entry->state & chosen) == chosen && !entry->icon.isNull()) {
         const int size = pixelMetric(PM_SmallIconSize, option, widget);

@@ -2,7 +2,8 @@
 
 #include <QProxyStyle>
 
-/// The desktop's own style, mended where it would hide something: pictures of chosen menu entries, titles of documents
+/// The desktop's own style, mended where it would hide something: pictures of chosen menu entries, check
+/// marks, titles of documents
 /// on a light highlight or on dark windows, signs on their buttons and in their menus, and, in the toolkit's Fusion
 /// style, outlines of controls on dark windows. Texts that are disabled have no shadow, buttons of dialogs no icons.
 /// The picture of a bar's button for what has no room is the program's own: the style's would be read from a file, for
