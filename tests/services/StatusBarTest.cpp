@@ -2,6 +2,7 @@
 #include "services/status/modSBFunc.h"
 
 #include <QProgressBar>
+#include <QSizeGrip>
 
 struct StatusBarTest : ::testing::Test
 {
@@ -12,6 +13,7 @@ struct StatusBarTest : ::testing::Test
     {
         bar.resize(900, 20);
         bar.createPanels(900);
+        bar.show();
     }
 };
 
@@ -22,6 +24,24 @@ TEST_F(StatusBarTest, PanelsStandAtTheirEdgesAlsoWhenTheWindowGrows)
         EXPECT_EQ(bar.panelRect(1).left(), 300);
         EXPECT_EQ(bar.panelRect(2).left(), 480);
         EXPECT_EQ(bar.panelRect(3).left(), 880);
+        EXPECT_EQ(bar.findChild<QSizeGrip *>()->geometry().bottomRight(), bar.rect().bottomRight());
+    }
+}
+
+TEST_F(StatusBarTest, ALongTextShowsWholeAsFarAsTheModeLeavesRoom)
+{
+    const QString mode = "Language 1 -> Language 2 In Order";
+    bar.SBSetText(2, modSBFunc::SBT_SUNKEN, mode);
+    bar.createProgress(10);
+    const auto width = [this](const QString &text) { return bar.fontMetrics().horizontalAdvance(text); };
+    for (const int length : {60, 500, 10}) {
+        const QString text(length, 'n');
+        bar.SBSetText(0, modSBFunc::SBT_SUNKEN, text);
+        EXPECT_EQ(bar.panelRect(0).width() > width(text), length != 500);
+        EXPECT_EQ(bar.panelRect(1).left() > 300, length != 10);
+        EXPECT_EQ(bar.panelRect(1).width(), 178);
+        EXPECT_EQ(bar.findChild<QProgressBar *>()->geometry(), bar.panelRect(1));
+        EXPECT_GT(bar.panelRect(2).width(), width(mode));
     }
 }
 

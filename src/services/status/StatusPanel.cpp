@@ -26,6 +26,11 @@ void StatusPanel::setText(const QString &text)
     update();
 }
 
+int StatusPanel::wholeWidth() const
+{
+    return fontMetrics().horizontalAdvance(m_text) + 2 * TextMargin;
+}
+
 void StatusPanel::fit()
 {
     m_fitted = fontMetrics().elidedText(m_text, Qt::ElideRight, width() - 2 * TextMargin);

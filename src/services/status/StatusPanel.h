@@ -13,6 +13,8 @@ public:
 
     QString text() const { return m_text; }
     void setText(const QString &text);
+    /// The width in pixels at which the whole text shows.
+    int wholeWidth() const;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -4,12 +4,14 @@
 #include "services/status/StatusPanel.h"
 
 #include <QProgressBar>
+#include <QSizeGrip>
 
 namespace {
 
 constexpr int SizeGripWidth = 20;
 constexpr int LargestRange = 32767;
 constexpr int BarHeight = 20;
+constexpr int PanelGap = 2;
 constexpr int TitleAndCredit = 2000;
 
 } // namespace
@@ -17,35 +19,50 @@ constexpr int TitleAndCredit = 2000;
 modSBFunc::modSBFunc(const ProgramFlags &flags, QWidget *parent)
     : QWidget(parent)
     , m_flags(flags)
+    , m_grip(new QSizeGrip(this))
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     for (StatusPanel *&panel : m_panels)
         panel = new StatusPanel(this);
     m_panels[3]->setFrameStyle(QFrame::NoFrame);
+    m_grip->raise();
     setStatusTip(resText(TitleAndCredit));
 }
 
 void modSBFunc::createPanels(int barWidth)
 {
     m_rightEdges[2] = std::max(m_rightEdges[1], barWidth - SizeGripWidth);
-    placePanels();
-    m_panels[0]->setText(resText(Ready));
+    SBSetText(0, SBT_SUNKEN, resText(Ready));
+}
+
+/// How far panel 1 moves to the right for the text of panel 0, in pixels.
+int modSBFunc::roomForMessage() const
+{
+    const int wanted = m_panels[0]->wholeWidth() + PanelGap - m_rightEdges[0];
+    const int free = std::min(m_rightEdges[2], width()) - m_rightEdges[1] - m_panels[2]->wholeWidth() - PanelGap;
+    return std::max(0, std::min(wanted, free));
 }
 
 void modSBFunc::placePanels()
 {
+    const int moved = roomForMessage();
     int left = 0;
     for (size_t i = 0; i < m_panels.size(); ++i) {
-        const int right = i < m_rightEdges.size() ? m_rightEdges[i] : std::max(left, width());
-        m_panels[i]->setGeometry(left, 1, right - left - 2, height() - 1);
+        const int right = i < 2 ? m_rightEdges[i] + moved : i == 2 ? m_rightEdges[i] : std::max(left, width());
+        m_panels[i]->setGeometry(left, 1, right - left - PanelGap, height() - 1);
         left = right;
     }
+    if (m_progress)
+        m_progress->setGeometry(panelRect(1));
+    const QSize grip = m_grip->sizeHint();
+    m_grip->setGeometry(QRect(rect().bottomRight() - QPoint(grip.width(), grip.height()) + QPoint(1, 1), grip));
 }
 
 void modSBFunc::SBSetText(int panel, int style, const QString &text)
 {
     const int target = style == SBT_SUNKEN && panel >= 0 && panel <= 2 ? panel : 0;
     m_panels[size_t(target)]->setText(text);
+    placePanels();
     if (style != SBT_SUNKEN)
         update();
 }

@@ -7,10 +7,12 @@
 #include <array>
 
 class QProgressBar;
+class QSizeGrip;
 class StatusPanel;
 
 /// The status bar: four panels in one row along the bottom of the main window. Panel 0 carries messages and help texts,
-/// panel 1 the cell reference (and the progress bar of loading and saving), panel 2 the quiz mode; panel 3 is the rest.
+/// panel 1 the cell reference (and the progress bar of loading and saving), panel 2 the quiz mode; panel 3 is the rest
+/// and holds the size grip.
 class modSBFunc : public QWidget
 {
     Q_OBJECT
@@ -25,7 +27,7 @@ public:
     modSBFunc(const ProgramFlags &flags, QWidget *parent = nullptr);
 
     /// Sets the panel edges for a bar of this width in pixels (they stay when the bar is resized later) and the initial
-    /// texts.
+    /// texts. While the text of panel 0 is too long for it, panel 1 gives way as far as panel 2 has room.
     void createPanels(int barWidth);
 
     /// Shows a text in a panel. Only panels 0 to 2 in the default style are taken as they are; every other request goes
@@ -56,10 +58,12 @@ protected:
 
 private:
     void placePanels();
+    int roomForMessage() const;
 
     const ProgramFlags &m_flags;
     std::array<StatusPanel *, 4> m_panels{};
     std::array<int, 3> m_rightEdges{300, 480, 480};
     int m_shownId = 0;
     QProgressBar *m_progress = nullptr;
+    QSizeGrip *m_grip;
 };
