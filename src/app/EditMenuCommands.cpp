@@ -28,7 +28,25 @@ std::function<void()> onActive(const AppContext &context, void (EditCommands::*c
     };
 }
 
-/// The dialog belongs to the document that was active: it closes when that one does or another becomes active.
+/// The dialog goes along to the document that becomes active, and closes when there is none left.
+void followActiveDocument(frmFindReplace &dialog, const DocumentList &documents)
+{
+    QObject::connect(&documents, &DocumentList::activeChanged, &dialog, [&dialog](frmDoc *active) {
+        if (active)
+            dialog.workOn(*active);
+        else
+            dialog.leaveDocument();
+    });
+    // Queued: the document behind a closed one becomes active afterwards.
+    QObject::connect(
+        &documents, &DocumentList::removed, &dialog,
+        [&dialog, &documents] {
+            if (!documents.active())
+                dialog.close();
+        },
+        Qt::QueuedConnection);
+}
+
 void openFindReplace(const AppContext &context, frmDoc &document, bool replace, Search &last)
 {
     context.status.ShowStatus(DialogOpen);
@@ -36,14 +54,7 @@ void openFindReplace(const AppContext &context, frmDoc &document, bool replace, 
     const frmFindReplace::Needs needs{context.flags, context.undo, context.alert, last};
     auto *dialog = new frmFindReplace(document, needs, &context.window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(&context.documents, &DocumentList::activeChanged, dialog, [dialog, &document](frmDoc *active) {
-        if (active != &document)
-            dialog->leaveDocument();
-    });
-    QObject::connect(&context.documents, &DocumentList::removed, dialog, [dialog, &document](frmDoc *removed) {
-        if (removed == &document)
-            dialog->leaveDocument();
-    });
+    followActiveDocument(*dialog, context.documents);
     QObject::connect(dialog, &QDialog::finished, &context.window,
                      [&context] { context.status.ShowStatus(modSBFunc::Ready); });
     dialog->show();

@@ -10,7 +10,7 @@
 
 ToolDialog::ToolDialog(frmDoc &document, QWidget *owner)
     : QDialog(owner)
-    , m_document(document)
+    , m_document(&document)
 {
     setWindowIcon(document.windowIcon());
 }
@@ -48,8 +48,8 @@ void ToolDialog::setVisible(bool visible)
 /// The part of the selection that is shown, in pixels of the screen.
 QRect ToolDialog::shownSelection() const
 {
-    const ctlGrid &grid = *m_document.Rutor();
-    const GridSelection selection = m_document.selection();
+    const ctlGrid &grid = *document().Rutor();
+    const GridSelection selection = document().selection();
     const int top = std::clamp(grid.TopRow(), selection.top(), selection.bottom());
     const QPoint topLeft(Twips::toPixelsX(grid.ColPos(selection.left())), Twips::toPixelsY(grid.RowPos(top)));
     const QPoint bottomRight(Twips::toPixelsX(grid.ColPos(selection.right()) + grid.ColWidth(selection.right())),

@@ -16,7 +16,8 @@ public:
     void setVisible(bool visible) override;
 
 protected:
-    frmDoc &document() const { return m_document; }
+    frmDoc &document() const { return *m_document; }
+    void setDocument(frmDoc &document) { m_document = &document; }
     /// Where the dialog goes unless it would hide the selection there: the middle of the owner. frame is its size with
     /// the frame.
     virtual QPoint preferredPlace(const QRect &owner, const QSize &frame) const;
@@ -28,5 +29,5 @@ private:
     QRect shownSelection() const;
     QSize frameSize() const;
 
-    frmDoc &m_document;
+    frmDoc *m_document;
 };

@@ -39,10 +39,15 @@ frmFindReplace::frmFindReplace(frmDoc &document, const Needs &needs, QWidget *ow
 
 frmFindReplace::~frmFindReplace() = default;
 
-void frmFindReplace::setUpControls()
+void frmFindReplace::nameScopes()
 {
     FormTexts::setCaption(m_ui->optScope1, QStringLiteral("&1 ") + FormTexts::escapeMnemonic(document().language(1)));
     FormTexts::setCaption(m_ui->optScope2, QStringLiteral("&2 ") + FormTexts::escapeMnemonic(document().language(2)));
+}
+
+void frmFindReplace::setUpControls()
+{
+    nameScopes();
     m_ui->txtFind->setText(document().Rutor()->Text());
     m_ui->txtFind->selectAll();
     restart();
@@ -140,6 +145,8 @@ void frmFindReplace::ReadOptions()
 
 void frmFindReplace::FindNext(Mode mode)
 {
+    if (!m_hasDocument)
+        return;
     std::optional<Search::Match> match;
     {
         const Hourglass hourglass;
@@ -198,6 +205,8 @@ void frmFindReplace::showMatch(const Search::Match &match)
 
 void frmFindReplace::ReplaceAllMatches()
 {
+    if (!m_hasDocument)
+        return;
     ReplaceAll::Summary summary;
     {
         const Hourglass hourglass;
@@ -233,21 +242,31 @@ void frmFindReplace::keepTyped()
 
 void frmFindReplace::leaveDocument()
 {
-    m_leaving = true;
-    close();
+    if (!std::exchange(m_hasDocument, false))
+        return;
+    document().endEdit();
+    m_needs.undo.clear(); // an entry in the document that is left is nothing to undo in the other
+}
+
+void frmFindReplace::workOn(frmDoc &document)
+{
+    leaveDocument();
+    setDocument(document);
+    m_hasDocument = true;
+    m_snapshot = modUndo::takeSnapshot(*document.Rutor());
+    m_ReplaceWasMade = false;
+    nameScopes();
+    restart();
 }
 
 void frmFindReplace::done(int result)
 {
-    if (m_open) {
-        m_open = false;
+    if (m_hasDocument)
         document().endEdit();
-        m_needs.flags.FindMode = m_needs.flags.ReplaceMode = false;
-        if (m_leaving)
-            m_needs.undo.clear(); // an entry in the document that is left is nothing to undo in the other
-        else
-            document().Rutor()->setFocus();
-        if (!m_leaving && m_ReplaceWasMade)
+    m_needs.flags.FindMode = m_needs.flags.ReplaceMode = false;
+    if (std::exchange(m_hasDocument, false)) {
+        document().Rutor()->setFocus();
+        if (m_ReplaceWasMade)
             leaveUndoStep();
     }
     ToolDialog::done(result);

@@ -13,8 +13,9 @@ namespace Ui {
 class frmFindReplace;
 }
 
-/// Finds a text in a vocabulary and replaces it, match by match or everywhere. It stays open beside the document, whose
-/// grid shows each match in its cell editor. All replacements made while it is open are one undo step.
+/// Finds a text in a vocabulary and replaces it, match by match or everywhere. It stays open beside the documents and
+/// works on the active one, whose grid shows each match in its cell editor. All replacements made there until it closes
+/// are one undo step.
 class frmFindReplace : public ToolDialog
 {
     Q_OBJECT
@@ -37,8 +38,11 @@ public:
     void showAgain(bool replace);
     /// Shows the next or the previous match, as the dialog stands.
     void findOn(bool backwards);
-    /// Closes without an undo step: the document is about to close or another one has become active.
+    /// Leaves the document, which is about to close or has ceased to be the active one, without an undo step. Until
+    /// workOn names another one, the dialog can only be closed.
     void leaveDocument();
+    /// Works on a document that has become the active one.
+    void workOn(frmDoc &document);
 
     /// Every way of closing the dialog ends here.
     void done(int result) override;
@@ -51,6 +55,7 @@ private:
     enum Mode { Find, FindBack, ReplaceAndFind };
 
     void setUpControls();
+    void nameScopes();
     void connectControls();
     void setLayoutFor(bool replace);
     QSize sizeWithReplace(bool shown);
@@ -73,7 +78,6 @@ private:
     QString m_ReplaceWith;
     UndoRecord::Snapshot m_snapshot; ///< every word when the dialog opened
     bool m_ReplaceWasMade = false;
-    bool m_open = true;
-    bool m_leaving = false; ///< closing because of another document
+    bool m_hasDocument = true;
     bool m_replaceLayout = false;
 };
