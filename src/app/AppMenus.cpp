@@ -168,10 +168,10 @@ void AppMenus::rebuildWindow(QMenu *menu, const QStringList &fixedEntries)
         QString caption = document->Caption();
         if (caption.size() > LongestCaption)
             caption = caption.left(LongestCaption) + QStringLiteral("...");
-        QAction *action = menu->addAction(FormTexts::escapeMnemonic(caption));
-        action->setObjectName(QStringLiteral("mnuWin(%1)").arg(document->Tag()));
+        QAction *action = m_table.action(MenuLayout::documentKey(document->Tag()));
+        action->setText(FormTexts::escapeMnemonic(caption));
         action->setCheckable(true);
         action->setChecked(document == m_context.documents.active());
-        connect(action, &QAction::triggered, document, [this, document] { m_context.window.activate(document); });
+        menu->addAction(action);
     }
 }

@@ -111,8 +111,8 @@ int AppToolbars::whatsThisAt(const QPoint &point) const
         const QPoint place = bar->mapFrom(bar->window(), point);
         if (!bar->isVisible() || !bar->rect().contains(place))
             continue;
-        const QWidget *button = bar->childAt(place);
-        return button ? button->property("whatsThisId").toInt() : 0;
+        if (const QWidget *button = bar->childAt(place))
+            return button->property("whatsThisId").toInt();
     }
     return -1;
 }

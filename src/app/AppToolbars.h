@@ -28,8 +28,7 @@ public:
     int pictureOf(const QString &button) const;
     void setToolTip(const QString &button, const QString &text);
 
-    /// String id of what the button at a point of the main window (pixels) is for: 0 between the buttons, -1 outside
-    /// the toolbars.
+    /// String id of what the button at a point of the main window (pixels) is for: 0 for a separator, -1 elsewhere.
     int whatsThisAt(const QPoint &point) const;
 
     QToolBar *standard() const { return m_standard; }

@@ -21,7 +21,8 @@ void CommandTable::add(const Command &command)
     action->setObjectName(command.key);
     action->setShortcut(QKeySequence(command.shortcut));
     action->setMenuRole(QAction::NoRole);
-    action->setStatusTip(resText(command.helpId));
+    if (command.helpId)
+        action->setStatusTip(resText(command.helpId));
     if (command.picture)
         action->setIcon(picture(command.picture));
     connect(action, &QAction::triggered, this, [this, key = command.key] { onTriggered(key); });
@@ -48,6 +49,16 @@ bool CommandTable::eventFilter(QObject *watched, QEvent *event)
         QMetaObject::invokeMethod(
             this, [this] { m_inKeyPress = false; }, Qt::QueuedConnection);
     return QObject::eventFilter(watched, event);
+}
+
+void CommandTable::remove(const QString &key)
+{
+    const auto found = m_entries.find(key);
+    if (found == m_entries.end())
+        return;
+    std::erase(m_order, &found->second.command);
+    found->second.action->deleteLater();
+    m_entries.erase(found);
 }
 
 void CommandTable::run(const QString &key)

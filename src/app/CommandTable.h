@@ -33,7 +33,7 @@ struct Command
     QString key;               ///< the command's name, for example "mnuFileNew"
     int captionId;             ///< string id of the menu caption
     QString shortcut;          ///< for example "Ctrl+N", or empty
-    int helpId;                ///< string id of the text shown while the entry is highlighted
+    int helpId;                ///< string id of the text shown while the entry is highlighted, 0: none
     int picture;               ///< picture number, 0: none
     StateSet enabledIn;        ///< the states in which it can be given
     std::function<void()> run; ///< empty: the command cannot be given
@@ -49,6 +49,9 @@ public:
 
     /// Adds a command. A key can be added once only.
     void add(const Command &command);
+
+    /// Takes a command out again; nothing happens when there is none.
+    void remove(const QString &key);
 
     /// Runs the command with that key exactly as a click on its menu entry does: nothing happens when there is none or
     /// when it is disabled.

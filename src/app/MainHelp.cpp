@@ -36,7 +36,7 @@ void MainHelp::clsHH_HelpRequest(int x, int y, const HelpInfo &info)
     const int button = m_toolbars->whatsThisAt(point);
     if (info.kind == HelpInfo::MenuItem)
         m_topics.ShowTopicByID(info.contextId);
-    else if (button > 0 || info.whatsThis)
+    else if (button >= 0 || info.whatsThis)
         showWhatsThis(point);
     else
         m_topics.ShowTopicByString(topicOfView());

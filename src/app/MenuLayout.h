@@ -37,6 +37,12 @@ struct ContextEntry
     int helpId;
 };
 
+/// The command that makes the document in a slot of the document list the active one.
+inline QString documentKey(int slot)
+{
+    return QStringLiteral("mnuWin(%1)").arg(slot);
+}
+
 /// The seven menus in the order of the menu bar with their fixed entries. When File drops down, what needs a document
 /// is left out while there is none, and the recent files are added; Window gets the open documents.
 const std::vector<Menu> &menus();

@@ -1,14 +1,28 @@
 #include "app/AppCommands.h"
 #include "app/AppContext.h"
 #include "app/CommandTable.h"
+#include "app/MenuLayout.h"
 #include "app/frmApp.h"
+#include "document/DocumentList.h"
 #include "resources/Pictures.h"
 
 namespace {
 
 using enum AppState;
 
+constexpr int Untitled = 500;
 constexpr StateSet DocumentOrEditing(StateDocument, StateEditing);
+
+/// A command for each open document; the Window menu gives it the caption that the document has when it drops down.
+void addDocuments(CommandTable &table, const AppContext &context)
+{
+    QObject::connect(&context.documents, &DocumentList::created, &table, [&table, &context](frmDoc *document) {
+        table.add({MenuLayout::documentKey(document->Tag()), Untitled, "", 0, 0, DocumentOrEditing,
+                   [&context, document] { context.window.activate(document); }});
+    });
+    QObject::connect(&context.documents, &DocumentList::removed, &table,
+                     [&table](frmDoc *document) { table.remove(MenuLayout::documentKey(document->Tag())); });
+}
 
 } // namespace
 
@@ -22,4 +36,5 @@ void AppCommands::addWindowCommands(CommandTable &table, const AppContext &conte
                arrange(WindowArrangement::TileVertically)});
     table.add({"mnuWindow(3)", 453, "", 54, PictureArrangeIcons, DocumentOrEditing,
                arrange(WindowArrangement::ArrangeIcons)});
+    addDocuments(table, context);
 }

@@ -61,7 +61,9 @@ void WindowPosition::useWorkArea()
 
 void WindowPosition::makeRoomForFrame()
 {
-    if (m_window.size() == m_restoredSize && m_window.windowState() == Qt::WindowNoState)
+    if (m_window.windowState() != Qt::WindowNoState)
+        return; // not the restored size yet
+    if (m_window.size() == m_restoredSize)
         m_window.resize(m_restoredSize - (m_window.frameSize() - m_window.size()));
     m_restoredSize = {};
 }

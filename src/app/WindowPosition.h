@@ -15,8 +15,8 @@ public:
     /// Puts the window where the settings say; over the whole work area when they say nothing that can be used, and the
     /// settings then say so, too.
     void restore();
-    /// To be called when the window has been shown: how thick its frame is can be told only after the window manager
-    /// has put it round the window, and what the settings hold includes it.
+    /// To be called when the window has been shown, and when it was maximised until now: how thick its frame is can be
+    /// told only after the window manager has put it round the window, and what the settings hold includes it.
     void makeRoomForFrame();
     /// Stores the present place and state in the settings.
     void store();

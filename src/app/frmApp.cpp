@@ -80,6 +80,7 @@ frmApp::frmApp(const Needs &needs)
 {
     setWindowTitle(QApplication::applicationDisplayName());
     setAcceptDrops(true);
+    setContextMenuPolicy(Qt::NoContextMenu); // the toolkit would offer to hide the toolbars
     createParts(needs);
     loadRecentFiles();
     m_position = std::make_unique<WindowPosition>(*this, needs.settings);
@@ -342,6 +343,13 @@ void frmApp::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
     QTimer::singleShot(FrameDelay, this, [this] { m_position->makeRoomForFrame(); });
+}
+
+void frmApp::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && m_position)
+        QTimer::singleShot(FrameDelay, this, [this] { m_position->makeRoomForFrame(); });
 }
 
 void frmApp::reportRegistryErrors(const std::function<void()> &action)

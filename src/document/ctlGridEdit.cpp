@@ -6,6 +6,7 @@
 #include "widgets/grid/FlexGridKeys.h"
 
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
@@ -178,6 +179,12 @@ void ctlGridEdit::mouseReleaseEvent(QMouseEvent *event)
     QLineEdit::mouseReleaseEvent(event);
     if (event->button() == Qt::LeftButton)
         Q_EMIT clicked();
+}
+
+/// The program's own menu: its entries are the commands, which work on the box while it is open.
+void ctlGridEdit::contextMenuEvent(QContextMenuEvent *event)
+{
+    Q_EMIT menuRequested(event->globalPos());
 }
 
 void ctlGridEdit::focusOutEvent(QFocusEvent *event)

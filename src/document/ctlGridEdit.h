@@ -27,6 +27,8 @@ Q_SIGNALS:
     /// A character is about to be typed; 0 swallows it, another value replaces it.
     void characterTyped(int &character);
     void clicked();
+    /// A menu is asked for at a point of the screen.
+    void menuRequested(const QPoint &globalPosition);
 
 protected:
     bool event(QEvent *event) override;
@@ -34,6 +36,7 @@ protected:
     void keyReleaseEvent(QKeyEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;

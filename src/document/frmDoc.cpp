@@ -1,6 +1,7 @@
 #include "document/frmDoc.h"
 
 #include "document/ctlGrid.h"
+#include "document/ctlGridEdit.h"
 #include "document/rules/GridRules.h"
 #include "document/rules/QuizModeText.h"
 #include "platform/Twips.h"
@@ -69,6 +70,7 @@ void frmDoc::connectGrid()
     connect(m_grid, &ctlGrid::SelChange, this, &frmDoc::refreshCellReference);
     connect(m_grid, &ctlGrid::MouseMove, this, &frmDoc::onMouseMove);
     connect(m_grid, &ctlGrid::MouseUp, this, [this](int button, int, float x, float y) { onMouseUp(button, x, y); });
+    connect(m_grid->hwndText(), &ctlGridEdit::menuRequested, this, &frmDoc::menuRequested);
     connect(m_grid, &ctlGrid::Scroll, m_grid, &ctlGrid::RefreshTextPos);
 }
 

@@ -89,7 +89,7 @@ public:
 Q_SIGNALS:
     /// A cell began or ceased to be edited.
     void editingChanged(bool editing);
-    /// The right mouse button asks for the grid's menu at a point of the screen.
+    /// The grid's menu is asked for at a point of the screen, in the grid or in its edit box.
     void menuRequested(const QPoint &globalPosition);
     /// A key asks for what the Clear command does.
     void clearRequested();

@@ -157,6 +157,11 @@ TEST_F(HelpTest, WhatsThisExplainsToolbarButtonsAndNoSeparators)
             EXPECT_EQ(texts, action->isSeparator() ? std::vector<int>{} : std::vector{expected}) << expected;
             expected += !action->isSeparator();
             EXPECT_FALSE(QWhatsThis::inWhatsThisMode());
+            help.calls.clear();
+            QCursor::setPos(bar->widgetForAction(action)->mapToGlobal(QPoint(2, 9)));
+            QTest::keyClick(window.get(), Qt::Key_F1);
+            EXPECT_TRUE(help.calls.empty());
+            QCursor::setPos(QPoint());
         }
     }
     EXPECT_EQ(documents().open().size(), 1u) << "a button was pressed";

@@ -2,6 +2,7 @@
 
 #include "app/MenuLayout.h"
 #include "document/ctlGrid.h"
+#include "document/ctlGridEdit.h"
 #include "resources/StringTable.h"
 #include "tools/frmFindReplace.h"
 
@@ -185,8 +186,73 @@ TEST_F(MenusAndToolbarsTest, TheWindowMenuListsAndActivatesDocuments)
     const QList<QAction *> actions = menu("mnuWindow")->actions();
     EXPECT_FALSE(actions[5]->isChecked());
     EXPECT_TRUE(actions[6]->isChecked());
-    actions[5]->trigger();
+    for (frmDoc *each : {first, documents().open().back()}) {
+        window->DoMenuClick(QStringLiteral("mnuWin(%1)").arg(each->Tag()));
+        EXPECT_EQ(documents().active(), each);
+    }
+    window->DoMenuClick("mnuFileClose");
+    window->DoMenuClick("mnuWin(1)");
     EXPECT_EQ(documents().active(), first);
+    EXPECT_FALSE(window->commands().find("mnuWin(1)"));
+}
+
+TEST_F(MenusAndToolbarsTest, ARightClickShowsTheProgramsOwnMenusOnly)
+{
+    ctlGrid *grid = newDocument()->Rutor();
+    const auto rightClick = [](QWidget *widget) {
+        const QPoint place = widget->rect().center();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, widget->mapToGlobal(place));
+        QApplication::sendEvent(widget, &event);
+        const QWidget *menu = QApplication::activePopupWidget();
+        return menu ? menu->objectName() : QString("nothing");
+    };
+    EXPECT_EQ(rightClick(window->menuBar()), "nothing");
+    EXPECT_EQ(rightClick(window->findChild<QToolBar *>("STANDARD")->findChild<QToolButton *>()), "nothing");
+    grid->setText("word");
+    grid->setEditMode(true);
+    grid->SelectEditText(1, 2);
+    EXPECT_EQ(rightClick(grid->hwndText()), "oPopUpGrid");
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_U);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(grid->EditText(), "wd");
+}
+
+TEST_F(MenusAndToolbarsTest, TheSearchGoesAlongWithTheActiveDocument)
+{
+    std::vector<frmDoc *> opened;
+    for (const char *word : {"a cat", "the cat"}) {
+        opened.push_back(newDocument());
+        opened.back()->Rutor()->setTextMatrix(1, 2, word);
+    }
+    opened[0]->Rutor()->setTextMatrix(0, 2, "English");
+    const auto click = [this](const char *name) {
+        auto *search = window->findChild<QDialog *>("frmFindReplace");
+        QTest::mouseClick(search->findChild<QAbstractButton *>(name), Qt::LeftButton);
+    };
+    window->DoMenuClick("mnuEditReplace");
+    QPointer<QDialog> search = window->findChild<QDialog *>("frmFindReplace");
+    search->findChild<QLineEdit *>("txtFind")->setText("cat");
+    click("btnFind");
+    EXPECT_EQ(opened[1]->Rutor()->SelText(), "cat");
+    window->activate(opened[0]);
+    EXPECT_FALSE(opened[1]->Rutor()->EditMode());
+    EXPECT_EQ(search->findChild<QAbstractButton *>("optScope2")->text(), "&2 English");
+    click("btnFind");
+    EXPECT_EQ(opened[0]->Rutor()->SelText(), "cat");
+    click("btnReplaceAll");
+    EXPECT_EQ(opened[0]->Rutor()->TextMatrix(1, 2), "a ");
+    EXPECT_EQ(opened[1]->Rutor()->TextMatrix(1, 2), "the cat");
+    click("btnCancel");
+    window->DoMenuClick("mnuEditUndo");
+    EXPECT_EQ(opened[0]->Rutor()->TextMatrix(1, 2), "a cat");
+
+    window->DoMenuClick("mnuEditFind");
+    for (const bool left : {true, false}) {
+        alert.answers = {AlertBox::AnswerNo};
+        window->DoMenuClick("mnuFileClose");
+        QCoreApplication::processEvents();
+        EXPECT_EQ(flags.searching(), left) << "while a document is open";
+    }
 }
 
 // Captions run on from 400 with a number for each title, entry and separator; help texts follow them 399 below.
