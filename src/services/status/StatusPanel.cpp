@@ -28,7 +28,7 @@ void StatusPanel::setText(const QString &text)
 
 int StatusPanel::wholeWidth() const
 {
-    return fontMetrics().horizontalAdvance(m_text) + 2 * TextMargin;
+    return fontMetrics().horizontalAdvance(m_text) + 2 * TextMargin + 1; // letters end between pixels
 }
 
 void StatusPanel::fit()
