@@ -15,6 +15,9 @@ namespace {
 
 constexpr int RetryInterval = 5;     // ms
 constexpr int ClosingLockWait = 100; // ms
+// However many call, handles are left for the user's own work.
+constexpr size_t MostCallers = 32;
+constexpr size_t MostMessages = 64;
 
 bool isRefusal(QLocalSocket::LocalSocketError error)
 {
@@ -48,18 +51,19 @@ SingleInstance::~SingleInstance()
 
 void SingleInstance::serve()
 {
-    connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::acceptConnections);
+    connect(&m_listener, &LocalListener::called, this, &SingleInstance::acceptConnections);
+    m_listener.setEnabled(true);
     acceptConnections();
 }
 
 QStringList SingleInstance::leave()
 {
-    if (!m_server.isListening())
+    if (!m_listener.isListening())
         return {};
-    m_server.disconnect(this);
-    while (m_server.waitForNewConnection(0))
-        acceptConnections();
-    const QList<QLocalSocket *> senders = m_server.findChildren<QLocalSocket *>();
+    m_listener.disconnect(this);
+    while (QLocalSocket *socket = m_listener.next())
+        take(socket);
+    const QList<QLocalSocket *> senders = m_listener.findChildren<QLocalSocket *>();
     for (QLocalSocket *sender : senders) {
         while (sender->waitForReadyRead(0)) { // what it sent, and that it has hung up
         }
@@ -71,7 +75,7 @@ QStringList SingleInstance::leave()
     }
     // Closing removes the socket, which must not by then be that of a copy which found nobody here.
     const FolderLock lock(QFileInfo(m_socketPath).path(), ClosingLockWait);
-    m_server.close();
+    m_listener.close();
     for (QLocalSocket *sender : senders)
         sender->abort();
     return givenUp;
@@ -123,25 +127,44 @@ bool SingleInstance::becomeFirst(bool atAnyRate)
     if (probe.waitForConnected(m_limits.answer) || isBusy(probe))
         return false;
     if (isRefusal(probe.error()))
-        QLocalServer::removeServer(m_socketPath);
-    if (!m_server.listen(m_socketPath))
-        return atAnyRate;
-    QFile::setPermissions(m_socketPath, QFile::ReadOwner | QFile::WriteOwner);
-    return true;
+        QFile::remove(m_socketPath);
+    return m_listener.listen(m_socketPath) || atAnyRate;
 }
 
 void SingleInstance::acceptConnections()
 {
-    while (QLocalSocket *socket = m_server.nextPendingConnection()) {
-        socket->setReadBufferSize(HandOff::LargestMessage + 1);
-        connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
-        auto *stall = new QTimer(socket);
-        stall->setSingleShot(true);
-        connect(stall, &QTimer::timeout, socket, &QLocalSocket::abort);
-        stall->start(m_limits.stall);
-        connect(socket, &QLocalSocket::readyRead, this, [this, socket, stall] { readMessage(socket, stall); });
-        readMessage(socket, stall);
+    while (m_messages.size() < MostMessages) {
+        QLocalSocket *const socket = m_listener.next();
+        if (!socket)
+            return;
+        take(socket);
     }
+    m_listener.setEnabled(false); // until a message has been handled
+}
+
+void SingleInstance::take(QLocalSocket *socket)
+{
+    socket->setReadBufferSize(HandOff::LargestMessage + 1);
+    auto *stall = new QTimer(socket);
+    stall->setSingleShot(true);
+    connect(stall, &QTimer::timeout, socket, &QLocalSocket::abort);
+    stall->start(m_limits.stall);
+    socket->waitForReadyRead(0); // of a crowd, who has sent its message counts, also if it has hung up since
+    connect(socket, &QLocalSocket::readyRead, this, [this, socket, stall] { readMessage(socket, stall); });
+    m_callers.emplace_back(socket);
+    readMessage(socket, stall);
+    forgetOldest();
+}
+
+/// A copy of the program sends its message at once; who has called and says nothing makes room.
+void SingleInstance::forgetOldest()
+{
+    std::erase(m_callers, nullptr);
+    if (m_callers.size() <= MostCallers)
+        return;
+    QLocalSocket *const oldest = m_callers.front();
+    m_callers.erase(m_callers.begin());
+    oldest->abort();
 }
 
 void SingleInstance::readMessage(QLocalSocket *socket, QTimer *stall)
@@ -150,6 +173,7 @@ void SingleInstance::readMessage(QLocalSocket *socket, QTimer *stall)
     if (parsed.state == HandOff::State::Incomplete)
         return;
     socket->disconnect(this);
+    std::erase(m_callers, socket);
     if (parsed.state == HandOff::State::Malformed) {
         socket->abort();
         return;
@@ -166,6 +190,7 @@ void SingleInstance::handleNext()
         return;
     const Message message = m_messages.front();
     m_messages.erase(m_messages.begin());
+    m_listener.setEnabled(true);
     Q_EMIT activated();
     if (!message.text.isEmpty())
         Q_EMIT received(message.text);

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QLocalServer>
+#include "platform/LocalListener.h"
+
 #include <QLocalSocket>
 #include <QPointer>
 
@@ -61,11 +62,14 @@ private:
     Answer ActivatePreviousInstance(const QString &commandLine, const QDeadlineTimer &deadline) const;
     bool becomeFirst(bool atAnyRate);
     void acceptConnections();
+    void take(QLocalSocket *socket);
     void readMessage(QLocalSocket *socket, QTimer *stall);
+    void forgetOldest();
     void handleNext();
 
     QString m_socketPath;
     SingleInstanceLimits m_limits;
-    QLocalServer m_server;
-    std::vector<Message> m_messages; ///< whole and not yet handled
+    LocalListener m_listener;
+    std::vector<QPointer<QLocalSocket>> m_callers; ///< whose message is not whole yet, the oldest first
+    std::vector<Message> m_messages;               ///< whole and not yet handled
 };

@@ -9,6 +9,7 @@
 #include <QProcess>
 
 #include <csignal>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 constexpr int Patience = 20000; // ms, only spent when something is wrong
@@ -139,6 +140,11 @@ TEST_F(SingleInstanceTest, BadMessagesAreDroppedAndBlockNobody)
         EXPECT_TRUE(socket->state() == QLocalSocket::UnconnectedState || socket->waitForDisconnected(Patience));
         EXPECT_EQ(socket->bytesAvailable(), 0);
     }
+    const rlimit fewHandles{40, 40};
+    ASSERT_EQ(::prlimit(pid_t(first->processId()), RLIMIT_NOFILE, &fewHandles, nullptr), 0);
+    std::vector<Socket> crowd; // that stays
+    for (int i = 0; i < 200; ++i)
+        crowd.push_back(connectWith(QByteArray()));
     expectSecond("/c.gla");
     expectReceived(first, "/c.gla");
     kill(first);
