@@ -14,6 +14,7 @@
 #include "services/status/modSBFunc.h"
 
 #include <QGuiApplication>
+#include <QLocale>
 
 namespace {
 
@@ -265,7 +266,10 @@ void FileCommands::load(const QString &path)
         if (refuseOpenOne(path)) // handed over once more while the message was on the screen
             return;
     }
-    if (header.outcome != Outcome::Ok || !readInto(file, path))
+    const Outcome outcome = header.outcome == Outcome::Ok ? readInto(file, path) : header.outcome;
+    if (outcome == Outcome::TooManyRows)
+        alertFile(resText(712) + path + resText(14075).arg(QLocale().toString(Vocabulary::MostRows)), 0);
+    else if (outcome != Outcome::Ok)
         alertFile(resText(712) + path, 0);
 }
 
@@ -277,15 +281,14 @@ bool FileCommands::refuseOpenOne(const QString &path)
     return isOpen;
 }
 
-bool FileCommands::readInto(const VocabularyFile &file, const QString &path)
+Outcome FileCommands::readInto(const VocabularyFile &file, const QString &path)
 {
     const BusyStatus busy(m_needs.status, 715, path, file.size() * 2);
     VocabularyCodec::DecodeResult result =
         file.read(m_codePage, [this](qint64 done) { m_needs.status.setProgress(done); });
-    if (result.outcome != Outcome::Ok)
-        return false;
-    openVocabulary(path, std::move(result.vocabulary), file.stamp());
-    return true;
+    if (result.outcome == Outcome::Ok)
+        openVocabulary(path, std::move(result.vocabulary), file.stamp());
+    return result.outcome;
 }
 
 void FileCommands::openVocabulary(const QString &path, Vocabulary &&vocabulary, const FileStamp &stamp)

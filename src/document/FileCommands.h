@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/rules/CodePage.h"
+#include "document/rules/VocabularyCodec.h"
 
 #include <QObject>
 
@@ -12,7 +12,6 @@ class clsMRUFileList;
 class frmDoc;
 class modSBFunc;
 struct FileStamp;
-struct Vocabulary;
 
 /// The commands that act on documents as files: New, Open, Save, Save As, Close, with the reading and writing of
 /// vocabularies, their messages and the question before changes are lost.
@@ -94,8 +93,8 @@ private:
     void load(const QString &path);
     /// Tells the user when the file is open already; true then.
     bool refuseOpenOne(const QString &path);
-    /// Reads the rows of a file and opens them; false when they cannot be read.
-    bool readInto(const VocabularyFile &file, const QString &path);
+    /// Reads the rows of a file and opens them, if they can be read.
+    VocabularyCodec::Outcome readInto(const VocabularyFile &file, const QString &path);
     void openVocabulary(const QString &path, Vocabulary &&vocabulary, const FileStamp &stamp);
     void alertFile(const QString &prompt, int helpId);
     void warn(const QString &prompt, int helpId = 0);

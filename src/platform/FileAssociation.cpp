@@ -2,6 +2,7 @@
 
 #include "platform/AtomicFile.h"
 #include "platform/DetachedProcess.h"
+#include "platform/RegularFile.h"
 #include "platform/UserFolders.h"
 
 #include <QDir>
@@ -47,8 +48,8 @@ QString quotedArgument(const QString &argument)
 /// True when the file has this content now; changed tells whether it had another before.
 bool ensureContent(const QString &path, const QByteArray &content, bool &changed)
 {
-    QFile file(path);
-    if (file.open(QIODevice::ReadOnly) && file.readAll() == content)
+    QFile file;
+    if (RegularFile::open(file, path) && file.readAll() == content)
         return true;
     file.close();
     changed = true;
@@ -73,8 +74,8 @@ bool FileAssociation::isInstalled()
 
 bool FileAssociation::isBroken()
 {
-    QFile file(userFile(DesktopEntry));
-    if (!file.open(QIODevice::ReadOnly))
+    QFile file;
+    if (!RegularFile::open(file, userFile(DesktopEntry)))
         return false;
     const QByteArrayList lines = file.readAll().split('\n');
     return std::any_of(lines.begin(), lines.end(), [](const QByteArray &line) {

@@ -3,6 +3,7 @@
 #include "platform/AtomicFile.h"
 #include "platform/FolderLock.h"
 #include "platform/RegistryText.h"
+#include "platform/RegularFile.h"
 #include "platform/UserFolders.h"
 
 #include <QDir>
@@ -33,10 +34,10 @@ QString RegistryFile::defaultPath()
 
 RegistryFile::State RegistryFile::load(RegistryTree &tree) const
 {
-    QFile file(m_path);
-    if (!file.exists())
+    if (!QFileInfo::exists(m_path))
         return State::Whole;
-    if (!file.open(QIODevice::ReadOnly))
+    QFile file;
+    if (!RegularFile::open(file, m_path))
         return State::Unreadable;
     if (file.size() > LargestFile)
         return State::Damaged;

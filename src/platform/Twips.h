@@ -6,6 +6,9 @@ namespace Twips {
 
 constexpr int PerInch = 1440;
 
+/// The largest size that a row or a column can have, in twips.
+constexpr int LargestSize = 15000000;
+
 /// Twips in one horizontal or vertical screen pixel, greater than 0 (15 at 96 dots per inch).
 double perPixelX();
 double perPixelY();

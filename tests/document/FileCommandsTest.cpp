@@ -67,6 +67,8 @@ TEST_F(FileCommandsTest, EveryFailureHasItsMessageAndLeavesNoWindow)
         {"odd.gla", Words + "half\r\n", cannotOpen("odd.gla"), 0, 0},
         {"letter.gla", "Glosaria\r\nx\r\n", cannotOpen("letter.gla"), 0, 0},
         {"size.gla", QByteArray(Words).replace("12.5", "1e9"), cannotOpen("size.gla"), 0, 0},
+        {"rows.gla", Words + QByteArray(10000000, '\r'),
+         cannotOpen("rows.gla") + "\n\nIt has more than 5,000,000 rows.", 0, 0},
         {"x.gla", {}, cannotOpen("x.gla"), 0, 0},
         {"missing.gla", {}, cannotOpen("missing.gla"), 0, 0},
     };

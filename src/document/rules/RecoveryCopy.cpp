@@ -3,6 +3,8 @@
 #include <QDataStream>
 #include <QIODevice>
 
+#include <new>
+
 namespace {
 
 constexpr quint32 Signature = 0x474C5231;
@@ -44,6 +46,8 @@ void read(QDataStream &stream, Vocabulary &vocabulary)
     }
     quint32 rows = 0;
     stream >> rows;
+    if (rows > Vocabulary::MostRows)
+        stream.setStatus(QDataStream::ReadCorruptData);
     for (quint32 row = 0; row < rows && stream.status() == QDataStream::Ok; ++row) {
         QString first, second;
         qint32 height = 0;
@@ -58,14 +62,22 @@ bool isUsable(const Vocabulary &vocabulary)
     return size >= VocabularyFont::SmallestSize && size <= VocabularyFont::LargestSize && !vocabulary.first.empty();
 }
 
-} // namespace
-
-bool RecoveryCopy::canBegin(const QByteArray &bytes)
+/// What follows the signature.
+std::optional<RecoveryCopy> readRest(QDataStream &stream)
 {
-    quint32 signature = 0;
-    QDataStream(bytes) >> signature;
-    return signature == Signature;
+    RecoveryCopy copy;
+    quint32 end = 0;
+    stream >> copy.caption >> copy.docName >> copy.fileStamp.size >> copy.fileStamp.changed >> copy.time;
+    read(stream, copy.vocabulary);
+    stream >> end;
+    const quint32 cause = end - EndMark;
+    if (stream.status() != QDataStream::Ok || cause > LastCause || !stream.atEnd() || !isUsable(copy.vocabulary))
+        return {};
+    copy.cause = RecoveryCopy::Cause(cause);
+    return copy;
 }
+
+} // namespace
 
 bool RecoveryCopy::isFileChanged() const
 {
@@ -84,22 +96,17 @@ QByteArray RecoveryCopy::toBytes() const
     return bytes;
 }
 
-std::optional<RecoveryCopy> RecoveryCopy::fromBytes(const QByteArray &bytes)
+std::optional<RecoveryCopy> RecoveryCopy::read(QIODevice &device)
 {
-    QDataStream stream(bytes);
+    QDataStream stream(&device);
     stream.setVersion(QDataStream::Qt_6_0);
-    RecoveryCopy copy;
     quint32 signature = 0;
-    quint32 end = 0;
     stream >> signature;
-    if (signature != Signature)
+    if (signature != Signature || device.size() > LargestSize)
         return {};
-    stream >> copy.caption >> copy.docName >> copy.fileStamp.size >> copy.fileStamp.changed >> copy.time;
-    read(stream, copy.vocabulary);
-    stream >> end;
-    const quint32 cause = end - EndMark;
-    if (stream.status() != QDataStream::Ok || cause > LastCause || !stream.atEnd() || !isUsable(copy.vocabulary))
-        return {};
-    copy.cause = Cause(cause);
-    return copy;
+    try {
+        return readRest(stream);
+    } catch (const std::bad_alloc &) {
+        return {}; // what memory cannot hold was not written by a program that had it in memory
+    }
 }

@@ -5,6 +5,8 @@
 
 #include <QByteArray>
 
+class QIODevice;
+
 /// A changed document as it is kept against a crash: everything that its window held, with every row, and what it was
 /// called.
 struct RecoveryCopy
@@ -23,14 +25,12 @@ struct RecoveryCopy
     Vocabulary vocabulary;
     Cause cause = Cause::Ended;
 
-    static constexpr qint64 SignatureSize = 4;
-    /// Whether bytes can be those of a copy, judged by the first SignatureSize of them.
-    static bool canBegin(const QByteArray &bytes);
-
     /// Whether the document's file is not the one that the document was read from or saved to any more.
     bool isFileChanged() const;
 
     QByteArray toBytes() const;
-    /// No value for bytes that are no whole copy.
-    static std::optional<RecoveryCopy> fromBytes(const QByteArray &bytes);
+    /// No value when what the device holds is no whole copy, or more than a copy can be.
+    static std::optional<RecoveryCopy> read(QIODevice &device);
+
+    static constexpr qint64 LargestSize = qint64(4) << 30; ///< bytes
 };

@@ -2,6 +2,7 @@
 
 #include "platform/AtomicFile.h"
 #include "platform/FolderLock.h"
+#include "platform/RegularFile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -17,10 +18,8 @@ constexpr QFile::Permissions OwnerOnly = QFile::ReadOwner | QFile::WriteOwner | 
 
 std::optional<RecoveryCopy> readCopy(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || !RecoveryCopy::canBegin(file.peek(RecoveryCopy::SignatureSize)))
-        return {};
-    return RecoveryCopy::fromBytes(file.readAll());
+    QFile file;
+    return RegularFile::open(file, path) ? RecoveryCopy::read(file) : std::nullopt;
 }
 
 bool isHeld(const QString &place)

@@ -26,16 +26,18 @@ struct VocabularyFont
 struct Vocabulary
 {
     static constexpr int DefaultRowHeight = 285;
+    /// How many rows can be opened.
+    static constexpr int MostRows = 5000000;
 
     /// Missing after reading a file of an older version, which holds only the rows: the document keeps its own.
     std::optional<VocabularyFont> font;
-    /// Twips, 0 or more: the row numbers, language 1, language 2. Missing like the font.
+    /// Twips, 0 to Twips::LargestSize: the row numbers, language 1, language 2. Missing like the font.
     std::optional<std::array<int, 3>> columnWidths;
 
     /// One entry a row in each of the three; no text holds a line break.
     std::vector<QString> first;
     std::vector<QString> second;
-    std::vector<int> heights; ///< twips, 0 or more
+    std::vector<int> heights; ///< twips, 0 to Twips::LargestSize
 
     qsizetype rows() const { return qsizetype(first.size()); }
     void append(QString firstWord, QString secondWord, int height = DefaultRowHeight)

@@ -13,7 +13,8 @@ enum class Outcome {
     Ok,
     BadFormat,    ///< the first line is not the signature
     NewerVersion, ///< saved by a program with a newer format
-    Failed        ///< ends too early, or holds a value that is none
+    TooManyRows,  ///< more than Vocabulary::MostRows
+    Failed        ///< ends too early, or holds a value that is none or cannot be shown
 };
 
 /// Told now and then how far the work has come, never more than some hundred times in a run.

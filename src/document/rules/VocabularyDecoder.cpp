@@ -2,9 +2,8 @@
 #include "document/rules/ProgressTicks.h"
 #include "document/rules/Utf8Text.h"
 #include "document/rules/VocabularyCodec.h"
+#include "platform/Twips.h"
 #include "services/rules/CellText.h"
-
-#include <limits>
 
 namespace {
 
@@ -49,22 +48,13 @@ private:
     const bool m_mended; ///< UTF-8 in all lines but some
 };
 
-struct LineFeeds
+bool hasLineFeedWithinLine(QByteArrayView bytes)
 {
-    qsizetype endingLines = 0;
-    bool anyWithinLine = false;
-};
-
-LineFeeds lineFeedsIn(QByteArrayView bytes)
-{
-    LineFeeds feeds;
     for (qsizetype at = bytes.indexOf('\n'); at >= 0; at = bytes.indexOf('\n', at + 1)) {
-        if (at > 0 && bytes[at - 1] == '\r')
-            ++feeds.endingLines;
-        else
-            feeds.anyWithinLine = true;
+        if (at == 0 || bytes[at - 1] != '\r')
+            return true;
     }
-    return feeds;
+    return false;
 }
 
 enum class DeclaredEncoding { None, Utf8, Unknown };
@@ -96,7 +86,7 @@ std::optional<int> rowHeight(QByteArrayView digits)
             return std::nullopt;
         height = height * 10 + (digit - '0');
     }
-    return height <= std::numeric_limits<int>::max() ? std::optional<int>(int(height)) : std::nullopt;
+    return height <= Twips::LargestSize ? std::optional<int>(int(height)) : std::nullopt;
 }
 
 class Decoder
@@ -107,18 +97,24 @@ public:
         , m_olderVersion(olderVersion)
         , m_declared(declaredEncoding(m_lines, olderVersion))
         , m_letters(bytes, m_declared == DeclaredEncoding::Utf8, codePage)
-        , m_feeds(lineFeedsIn(bytes))
+        , m_lineFeeds(hasLineFeedWithinLine(bytes))
         , m_ticks(progress, bytes.size())
     {
     }
 
-    bool run(Vocabulary &vocabulary)
+    Outcome run(Vocabulary &vocabulary)
     {
         if (m_declared == DeclaredEncoding::Unknown)
-            return false;
+            return Outcome::Failed;
         m_lines.next();
         m_lines.next();
-        return (m_olderVersion || readSections(vocabulary)) && readRows(vocabulary);
+        if (!m_olderVersion && !readSections(vocabulary))
+            return Outcome::Failed;
+        const QByteArrayView rest = m_lines.rest();
+        const qsizetype rows = std::count(rest.begin(), rest.end(), '\r') / 2 + 1;
+        if (rows > Vocabulary::MostRows)
+            return Outcome::TooManyRows;
+        return readRows(vocabulary, size_t(rows)) ? Outcome::Ok : Outcome::Failed;
     }
 
 private:
@@ -153,8 +149,9 @@ private:
 
     bool readWidths(std::array<int, 3> &widths)
     {
-        return std::all_of(widths.begin(), widths.end(),
-                           [this](int &width) { return readInteger(width) && width >= 0; });
+        return std::all_of(widths.begin(), widths.end(), [this](int &width) {
+            return readInteger(width) && width >= 0 && width <= Twips::LargestSize;
+        });
     }
 
     bool nextValue(QByteArrayView &value)
@@ -203,9 +200,8 @@ private:
         return isNumber;
     }
 
-    bool readRows(Vocabulary &vocabulary)
+    bool readRows(Vocabulary &vocabulary, size_t expected)
     {
-        const auto expected = size_t(m_feeds.endingLines / 2 + 1);
         vocabulary.first.reserve(expected);
         vocabulary.second.reserve(expected);
         vocabulary.heights.reserve(expected);
@@ -268,7 +264,7 @@ private:
     QString read(QByteArrayView line) const
     {
         QString text = m_letters.read(line);
-        if (m_feeds.anyWithinLine)
+        if (m_lineFeeds)
             text.replace(u'\n', u' ');
         return text;
     }
@@ -277,7 +273,7 @@ private:
     const bool m_olderVersion;
     const DeclaredEncoding m_declared;
     const LetterReader m_letters;
-    const LineFeeds m_feeds;
+    const bool m_lineFeeds; ///< within lines
     ProgressTicks m_ticks;
     int m_height = 0;
     qint64 m_done = 0;
@@ -302,11 +298,10 @@ DecodeResult decode(QByteArrayView bytes, const CodePage &codePage, const Progre
 {
     const Header header = readHeader(bytes);
     DecodeResult result{header.outcome, header.olderVersion, {}};
-    if (header.outcome == Outcome::Ok &&
-        !Decoder(bytes, header.olderVersion, codePage, progress).run(result.vocabulary)) {
-        result.outcome = Outcome::Failed;
+    if (header.outcome == Outcome::Ok)
+        result.outcome = Decoder(bytes, header.olderVersion, codePage, progress).run(result.vocabulary);
+    if (result.outcome != Outcome::Ok)
         result.vocabulary = Vocabulary();
-    }
     return result;
 }
 

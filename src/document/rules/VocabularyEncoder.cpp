@@ -1,6 +1,7 @@
 #include "document/rules/ProgressTicks.h"
 #include "document/rules/Utf8Text.h"
 #include "document/rules/VocabularyCodec.h"
+#include "platform/Twips.h"
 #include "services/rules/CellText.h"
 
 #include <cstring>
@@ -129,7 +130,7 @@ private:
         output.putLine("");
         output.putLine("[Grid Info]");
         for (const int width : m_vocabulary.columnWidths.value_or(std::array<int, 3>{340, 4000, 4000}))
-            output.putLine(QByteArray::number(std::max(0, width)));
+            output.putLine(QByteArray::number(std::clamp(width, 0, Twips::LargestSize)));
         output.putLine(QByteArray::number(std::max(m_rows - 1, qsizetype(0))));
         output.putLine("");
         if (declareUtf8) {
@@ -156,7 +157,7 @@ private:
     void putRow(Output &output, size_t row) const
     {
         output.putText(m_vocabulary.first[row]);
-        output.putMarker(m_vocabulary.heights[row]);
+        output.putMarker(std::clamp(m_vocabulary.heights[row], 0, Twips::LargestSize));
         output.put(LineEnd);
         output.putText(m_vocabulary.second[row]);
         output.put(LineEnd);

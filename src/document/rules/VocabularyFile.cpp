@@ -1,17 +1,14 @@
 #include "document/rules/VocabularyFile.h"
 
 #include "platform/AtomicFile.h"
-
-#include <QFile>
-#include <QFileInfo>
+#include "platform/RegularFile.h"
 
 using VocabularyCodec::Outcome;
 
 VocabularyCodec::Header VocabularyFile::readHeader()
 {
-    // Opening a pipe would wait for its other end.
-    QFile file(m_path);
-    if (!QFileInfo(m_path).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > LargestSize)
+    QFile file;
+    if (!RegularFile::open(file, m_path) || file.size() > LargestSize)
         return {Outcome::Failed};
     m_stamp = FileStamp::of(m_path);
     const VocabularyCodec::Header header = VocabularyCodec::readHeader(file.peek(VocabularyCodec::HeaderBytes));

@@ -123,7 +123,7 @@ void FlexGridCells::setWords(std::vector<QString> &&first, std::vector<QString> 
             text = CellText::cleaned(text);
     }
     for (int &height : heights)
-        height = height < 0 ? m_defaultRowHeight : std::min(height, LargestSize);
+        height = height < 0 ? m_defaultRowHeight : std::min(height, Twips::LargestSize);
     m_columns[1].texts = std::move(first);
     m_columns[2].texts = std::move(second);
     m_heights = std::move(heights);
@@ -142,23 +142,23 @@ void FlexGridCells::setRowHeight(int row, int twips)
     if (size_t(row) >= m_heights.size())
         m_heights.resize(size_t(row) + 1, m_defaultRowHeight);
     ++m_revision;
-    m_heights[size_t(row)] = twips < 0 ? m_defaultRowHeight : std::min(twips, LargestSize);
+    m_heights[size_t(row)] = twips < 0 ? m_defaultRowHeight : std::min(twips, Twips::LargestSize);
 }
 
 void FlexGridCells::setDefaultRowHeight(int twips)
 {
-    m_defaultRowHeight = std::clamp(twips, 0, LargestSize);
+    m_defaultRowHeight = std::clamp(twips, 0, Twips::LargestSize);
 }
 
 void FlexGridCells::setEveryRowHeight(int twips)
 {
     ++m_revision;
-    m_heights.assign(size_t(m_rows), twips < 0 ? m_defaultRowHeight : std::min(twips, LargestSize));
+    m_heights.assign(size_t(m_rows), twips < 0 ? m_defaultRowHeight : std::min(twips, Twips::LargestSize));
 }
 
 void FlexGridCells::setRowHeightMin(int twips)
 {
-    m_rowHeightMin = std::clamp(twips, 0, LargestSize);
+    m_rowHeightMin = std::clamp(twips, 0, Twips::LargestSize);
 }
 
 void FlexGridCells::setColWidth(int col, int twips)
@@ -166,7 +166,7 @@ void FlexGridCells::setColWidth(int col, int twips)
     if (col < 0 || col >= cols())
         return;
     ++m_revision;
-    column(col).width = twips < 0 ? DefaultColWidth : std::min(twips, LargestSize);
+    column(col).width = twips < 0 ? DefaultColWidth : std::min(twips, Twips::LargestSize);
 }
 
 void FlexGridCells::insertRows(int at, int count)

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "widgets/grid/FlexGridFormats.h"
-
 #include <QString>
 
 #include <vector>
@@ -15,8 +14,6 @@ public:
     static constexpr int DefaultRowHeight = 285;
     static constexpr int DefaultColWidth = 960;
     static constexpr int GeneralAlignment = 9;
-    /// The largest size of a row or a column, in twips.
-    static constexpr int LargestSize = 15000000;
 
     struct Column
     {

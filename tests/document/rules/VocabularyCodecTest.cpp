@@ -60,10 +60,11 @@ TEST(VocabularyCodec, FileIsExactToTheByte)
 
     Vocabulary other = twoPairs();
     other.font = VocabularyFont{"Liberation Sans", 9.75, true, true, int(0x80000008)};
-    other.heights = {1, 2147483647, 285};
+    other.heights = {1, 15000000, 285};
+    other.columnWidths = {0, 1, 15000000};
     const QByteArray bytes = encode(other, CodePage());
     EXPECT_TRUE(bytes.contains("\"Liberation Sans\"\r\n9.75\r\n#TRUE#\r\n#TRUE#\r\n-2147483640\r\n"));
-    EXPECT_TRUE(bytes.contains("house   [2147483647]\r\n"));
+    EXPECT_TRUE(bytes.contains("house   [0015000000]\r\n"));
     EXPECT_TRUE(decodeWestern(bytes).vocabulary == other);
 }
 
@@ -110,20 +111,21 @@ TEST(VocabularyCodec, WrongFilesAreRefused)
         {Whole + "lonely", Outcome::Failed},
         {Whole + "\r\n", Outcome::Failed},
         {Sections + "[Encoding]\r\nUTF-7\r\n\r\n[Vocabulary]\r\n" + Rows, Outcome::Failed},
+        {Start + QByteArray(10000000, '\r'), Outcome::TooManyRows},
     };
     // what stands in a proper file, and what instead of it in one that cannot be read
     for (const QByteArray change :
          {"3.1.0 -> ", "3.1.0 -> x3", "[Font Info] -> [Font info]", "[Vocabulary] -> [Vocabulary] ",
           "\r\n10\r\n -> \r\nten\r\n", "\r\n10\r\n -> \r\n0\r\n", "\r\n10\r\n -> \r\n2048.5\r\n",
           "\r\n10\r\n -> \r\nnan\r\n", "#FALSE#\r\n#FALSE# -> #FALSE#\r\nFALSE", "#\r\n0\r\n -> #\r\n2147483648\r\n",
-          "340 -> -1", "340 -> 9999999999", "house   [0000000285] -> house   [2147483648]",
+          "340 -> -1", "340 -> 15000001", "house   [0000000285] -> house   [0015000001]",
           "house   [0000000285] -> house   [00000x0285]", "house   [0000000285] -> house   [285]"}) {
         const qsizetype arrow = change.indexOf(" -> ");
         cases.emplace_back(changed(change.left(arrow), change.mid(arrow + 4)), Outcome::Failed);
     }
     for (const auto &[bytes, outcome] : cases) {
         const DecodeResult result = decodeWestern(bytes);
-        EXPECT_EQ(result.outcome, outcome) << bytes.constData();
+        EXPECT_EQ(result.outcome, outcome) << bytes.left(1000).constData();
         EXPECT_TRUE(result.vocabulary == Vocabulary());
     }
 }

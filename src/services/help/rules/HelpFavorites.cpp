@@ -1,6 +1,7 @@
 #include "services/help/rules/HelpFavorites.h"
 
 #include "platform/AtomicFile.h"
+#include "platform/RegularFile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -8,8 +9,8 @@
 HelpFavorites::HelpFavorites(const QString &path)
     : m_path(path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    QFile file;
+    if (!RegularFile::open(file, path))
         return;
     for (const QString &line : QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts))
         m_pages.append(line.trimmed());
