@@ -4,7 +4,9 @@
 #include "app/RecoveryOffer.h"
 #include "app/frmApp.h"
 #include "app/rules/CommandLine.h"
+#include "document/DocumentList.h"
 #include "document/RecoveryKeeper.h"
+#include "document/ctlGrid.h"
 #include "document/rules/CodePage.h"
 #include "platform/CommonControls.h"
 #include "platform/CupsServer.h"
@@ -23,6 +25,7 @@
 #include "resources/ResourceFiles.h"
 #include "resources/StringTable.h"
 #include "services/desktop/ContextMenuKey.h"
+#include "services/desktop/HandleReserve.h"
 #include "services/desktop/ProgramStyle.h"
 #include "services/desktop/ScreenFit.h"
 #include "services/help/DialogHelp.h"
@@ -109,6 +112,11 @@ void closeFromOutside(frmApp &window)
         QTimer::singleShot(0, &window, [&window] { closeFromOutside(window); });
 }
 
+QString recoveryFolder()
+{
+    return UserFolders::state() + QStringLiteral("/recovery");
+}
+
 /// The user is asked for unsaved changes when the desktop session or the process is told to end, as when the window
 /// closes. A desktop session does not wait for dialogs to be left: what has changed is in the copies then.
 void askAtEnd(QApplication &application, frmApp &window, SignalWatcher &watcher, RecoveryKeeper &keeper)
@@ -138,6 +146,29 @@ void listen(SingleInstance &instance, frmApp &window, RecoveryOffer &offer)
             DetachedProcess::start(QApplication::applicationFilePath(), {text});
     });
     instance.serve();
+}
+
+/// Whether the user is asked something or is typing: a box that comes then is answered unread.
+bool isUserBusy(frmApp &window)
+{
+    const frmDoc *document = window.context().documents.active();
+    return !window.isVisible() || QApplication::activeModalWidget() || QApplication::activePopupWidget() ||
+           (document && document->Rutor()->EditMode());
+}
+
+/// Tells, once, that changes are not secured against a crash.
+void tellOfMissingCopies(RecoveryKeeper &keeper, frmApp &window, AlertBox &alertBox)
+{
+    QObject::connect(&keeper, &RecoveryKeeper::cannotKeep, &window, [&window, &alertBox, told = false]() mutable {
+        if (told || isUserBusy(window))
+            return;
+        told = true;
+        Alert alert;
+        alert.prompt = resText(14076).arg(recoveryFolder());
+        alert.sound = true;
+        alert.exclamation = true;
+        alertBox.show(nullptr, alert);
+    });
 }
 
 /// The splash in its start-up role, or null if the user wants none.
@@ -202,6 +233,7 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     QApplication::setStyle(new ProgramStyle);
     const ContextMenuKey contextMenuKey(application);
     const ScreenFit screenFit(application);
+    const HandleReserve handleReserve(application);
     readSettings(program);
 
     const std::unique_ptr<frmSplash> splash = makeSplash(commandLine);
@@ -212,8 +244,8 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     program.alert.setMainWindow(&window);
     program.prompts.setOwner(&window);
     QObject::connect(&window, &frmApp::closed, &application, &QApplication::quit);
-    RecoveryKeeper keeper(window.context().documents, window.context().files, program.codePage,
-                          UserFolders::state() + QStringLiteral("/recovery"));
+    RecoveryKeeper keeper(window.context().documents, window.context().files, program.codePage, recoveryFolder());
+    tellOfMissingCopies(keeper, window, program.alert);
     RecoveryOffer offer(keeper, program.alert, window);
     listen(instance, window, offer);
     askAtEnd(application, window, watcher, keeper);

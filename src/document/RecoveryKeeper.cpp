@@ -5,8 +5,7 @@
 #include "document/GridContent.h"
 #include "document/ctlGrid.h"
 #include "document/rules/VocabularyCodec.h"
-
-#include <QFile>
+#include "platform/RegularFile.h"
 
 namespace {
 
@@ -59,11 +58,16 @@ void RecoveryKeeper::watch(frmDoc *document)
 
 void RecoveryKeeper::lookForChanges()
 {
+    bool failed = false;
     for (auto place = m_kept.begin(); place != m_kept.end(); ++place) {
         // A disk that is slower than the changes come must not get them all one by one.
-        if (!place->slot->isBusy())
-            keep(*place.key(), *place);
+        if (place->slot->isBusy())
+            continue;
+        failed = failed || place->slot->failed();
+        keep(*place.key(), *place);
     }
+    if (failed)
+        Q_EMIT cannotKeep();
 }
 
 void RecoveryKeeper::flush()
@@ -134,8 +138,8 @@ std::vector<RecoveryFolder::Orphan> RecoveryKeeper::orphans()
 bool RecoveryKeeper::holdsOnlyItsFile(const RecoveryCopy &copy) const
 {
     const Vocabulary &words = copy.vocabulary;
-    QFile file(copy.docName);
-    if (copy.docName.isEmpty() || words.filledRows() > words.storedRows() || !file.open(QIODevice::ReadOnly))
+    QFile file;
+    if (copy.docName.isEmpty() || words.filledRows() > words.storedRows() || !RegularFile::open(file, copy.docName))
         return false;
     const QByteArray bytes = VocabularyCodec::encode(words, m_codePage);
     return file.size() == bytes.size() && file.readAll() == bytes;

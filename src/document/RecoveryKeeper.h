@@ -39,6 +39,10 @@ public:
     /// Deletes a copy for good.
     void discard(const RecoveryFolder::Orphan &orphan);
 
+Q_SIGNALS:
+    /// A copy could not be written; sent again and again until it can.
+    void cannotKeep();
+
 private:
     /// What tells whether a document may have changed.
     struct State

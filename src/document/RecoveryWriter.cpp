@@ -23,7 +23,6 @@ RecoveryWriter::RecoveryWriter(RecoveryFolder &folder, const CodePage &codePage)
     : m_folder(folder)
     , m_codePage(codePage)
 {
-    m_thread.setMaxThreadCount(1);
 }
 
 void RecoveryWriter::run(const SharedSlot &slot, std::function<bool(Slot &)> job)
@@ -92,7 +91,7 @@ void RecoveryWriter::discard(const SharedSlot &slot)
 
 void RecoveryWriter::finish()
 {
-    m_thread.waitForDone();
+    m_thread.finish();
 }
 
 bool RecoveryWriter::write(Slot &slot, const RecoveryCopy &copy)

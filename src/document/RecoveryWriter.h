@@ -3,8 +3,7 @@
 #include "document/rules/CodePage.h"
 #include "document/rules/RecoveryFolder.h"
 #include "document/rules/VocabularyDigest.h"
-
-#include <QThreadPool>
+#include "platform/JobThread.h"
 
 #include <atomic>
 #include <memory>
@@ -66,5 +65,5 @@ private:
 
     RecoveryFolder &m_folder;
     CodePage m_codePage;
-    QThreadPool m_thread;
+    JobThread m_thread;
 };

@@ -3,6 +3,7 @@
 
 import os
 import shutil
+import time
 
 from cases import ProgramCase, run
 from random_user import read_vocabulary
@@ -82,6 +83,16 @@ class SavingCase(ProgramCase):
         self.assertEqual(self.file.read_bytes(), self.before)
         self.save()
 
+    def test_where_no_copy_can_be_kept_either(self):
+        """The user is told once, and not while a word is being typed."""
+        (self.home / "state" / "glosaria").write_text("in the way")
+        self.edit()
+        box = self.desktop.wait_for("alert", "Glosaria Alert")
+        self.assertIn("can keep no copies", self.desktop.wait_for("label", within=box).name)
+        self.close_dialog("Glosaria Alert", "Return")
+        self.desktop.type("again\r")
+        time.sleep(5)
+        self.assertIsNone(self.desktop.find("alert"))
 
 if __name__ == "__main__":
     run()

@@ -1,5 +1,6 @@
 #include "widgets/grid/FlexGridCells.h"
 
+#include "platform/Twips.h"
 #include "services/rules/CellText.h"
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "widgets/grid/FlexGridFormats.h"
+
 #include <QString>
 
 #include <vector>

@@ -1,0 +1,22 @@
+#include "platform/JobThread.h"
+
+#include "support/OrdinaryUser.h"
+
+#include <sys/resource.h>
+
+TEST(JobThread, DoesAllJobsInTheirOrderAlsoWhereNoThreadCanBeHad)
+{
+    for (const bool threads : {true, false}) {
+        EXPECT_TRUE(OrdinaryUser::run([threads] {
+            const rlimit none{0, 0};
+            if (!threads && ::setrlimit(RLIMIT_NPROC, &none) != 0)
+                return false;
+            std::vector<int> done;
+            JobThread thread;
+            for (int job = 0; job < 100; ++job)
+                thread.start([&done, job] { done.push_back(job); });
+            thread.finish();
+            return done.size() == 100 && std::is_sorted(done.begin(), done.end());
+        })) << threads;
+    }
+}
