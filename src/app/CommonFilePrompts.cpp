@@ -9,18 +9,20 @@ CommonFilePrompts::CommonFilePrompts(CommonDialogs &dialogs, AlertBox &alertBox)
 {
 }
 
-QString CommonFilePrompts::askOpen()
+QString CommonFilePrompts::askOpen(const QString &folder)
 {
     clsCommDlg dialog(m_dialogs, m_alertBox);
     dialog.DialogTitle = resText(717);
+    dialog.InitDir = folder;
     dialog.flags = clsCommDlg::Explorer | clsCommDlg::FileMustExist | clsCommDlg::HideReadOnly;
     return ask(dialog, clsCommDlg::ActionOpen);
 }
 
-QString CommonFilePrompts::askSave(const QString &proposed)
+QString CommonFilePrompts::askSave(const QString &proposed, const QString &folder)
 {
     clsCommDlg dialog(m_dialogs, m_alertBox);
     dialog.DialogTitle = resText(718);
+    dialog.InitDir = folder;
     dialog.FileName = proposed;
     dialog.flags =
         clsCommDlg::Explorer | clsCommDlg::OverwritePrompt | clsCommDlg::HideReadOnly | clsCommDlg::ExtensionDifferent;

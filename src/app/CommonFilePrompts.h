@@ -15,8 +15,8 @@ public:
 
     void setOwner(QWidget *owner) { m_owner = owner; }
 
-    QString askOpen() override;
-    QString askSave(const QString &proposed) override;
+    QString askOpen(const QString &folder) override;
+    QString askSave(const QString &proposed, const QString &folder) override;
 
 private:
     QString ask(clsCommDlg &dialog, int action) const;

@@ -18,7 +18,9 @@ constexpr StateSet AnyWindow(AppState::StateDocument, AppState::StateEditing, Ap
 PrintSource activeDocument(const AppContext &context)
 {
     const frmDoc *document = context.documents.active();
-    return GridSource::read(*document->Rutor(), document->Caption());
+    PrintSource source = GridSource::read(*document->Rutor(), document->Caption());
+    source.Folder = document->folder();
+    return source;
 }
 
 /// The search goes with the documents, which the preview hides: a match could not be seen.

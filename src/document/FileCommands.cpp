@@ -98,7 +98,8 @@ void FileCommands::newDocument()
 
 void FileCommands::open()
 {
-    const QString path = m_needs.prompts.askOpen();
+    const frmDoc *active = m_needs.documents.active();
+    const QString path = m_needs.prompts.askOpen(active ? active->folder() : QString());
     if (!path.isEmpty())
         LoadVocabulary(path);
 }
@@ -116,7 +117,7 @@ void FileCommands::saveAs()
 {
     if (frmDoc *document = m_needs.documents.active()) {
         document->commitRunningEdit();
-        saveAndTell(*document, m_needs.prompts.askSave(document->Caption()));
+        saveAndTell(*document, askPath(*document));
     }
 }
 
@@ -138,7 +139,12 @@ bool FileCommands::closeAll()
 
 QString FileCommands::pathOrAsk(const frmDoc &document)
 {
-    return document.DocName().isEmpty() ? m_needs.prompts.askSave(document.Caption()) : document.DocName();
+    return document.DocName().isEmpty() ? askPath(document) : document.DocName();
+}
+
+QString FileCommands::askPath(const frmDoc &document)
+{
+    return m_needs.prompts.askSave(document.Caption(), document.folder());
 }
 
 FileCommands::SaveOutcome FileCommands::saveUnder(frmDoc &document, const QString &path, SaveReport &report)

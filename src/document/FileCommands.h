@@ -90,6 +90,7 @@ private:
     bool mayOverwrite(const frmDoc &document);
     bool isSecured(frmDoc &document);
     QString pathOrAsk(const frmDoc &document);
+    QString askPath(const frmDoc &document);
     void load(const QString &path);
     /// Tells the user when the file is open already; true then.
     bool refuseOpenOne(const QString &path);

@@ -8,8 +8,9 @@ class FilePrompts
 public:
     virtual ~FilePrompts() = default;
 
-    /// The path of an existing file, or an empty text when the user cancelled.
-    virtual QString askOpen() = 0;
+    /// The path of an existing file, or an empty text when the user cancelled. folder is where to look first; empty:
+    /// where the last file was.
+    virtual QString askOpen(const QString &folder) = 0;
     /// The path to save under, or an empty text when the user cancelled. proposed is the name offered.
-    virtual QString askSave(const QString &proposed) = 0;
+    virtual QString askSave(const QString &proposed, const QString &folder) = 0;
 };

@@ -11,6 +11,7 @@
 #include "services/status/modSBFunc.h"
 
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QFontMetricsF>
 #include <QMdiSubWindow>
 #include <QVBoxLayout>
@@ -72,6 +73,11 @@ void frmDoc::connectGrid()
     connect(m_grid, &ctlGrid::MouseUp, this, [this](int button, int, float x, float y) { onMouseUp(button, x, y); });
     connect(m_grid->hwndText(), &ctlGridEdit::menuRequested, this, &frmDoc::menuRequested);
     connect(m_grid, &ctlGrid::Scroll, m_grid, &ctlGrid::RefreshTextPos);
+}
+
+QString frmDoc::folder() const
+{
+    return m_docName.isEmpty() ? QString() : QFileInfo(m_docName).path();
 }
 
 void frmDoc::setCaption(const QString &caption)

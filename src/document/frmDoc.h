@@ -39,6 +39,8 @@ public:
     /// Full path of the vocabulary file; empty for a document that was never saved.
     QString DocName() const { return m_docName; }
     void setDocName(const QString &path) { m_docName = path; }
+    /// Where its file is; empty when it has none.
+    QString folder() const;
 
     /// The file as it was when it was read or saved last.
     FileStamp fileStamp;

@@ -29,6 +29,7 @@ struct FileChoice
 struct PrintRequest
 {
     QWidget *owner = nullptr;
+    QString folder; ///< where a PDF file goes; empty: where the user was last
     int minPage = 1;
     int maxPage = 1;
     int fromPage = 1;

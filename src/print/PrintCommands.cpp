@@ -57,7 +57,7 @@ void PrintCommands::printPreviewed()
 
 void PrintCommands::print(const std::shared_ptr<const PrintSource> &document)
 {
-    const std::optional<PageChoice> choice = choosePages(countPages(document));
+    const std::optional<PageChoice> choice = choosePages(*document, countPages(document));
     if (!choice)
         return;
     const int visiblePage = m_preview.visiblePage();
@@ -84,10 +84,11 @@ int PrintCommands::countPages(const std::shared_ptr<const PrintSource> &document
     return layout.pageCount();
 }
 
-std::optional<PageChoice> PrintCommands::choosePages(int pageCount)
+std::optional<PageChoice> PrintCommands::choosePages(const PrintSource &document, int pageCount)
 {
     clsCommDlg dialog(m_dialogs, m_alertBox);
     dialog.Owner = m_host.window();
+    dialog.InitDir = document.Folder;
     dialog.MinPage = 1;
     dialog.MaxPage = pageCount;
     dialog.flags = PrintFlags;

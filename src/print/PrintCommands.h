@@ -31,7 +31,7 @@ public:
 private:
     void print(const std::shared_ptr<const PrintSource> &document);
     int countPages(const std::shared_ptr<const PrintSource> &document);
-    std::optional<PageChoice> choosePages(int pageCount);
+    std::optional<PageChoice> choosePages(const PrintSource &document, int pageCount);
     void printPages(PrintRun &run);
     void report(const QString &text);
 

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QStandardPaths>
 
@@ -33,9 +34,14 @@ QString QtDialogs::startFolder(const FileRequest &request) const
 {
     if (QFileInfo(request.fileName).isAbsolute())
         return QFileInfo(request.fileName).path();
-    for (const QString &folder : {request.folder, m_lastFolder}) {
-        if (!folder.isEmpty() && QFileInfo(folder).isDir())
-            return folder;
+    return startFolder(request.folder);
+}
+
+QString QtDialogs::startFolder(const QString &folder) const
+{
+    for (const QString &candidate : {folder, m_lastFolder}) {
+        if (!candidate.isEmpty() && QFileInfo(candidate).isDir())
+            return candidate;
     }
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return QFileInfo(documents).isDir() ? documents : QDir::homePath();
@@ -49,7 +55,7 @@ std::optional<FileChoice> QtDialogs::show(QFileDialog &dialog, const FileRequest
     dialog.selectFile(QFileInfo(request.fileName).fileName());
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
-    m_lastFolder = dialog.directory().absolutePath();
+    m_lastFolder = QFileInfo(dialog.selectedFiles().constFirst()).absolutePath();
     const qsizetype filter = request.nameFilters.indexOf(dialog.selectedNameFilter());
     return FileChoice{dialog.selectedFiles().constFirst(), int(std::max<qsizetype>(0, filter))};
 }
@@ -92,11 +98,20 @@ std::optional<PrintChoice> QtDialogs::choosePages(const PrintRequest &request)
     printer->setCollateCopies(request.collate);
     PrintDialog dialog(*printer, m_printer, request);
     setTopic(dialog, PrintTopic);
+    proposeFile(dialog, *printer, request);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     const PrintChoice choice = dialog.choice();
     m_printer.adopt(std::move(printer));
     return choice;
+}
+
+/// Without a file that was printed to before, the dialog proposes one in the user's home.
+void QtDialogs::proposeFile(const QPrintDialog &dialog, const QPrinter &printer, const PrintRequest &request) const
+{
+    auto *box = dialog.findChild<QLineEdit *>(QStringLiteral("filename"));
+    if (box && printer.outputFileName().isEmpty())
+        box->setText(startFolder(request.folder) + u'/' + QFileInfo(box->text()).fileName());
 }
 
 bool QtDialogs::setUpPrinter(QWidget *owner)

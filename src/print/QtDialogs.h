@@ -5,10 +5,12 @@
 #include <functional>
 
 class QFileDialog;
+class QPrintDialog;
+class QPrinter;
 class QtPrinter;
 
-/// The dialogs of the toolkit, or of the desktop where it has its own. They remember the folder that the user was in
-/// last.
+/// The dialogs of the toolkit, or of the desktop where it has its own. They remember the folder of the file that
+/// was chosen last.
 class QtDialogs : public CommonDialogs
 {
 public:
@@ -29,6 +31,8 @@ public:
 private:
     std::optional<FileChoice> show(QFileDialog &dialog, const FileRequest &request);
     QString startFolder(const FileRequest &request) const;
+    QString startFolder(const QString &folder) const;
+    void proposeFile(const QPrintDialog &dialog, const QPrinter &printer, const PrintRequest &request) const;
 
     QtPrinter &m_printer;
     HelpCall m_helpCall;

@@ -114,6 +114,7 @@ void clsCommDlg::choosePages()
 {
     PrintRequest request;
     request.owner = Owner;
+    request.folder = InitDir;
     request.minPage = request.fromPage = MinPage;
     request.maxPage = request.toPage = MaxPage;
     request.pageNumbers = flags & PageNumbers;

@@ -45,6 +45,10 @@ TEST_F(FileCommandsTest, ALoadedFileFillsADocumentAndIsSavedAsItWas)
 
     files.SaveVocabulary(document, path("Copy.gla"));
     EXPECT_EQ(readFile(path("Copy.gla")), Words);
+    prompts.openPath.clear();
+    files.open();
+    files.saveAs();
+    EXPECT_EQ(prompts.folder, folder.path());
     EXPECT_EQ(document.Caption(), "Copy");
 }
 

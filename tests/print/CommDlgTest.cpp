@@ -131,6 +131,33 @@ TEST_F(RealDialogs, SaveAsAsksAboutTheRealTargetAndGoesBackOnNo)
     EXPECT_EQ(dialog.FileName, folder.filePath("other.gla"));
 }
 
+TEST_F(RealDialogs, TheNextDialogStartsWhereTheFileWasThatWasTyped)
+{
+    const QTemporaryDir elsewhere;
+    const QString typed = writeFile(elsewhere.filePath("typed.gla"), "");
+    dialog.flags = 0x81004;
+    onNext<QFileDialog>([&](QFileDialog &window) {
+        EXPECT_EQ(window.directory().path(), folder.path());
+        type(window, "fileNameEdit", typed, Qt::Key_Return);
+    });
+    dialog.setAction(clsCommDlg::ActionOpen);
+    dialog.InitDir.clear();
+    onNext<QFileDialog>([&](QFileDialog &window) {
+        EXPECT_EQ(window.directory().path(), elsewhere.path());
+        window.reject();
+    });
+    EXPECT_THROW(dialog.setAction(clsCommDlg::ActionOpen), CommDlgCancelled);
+    for (const QString &place : {QString(), folder.path()}) {
+        dialog.InitDir = place;
+        onNext<QPrintDialog>([&](QPrintDialog &window) {
+            const QString file = window.findChild<QLineEdit *>("filename")->text();
+            EXPECT_EQ(QFileInfo(file).path(), place.isEmpty() ? elsewhere.path() : place);
+            window.reject();
+        });
+        EXPECT_THROW(dialog.setAction(clsCommDlg::ActionPrint), CommDlgCancelled);
+    }
+}
+
 TEST_F(RealDialogs, PrintTakesPagesThatAreThereAndKeepsThePaper)
 {
     printer.printer().setOutputFileName(folder.filePath("out.pdf"));

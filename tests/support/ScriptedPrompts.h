@@ -10,10 +10,16 @@ struct ScriptedPrompts : FilePrompts
     QString openPath;
     QString savePath;
     QStringList proposed; ///< the names that save dialogs offered
+    QString folder;       ///< where the last dialog began
 
-    QString askOpen() override { return openPath; }
-    QString askSave(const QString &name) override
+    QString askOpen(const QString &place) override
     {
+        folder = place;
+        return openPath;
+    }
+    QString askSave(const QString &name, const QString &place) override
+    {
+        folder = place;
         proposed.append(name);
         return savePath;
     }

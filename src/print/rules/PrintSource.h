@@ -11,6 +11,7 @@
 struct PrintSource
 {
     QString Caption; ///< of the document's window
+    QString Folder;  ///< of the document's file; empty when it has none
     PrintFont Font;
     int ForeColor = 0; ///< 0x00BBGGRR; with the top bit set a colour of the system
 
