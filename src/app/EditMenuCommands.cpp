@@ -4,7 +4,10 @@
 #include "app/frmApp.h"
 #include "document/DocumentList.h"
 #include "document/EditCommands.h"
+#include "platform/ClipboardOwner.h"
 #include "resources/Pictures.h"
+#include "resources/StringTable.h"
+#include "services/AlertBox.h"
 #include "services/rules/ProgramFlags.h"
 #include "services/status/modSBFunc.h"
 #include "tools/FindOn.h"
@@ -26,6 +29,17 @@ std::function<void()> onActive(const AppContext &context, void (EditCommands::*c
         if (frmDoc *document = context.documents.active())
             (context.edit.*command)(*document);
     };
+}
+
+void paste(const AppContext &context)
+{
+    if (ClipboardOwner::answers())
+        return onActive(context, &EditCommands::Paste)();
+    Alert alert;
+    alert.prompt = resText(14077);
+    alert.sound = true;
+    alert.exclamation = true;
+    context.alert.show(nullptr, alert);
 }
 
 /// The dialog goes along to the document that becomes active, and closes when there is none left.
@@ -110,8 +124,7 @@ void AppCommands::addEditCommands(CommandTable &table, const AppContext &context
     table.add({"mnuEditCut", 421, "Ctrl+X", 22, PictureCut, DocumentOrEditing, onActive(context, &EditCommands::Cut)});
     table.add(
         {"mnuEditCopy", 422, "Ctrl+C", 23, PictureCopy, DocumentOrEditing, onActive(context, &EditCommands::Copy)});
-    table.add(
-        {"mnuEditPaste", 423, "Ctrl+V", 24, PicturePaste, DocumentOrEditing, onActive(context, &EditCommands::Paste)});
+    table.add({"mnuEditPaste", 423, "Ctrl+V", 24, PicturePaste, DocumentOrEditing, [&context] { paste(context); }});
     table.add({"mnuEditClear", 424, "", 25, PictureClear, Document, onActive(context, &EditCommands::Clear)});
     table.add({"mnuEditInsert", 426, "Ctrl+I", 27, PictureInsert, Document, onActive(context, &EditCommands::Insert)});
     table.add({"mnuEditDelete", 427, "Ctrl+K", 28, PictureDelete, Document, onActive(context, &EditCommands::Delete)});

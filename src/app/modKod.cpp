@@ -26,6 +26,7 @@
 #include "resources/StringTable.h"
 #include "services/desktop/ContextMenuKey.h"
 #include "services/desktop/HandleReserve.h"
+#include "services/desktop/PasteGuard.h"
 #include "services/desktop/ProgramStyle.h"
 #include "services/desktop/ScreenFit.h"
 #include "services/help/DialogHelp.h"
@@ -232,6 +233,7 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     SignalWatcher watcher;
     QApplication::setStyle(new ProgramStyle);
     const ContextMenuKey contextMenuKey(application);
+    const PasteGuard pasteGuard(application);
     const ScreenFit screenFit(application);
     const HandleReserve handleReserve(application);
     readSettings(program);

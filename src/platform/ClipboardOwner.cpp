@@ -1,0 +1,96 @@
+#include "platform/ClipboardOwner.h"
+
+#include <QClipboard>
+#include <QDeadlineTimer>
+#include <QGuiApplication>
+
+#include <cstdlib>
+#include <poll.h>
+#include <xcb/xcb.h>
+
+namespace {
+
+constexpr int Patience = 1000; // ms
+
+template <typename Reply> using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
+template <typename Reply> Owned<Reply> owned(Reply *reply)
+{
+    return {reply, &std::free};
+}
+
+/// A connection of its own to the display: that of the toolkit takes the answers itself.
+class Asker
+{
+public:
+    Asker()
+        : m_connection(xcb_connect(nullptr, &m_screen))
+    {
+    }
+    ~Asker() { xcb_disconnect(m_connection); }
+    Q_DISABLE_COPY_MOVE(Asker)
+
+    bool isConnected() const { return xcb_connection_has_error(m_connection) == 0; }
+
+    bool hasOwner(xcb_atom_t selection) const
+    {
+        const auto cookie = xcb_get_selection_owner(m_connection, selection);
+        const auto reply = owned(xcb_get_selection_owner_reply(m_connection, cookie, nullptr));
+        return reply && reply->owner != XCB_NONE;
+    }
+
+    xcb_atom_t atom(const QByteArray &name) const
+    {
+        const auto cookie = xcb_intern_atom(m_connection, 0, uint16_t(name.size()), name.constData());
+        const auto reply = owned(xcb_intern_atom_reply(m_connection, cookie, nullptr));
+        return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
+    }
+
+    /// Asks the owner for the kinds of its content.
+    void ask(xcb_atom_t selection) const
+    {
+        xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(m_connection));
+        for (int screen = m_screen; screen > 0 && screens.rem > 1; --screen)
+            xcb_screen_next(&screens);
+        const xcb_window_t window = xcb_generate_id(m_connection);
+        xcb_create_window(m_connection, 0, window, screens.data->root, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY, 0, 0,
+                          nullptr);
+        xcb_convert_selection(m_connection, window, selection, atom("TARGETS"), atom("GLOSARIA_TARGETS"),
+                              XCB_CURRENT_TIME);
+        xcb_flush(m_connection);
+    }
+
+    bool isAnswered(const QDeadlineTimer &deadline) const
+    {
+        for (;;) {
+            while (const auto event = owned(xcb_poll_for_event(m_connection))) {
+                if ((event->response_type & 0x7f) == XCB_SELECTION_NOTIFY)
+                    return true;
+            }
+            pollfd connection{xcb_get_file_descriptor(m_connection), POLLIN, 0};
+            if (!isConnected() || ::poll(&connection, 1, int(deadline.remainingTime())) == 0)
+                return false;
+        }
+    }
+
+private:
+    int m_screen = 0;
+    xcb_connection_t *m_connection;
+};
+
+} // namespace
+
+namespace ClipboardOwner {
+
+bool answers()
+{
+    if (QGuiApplication::platformName() != QStringLiteral("xcb") || QGuiApplication::clipboard()->ownsClipboard())
+        return true;
+    const Asker asker;
+    const xcb_atom_t clipboard = asker.isConnected() ? asker.atom("CLIPBOARD") : xcb_atom_t(XCB_ATOM_NONE);
+    if (clipboard == XCB_ATOM_NONE || !asker.hasOwner(clipboard))
+        return true;
+    asker.ask(clipboard);
+    return asker.isAnswered(QDeadlineTimer(Patience));
+}
+
+} // namespace ClipboardOwner

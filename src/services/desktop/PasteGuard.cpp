@@ -1,0 +1,30 @@
+#include "services/desktop/PasteGuard.h"
+
+#include "platform/ClipboardOwner.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+namespace {
+
+bool asksForClipboard(const QEvent &event)
+{
+    return event.type() == QEvent::ContextMenu ||
+           (event.type() == QEvent::KeyPress && static_cast<const QKeyEvent &>(event).matches(QKeySequence::Paste));
+}
+
+} // namespace
+
+PasteGuard::PasteGuard(QApplication &application)
+{
+    application.installEventFilter(this);
+}
+
+bool PasteGuard::eventFilter(QObject *watched, QEvent *event)
+{
+    if (!asksForClipboard(*event) || !qobject_cast<QLineEdit *>(watched) || ClipboardOwner::answers())
+        return false;
+    QApplication::beep();
+    return true;
+}
