@@ -45,6 +45,7 @@ TEST_F(FileCommandsTest, ALoadedFileFillsADocumentAndIsSavedAsItWas)
 
     files.SaveVocabulary(document, path("Copy.gla"));
     EXPECT_EQ(readFile(path("Copy.gla")), Words);
+    documents.setActive(&document);
     prompts.openPath.clear();
     files.open();
     files.saveAs();
