@@ -94,5 +94,6 @@ class SavingCase(ProgramCase):
         time.sleep(5)
         self.assertIsNone(self.desktop.find("alert"))
 
+
 if __name__ == "__main__":
     run()
