@@ -8,6 +8,7 @@
 #include "document/rules/QuizModeText.h"
 #include "resources/StringTable.h"
 #include "services/FormTexts.h"
+#include "services/rules/QuizModes.h"
 #include "services/settings/clsAppProperties.h"
 #include "services/settings/clsMRUFileList.h"
 #include "services/status/modSBMenuHelp.h"
@@ -145,7 +146,7 @@ void AppMenus::rebuildMode()
     const frmDoc *document = m_context.documents.active();
     if (!document)
         return;
-    for (int mode = 1; mode <= QuizModeCount; ++mode) {
+    for (int mode = 1; mode <= QuizModes::Count; ++mode) {
         QAction *action = m_table.action(modeKey(mode));
         const QString text = quizModeText(mode, document->language(1), document->language(2));
         action->setText(QStringLiteral("&%1 ").arg(mode) + FormTexts::escapeMnemonic(text));

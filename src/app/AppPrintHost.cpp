@@ -34,8 +34,7 @@ int AppPrintHost::toolbarHeight() const
 void AppPrintHost::showStatus(const QString &text)
 {
     modSBFunc &status = m_window.context().status;
-    status.ShowStatus(0);
-    status.SBSetText(0, modSBFunc::SBT_SUNKEN, text);
+    status.showText(text);
     status.repaint();
 }
 
@@ -43,8 +42,7 @@ void AppPrintHost::enterPreview()
 {
     m_window.SetCommandState(AppState::StatePreview);
     modSBFunc &status = m_window.context().status;
-    status.ShowStatus(0);
-    status.SBSetText(0, modSBFunc::SBT_SUNKEN, {});
+    status.showText({});
     status.SBSetText(1, modSBFunc::SBT_SUNKEN, {});
     hideDocuments();
     m_views.setCurrentWidget(m_area);

@@ -21,7 +21,6 @@ using enum AppState;
 
 constexpr StateSet Document(StateDocument);
 constexpr StateSet DocumentOrEditing(StateDocument, StateEditing);
-constexpr int DialogOpen = 504;
 
 std::function<void()> onActive(const AppContext &context, void (EditCommands::*command)(frmDoc &))
 {
@@ -63,7 +62,7 @@ void followActiveDocument(frmFindReplace &dialog, const DocumentList &documents)
 
 void openFindReplace(const AppContext &context, frmDoc &document, bool replace, Search &last)
 {
-    context.status.ShowStatus(DialogOpen);
+    context.status.ShowStatus(modSBFunc::DialogOpen);
     (replace ? context.flags.ReplaceMode : context.flags.FindMode) = true;
     const frmFindReplace::Needs needs{context.flags, context.undo, context.alert, last};
     auto *dialog = new frmFindReplace(document, needs, &context.window);

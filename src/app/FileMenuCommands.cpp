@@ -14,7 +14,6 @@ using enum AppState;
 constexpr StateSet NotBusy(StateDocument, StateNoDocument);
 constexpr StateSet DocumentOrEditing(StateDocument, StateEditing);
 constexpr StateSet Always(StateDocument, StateNoDocument, StateEditing, StatePreview);
-constexpr int RecentFiles = 4;
 
 void addRecentFile(CommandTable &table, const AppContext &context, int n)
 {
@@ -35,7 +34,7 @@ void AppCommands::addFileCommands(CommandTable &table, const AppContext &context
     table.add({"mnuFileClose", 403, "Ctrl+W", 4, PictureClose, DocumentOrEditing, [&files] { files.closeActive(); }});
     table.add({"mnuFileSave", 405, "Ctrl+S", 6, PictureSave, DocumentOrEditing, [&files] { files.save(); }});
     table.add({"mnuFileSaveAs", 406, "", 7, PictureSaveAs, DocumentOrEditing, [&files] { files.saveAs(); }});
-    for (int n = 1; n <= RecentFiles; ++n)
+    for (int n = 1; n <= clsMRUFileList::Capacity; ++n)
         addRecentFile(table, context, n);
     table.add({"mnuFileExit", 417, "", 18, PictureExit, Always, [&context] { context.window.close(); }});
 }

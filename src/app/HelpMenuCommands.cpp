@@ -15,7 +15,6 @@ namespace {
 using enum AppState;
 
 constexpr StateSet Always(StateDocument, StateNoDocument, StateEditing, StatePreview);
-constexpr int HelpButtonForHelp = 504;
 
 void showAbout(const AppContext &context)
 {
@@ -24,11 +23,8 @@ void showAbout(const AppContext &context)
     about.setLoadStatus(frmSplash::About);
     about.Form_Load();
     QObject::connect(&about, &frmSplash::statusRequested, &status, &modSBFunc::ShowStatus);
-    QObject::connect(&about, &frmSplash::linkHovered, &status, [&status](const QString &target) {
-        status.ShowStatus(0);
-        status.SBSetText(0, modSBFunc::SBT_SUNKEN, target);
-    });
-    status.ShowStatus(HelpButtonForHelp);
+    QObject::connect(&about, &frmSplash::linkHovered, &status, &modSBFunc::showText);
+    status.ShowStatus(modSBFunc::DialogOpen);
     about.exec();
     status.ShowStatus(modSBFunc::Ready);
 }

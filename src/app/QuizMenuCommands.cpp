@@ -3,10 +3,10 @@
 #include "app/CommandTable.h"
 #include "app/frmApp.h"
 #include "document/DocumentList.h"
-#include "document/rules/QuizModeText.h"
 #include "quiz/GridWords.h"
 #include "quiz/frmOva.h"
 #include "resources/Pictures.h"
+#include "services/rules/QuizModes.h"
 #include "services/settings/clsAppProperties.h"
 #include "services/status/modSBFunc.h"
 
@@ -46,7 +46,7 @@ void startQuiz(const AppContext &context, QuizKind kind)
 /// The "Model" button steps through the modes in a ring.
 QString nextModeKey(int mode)
 {
-    return QStringLiteral("mnuMode%1").arg(mode >= QuizModeCount ? 1 : mode + 1);
+    return QStringLiteral("mnuMode%1").arg(mode >= QuizModes::Count ? 1 : mode + 1);
 }
 
 /// The command of the quiz kind that the "Quiz" button's picture shows; empty for any other picture.
@@ -68,7 +68,7 @@ QString quizKey(int picture)
 
 void AppCommands::addQuizCommands(CommandTable &table, const AppContext &context)
 {
-    for (int mode = 1; mode <= QuizModeCount; ++mode) {
+    for (int mode = 1; mode <= QuizModes::Count; ++mode) {
         table.add({QStringLiteral("mnuMode%1").arg(mode), 439 + mode, "", 40 + mode, PictureMode1 + mode - 1,
                    DocumentOrEditing, [&context, mode] { setQuizMode(context, mode); }});
     }

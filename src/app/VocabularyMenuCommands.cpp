@@ -13,7 +13,6 @@
 namespace {
 
 constexpr StateSet Document(AppState::StateDocument);
-constexpr int DialogOpen = 504;
 
 /// A command that shows a modal dialog about the active document.
 std::function<void()> withDialog(const AppContext &context, const std::function<void(frmDoc &)> &show)
@@ -22,7 +21,7 @@ std::function<void()> withDialog(const AppContext &context, const std::function<
         frmDoc *document = context.documents.active();
         if (!document)
             return;
-        context.status.ShowStatus(DialogOpen);
+        context.status.ShowStatus(modSBFunc::DialogOpen);
         show(*document);
         context.status.ShowStatus(modSBFunc::Ready);
     };

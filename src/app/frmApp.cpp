@@ -36,7 +36,6 @@
 
 namespace {
 
-constexpr int RecentFileCount = 4;
 constexpr int FrameDelay = 50; // milliseconds
 
 int desktopTextWidth(const QString &text)
@@ -371,7 +370,7 @@ void frmApp::loadRecentFiles()
         if (registry.KeyExists())
             m_recentFiles.Load(registry);
     });
-    m_recentFiles.setMaxFileCount(RecentFileCount);
+    m_recentFiles.setMaxFileCount(clsMRUFileList::Capacity);
 }
 
 void frmApp::saveSettings()

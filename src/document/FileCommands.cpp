@@ -36,8 +36,7 @@ public:
     BusyStatus(modSBFunc &status, int textId, const QString &path, qint64 maximum)
         : m_status(status)
     {
-        m_status.ShowStatus(0);
-        m_status.SBSetText(0, modSBFunc::SBT_SUNKEN, resText(textId) + GridRules::fileTitle(path));
+        m_status.showText(resText(textId) + GridRules::fileTitle(path));
         m_status.createProgress(maximum);
     }
     ~BusyStatus()

@@ -204,7 +204,7 @@ void frmDoc::onBeforeEdit()
         rememberEntry();
     }
     Q_EMIT editingChanged(true);
-    m_shared.status.ShowStatus(503);
+    m_shared.status.ShowStatus(modSBFunc::Edit);
 }
 
 void frmDoc::onAfterEdit(int row, int col, const QString &text)
@@ -320,7 +320,7 @@ void frmDoc::onRowColChange()
 
 void frmDoc::showEditStatus()
 {
-    m_shared.status.ShowStatus(m_grid->EditMode() ? 503 : modSBFunc::Ready);
+    m_shared.status.ShowStatus(m_grid->EditMode() ? modSBFunc::Edit : modSBFunc::Ready);
 }
 
 void frmDoc::onMouseMove()

@@ -8,6 +8,7 @@
 #include "resources/StringTable.h"
 #include "services/AlertBox.h"
 #include "services/Hourglass.h"
+#include "services/status/modSBFunc.h"
 
 #include <QWidget>
 
@@ -69,11 +70,11 @@ void PrintCommands::print(const std::shared_ptr<const PrintSource> &document)
     } catch (const PrinterError &error) {
         fault = error.text();
     }
-    m_host.showStatus(resText(506));
+    m_host.showStatus(resText(modSBFunc::Ready));
     if (m_preview.isOpen())
         m_preview.rebuild(visiblePage);
     if (!fault.isEmpty())
-        report(fault);
+        clsCommDlg::reportPrinterError(m_alertBox, m_host.window(), fault);
 }
 
 int PrintCommands::countPages(const std::shared_ptr<const PrintSource> &document)
@@ -112,13 +113,4 @@ void PrintCommands::printPages(PrintRun &run)
     frmPrinting box(
         run, [this](const QString &text) { m_host.showStatus(text); }, m_host.window());
     box.print();
-}
-
-void PrintCommands::report(const QString &text)
-{
-    Alert alert;
-    alert.title = resText(12400);
-    alert.prompt = text;
-    alert.exclamation = true;
-    m_alertBox.show(m_host.window(), alert);
 }

@@ -33,7 +33,6 @@ private:
     int countPages(const std::shared_ptr<const PrintSource> &document);
     std::optional<PageChoice> choosePages(const PrintSource &document, int pageCount);
     void printPages(PrintRun &run);
-    void report(const QString &text);
 
     PrinterDevice &m_printer;
     CommonDialogs &m_dialogs;

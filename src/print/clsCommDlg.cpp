@@ -101,13 +101,18 @@ void clsCommDlg::print()
         else if (!m_dialogs.setUpPrinter(Owner))
             throw CommDlgCancelled();
     } catch (const PrinterError &error) {
-        Alert alert;
-        alert.prompt = error.text();
-        alert.title = resText(12400);
-        alert.exclamation = true;
-        m_alertBox.show(Owner, alert);
+        reportPrinterError(m_alertBox, Owner, error.text());
         throw CommDlgError(error.what());
     }
+}
+
+void clsCommDlg::reportPrinterError(AlertBox &alertBox, QWidget *owner, const QString &text)
+{
+    Alert alert;
+    alert.prompt = text;
+    alert.title = resText(12400);
+    alert.exclamation = true;
+    alertBox.show(owner, alert);
 }
 
 void clsCommDlg::choosePages()

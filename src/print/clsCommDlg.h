@@ -82,6 +82,9 @@ public:
     /// is reported in the "Printer Error" box before CommDlgError is thrown.
     void setAction(int action);
 
+    /// Tells in the "Printer Error" box what a printer has failed to do.
+    static void reportPrinterError(AlertBox &alertBox, QWidget *owner, const QString &text);
+
 private:
     void openFile();
     void saveFile();

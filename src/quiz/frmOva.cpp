@@ -21,10 +21,10 @@
 
 namespace {
 
-void showCount(QLabel *number, QLabel *title, const QString &name, int count, const QColor &colour)
+void showCount(QLabel *number, QLabel *title, int count, const QColor &colour)
 {
     number->setNum(count);
-    number->setAccessibleName(resText(12009).arg(name).arg(count));
+    number->setAccessibleName(resText(12009).arg(title->text()).arg(count));
     number->setVisible(true);
     title->setVisible(true);
     if (!colour.isValid())
@@ -48,6 +48,8 @@ frmOva::frmOva(clsAppProperties &settings, RandomSource &random, SoundPlayer &er
     EnterKey::leaveToDialog(*this);
     m_optAnswer =
         std::make_unique<AnswerOptions>(std::array{m_ui->optAnswer0, m_ui->optAnswer1, m_ui->optAnswer2}, nullptr);
+    m_lblResult = {m_ui->lblResult0, m_ui->lblResult1, m_ui->lblResult2, m_ui->lblResult3};
+    m_lblResultTitel = {m_ui->lblResultTitel0, m_ui->lblResultTitel1, m_ui->lblResultTitel2, m_ui->lblResultTitel3};
 }
 
 frmOva::~frmOva()
@@ -195,15 +197,12 @@ void frmOva::showVerdict(bool correct)
 
 void frmOva::showCounters()
 {
-    const std::array numbers = {m_ui->lblResult0, m_ui->lblResult1, m_ui->lblResult2, m_ui->lblResult3};
-    const std::array titles = {m_ui->lblResultTitel0, m_ui->lblResultTitel1, m_ui->lblResultTitel2,
-                               m_ui->lblResultTitel3};
     const std::array counts = {m_session->questionCount(), m_session->correctCount() + m_session->errorCount(),
                                m_session->correctCount(), m_session->errorCount()};
     const std::array colours = {QColor(), QColor(), QuizColours::Right, QuizColours::Wrong};
-    for (size_t i = 0; i < numbers.size(); ++i) {
+    for (size_t i = 0; i < counts.size(); ++i) {
         if (i == 0 || counts[i] > 0 || m_session->done())
-            showCount(numbers[i], titles[i], titles[i]->text(), counts[i], colours[i]);
+            showCount(m_lblResult[i], m_lblResultTitel[i], counts[i], colours[i]);
     }
     m_ui->picProgress->setCounts(counts[0], counts[2], counts[3]);
 }

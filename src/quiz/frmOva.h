@@ -10,6 +10,7 @@
 #include <memory>
 
 class clsAppProperties;
+class QLabel;
 class SoundPlayer;
 
 namespace Ui {
@@ -82,6 +83,8 @@ private:
 
     std::unique_ptr<Ui::frmOva> m_ui;
     std::unique_ptr<AnswerOptions> m_optAnswer;
+    std::array<QLabel *, 4> m_lblResult;
+    std::array<QLabel *, 4> m_lblResultTitel;
     clsTimer m_tmrSvar;
     clsTimer m_tmrAutoSvar;
     clsAppProperties &m_settings;

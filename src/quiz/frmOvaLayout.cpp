@@ -102,17 +102,18 @@ void frmOva::dressTypes(const Sizes &sizes)
 void frmOva::dressLabels()
 {
     m_ui->lblSum->setFullText(resText(915));
-    for (QWidget *muted : std::initializer_list<QWidget *>{
-             m_ui->lblLang1, m_ui->lblLang2, m_ui->lblPrevTitel, m_ui->lblAnsTitel, m_ui->lblCorrTitel,
-             m_ui->lblResultTitel0, m_ui->lblResultTitel1, m_ui->lblResultTitel2, m_ui->lblResultTitel3})
+    for (QWidget *muted : std::initializer_list<QWidget *>{m_ui->lblLang1, m_ui->lblLang2, m_ui->lblPrevTitel,
+                                                           m_ui->lblAnsTitel, m_ui->lblCorrTitel})
         setMuted(muted);
-    for (QWidget *steady : std::initializer_list<QWidget *>{
-             m_ui->lblPrevTitel, m_ui->lblPrev, m_ui->lblAnsTitel, m_ui->lblAns, m_ui->lblCorrTitel, m_ui->lblCorr,
-             m_ui->lblResultTitel1, m_ui->lblResultTitel2, m_ui->lblResultTitel3, m_ui->lblResult1, m_ui->lblResult2,
-             m_ui->lblResult3})
+    for (QWidget *steady : std::initializer_list<QWidget *>{m_ui->lblPrevTitel, m_ui->lblPrev, m_ui->lblAnsTitel,
+                                                            m_ui->lblAns, m_ui->lblCorrTitel, m_ui->lblCorr})
         keepRoom(steady);
-    for (QWidget *number : {m_ui->lblResult0, m_ui->lblResult1, m_ui->lblResult2, m_ui->lblResult3})
-        setBold(number);
+    for (size_t i = 0; i < m_lblResult.size(); ++i) {
+        setMuted(m_lblResultTitel[i]);
+        setBold(m_lblResult[i]);
+        keepRoom(m_lblResultTitel[i]);
+        keepRoom(m_lblResult[i]);
+    }
 }
 
 void frmOva::dressKind()
@@ -160,9 +161,10 @@ void frmOva::hideResults()
 {
     setResultVisible(false, false);
     m_ui->picMark->clear();
-    for (QWidget *counter : {m_ui->lblResult1, m_ui->lblResult2, m_ui->lblResult3, m_ui->lblResultTitel1,
-                             m_ui->lblResultTitel2, m_ui->lblResultTitel3})
-        counter->hide();
+    for (size_t i = 1; i < m_lblResult.size(); ++i) {
+        m_lblResult[i]->hide();
+        m_lblResultTitel[i]->hide();
+    }
     showCounters();
 }
 

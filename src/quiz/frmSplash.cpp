@@ -4,6 +4,7 @@
 #include "resources/ResourceFiles.h"
 #include "resources/StringTable.h"
 #include "services/FormTexts.h"
+#include "services/status/modSBFunc.h"
 
 #include "ui_frmSplash.h"
 
@@ -20,7 +21,6 @@ constexpr int LinkTargetId = 2001;
 constexpr int CopyrightId = 2004;
 constexpr int DedicationId = 2005;
 constexpr int LinkToolTipId = 2006;
-constexpr int ReadyId = 506;
 constexpr int LinkPixels = 24;
 
 // The window is a picture with colours of its own in every palette.
@@ -143,14 +143,14 @@ bool frmSplash::eventFilter(QObject *watched, QEvent *event)
         if (event->type() == QEvent::Enter || event->type() == QEvent::FocusIn)
             Q_EMIT linkHovered(resText(LinkTargetId + int(link - m_imgLink.begin())));
         else if (event->type() == QEvent::Leave || event->type() == QEvent::FocusOut)
-            Q_EMIT statusRequested(ReadyId);
+            Q_EMIT statusRequested(modSBFunc::Ready);
     }
     return QDialog::eventFilter(watched, event);
 }
 
 void frmSplash::mouseMoveEvent(QMouseEvent *event)
 {
-    Q_EMIT statusRequested(ReadyId);
+    Q_EMIT statusRequested(modSBFunc::Ready);
     QDialog::mouseMoveEvent(event);
 }
 

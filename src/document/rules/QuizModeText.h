@@ -2,9 +2,6 @@
 
 #include <QString>
 
-/// The quiz modes are numbered from 1 on.
-constexpr int QuizModeCount = 5;
-
 /// How a quiz mode reads: which language is asked, which one answered, and the order, for example
 /// "English -> German In Order". Any other mode gives an empty text.
 QString quizModeText(int quizMode, const QString &language1, const QString &language2);

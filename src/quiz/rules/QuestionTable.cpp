@@ -1,6 +1,7 @@
 #include "quiz/rules/QuestionTable.h"
 
 #include "quiz/rules/UsedPairs.h"
+#include "services/rules/QuizModes.h"
 
 namespace {
 

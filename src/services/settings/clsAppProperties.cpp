@@ -1,5 +1,6 @@
 #include "services/settings/clsAppProperties.h"
 
+#include "services/rules/QuizModes.h"
 #include "services/settings/clsRegistry.h"
 
 namespace {
@@ -43,7 +44,7 @@ void clsAppProperties::setAutoTimerInterval(int milliseconds)
 
 void clsAppProperties::setQuizMode(int mode)
 {
-    m_values.QuizMode = mode >= 1 && mode <= 5 ? qint16(mode) : SettingsRecord().QuizMode;
+    m_values.QuizMode = QuizModes::exists(mode) ? qint16(mode) : SettingsRecord().QuizMode;
 }
 
 void clsAppProperties::setFrom(const SettingsRecord &record)

@@ -35,11 +35,12 @@ public:
     void Save(clsRegistry &registry) const;
     void Load(clsRegistry &registry);
 
+    static constexpr int Capacity = 4; ///< of the File menu
     static constexpr int LargestCapacity = 1000;
     static constexpr int CaptionWidth = 200; ///< pixels
 
 private:
     TextWidth m_textWidth;
-    int m_maxFileCount = 4;
+    int m_maxFileCount = Capacity;
     QStringList m_files;
 };

@@ -76,6 +76,12 @@ void modSBFunc::ShowStatus(int id)
         SBSetText(0, SBT_SUNKEN, resText(id));
 }
 
+void modSBFunc::showText(const QString &text)
+{
+    ShowStatus(0);
+    SBSetText(0, SBT_SUNKEN, text);
+}
+
 QString modSBFunc::text(int panel) const
 {
     return m_panels.at(size_t(panel))->text();

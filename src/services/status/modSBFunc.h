@@ -18,8 +18,9 @@ class modSBFunc : public QWidget
     Q_OBJECT
 
 public:
-    /// The text that panel 0 shows when there is nothing else to tell, by its string id.
-    static constexpr int Ready = 506;
+    /// String ids of what panel 0 shows: while a cell is edited, while a dialog is open, and when there is nothing to
+    /// tell.
+    enum StatusText { Edit = 503, DialogOpen = 504, Ready = 506 };
 
     enum Style { SBT_SUNKEN = 0, SBT_NOBORDERS = 256, SBT_POPOUT = 512 };
 
@@ -39,6 +40,9 @@ public:
     void ShowStatus(int id);
     /// Whether texts by id are held back now.
     bool isHeldBack() const { return m_flags.searching(); }
+
+    /// Shows a text of its own in panel 0, which the next ShowStatus replaces in any case.
+    void showText(const QString &text);
 
     /// The text of a panel, 0 to 3.
     QString text(int panel) const;

@@ -54,8 +54,7 @@ void modSBMenuHelp::show(const QString &text)
     if (m_status.text(0) != m_shown)
         m_before = m_status.text(0);
     m_shown = text;
-    m_status.ShowStatus(0);
-    m_status.SBSetText(0, modSBFunc::SBT_SUNKEN, text);
+    m_status.showText(text);
 }
 
 /// What has been told since, by a dialog that has opened, say, stays.
