@@ -107,8 +107,8 @@ void frmApp::createParts(const Needs &needs)
 {
     auto *status = new modSBFunc(needs.flags, this);
     auto *documents = new DocumentList({needs.flags, needs.undo, *status, needs.settings}, this);
-    auto *files =
-        new FileCommands({*documents, m_recentFiles, *status, needs.alert, needs.prompts}, needs.codePage, this);
+    auto *files = new FileCommands({*documents, m_recentFiles, *status, needs.alert, needs.prompts, needs.copies},
+                                   needs.codePage, this);
     m_editCommands = std::make_unique<EditCommands>(needs.undo, *QGuiApplication::clipboard(), *status);
     m_context = std::make_unique<AppContext>(AppContext{*this, needs.flags, needs.undo, needs.settings, needs.alert,
                                                         *status, *documents, *files, *m_editCommands, m_recentFiles,

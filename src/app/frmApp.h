@@ -15,6 +15,7 @@ class AppMenus;
 class AppToolbars;
 class CodePage;
 class CommonDialogs;
+class DocumentCopies;
 class FilePrompts;
 class HelpDisplay;
 class MainHelp;
@@ -45,6 +46,7 @@ public:
         RegistryStore &store;
         AlertBox &alert;
         FilePrompts &prompts;
+        DocumentCopies &copies;
         PrinterDevice &printer;
         CommonDialogs &dialogs;
         const CodePage &codePage;

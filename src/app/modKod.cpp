@@ -239,14 +239,15 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     readSettings(program);
 
     const std::unique_ptr<frmSplash> splash = makeSplash(commandLine);
-    frmApp window({program.flags, program.undo, program.settings, program.store, program.alert, program.prompts,
+    RecoveryKeeper keeper(program.codePage, recoveryFolder());
+    frmApp window({program.flags, program.undo, program.settings, program.store, program.alert, program.prompts, keeper,
                    program.printer, program.dialogs, program.codePage, program.random, program.errorSound,
                    program.help});
     DialogHelp dialogHelp(program.help, program.alert, HelpTarget::ofProgram());
     program.alert.setMainWindow(&window);
     program.prompts.setOwner(&window);
     QObject::connect(&window, &frmApp::closed, &application, &QApplication::quit);
-    RecoveryKeeper keeper(window.context().documents, window.context().files, program.codePage, recoveryFolder());
+    keeper.follow(window.context().documents, window.context().files);
     tellOfMissingCopies(keeper, window, program.alert);
     RecoveryOffer offer(keeper, program.alert, window);
     listen(instance, window, offer);

@@ -1,5 +1,6 @@
 #include "document/FileCommands.h"
 
+#include "document/DocumentCopies.h"
 #include "document/DocumentList.h"
 #include "document/FilePrompts.h"
 #include "document/GridContent.h"
@@ -72,18 +73,16 @@ FileCommands::FileCommands(const Needs &needs, const CodePage &codePage, QObject
     , m_needs(needs)
     , m_codePage(codePage)
 {
-    connect(&m_needs.documents, &DocumentList::created, this, &FileCommands::onCreated);
+    connect(&m_needs.documents, &DocumentList::created, this, [this](frmDoc *document) { document->setCloser(*this); });
 }
 
-void FileCommands::onCreated(frmDoc *document)
+bool FileCommands::close(frmDoc &document)
 {
-    connect(document, &frmDoc::closeRequested, this, [this, document](bool &accepted) {
-        accepted = confirmClose(*document);
-        if (!accepted)
-            return;
-        document->endEdit();
-        m_needs.documents.remove(document);
-    });
+    if (!confirmClose(document))
+        return false;
+    document.endEdit();
+    m_needs.documents.remove(&document);
+    return true;
 }
 
 void FileCommands::newDocument()
@@ -166,13 +165,6 @@ void FileCommands::saveAndTell(frmDoc &document, const QString &path)
         warn(unstoredText(14063, document, rows), SavingTopic);
 }
 
-bool FileCommands::isSecured(frmDoc &document)
-{
-    bool secured = true;
-    Q_EMIT needsCopy(&document, secured);
-    return secured;
-}
-
 bool FileCommands::mayOverwrite(const frmDoc &document)
 {
     const FileStamp now = FileStamp::of(document.DocName());
@@ -210,7 +202,7 @@ bool FileCommands::confirmClose(frmDoc &document)
 
 bool FileCommands::mayCloseUnsaved(frmDoc &document, const QString &path, const SaveReport &report)
 {
-    if (!isSecured(document))
+    if (!m_needs.copies.secure(document))
         return mayLose(document, report);
     if (!report.error.isEmpty())
         warn(resText(12626).arg(path, report.error));
@@ -319,7 +311,7 @@ FileCommands::SaveReport FileCommands::SaveVocabulary(frmDoc &document, const QS
     m_needs.status.setProgress(rows);
     const VocabularyFile::Watchers watchers{
         [this, rows](qint64 done) { m_needs.status.setProgress(rows + done); },
-        [this, &document] { isSecured(document); }, // being killed meanwhile would leave half of each
+        [this, &document] { m_needs.copies.secure(document); }, // being killed meanwhile would leave half of each
     };
     if (!VocabularyFile(path).save(vocabulary, m_codePage, watchers, &report.error))
         return report;

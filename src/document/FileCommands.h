@@ -1,10 +1,12 @@
 #pragma once
 
+#include "document/DocumentCloser.h"
 #include "document/rules/VocabularyCodec.h"
 
 #include <QObject>
 
 class AlertBox;
+class DocumentCopies;
 class DocumentList;
 class FilePrompts;
 class VocabularyFile;
@@ -15,7 +17,7 @@ struct FileStamp;
 
 /// The commands that act on documents as files: New, Open, Save, Save As, Close, with the reading and writing of
 /// vocabularies, their messages and the question before changes are lost.
-class FileCommands : public QObject
+class FileCommands : public QObject, private DocumentCloser
 {
     Q_OBJECT
 
@@ -28,6 +30,7 @@ public:
         modSBFunc &status;
         AlertBox &alert;
         FilePrompts &prompts;
+        DocumentCopies &copies;
     };
 
     /// codePage is the character set of vocabulary files.
@@ -64,9 +67,6 @@ Q_SIGNALS:
     void opened(frmDoc *document);
     /// The document's words are in its file.
     void saved(frmDoc *document);
-    /// The document's words are about to be nowhere but in a copy that is kept of them. A receiver that keeps copies
-    /// tells whether it has one on the disk.
-    void needsCopy(frmDoc *document, bool &secured);
     /// The user closes the document and does not want its changes.
     void givenUp(frmDoc *document);
 
@@ -78,6 +78,7 @@ private:
         Refused ///< the user wants to keep what another program has written to the file
     };
 
+    bool close(frmDoc &document) override;
     bool confirmClose(frmDoc &document);
     /// Whether a document may close all the same that was not saved, or not whole.
     bool mayCloseUnsaved(frmDoc &document, const QString &path, const SaveReport &report);
@@ -88,7 +89,6 @@ private:
     /// The same as a command: the user learns of a failure.
     void saveAndTell(frmDoc &document, const QString &path);
     bool mayOverwrite(const frmDoc &document);
-    bool isSecured(frmDoc &document);
     QString pathOrAsk(const frmDoc &document);
     QString askPath(const frmDoc &document);
     void load(const QString &path);
@@ -99,7 +99,6 @@ private:
     void openVocabulary(const QString &path, Vocabulary &&vocabulary, const FileStamp &stamp);
     void alertFile(const QString &prompt, int helpId);
     void warn(const QString &prompt, int helpId = 0);
-    void onCreated(frmDoc *document);
 
     Needs m_needs;
     CodePage m_codePage;

@@ -23,21 +23,22 @@ RecoveryCopy copyOf(const frmDoc &document)
 
 } // namespace
 
-RecoveryKeeper::RecoveryKeeper(DocumentList &documents, FileCommands &files, const CodePage &codePage,
-                               const QString &folder, QObject *parent)
-    : QObject(parent)
-    , m_documents(documents)
-    , m_codePage(codePage)
+RecoveryKeeper::RecoveryKeeper(const CodePage &codePage, const QString &folder)
+    : m_codePage(codePage)
     , m_folder(folder)
     , m_writer(m_folder, codePage)
 {
-    connect(&files, &FileCommands::opened, this, &RecoveryKeeper::watch);
-    connect(&files, &FileCommands::saved, this, &RecoveryKeeper::settle);
-    connect(&files, &FileCommands::needsCopy, this, &RecoveryKeeper::secure);
-    connect(&files, &FileCommands::givenUp, this, &RecoveryKeeper::giveUp);
-    connect(&documents, &DocumentList::removed, this, &RecoveryKeeper::release);
     connect(&m_timer, &QTimer::timeout, this, &RecoveryKeeper::lookForChanges);
     m_timer.start(Interval);
+}
+
+void RecoveryKeeper::follow(DocumentList &documents, FileCommands &files)
+{
+    m_documents = &documents;
+    connect(&files, &FileCommands::opened, this, &RecoveryKeeper::watch);
+    connect(&files, &FileCommands::saved, this, &RecoveryKeeper::settle);
+    connect(&files, &FileCommands::givenUp, this, &RecoveryKeeper::giveUp);
+    connect(&documents, &DocumentList::removed, this, &RecoveryKeeper::release);
 }
 
 RecoveryKeeper::State RecoveryKeeper::stateOf(const frmDoc &document)
@@ -95,15 +96,15 @@ void RecoveryKeeper::settle(frmDoc *document)
     m_writer.settle(place->slot, copyOf(*document));
 }
 
-void RecoveryKeeper::secure(frmDoc *document, bool &secured)
+bool RecoveryKeeper::secure(frmDoc &document)
 {
-    const auto place = m_kept.find(document);
+    const auto place = m_kept.find(&document);
     if (place == m_kept.end())
-        return;
-    place->seen = stateOf(*document);
-    m_writer.secure(place->slot, copyOf(*document));
+        return false;
+    place->seen = stateOf(document);
+    m_writer.secure(place->slot, copyOf(document));
     m_writer.finish();
-    secured = !place->slot->failed();
+    return !place->slot->failed();
 }
 
 void RecoveryKeeper::giveUp(frmDoc *document)
@@ -152,7 +153,7 @@ void RecoveryKeeper::recover(const RecoveryFolder::Orphan &orphan)
     if (path.isEmpty())
         return;
     closeUnchanged(orphan.copy.docName);
-    frmDoc *document = m_documents.create();
+    frmDoc *document = m_documents->create();
     GridContent::fillAll(*document->Rutor(), Vocabulary(orphan.copy.vocabulary));
     document->setCaption(orphan.copy.caption);
     document->setDocName(orphan.copy.docName);
@@ -165,7 +166,7 @@ void RecoveryKeeper::recover(const RecoveryFolder::Orphan &orphan)
 /// A file that was opened before its copy is recovered has no second window.
 void RecoveryKeeper::closeUnchanged(const QString &path)
 {
-    frmDoc *open = path.isEmpty() ? nullptr : m_documents.findByPath(path);
+    frmDoc *open = path.isEmpty() ? nullptr : m_documents->findByPath(path);
     if (open && !open->Dirty() && !open->Rutor()->EditMode())
         open->frame()->close();
 }

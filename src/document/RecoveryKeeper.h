@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/DocumentCopies.h"
 #include "document/RecoveryWriter.h"
 #include "document/rules/CodePage.h"
 
@@ -17,7 +18,7 @@ class frmDoc;
 /// Keeps a copy of every changed document in the recovery folder, brought up to date shortly after a change. A copy
 /// goes when its document has been saved or closed by the user; one that closes with words that its file does not hold
 /// leaves a copy for the next start, unless the user has let the changes go.
-class RecoveryKeeper : public QObject
+class RecoveryKeeper : public QObject, public DocumentCopies
 {
     Q_OBJECT
 
@@ -26,9 +27,12 @@ public:
     static constexpr int Interval = 2000;
 
     /// codePage is the character set of vocabulary files.
-    RecoveryKeeper(DocumentList &documents, FileCommands &files, const CodePage &codePage, const QString &folder,
-                   QObject *parent = nullptr);
+    RecoveryKeeper(const CodePage &codePage, const QString &folder);
 
+    /// Keeps copies of these documents from now on.
+    void follow(DocumentList &documents, FileCommands &files);
+
+    bool secure(frmDoc &document) override;
     /// Brings every copy up to date and returns when all are on the disk.
     void flush();
 
@@ -65,8 +69,6 @@ private:
     void watch(frmDoc *document);
     /// The document is as its file is.
     void settle(frmDoc *document);
-    /// The file is about to be overwritten in place: should that be cut short, the words must be in the copy.
-    void secure(frmDoc *document, bool &secured);
     /// The user wants the changes no more.
     void giveUp(frmDoc *document);
     /// The document closes; words that have neither been saved nor given up stay in its copy.
@@ -74,7 +76,7 @@ private:
     void closeUnchanged(const QString &path);
     bool holdsOnlyItsFile(const RecoveryCopy &copy) const;
 
-    DocumentList &m_documents;
+    DocumentList *m_documents = nullptr;
     CodePage m_codePage;
     RecoveryFolder m_folder;
     RecoveryWriter m_writer;

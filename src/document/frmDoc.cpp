@@ -1,5 +1,6 @@
 #include "document/frmDoc.h"
 
+#include "document/DocumentCloser.h"
 #include "document/ctlGrid.h"
 #include "document/ctlGridEdit.h"
 #include "document/rules/GridRules.h"
@@ -176,9 +177,7 @@ void frmDoc::activated()
 
 void frmDoc::closeEvent(QCloseEvent *event)
 {
-    bool accepted = true;
-    Q_EMIT closeRequested(accepted);
-    event->setAccepted(accepted);
+    event->setAccepted(!m_closer || m_closer->close(*this));
 }
 
 void frmDoc::focusInEvent(QFocusEvent *event)

@@ -7,6 +7,7 @@
 
 #include <optional>
 
+class DocumentCloser;
 class clsAppProperties;
 class ctlGrid;
 class modSBFunc;
@@ -35,6 +36,9 @@ public:
     /// Whether the vocabulary has changes that are not saved.
     bool Dirty() const { return isWindowModified(); }
     void setDirty(bool dirty) { setWindowModified(dirty); }
+
+    /// Is asked when the window is about to close; without one it closes.
+    void setCloser(DocumentCloser &closer) { m_closer = &closer; }
 
     /// Full path of the vocabulary file; empty for a document that was never saved.
     QString DocName() const { return m_docName; }
@@ -95,8 +99,6 @@ Q_SIGNALS:
     void menuRequested(const QPoint &globalPosition);
     /// A key asks for what the Clear command does.
     void clearRequested();
-    /// The window is about to close; a receiver may refuse.
-    void closeRequested(bool &accepted);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -119,6 +121,7 @@ private:
     void showEditStatus();
 
     Shared m_shared;
+    DocumentCloser *m_closer = nullptr;
     ctlGrid *m_grid;
     QString m_textBeforeEdit;
     std::optional<QString> m_committedEdit; ///< what commitRunningEdit stored of the edit that is going on

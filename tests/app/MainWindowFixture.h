@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/frmApp.h"
+#include "document/DocumentCopies.h"
 #include "document/DocumentList.h"
 #include "document/rules/CodePage.h"
 #include "platform/RegistryTree.h"
@@ -23,7 +24,7 @@
 #include <QToolButton>
 
 /// The main window with stand-ins for what comes from outside, shown on the offscreen platform.
-struct MainWindowFixture : ::testing::Test
+struct MainWindowFixture : ::testing::Test, DocumentCopies
 {
     QTemporaryDir folder;
     RegistryTree store;
@@ -42,11 +43,12 @@ struct MainWindowFixture : ::testing::Test
 
     void SetUp() override
     {
-        window = std::make_unique<frmApp>(frmApp::Needs{flags, undo, settings, store, alert, prompts, printer, dialogs,
-                                                        codePage, random, silence, help});
+        window = std::make_unique<frmApp>(frmApp::Needs{flags, undo, settings, store, alert, prompts, *this, printer,
+                                                        dialogs, codePage, random, silence, help});
         window->show();
         QApplication::setActiveWindow(window.get());
     }
+    bool secure(frmDoc &) override { return true; }
     DocumentList &documents() { return window->context().documents; }
     QString status(int panel) { return window->context().status.text(panel); }
     frmDoc *newDocument()

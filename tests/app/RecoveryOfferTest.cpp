@@ -21,8 +21,8 @@ struct RecoveryOfferTest : MainWindowFixture
         keeper.reset();
         window.reset();
         MainWindowFixture::SetUp();
-        keeper = std::make_unique<RecoveryKeeper>(documents(), window->context().files, codePage,
-                                                  folder.filePath("recovery"));
+        keeper = std::make_unique<RecoveryKeeper>(codePage, folder.filePath("recovery"));
+        keeper->follow(documents(), window->context().files);
         offer = std::make_unique<RecoveryOffer>(*keeper, alert, *window);
     }
     void change(const QString &path)

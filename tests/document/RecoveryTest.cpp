@@ -13,9 +13,11 @@
 struct Program : OpenFiles
 {
     explicit Program(const QString &folder)
-        : keeper(documents, files, CodePage(), folder)
+        : keeper(CodePage(), folder)
     {
+        keeper.follow(documents, files);
     }
+    bool secure(frmDoc &document) override { return keeper.secure(document); }
 
     frmDoc *changedDocument(const QString &word)
     {
@@ -251,15 +253,13 @@ TEST_F(RecoveryTest, WhatIsOverwrittenInPlaceIsInACopyMeanwhile)
     frmDoc *document = run->changedDocument("word");
     run->files.save();
     EXPECT_TRUE(copies().isEmpty());
-    bool secured = false;
-    Q_EMIT run->files.needsCopy(document, secured);
-    EXPECT_TRUE(secured);
+    EXPECT_TRUE(run->secure(*document));
     EXPECT_EQ(copies().size(), 1) << "although nothing has changed";
     restart();
     EXPECT_TRUE(run->keeper.orphans().empty()) << "the file is whole";
     run->files.LoadVocabulary(path);
     document = run->documents.open().front();
-    Q_EMIT run->files.needsCopy(document, secured);
+    EXPECT_TRUE(run->secure(*document));
     writeFile(path, readFile(path).chopped(3));
     restart();
     ASSERT_EQ(run->keeper.orphans().size(), 1u);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/DocumentCopies.h"
 #include "document/DocumentList.h"
 #include "document/FileCommands.h"
 #include "platform/RegistryTree.h"
@@ -11,7 +12,7 @@
 #include "support/ScriptedPrompts.h"
 
 /// A running program as far as its documents and their files go; what is still open goes with the object, unasked.
-struct OpenFiles
+struct OpenFiles : DocumentCopies
 {
     RegistryTree store;
     clsAppProperties settings{store, QStringLiteral("/usr/bin/glosaria")};
@@ -22,14 +23,15 @@ struct OpenFiles
     ScriptedPrompts prompts;
     clsMRUFileList recent{[](const QString &text) { return int(text.size()); }};
     DocumentList documents{{flags, undo, status, settings}};
-    FileCommands files{{documents, recent, status, alert, prompts}, CodePage()};
+    FileCommands files{{documents, recent, status, alert, prompts, *this}, CodePage()};
 
-    ~OpenFiles()
+    ~OpenFiles() override
     {
         for (frmDoc *document : std::vector<frmDoc *>(documents.open()))
             delete document;
     }
 
+    bool secure(frmDoc &) override { return true; }
     frmDoc *newDocument()
     {
         files.newDocument();
