@@ -82,7 +82,7 @@ const Command *CommandTable::find(const QString &key) const
 
 void CommandTable::update(const Entry &entry) const
 {
-    entry.action->setEnabled(entry.command.run && entry.available && entry.command.enabledIn.contains(m_state));
+    entry.action->setEnabled(entry.available && entry.command.enabledIn.contains(m_state));
 }
 
 void CommandTable::applyState(AppState state)

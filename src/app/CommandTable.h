@@ -30,13 +30,13 @@ private:
 /// One command of the program, declared once: menus, toolbars, shortcuts, enabled states and status help come from it.
 struct Command
 {
-    QString key;               ///< the command's name, for example "mnuFileNew"
-    int captionId;             ///< string id of the menu caption
-    QString shortcut;          ///< for example "Ctrl+N", or empty
-    int helpId;                ///< string id of the text shown while the entry is highlighted, 0: none
-    int picture;               ///< picture number, 0: none
-    StateSet enabledIn;        ///< the states in which it can be given
-    std::function<void()> run; ///< empty: the command cannot be given
+    QString key;        ///< the command's name, for example "mnuFileNew"
+    int captionId;      ///< string id of the menu caption
+    QString shortcut;   ///< for example "Ctrl+N", or empty
+    int helpId;         ///< string id of the text shown while the entry is highlighted, 0: none
+    int picture;        ///< picture number, 0: none
+    StateSet enabledIn; ///< the states in which it can be given
+    std::function<void()> run;
 };
 
 /// Every command by its key, each with the action that menus and toolbars share.

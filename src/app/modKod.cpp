@@ -8,7 +8,6 @@
 #include "document/RecoveryKeeper.h"
 #include "document/ctlGrid.h"
 #include "document/rules/CodePage.h"
-#include "platform/CommonControls.h"
 #include "platform/CupsServer.h"
 #include "platform/DetachedProcess.h"
 #include "platform/FileAssociation.h"
@@ -37,6 +36,7 @@
 #include "services/settings/clsRegistry.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QSessionManager>
 #include <QTextStream>
@@ -47,7 +47,8 @@ namespace {
 constexpr int ShowMainAfter = 2000;    // milliseconds
 constexpr int CloseSplashAfter = 3000; // milliseconds
 constexpr int UsageError = 2;
-constexpr int ContextCommand = 1; ///< the dialogs' help call for a topic by its number
+const QVersionNumber OldestControls(4, 72); ///< of the library that draws the controls
+constexpr int ContextCommand = 1;           ///< the dialogs' help call for a topic by its number
 
 /// Everything that lives as long as the program and belongs to no window.
 struct Program
@@ -226,7 +227,7 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     if (instance.start(commandLine.text) == SingleInstance::Role::Second)
         return 0;
     Program program;
-    if (!CommonControls::isRecentEnough(CommonControls::version())) {
+    if (QLibraryInfo::version() < OldestControls) {
         showAlert(program.alert, resText(723));
         return 0;
     }

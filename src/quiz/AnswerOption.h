@@ -11,7 +11,6 @@ class AnswerOption : public QRadioButton
 public:
     explicit AnswerOption(QWidget *parent = nullptr);
 
-    const QString &FullText() const { return m_fullText; }
     /// Shows a text behind the number, which is the option's key.
     void setFullText(int number, const QString &text);
 

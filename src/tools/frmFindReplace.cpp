@@ -227,7 +227,7 @@ void frmFindReplace::ReplaceAllMatches()
 
 void frmFindReplace::endRegion(const QString &message)
 {
-    m_search.EndRegion();
+    m_search.ResetSearch();
     // the last step: the dialog may be gone afterwards, with the document that was closed meanwhile
     m_needs.alert.show(this, {message, resText(507), Alert::Ok, 0, true});
 }

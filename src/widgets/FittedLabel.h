@@ -14,9 +14,7 @@ public:
 
     explicit FittedLabel(QWidget *parent = nullptr);
 
-    /// The whole text; text() is what the label shows of it.
-    const QString &FullText() const { return m_fullText; }
-    /// Shows a text and makes it the accessible name.
+    /// Shows a text and makes it the accessible name; text() is what the label shows of it.
     void setFullText(const QString &text);
 
     /// The type the label prefers and the smallest it may take, as multiples of the window's type.

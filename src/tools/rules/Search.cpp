@@ -11,14 +11,7 @@ constexpr int BehindCell = std::numeric_limits<int>::max();
 void Search::ResetSearch()
 {
     CurRow = CurCol = CurPos = 1;
-    MatchCount = 0;
     FoundAny = false;
-}
-
-void Search::EndRegion()
-{
-    ResetSearch();
-    SearchDone = true;
 }
 
 TextFinder Search::finder() const
@@ -93,7 +86,6 @@ Search::Match Search::found(int row, int start, const TextFinder &finder)
     CurRow = row;
     CurPos = start + 2;
     FoundAny = true;
-    ++MatchCount;
     return {row, CurCol, start, int(finder.length())};
 }
 

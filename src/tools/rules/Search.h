@@ -29,11 +29,9 @@ public:
     int CurRow = 1; ///< row, column and 1-based position where the next search begins
     int CurCol = 1;
     int CurPos = 1;
-    int MatchCount = 0;      ///< matches since the last reset
-    bool FoundAny = false;   ///< a match since the last reset
-    bool SearchDone = false; ///< the region was searched to its end
+    bool FoundAny = false; ///< a match since the last reset
 
-    /// Begins again at the first row.
+    /// The next search begins at the top and has found nothing yet.
     void ResetSearch();
     /// The next match, which CurRow, CurCol and CurPos then follow; nothing at the end of the region. FindWhat must not
     /// be empty.
@@ -42,8 +40,6 @@ public:
     std::optional<Match> FindPrevious(const CellSource &cells);
     /// Goes on from a cell, without looking into that one: the next search is for what comes behind it, or before it.
     void LeaveCell(int row, int col, bool backwards);
-    /// Ends the region: the next search begins at the top and has found nothing yet.
-    void EndRegion();
     /// To be called when the last match has been replaced: a replacement that holds the search text is not searched
     /// again.
     void SkipReplacement(const QString &ReplaceWith);

@@ -19,7 +19,7 @@ ReplaceAll::Summary replaceStepByStep(MemoryCells &cells, Search search, const Q
 {
     ReplaceAll::Summary summary;
     while (const auto match = search.FindNext(cells)) {
-        summary = {search.MatchCount, match->row, match->col, match->start + int(with.size())};
+        summary = {summary.count + 1, match->row, match->col, match->start + int(with.size())};
         if (summary.count > 10000)
             break;
         QString text = cells.TextMatrix(match->row, match->col);

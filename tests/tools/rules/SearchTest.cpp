@@ -32,9 +32,8 @@ std::string foundIn(const MemoryCells &cells, const QString &what, int flags)
         EXPECT_EQ(match->length, what.size());
         found << QStringLiteral("%1%2:%3").arg(QChar(u'@' + match->col)).arg(match->row).arg(match->start);
     }
-    EXPECT_EQ(search.MatchCount, found.size());
     EXPECT_EQ(search.FoundAny, !found.isEmpty());
-    search.EndRegion();
+    search.ResetSearch();
     QStringList backwards;
     while (const auto match = search.FindPrevious(cells))
         backwards.prepend(QStringLiteral("%1%2:%3").arg(QChar(u'@' + match->col)).arg(match->row).arg(match->start));
@@ -97,8 +96,8 @@ TEST(Search, LooksOnlyAtColumnTwoOnceThereUntilTheRegionEnds)
     cells.words[1][0] = "x";
     EXPECT_EQ(search.FindNext(cells), (Search::Match{2, 2, 0, 1}));
     EXPECT_EQ(search.FindNext(cells), std::nullopt);
-    search.EndRegion();
-    EXPECT_TRUE(search.SearchDone && !search.FoundAny);
+    search.ResetSearch();
+    EXPECT_FALSE(search.FoundAny);
     EXPECT_EQ(search.FindNext(cells), (Search::Match{2, 1, 0, 1}));
     cells.words.pop_back(); // the row of the match has gone
     EXPECT_EQ(search.FindNext(cells), (Search::Match{1, 2, 0, 1}));
