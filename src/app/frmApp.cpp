@@ -60,6 +60,15 @@ void freeCloseKey(const QMenu &systemMenu)
     }
 }
 
+UndoKind undoKindOf(const QString &caption)
+{
+    for (int id = int(UndoKind::Insert); id <= int(UndoKind::Replace); ++id) {
+        if (caption == resText(id))
+            return UndoKind(id);
+    }
+    return UndoKind::None;
+}
+
 void selectRecentFilesKey(clsRegistry &registry)
 {
     registry.setClassKey(HKEY_CURRENT_USER);
@@ -257,6 +266,11 @@ void frmApp::DoMenuClick(const QString &key)
 QString frmApp::UndoAction() const
 {
     return resText(int(undoable()));
+}
+
+void frmApp::setUndoAction(const QString &caption)
+{
+    m_context->undo.setKind(undoKindOf(caption), m_context->documents.active());
 }
 
 /// Another document can become the active one before a change is complete: while a dialog asks how to sort, say.

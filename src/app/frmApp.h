@@ -61,8 +61,10 @@ public:
     /// Runs the command with that key exactly as a menu click does.
     void DoMenuClick(const QString &key);
 
-    /// The caption of the Undo command.
+    /// The caption of the Undo command, which names what it undoes in the active document. Any text but the captions
+    /// that there are for it means nothing to undo.
     QString UndoAction() const;
+    void setUndoAction(const QString &caption);
 
     /// Switches menus, toolbars and commands to a state.
     void SetCommandState(AppState state);

@@ -44,8 +44,8 @@
 
 namespace {
 
-constexpr int ShowMainAfter = 2000;    // milliseconds
-constexpr int CloseSplashAfter = 3000; // milliseconds
+constexpr int timMain = 2000;   ///< milliseconds until the main window shows
+constexpr int timSplash = 3000; ///< milliseconds until the splash goes
 constexpr int UsageError = 2;
 const QVersionNumber OldestControls(4, 72); ///< of the library that draws the controls
 constexpr int ContextCommand = 1;           ///< the dialogs' help call for a topic by its number
@@ -190,16 +190,18 @@ void showInTurn(frmSplash *splash, frmApp &window, const QString &file, Recovery
 {
     if (splash)
         splash->show();
-    QTimer::singleShot(splash ? ShowMainAfter : 0, &window, [splash, &window] {
+    const auto timMain_ThatTime = [splash, &window] {
         window.show();
         if (splash)
             splash->raise();
-    });
-    QTimer::singleShot(splash ? CloseSplashAfter : 0, &window, [splash, &offer, file] {
+    };
+    const auto timSplash_ThatTime = [splash, &offer, file] {
         if (splash)
             splash->close();
         offer.start(file);
-    });
+    };
+    QTimer::singleShot(splash ? timMain : 0, &window, timMain_ThatTime);
+    QTimer::singleShot(splash ? timSplash : 0, &window, timSplash_ThatTime);
 }
 
 } // namespace

@@ -52,8 +52,9 @@ TEST_F(MenusAndToolbarsTest, TheUndoCaptionNamesAndEnablesTheCommand)
 {
     frmDoc *document = newDocument();
     EXPECT_EQ(window->UndoAction(), resText(419));
-    undo.setKind(UndoKind::Cut, document);
+    window->setUndoAction("&Undo Cut");
     EXPECT_EQ(window->UndoAction(), "&Undo Cut");
+    EXPECT_TRUE(undo.kind() == UndoKind::Cut && undo.belongsTo(document));
     EXPECT_EQ(window->commands().action("mnuEditUndo")->text(), "&Undo Cut");
     EXPECT_EQ(button("STANDARD", "Undo")->toolTip(), "Undo Cut");
     undo.clear();
