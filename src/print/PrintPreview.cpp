@@ -65,7 +65,7 @@ void PrintPreview::build(int page)
     connect(window, &frmPrtPrev::zoomInRequested, this, [this] { zoom(m_zoomDivisor - 1); });
     connect(window, &frmPrtPrev::zoomOutRequested, this, [this] { zoom(m_zoomDivisor + 1); });
     connect(window, &frmPrtPrev::keyPressed, this, &PrintPreview::onKeyPressed);
-    connect(window, &frmPrtPrev::keyReleased, this, &PrintPreview::onKeyReleased);
+    connect(window, &frmPrtPrev::keyReleased, this, &PrintPreview::Form_KeyUp);
     connect(window, &frmPrtPrev::wheelTurned, this, &PrintPreview::onWheel);
     connect(window, &frmPrtPrev::mouseMoved, this, [this] { Q_EMIT statusText(ClickToZoom); });
     showPage(m_pages.visiblePage());
@@ -151,7 +151,7 @@ void PrintPreview::scrollBy(int dx, int dy)
     m_pages.moveTo(position);
 }
 
-void PrintPreview::onKeyReleased(int key)
+void PrintPreview::Form_KeyUp(int key)
 {
     key == Qt::Key_PageDown ? pageDown() : pageUp();
 }

@@ -54,7 +54,7 @@ private:
     void zoom(double divisor);
     void build(int page);
     void showPage(int page);
-    void onKeyReleased(int key);
+    void Form_KeyUp(int key);
     void onKeyPressed(int key, bool &taken);
     void onWheel(int pixels);
     void pageDown();

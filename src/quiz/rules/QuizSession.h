@@ -38,7 +38,6 @@ public:
     const QString &givenAnswer() const { return m_givenAnswer; }
     /// The text typed, or spelled out so far in Practice.
     const QString &answerText() const { return m_answerText; }
-    int chosenOption() const { return m_chosenOption; }
     /// The round has ended: what is left is to repeat the errors or to close.
     bool done() const { return m_done; }
     bool canRepeat() const { return m_done && errorCount() > 0; }
