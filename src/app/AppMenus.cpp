@@ -49,15 +49,15 @@ void AppMenus::addMenu(QMenuBar *menuBar, const MenuLayout::Menu &layout)
     menu->menuAction()->setStatusTip(resText(FirstTitleHelp + int(m_menus.size())));
     m_menus.insert(layout.key, menu);
     addEntries(menu, layout.entries);
-    connect(menu, &QMenu::aboutToShow, this, [this, &layout] { rebuild(layout); });
-    rebuild(layout);
+    connect(menu, &QMenu::aboutToShow, this, [this, &layout] { oAppMenu_InitPopupMenu(layout); });
+    oAppMenu_InitPopupMenu(layout);
 }
 
 void AppMenus::addEntries(QMenu *menu, const QStringList &keys)
 {
     for (const QString &key : keys) {
-        if (key.isEmpty())
-            menu->addSeparator();
+        if (key.startsWith(u'-'))
+            menu->addSeparator()->setObjectName(key.mid(1));
         else
             menu->addAction(m_table.action(key));
     }
@@ -68,8 +68,8 @@ void AppMenus::buildGridMenu()
     m_gridMenu->setObjectName(QStringLiteral("oPopUpGrid"));
     m_gridMenu->setProperty("helpContextId", menu(QStringLiteral("mnuEdit"))->property("helpContextId"));
     for (const MenuLayout::ContextEntry &entry : MenuLayout::gridMenu()) {
-        if (entry.key.isEmpty()) {
-            m_gridMenu->addSeparator();
+        if (entry.command.isEmpty()) {
+            m_gridMenu->addSeparator()->setObjectName(entry.key);
             continue;
         }
         QAction *command = m_table.action(entry.command);
@@ -92,7 +92,7 @@ void AppMenus::applyState(AppState state)
     }
 }
 
-void AppMenus::rebuild(const MenuLayout::Menu &layout)
+void AppMenus::oAppMenu_InitPopupMenu(const MenuLayout::Menu &layout)
 {
     if (layout.key == QStringLiteral("mnuFile"))
         rebuildFile(menu(layout.key), layout.entries);
@@ -123,15 +123,14 @@ void AppMenus::rebuildFile(QMenu *menu, const QStringList &entries)
     preview->setChecked(m_table.state() == AppState::StatePreview);
     preview->setIconVisibleInMenu(!preview->isChecked()); // its check mark would be a shade behind the picture
     addRecentFiles(menu);
-    menu->addSeparator();
-    addEntries(menu, {QStringLiteral("mnuFileExit")});
+    addEntries(menu, {QStringLiteral("-mnuFileSep"), QStringLiteral("mnuFileExit")});
 }
 
 void AppMenus::addRecentFiles(QMenu *menu)
 {
     clsMRUFileList &files = m_context.recentFiles;
     if (files.FileCount() > 0)
-        menu->addSeparator();
+        addEntries(menu, {QStringLiteral("-mnuFileMRU(0)")});
     for (int i = 1; i <= files.FileCount(); ++i) {
         QAction *action = m_table.action(QStringLiteral("mnuFileMRU(%1)").arg(i));
         if (!action || !files.FileExists(i))

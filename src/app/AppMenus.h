@@ -33,7 +33,7 @@ public:
 
 private:
     void addMenu(QMenuBar *menuBar, const MenuLayout::Menu &layout);
-    void rebuild(const MenuLayout::Menu &layout);
+    void oAppMenu_InitPopupMenu(const MenuLayout::Menu &layout);
     QStringList withoutDocument(const QStringList &keys) const;
     void rebuildFile(QMenu *menu, const QStringList &entries);
     void addRecentFiles(QMenu *menu);

@@ -20,8 +20,10 @@ const char PictureProperty[] = "pictureNumber";
 AppToolbars::AppToolbars(QMainWindow &window, CommandTable &table, const AppMenus &menus)
     : QObject(&window)
     , m_table(table)
-    , m_standard(addBand(window, QStringLiteral("STANDARD"), 12622, MenuLayout::standardButtons()))
-    , m_preview(addBand(window, QStringLiteral("PREVIEW"), 12623, MenuLayout::previewButtons()))
+    , m_standard(addBand(window, QStringLiteral("STANDARD"), QStringLiteral("tbrStandard"), 12622,
+                         MenuLayout::standardButtons()))
+    , m_preview(
+          addBand(window, QStringLiteral("PREVIEW"), QStringLiteral("tbrPreview"), 12623, MenuLayout::previewButtons()))
 {
     for (QAction *action : m_standard->actions())
         m_standardButtons.insert(action->objectName(), action);
@@ -29,7 +31,7 @@ AppToolbars::AppToolbars(QMainWindow &window, CommandTable &table, const AppMenu
     addDropDown(QStringLiteral("Quiz"), menus.menu(QStringLiteral("mnuQuiz")));
 }
 
-QToolBar *AppToolbars::addBand(QMainWindow &window, const QString &name, int titleId,
+QToolBar *AppToolbars::addBand(QMainWindow &window, const QString &key, const QString &name, int titleId,
                                const std::vector<MenuLayout::Button> &buttons)
 {
     auto *bar = new QToolBar(resText(titleId), &window);
@@ -37,6 +39,7 @@ QToolBar *AppToolbars::addBand(QMainWindow &window, const QString &name, int tit
     bar->setMovable(false);
     bar->setFloatable(false);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    bar->toggleViewAction()->setObjectName(key);
     bar->toggleViewAction()->setEnabled(false);
     for (const MenuLayout::Button &button : buttons) {
         if (button.key.isEmpty())

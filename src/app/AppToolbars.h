@@ -35,7 +35,8 @@ public:
     QToolBar *preview() const { return m_preview; }
 
 private:
-    QToolBar *addBand(QMainWindow &window, const QString &name, int titleId,
+    /// key is the band's, name that of the bar in it.
+    QToolBar *addBand(QMainWindow &window, const QString &key, const QString &name, int titleId,
                       const std::vector<MenuLayout::Button> &buttons);
     QAction *addButton(QToolBar *bar, const MenuLayout::Button &button);
     void addDropDown(const QString &button, QMenu *menu);

@@ -4,15 +4,10 @@ namespace MenuLayout {
 
 namespace {
 
-/// Keys separated by blanks; "-" stands for a separator.
+/// Keys separated by blanks.
 QStringList keys(const char *words)
 {
-    QStringList list = QString::fromLatin1(words).split(QLatin1Char(' '));
-    for (QString &key : list) {
-        if (key == QStringLiteral("-"))
-            key.clear();
-    }
-    return list;
+    return QString::fromLatin1(words).split(u' ');
 }
 
 Button button(const char *key, int toolTipId, int hoverHelpId, int whatsThisId, const char *command)
@@ -31,18 +26,18 @@ const std::vector<Menu> &menus()
 {
     static const std::vector<Menu> all{
         {QStringLiteral("mnuFile"), 400, 1030,
-         keys("mnuFileNew mnuFileOpen mnuFileClose - mnuFileSave mnuFileSaveAs - mnuFilePageSetup mnuFilePrintPreview "
-              "mnuFilePrint")},
+         keys("mnuFileNew mnuFileOpen mnuFileClose -mnuFile(3) mnuFileSave mnuFileSaveAs -mnuFile(8) mnuFilePageSetup "
+              "mnuFilePrintPreview mnuFilePrint")},
         {QStringLiteral("mnuEdit"), 418, 1040,
-         keys("mnuEditUndo - mnuEditCut mnuEditCopy mnuEditPaste mnuEditClear - mnuEditInsert mnuEditDelete - "
-              "mnuEditFind mnuEditReplace")},
+         keys("mnuEditUndo -mnuEdit(1) mnuEditCut mnuEditCopy mnuEditPaste mnuEditClear -mnuEdit(5) mnuEditInsert "
+              "mnuEditDelete -mnuEdit(5) mnuEditFind mnuEditReplace")},
         {QStringLiteral("mnuVocabulary"), 431, 1050,
-         keys("mnuVocabularyLanguage - mnuVocabularyRowHeight mnuVocabularyColumnWidth - mnuVocabularyFont "
-              "mnuVocabularySort")},
+         keys("mnuVocabularyLanguage -mnuToolbar(0) mnuVocabularyRowHeight mnuVocabularyColumnWidth "
+              "-mnuToolbar(3) mnuVocabularyFont mnuVocabularySort")},
         {QStringLiteral("mnuMode"), 439, 1060, keys("mnuMode1 mnuMode2 mnuMode3 mnuMode4 mnuMode5")},
         {QStringLiteral("mnuQuiz"), 445, 1070, keys("mnuQuizStudy mnuQuizMultiple mnuQuizQA")},
         {QStringLiteral("mnuWindow"), 449, 1080, keys("mnuWindow(0) mnuWindow(1) mnuWindow(2) mnuWindow(3)")},
-        {QStringLiteral("mnuHelp"), 454, 1090, keys("mnuHelpTopic - mnuHelpAbout")},
+        {QStringLiteral("mnuHelp"), 454, 1090, keys("mnuHelpTopic -mnuHelp(4) mnuHelpAbout")},
     };
     return all;
 }
@@ -101,7 +96,7 @@ const std::vector<ContextEntry> &gridMenu()
         {QStringLiteral("Cut"), 470, QStringLiteral("mnuEditCut"), 22},
         {QStringLiteral("Copy"), 471, QStringLiteral("mnuEditCopy"), 23},
         {QStringLiteral("Paste"), 472, QStringLiteral("mnuEditPaste"), 24},
-        {{}, 0, {}, 0},
+        {QStringLiteral("Sep"), 0, {}, 0},
         {QStringLiteral("Lang"), 474, QStringLiteral("mnuVocabularyLanguage"), 33},
     };
     return all;

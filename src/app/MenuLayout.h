@@ -9,7 +9,7 @@
 /// in the command table.
 namespace MenuLayout {
 
-/// A drop-down of the menu bar. An empty key is a separator.
+/// A drop-down of the menu bar. An entry with a dash before its key is a separator.
 struct Menu
 {
     QString key;
@@ -31,9 +31,9 @@ struct Button
 /// An entry of the grid's context menu.
 struct ContextEntry
 {
-    QString key; ///< empty: a separator
+    QString key;
     int captionId;
-    QString command;
+    QString command; ///< empty: a separator
     int helpId;
 };
 

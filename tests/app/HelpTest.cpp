@@ -145,7 +145,7 @@ TEST_F(HelpTest, F1InADropDownOpensItsTopic)
 TEST_F(HelpTest, WhatsThisExplainsToolbarButtonsAndNoSeparators)
 {
     newDocument();
-    for (const auto &[band, first] : {std::pair("STANDARD", 20000), std::pair("PREVIEW", 20018)}) {
+    for (const auto &[band, first] : {std::pair("tbrStandard", 20000), std::pair("tbrPreview", 20018)}) {
         if (first == 20018)
             window->DoMenuClick("mnuFilePrintPreview");
         auto *bar = window->findChild<QToolBar *>(QString::fromLatin1(band));

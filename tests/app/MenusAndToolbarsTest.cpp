@@ -15,8 +15,8 @@ TEST_F(MenusAndToolbarsTest, WithoutADocumentOnlyFilesCanBeOpened)
     EXPECT_EQ(menuTitles(), (QStringList{"File", "Help"}));
     EXPECT_EQ(entries("mnuFile"), (QStringList{"New", "Open...", "-", "Exit"}));
     for (const char *key : {"Save", "Print", "Cut", "Copy", "Paste", "Undo", "Find", "Quiz"})
-        EXPECT_FALSE(button("STANDARD", key)->isEnabled()) << key;
-    EXPECT_TRUE(button("STANDARD", "New")->isEnabled());
+        EXPECT_FALSE(button("tbrStandard", key)->isEnabled()) << key;
+    EXPECT_TRUE(button("tbrStandard", "New")->isEnabled());
 }
 
 TEST_F(MenusAndToolbarsTest, StatesFollowTheActiveDocument)
@@ -29,8 +29,8 @@ TEST_F(MenusAndToolbarsTest, StatesFollowTheActiveDocument)
     const QStringList editing = entries("mnuFile");
     for (const char *entry : {"(New)", "(Open...)", "Close", "Save", "Save As...", "(Print Preview...)", "(Print...)"})
         EXPECT_TRUE(editing.contains(QLatin1String(entry))) << entry;
-    EXPECT_FALSE(button("STANDARD", "Find")->isEnabled());
-    EXPECT_TRUE(button("STANDARD", "Save")->isEnabled());
+    EXPECT_FALSE(button("tbrStandard", "Find")->isEnabled());
+    EXPECT_TRUE(button("tbrStandard", "Save")->isEnabled());
     document->endEdit();
     EXPECT_EQ(window->state(), AppState::StateDocument);
     window->DoMenuClick("mnuFileClose");
@@ -56,12 +56,12 @@ TEST_F(MenusAndToolbarsTest, TheUndoCaptionNamesAndEnablesTheCommand)
     EXPECT_EQ(window->UndoAction(), "&Undo Cut");
     EXPECT_TRUE(undo.kind() == UndoKind::Cut && undo.belongsTo(document));
     EXPECT_EQ(window->commands().action("mnuEditUndo")->text(), "&Undo Cut");
-    EXPECT_EQ(button("STANDARD", "Undo")->toolTip(), "Undo Cut");
+    EXPECT_EQ(button("tbrStandard", "Undo")->toolTip(), "Undo Cut");
     undo.clear();
-    EXPECT_FALSE(button("STANDARD", "Undo")->isEnabled());
+    EXPECT_FALSE(button("tbrStandard", "Undo")->isEnabled());
     newDocument();
     undo.setKind(UndoKind::Sort, document);
-    EXPECT_FALSE(button("STANDARD", "Undo")->isEnabled()) << "there is nothing to undo in the active document";
+    EXPECT_FALSE(button("tbrStandard", "Undo")->isEnabled()) << "there is nothing to undo in the active document";
     EXPECT_EQ(window->UndoAction(), resText(419));
 }
 
@@ -139,13 +139,13 @@ TEST_F(MenusAndToolbarsTest, TheStatusBarFollowsTheHighlight)
         return status(0);
     };
     const QPoint title = bar.actionGeometry(bar.actions().at(2)).center();
-    const QPoint quiz = button("STANDARD", "Quiz")->rect().center();
+    const QPoint quiz = button("tbrStandard", "Quiz")->rect().center();
     for (const bool searching : {false, true}) {
         flags.FindMode = searching;
         const QString ready = resText(506);
         EXPECT_EQ(over(bar, title), searching ? ready : resText(102));
         EXPECT_EQ(over(bar, bar.rect().bottomRight() - QPoint(20, 5)), ready);
-        EXPECT_EQ(over(*button("STANDARD", "Quiz"), quiz), searching ? ready : resText(222));
+        EXPECT_EQ(over(*button("tbrStandard", "Quiz"), quiz), searching ? ready : resText(222));
         EXPECT_EQ(over(window->context().status, QPoint(5, 5)), searching ? ready : resText(2000));
         EXPECT_EQ(over(*window->documentArea(), QPoint(5, 5)), ready);
         QApplication::setActiveWindow(window.get()); // this platform makes menus active, even closed ones
@@ -170,7 +170,7 @@ TEST_F(MenusAndToolbarsTest, ADialogKeepsItsTextWhenThePointerLeavesItsButton)
     visitor.start(1);
     for (const char *key : {"Sort", "Font", "Languages"}) {
         shown.clear();
-        const QPoint place = button("STANDARD", key)->mapTo(window.get(), QPoint(9, 9));
+        const QPoint place = button("tbrStandard", key)->mapTo(window.get(), QPoint(9, 9));
         QTest::mouseMove(window->windowHandle(), place);
         QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, place);
         EXPECT_TRUE(QTest::qWaitFor([&] { return !shown.isEmpty(); })) << key;
@@ -208,7 +208,7 @@ TEST_F(MenusAndToolbarsTest, ARightClickShowsTheProgramsOwnMenusOnly)
         return menu ? menu->objectName() : QString("nothing");
     };
     EXPECT_EQ(rightClick(window->menuBar()), "nothing");
-    EXPECT_EQ(rightClick(window->findChild<QToolBar *>("STANDARD")->findChild<QToolButton *>()), "nothing");
+    EXPECT_EQ(rightClick(window->findChild<QToolBar *>("tbrStandard")->findChild<QToolButton *>()), "nothing");
     grid->setText("word");
     grid->setEditMode(true);
     grid->SelectEditText(1, 2);
@@ -262,6 +262,7 @@ TEST_F(MenusAndToolbarsTest, EveryTitleAndEntryHasItsCaptionAndHelpText)
     newDocument()->frame()->hide(); // and not listed
     int id = 400;
     int title = 0;
+    QStringList separators;
     for (QAction *each : window->menuBar()->actions()) {
         QMenu *dropDown = each->menu();
         EXPECT_EQ(each->text(), resText(id));
@@ -269,8 +270,10 @@ TEST_F(MenusAndToolbarsTest, EveryTitleAndEntryHasItsCaptionAndHelpText)
         Q_EMIT dropDown->aboutToShow();
         for (QAction *entry : dropDown->actions()) {
             id = entry->objectName() == "mnuFileExit" ? 417 : id + 1;
-            if (entry->isSeparator())
+            if (entry->isSeparator()) {
+                separators += entry->objectName();
                 continue;
+            }
             EXPECT_TRUE(entry->text().startsWith(resText(id))) << id;
             EXPECT_TRUE(!entry->icon().isNull() || dropDown->objectName() == "mnuMode") << id;
             EXPECT_TRUE(entry->statusTip().startsWith(resText(id - 399))) << id;
@@ -278,6 +281,8 @@ TEST_F(MenusAndToolbarsTest, EveryTitleAndEntryHasItsCaptionAndHelpText)
         ++id;
     }
     EXPECT_EQ(id, 458);
+    EXPECT_EQ(separators.join(' '), "mnuFile(3) mnuFile(8) mnuFileSep mnuEdit(1) mnuEdit(5) mnuEdit(5) mnuToolbar(0) "
+                                    "mnuToolbar(3) mnuHelp(4)");
 }
 
 // Tool tips run on from 1000 and 1100, help texts from 200 and 231 with a number for each separator.
@@ -285,7 +290,8 @@ TEST_F(MenusAndToolbarsTest, EveryButtonHasItsToolTipAndHelpText)
 {
     newDocument();
     window->DoMenuClick("mnuFilePrintPreview");
-    for (const auto &[band, first, firstHelp] : {std::tuple("STANDARD", 1000, 200), std::tuple("PREVIEW", 1101, 231)}) {
+    for (const auto &[band, first, firstHelp] :
+         {std::tuple("tbrStandard", 1000, 200), std::tuple("tbrPreview", 1101, 231)}) {
         const auto *bar = window->findChild<QToolBar *>(band);
         int toolTip = first;
         for (int i = 0; i < bar->actions().size(); ++i) {

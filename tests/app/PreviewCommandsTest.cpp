@@ -35,7 +35,7 @@ TEST_F(PreviewCommandsTest, ThePreviewTakesTheDocumentsPlaceAndGivesItBack)
     undo.setKind(UndoKind::Clear, active);
     window->DoMenuClick("mnuFilePrintPreview");
     EXPECT_EQ(window->state(), AppState::StatePreview);
-    EXPECT_FALSE(window->findChild<QToolBar *>("STANDARD")->isVisible());
+    EXPECT_FALSE(window->findChild<QToolBar *>("tbrStandard")->isVisible());
     EXPECT_EQ(menuTitles(), (QStringList{"File", "Help"}));
     for (const char *entry : {"(New)", "(Open...)", "(Close)", "(Save)", "(Save As...)"})
         EXPECT_TRUE(entries("mnuFile").contains(QLatin1String(entry))) << entry;
@@ -44,11 +44,11 @@ TEST_F(PreviewCommandsTest, ThePreviewTakesTheDocumentsPlaceAndGivesItBack)
     for (const auto &[made, place] : places)
         EXPECT_FALSE(made->frame()->isVisible());
     EXPECT_EQ(status(0) + status(1), "");
-    EXPECT_FALSE(button("PREVIEW", "Previous")->isEnabled());
+    EXPECT_FALSE(button("tbrPreview", "Previous")->isEnabled());
     window->DoMenuClick("Next");
     EXPECT_EQ(preview().visiblePage(), 1);
-    EXPECT_TRUE(button("PREVIEW", "Previous")->isEnabled());
-    EXPECT_FALSE(button("PREVIEW", "Next")->isEnabled());
+    EXPECT_TRUE(button("tbrPreview", "Previous")->isEnabled());
+    EXPECT_FALSE(button("tbrPreview", "Next")->isEnabled());
     dialogs.pages = PrintChoice{1, 1, 2, false, false, true};
     window->DoMenuClick("mnuFilePrint");
     EXPECT_TRUE(printer.sheets.at(0).find(active->Caption() + " 1"));
