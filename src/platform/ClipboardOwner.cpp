@@ -18,13 +18,16 @@ template <typename Reply> Owned<Reply> owned(Reply *reply)
     return {reply, &std::free};
 }
 
-/// A connection of its own to the display: that of the toolkit takes the answers itself.
+/// A connection of its own to the display: that of the toolkit takes the answers itself. It stays, with its window: an
+/// owner that answers late must find who has asked, or it may end with what it holds.
 class Asker
 {
 public:
     Asker()
         : m_connection(xcb_connect(nullptr, &m_screen))
     {
+        if (isConnected())
+            makeWindow();
     }
     ~Asker() { xcb_disconnect(m_connection); }
     Q_DISABLE_COPY_MOVE(Asker)
@@ -48,13 +51,9 @@ public:
     /// Asks the owner for the kinds of its content.
     void ask(xcb_atom_t selection) const
     {
-        xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(m_connection));
-        for (int screen = m_screen; screen > 0 && screens.rem > 1; --screen)
-            xcb_screen_next(&screens);
-        const xcb_window_t window = xcb_generate_id(m_connection);
-        xcb_create_window(m_connection, 0, window, screens.data->root, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY, 0, 0,
-                          nullptr);
-        xcb_convert_selection(m_connection, window, selection, atom("TARGETS"), atom("GLOSARIA_TARGETS"),
+        while (owned(xcb_poll_for_event(m_connection))) { // what is too late
+        }
+        xcb_convert_selection(m_connection, m_window, selection, atom("TARGETS"), atom("GLOSARIA_TARGETS"),
                               XCB_CURRENT_TIME);
         xcb_flush(m_connection);
     }
@@ -73,8 +72,19 @@ public:
     }
 
 private:
+    void makeWindow()
+    {
+        xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(m_connection));
+        for (int screen = m_screen; screen > 0 && screens.rem > 1; --screen)
+            xcb_screen_next(&screens);
+        m_window = xcb_generate_id(m_connection);
+        xcb_create_window(m_connection, 0, m_window, screens.data->root, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY, 0,
+                          0, nullptr);
+    }
+
     int m_screen = 0;
     xcb_connection_t *m_connection;
+    xcb_window_t m_window = XCB_NONE;
 };
 
 } // namespace
@@ -85,7 +95,7 @@ bool answers()
 {
     if (QGuiApplication::platformName() != QStringLiteral("xcb") || QGuiApplication::clipboard()->ownsClipboard())
         return true;
-    const Asker asker;
+    static const Asker asker;
     const xcb_atom_t clipboard = asker.isConnected() ? asker.atom("CLIPBOARD") : xcb_atom_t(XCB_ATOM_NONE);
     if (clipboard == XCB_ATOM_NONE || !asker.hasOwner(clipboard))
         return true;
