@@ -48,7 +48,6 @@ constexpr int timMain = 2000;   ///< milliseconds until the main window shows
 constexpr int timSplash = 3000; ///< milliseconds until the splash goes
 constexpr int UsageError = 2;
 const QVersionNumber OldestControls(4, 72); ///< of the library that draws the controls
-constexpr int ContextCommand = 1;           ///< the dialogs' help call for a topic by its number
 
 /// Everything that lives as long as the program and belongs to no window.
 struct Program
@@ -61,12 +60,7 @@ struct Program
     HelpViewers help{alert, UserFolders::state() + QStringLiteral("/help-favorites")};
     CupsServer printServer;
     QtPrinter printer{printServer};
-    QtDialogs dialogs{printer, [this](const QString &file, int command, int key) {
-                          HelpTarget target = HelpTarget::ofProgram();
-                          target.HTMLHelpFile = file;
-                          const bool topic = command == ContextCommand;
-                          return help.HtmlHelp(target, topic ? HH_HELP_CONTEXT : HH_DISPLAY_TOC, key);
-                      }};
+    QtDialogs dialogs{printer, help};
     CommonFilePrompts prompts{dialogs, alert};
     CodePage codePage{CodePage::nameFor(QLocale())};
     SeededRandom random;

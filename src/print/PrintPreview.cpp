@@ -5,7 +5,7 @@
 #include "print/PrintHost.h"
 #include "print/rules/modUtskrift.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 
 #include <algorithm>
 
@@ -64,7 +64,6 @@ void PrintPreview::build(int page)
     frmPrtPrev *window = m_pages.build(std::move(layout), page);
     connect(window, &frmPrtPrev::zoomInRequested, this, [this] { zoom(m_zoomDivisor - 1); });
     connect(window, &frmPrtPrev::zoomOutRequested, this, [this] { zoom(m_zoomDivisor + 1); });
-    connect(window, &frmPrtPrev::keyPressed, this, &PrintPreview::onKeyPressed);
     connect(window, &frmPrtPrev::keyReleased, this, &PrintPreview::Form_KeyUp);
     connect(window, &frmPrtPrev::wheelTurned, this, &PrintPreview::onWheel);
     connect(window, &frmPrtPrev::mouseMoved, this, [this] { Q_EMIT statusText(ClickToZoom); });
@@ -156,11 +155,11 @@ void PrintPreview::Form_KeyUp(int key)
     key == Qt::Key_PageDown ? pageDown() : pageUp();
 }
 
-void PrintPreview::onKeyPressed(int key, bool &taken)
+void PrintPreview::onKeyPressed(QKeyEvent &event)
 {
-    taken = true;
+    event.accept();
     const int step = areaHeight() / LinesOfArea;
-    switch (key) {
+    switch (event.key()) {
     case Qt::Key_Down:
         return scrollBy(0, -step);
     case Qt::Key_Up:
@@ -180,7 +179,7 @@ void PrintPreview::onKeyPressed(int key, bool &taken)
     case Qt::Key_Escape:
         return close();
     default:
-        taken = false;
+        event.ignore();
     }
 }
 
@@ -198,5 +197,8 @@ bool PrintPreview::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Resize)
         m_pages.placeAgain();
-    return QObject::eventFilter(watched, event);
+    if (event->type() != QEvent::KeyPress)
+        return QObject::eventFilter(watched, event);
+    onKeyPressed(*static_cast<QKeyEvent *>(event));
+    return event->isAccepted();
 }

@@ -55,7 +55,8 @@ private:
     void build(int page);
     void showPage(int page);
     void Form_KeyUp(int key);
-    void onKeyPressed(int key, bool &taken);
+    /// Leaves a key that the preview has no use for to others.
+    void onKeyPressed(QKeyEvent &event);
     void onWheel(int pixels);
     void pageDown();
     void pageUp();

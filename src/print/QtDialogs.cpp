@@ -4,6 +4,7 @@
 #include "print/QtPrinter.h"
 #include "print/frmPageSetup.h"
 #include "resources/StringTable.h"
+#include "services/help/HelpDisplay.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -16,6 +17,7 @@ namespace {
 
 constexpr int FileTopic = 1110;
 constexpr int PrintTopic = 1120;
+constexpr int TopicByNumber = 1; ///< the one command of a help call that names a topic
 
 void setTopic(QDialog &dialog, int helpContextId)
 {
@@ -24,9 +26,9 @@ void setTopic(QDialog &dialog, int helpContextId)
 
 } // namespace
 
-QtDialogs::QtDialogs(QtPrinter &printer, HelpCall helpCall)
+QtDialogs::QtDialogs(QtPrinter &printer, HelpDisplay &help)
     : m_printer(printer)
-    , m_helpCall(std::move(helpCall))
+    , m_help(help)
 {
 }
 
@@ -125,5 +127,7 @@ bool QtDialogs::setUpPrinter(QWidget *owner)
 
 bool QtDialogs::callHelp(QWidget *, const QString &file, int command, int key)
 {
-    return m_helpCall(file, command, key);
+    HelpTarget target = HelpTarget::ofProgram();
+    target.HTMLHelpFile = file;
+    return m_help.HtmlHelp(target, command == TopicByNumber ? HH_HELP_CONTEXT : HH_DISPLAY_TOC, key);
 }

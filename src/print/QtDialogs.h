@@ -2,8 +2,7 @@
 
 #include "print/CommonDialogs.h"
 
-#include <functional>
-
+class HelpDisplay;
 class QFileDialog;
 class QPrintDialog;
 class QPrinter;
@@ -14,11 +13,8 @@ class QtPrinter;
 class QtDialogs : public CommonDialogs
 {
 public:
-    /// Shows help; false when there is none of that kind.
-    using HelpCall = std::function<bool(const QString &file, int command, int key)>;
-
     /// The print dialogs carry the user's choices over to the printer, which must outlive the object.
-    QtDialogs(QtPrinter &printer, HelpCall helpCall);
+    QtDialogs(QtPrinter &printer, HelpDisplay &help);
 
     std::optional<FileChoice> openFile(const FileRequest &request) override;
     std::optional<FileChoice> saveFile(const FileRequest &request) override;
@@ -35,6 +31,6 @@ private:
     void proposeFile(const QPrintDialog &dialog, const QPrinter &printer, const PrintRequest &request) const;
 
     QtPrinter &m_printer;
-    HelpCall m_helpCall;
+    HelpDisplay &m_help;
     QString m_lastFolder;
 };

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int WhatsThisId = 20033;
 
-/// Keys that turn or scroll pages when they come up; every other key acts when it goes down.
+/// Keys that turn or scroll pages when they come up; every other key acts when it goes down, and not here.
 bool actsOnRelease(int key)
 {
     return key == Qt::Key_PageUp || key == Qt::Key_PageDown;
@@ -63,10 +63,7 @@ void frmPrtPrev::paintEvent(QPaintEvent *)
 
 void frmPrtPrev::keyPressEvent(QKeyEvent *event)
 {
-    bool taken = actsOnRelease(event->key());
-    if (!taken)
-        Q_EMIT keyPressed(event->key(), taken);
-    event->setAccepted(taken);
+    event->setAccepted(actsOnRelease(event->key()));
 }
 
 void frmPrtPrev::keyReleaseEvent(QKeyEvent *event)

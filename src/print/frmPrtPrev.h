@@ -24,8 +24,7 @@ public:
 Q_SIGNALS:
     void zoomInRequested();
     void zoomOutRequested();
-    /// A key or the wheel: see PrintPreview for what they do. A key that is not taken goes on to the parent.
-    void keyPressed(int key, bool &taken);
+    /// A key or the wheel: see PrintPreview for what they do. Other keys go on to the parent.
     void keyReleased(int key);
     void wheelTurned(int pixels);
     void mouseMoved();

@@ -5,6 +5,7 @@
 #include "print/frmPageSetup.h"
 #include "print/rules/FileDialogRules.h"
 #include "support/Files.h"
+#include "support/RecordingHelp.h"
 #include "support/ScriptedAlertBox.h"
 #include "support/ScriptedDialogs.h"
 #include "support/ScriptedPrintServer.h"
@@ -85,7 +86,8 @@ struct RealDialogs : ::testing::Test
     QTemporaryDir folder;
     ScriptedPrintServer server;
     QtPrinter printer{server};
-    QtDialogs dialogs{printer, [](const QString &, int, int) { return false; }};
+    RecordingHelp help;
+    QtDialogs dialogs{printer, help};
     ScriptedAlertBox alerts;
     clsCommDlg dialog{dialogs, alerts};
 
