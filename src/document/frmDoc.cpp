@@ -149,7 +149,7 @@ QString frmDoc::language(int column) const
 
 GridSelection frmDoc::selection() const
 {
-    return {m_grid->Row(), m_grid->Col(), m_grid->RowSel(), m_grid->ColSel()};
+    return m_grid->selection();
 }
 
 void frmDoc::select(const GridSelection &selection)

@@ -48,7 +48,7 @@ TEST(FlexGridTextTest, TabsAndLineBreaksBecomeOneBlank)
 
 TEST(FlexGridClipTest, FillsTheSelectionAndNothingElse)
 {
-    const std::tuple<const char *, FlexGridSelection, const char *> cases[] = {
+    const std::tuple<const char *, GridSelection, const char *> cases[] = {
         {"A\tB\r\nC\tD\r\n", {1, 1, 2, 2}, "A,C,e|B,D,f"},
         {"A\tB\nC\tD\n", {2, 2, 1, 1}, "A,C,e|B,D,f"},
         {"A\tB\tX\rC\rY", {1, 1, 2, 2}, "A,C,e|B,d,f"},
@@ -60,7 +60,7 @@ TEST(FlexGridClipTest, FillsTheSelectionAndNothingElse)
     for (const auto &[clip, selection, cells] : cases) {
         FlexGrid grid;
         fill(grid, {"\ta\tb", "\tc\td", "\te\tf"});
-        grid.Select(selection.row, selection.col, selection.rowSel, selection.colSel);
+        grid.Select(selection.Row, selection.Col, selection.RowSel, selection.ColSel);
         grid.setClip(clip);
         EXPECT_EQ(everyCell(grid), cells) << clip;
     }

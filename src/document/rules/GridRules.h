@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/rules/UndoRecord.h"
+#include "services/rules/GridSelection.h"
 
 #include <QString>
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "services/rules/GridSelection.h"
+
 #include <QObject>
 #include <QString>
 
@@ -17,23 +19,6 @@ enum class UndoKind {
     Typing = 806,
     Sort = 807,
     Replace = 808
-};
-
-/// The rectangle of selected cells: the current cell and the corner opposite to it.
-struct GridSelection
-{
-    int Row = 1;
-    int Col = 1;
-    int RowSel = 1;
-    int ColSel = 1;
-
-    int top() const { return Row < RowSel ? Row : RowSel; }
-    int bottom() const { return Row < RowSel ? RowSel : Row; }
-    int left() const { return Col < ColSel ? Col : ColSel; }
-    int right() const { return Col < ColSel ? ColSel : Col; }
-    int rowCount() const { return bottom() - top() + 1; }
-    int colCount() const { return right() - left() + 1; }
-    bool operator==(const GridSelection &) const = default;
 };
 
 /// The program's one level of undo. Every recording command replaces the fields that it uses and names its kind; the

@@ -63,7 +63,7 @@ void FlexGrid::resizeEvent(QResizeEvent *)
     m_view->setGeometry(rect());
 }
 
-FlexGridSelection FlexGrid::insideOf(FlexGridSelection wanted) const
+GridSelection FlexGrid::insideOf(GridSelection wanted) const
 {
     if (!m_state.hasData())
         return {-1, -1, -1, -1};
@@ -72,17 +72,17 @@ FlexGridSelection FlexGrid::insideOf(FlexGridSelection wanted) const
             value = first;
         value = std::min(value, count - 1);
     };
-    inside(wanted.row, m_state.fixedRows, Rows());
-    inside(wanted.rowSel, m_state.fixedRows, Rows());
-    inside(wanted.col, m_state.fixedCols, Cols());
-    inside(wanted.colSel, m_state.fixedCols, Cols());
+    inside(wanted.Row, m_state.fixedRows, Rows());
+    inside(wanted.RowSel, m_state.fixedRows, Rows());
+    inside(wanted.Col, m_state.fixedCols, Cols());
+    inside(wanted.ColSel, m_state.fixedCols, Cols());
     return wanted;
 }
 
-void FlexGrid::select(FlexGridSelection wanted)
+void FlexGrid::select(GridSelection wanted)
 {
-    const auto otherCell = [this](const FlexGridSelection &selection) {
-        return !m_state.selection.isCurrent(selection.row, selection.col);
+    const auto otherCell = [this](const GridSelection &selection) {
+        return !m_state.selection.isCurrent(selection.Row, selection.Col);
     };
     wanted = insideOf(wanted);
     if (wanted == m_state.selection)

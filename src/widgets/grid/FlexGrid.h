@@ -133,10 +133,11 @@ public:
     quint64 revision() const { return m_state.cells.revision(); }
 
     // --- Current cell and selection
-    int Row() const { return m_state.selection.row; }
-    int Col() const { return m_state.selection.col; }
-    int RowSel() const { return m_state.selection.rowSel; }
-    int ColSel() const { return m_state.selection.colSel; }
+    int Row() const { return m_state.selection.Row; }
+    int Col() const { return m_state.selection.Col; }
+    int RowSel() const { return m_state.selection.RowSel; }
+    int ColSel() const { return m_state.selection.ColSel; }
+    const GridSelection &selection() const { return m_state.selection; }
     /// Setting the row or the column of the current cell collapses the selection to it.
     void setRow(int row);
     void setCol(int col);
@@ -324,10 +325,10 @@ private:
     void connectView();
     std::vector<int> orderByText(int kind, int first, int last) const;
     std::vector<int> customOrder(int first, int last);
-    void select(FlexGridSelection wanted);
+    void select(GridSelection wanted);
     /// Rows or columns came, went or moved: lays out, tells screen readers, keeps the selection inside.
     void restructured();
-    FlexGridSelection insideOf(FlexGridSelection wanted) const;
+    GridSelection insideOf(GridSelection wanted) const;
     void draw();
     void layOutAgain();
     void fillFromDataSource();

@@ -33,7 +33,7 @@ void FlexGridAccessible::announceCurrentCell(FlexGridView &view)
     if (!QAccessible::isActive() || !view.hasFocus() || !view.state().hasData())
         return;
     QAccessibleEvent event(&view, QAccessible::Focus);
-    event.setChild(view.state().selection.row * view.state().cells.cols() + view.state().selection.col);
+    event.setChild(view.state().selection.Row * view.state().cells.cols() + view.state().selection.Col);
     QAccessible::updateAccessibility(&event);
 }
 
@@ -135,8 +135,8 @@ QAccessibleInterface *FlexGridAccessible::childAt(int x, int y) const
 
 QAccessibleInterface *FlexGridAccessible::focusChild() const
 {
-    const FlexGridSelection &selection = view().state().selection;
-    return view().hasFocus() ? cell(selection.row, selection.col) : QAccessibleWidget::focusChild();
+    const GridSelection &selection = view().state().selection;
+    return view().hasFocus() ? cell(selection.Row, selection.Col) : QAccessibleWidget::focusChild();
 }
 
 QAccessibleInterface *FlexGridAccessible::cellAt(int row, int column) const
@@ -153,7 +153,7 @@ int FlexGridAccessible::selectedCellCount() const
 
 QList<QAccessibleInterface *> FlexGridAccessible::selectedCells() const
 {
-    const FlexGridSelection &selection = view().state().selection;
+    const GridSelection &selection = view().state().selection;
     QList<QAccessibleInterface *> cells;
     for (int row = selection.top(); row <= selection.bottom(); ++row) {
         for (int col = selection.left(); col <= selection.right(); ++col) {
@@ -179,14 +179,12 @@ QString FlexGridAccessible::rowDescription(int row) const
 
 int FlexGridAccessible::selectedRowSpan() const
 {
-    const FlexGridSelection &selection = view().state().selection;
-    return view().state().hasData() ? selection.bottom() - selection.top() + 1 : 0;
+    return view().state().hasData() ? view().state().selection.rowCount() : 0;
 }
 
 int FlexGridAccessible::selectedColumnSpan() const
 {
-    const FlexGridSelection &selection = view().state().selection;
-    return view().state().hasData() ? selection.right() - selection.left() + 1 : 0;
+    return view().state().hasData() ? view().state().selection.colCount() : 0;
 }
 
 int FlexGridAccessible::selectedColumnCount() const

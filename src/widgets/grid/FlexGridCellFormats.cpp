@@ -77,11 +77,11 @@ FlexGridCellFormat FlexGrid::currentFormat() const
 
 void FlexGrid::changeFormat(const std::function<void(FlexGridCellFormat &)> &change)
 {
-    FlexGridSelection cells = m_state.selection;
-    if (!m_state.cells.hasCell(cells.row, cells.col))
+    GridSelection cells = m_state.selection;
+    if (!m_state.cells.hasCell(cells.Row, cells.Col))
         return;
     if (FillStyle() == 0)
-        cells = {cells.row, cells.col, cells.row, cells.col};
+        cells = {cells.Row, cells.Col, cells.Row, cells.Col};
     for (int row = cells.top(); row <= cells.bottom(); ++row) {
         for (int col = cells.left(); col <= cells.right(); ++col)
             change(m_state.cells.formats.at(row, col));

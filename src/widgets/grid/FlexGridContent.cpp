@@ -152,7 +152,7 @@ void FlexGrid::setWords(std::vector<QString> &&first, std::vector<QString> &&sec
 
 QString FlexGrid::Clip() const
 {
-    const FlexGridSelection &selection = m_state.selection;
+    const GridSelection &selection = m_state.selection;
     if (!m_state.cells.hasCell(selection.top(), selection.left()))
         return {};
     QString text;
@@ -170,7 +170,7 @@ QString FlexGrid::Clip() const
 
 void FlexGrid::setClip(const QString &text)
 {
-    const FlexGridSelection selection = m_state.selection;
+    const GridSelection selection = m_state.selection;
     const std::vector<ClipText::Row> rows = ClipText::parse(text);
     const int bottom = std::min(selection.bottom(), selection.top() + int(rows.size()) - 1);
     for (int row = selection.top(); row <= bottom; ++row) {
@@ -187,8 +187,8 @@ void FlexGrid::setSort(int kind)
     if (kind <= SortNone || kind > SortCustom || !m_state.hasData())
         return;
     leavingCell();
-    const FlexGridSelection &selection = m_state.selection;
-    const bool all = selection.row == selection.rowSel;
+    const GridSelection &selection = m_state.selection;
+    const bool all = selection.Row == selection.RowSel;
     const int first = all ? FixedRows() : std::max(selection.top(), FixedRows());
     const int last = all ? Rows() - 1 : selection.bottom();
     reorderRows(first, kind == SortCustom ? customOrder(first, last) : orderByText(kind, first, last));

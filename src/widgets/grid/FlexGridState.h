@@ -1,15 +1,15 @@
 #pragma once
 
+#include "services/rules/GridSelection.h"
 #include "widgets/grid/FlexGridCells.h"
 #include "widgets/grid/FlexGridLook.h"
-#include "widgets/grid/FlexGridSelection.h"
 
 /// Everything a flex grid knows; its view draws from it. FlexGrid owns it and is the only one that changes it.
 struct FlexGridState
 {
     FlexGridCells cells;
     FlexGridLook look;
-    FlexGridSelection selection;
+    GridSelection selection;
     int fixedRows = 1;
     int fixedCols = 1;
     bool rightToLeft = false;

@@ -20,7 +20,7 @@ public:
 
     const FlexGridState &state() const { return m_state; }
     /// Asks the owner for a selection, as mouse and keys do.
-    void wantSelection(const FlexGridSelection &selection) { Q_EMIT selectionWanted(selection); }
+    void wantSelection(const GridSelection &selection) { Q_EMIT selectionWanted(selection); }
 
     /// Sizes or numbers of rows and columns changed: brings the scroll bars up to date and draws.
     void layOutAgain();
@@ -60,7 +60,7 @@ public:
     void applyPointer();
 
 Q_SIGNALS:
-    void selectionWanted(const FlexGridSelection &selection);
+    void selectionWanted(const GridSelection &selection);
     void rowHeightWanted(int row, int pixels);
     void colWidthWanted(int col, int pixels);
     void scrolled();
@@ -128,7 +128,7 @@ private:
     int colAtEnd(int direction) const;
     void movePage(int direction, int row, int col, bool extend);
     void move(int row, int col, bool extend);
-    FlexGridSelection widened(FlexGridSelection selection) const;
+    GridSelection widened(GridSelection selection) const;
 
     /// The row or column whose border can be dragged from a position, -1 if none.
     int borderColAt(const QPoint &position) const;

@@ -64,7 +64,7 @@ QVariant FlexGridView::inputMethodQuery(Qt::InputMethodQuery query) const
     if (query == Qt::ImEnabled)
         return isEnabled();
     if (query == Qt::ImCursorRectangle)
-        return cellRect(m_state.selection.row, m_state.selection.col).translated(viewport()->pos());
+        return cellRect(m_state.selection.Row, m_state.selection.Col).translated(viewport()->pos());
     return QAbstractScrollArea::inputMethodQuery(query);
 }
 
@@ -72,7 +72,7 @@ bool FlexGridView::navigate(const QKeyEvent &event)
 {
     if (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier) || !m_state.hasData())
         return false;
-    const FlexGridSelection at = m_state.selection;
+    const GridSelection at = m_state.selection;
     if (event.matches(QKeySequence::SelectAll)) {
         Q_EMIT selectionWanted(
             {m_state.fixedRows, m_state.fixedCols, m_state.cells.rows() - 1, m_state.cells.cols() - 1});
@@ -80,8 +80,8 @@ bool FlexGridView::navigate(const QKeyEvent &event)
     }
     const bool extend = event.modifiers() & Qt::ShiftModifier;
     const bool far = event.modifiers() & Qt::ControlModifier;
-    const int row = extend ? at.rowSel : at.row;
-    const int col = extend ? at.colSel : at.col;
+    const int row = extend ? at.RowSel : at.Row;
+    const int col = extend ? at.ColSel : at.Col;
     const int lastRow = m_state.cells.rows();
     switch (event.key()) {
     case Qt::Key_Up:
@@ -156,25 +156,25 @@ void FlexGridView::movePage(int direction, int row, int col, bool extend)
 
 void FlexGridView::move(int row, int col, bool extend)
 {
-    FlexGridSelection wanted = m_state.selection;
-    wanted.rowSel = row;
-    wanted.colSel = col;
+    GridSelection wanted = m_state.selection;
+    wanted.RowSel = row;
+    wanted.ColSel = col;
     if (!extend) {
-        wanted.row = row;
-        wanted.col = col;
+        wanted.Row = row;
+        wanted.Col = col;
     }
     Q_EMIT selectionWanted(widened(wanted));
     scrollToCell(row, col);
 }
 
-FlexGridSelection FlexGridView::widened(FlexGridSelection selection) const
+GridSelection FlexGridView::widened(GridSelection selection) const
 {
     if (m_state.look.SelectionMode == FlexGridLook::SelectionByRow) {
-        selection.col = m_state.fixedCols;
-        selection.colSel = m_state.cells.cols() - 1;
+        selection.Col = m_state.fixedCols;
+        selection.ColSel = m_state.cells.cols() - 1;
     } else if (m_state.look.SelectionMode == FlexGridLook::SelectionByCol) {
-        selection.row = m_state.fixedRows;
-        selection.rowSel = m_state.cells.rows() - 1;
+        selection.Row = m_state.fixedRows;
+        selection.RowSel = m_state.cells.rows() - 1;
     }
     return selection;
 }

@@ -129,15 +129,15 @@ void FlexGridView::startHeaderDrag(int row, int col, bool extend)
 {
     if (!m_state.look.AllowBigSelection)
         return;
-    FlexGridSelection wanted{m_state.fixedRows, m_state.fixedCols, m_state.cells.rows() - 1, m_state.cells.cols() - 1};
+    GridSelection wanted{m_state.fixedRows, m_state.fixedCols, m_state.cells.rows() - 1, m_state.cells.cols() - 1};
     if (row >= m_state.fixedRows) {
         m_drag = Drag::Rows;
-        wanted.row = extend ? std::max(m_state.selection.row, m_state.fixedRows) : row;
-        wanted.rowSel = row;
+        wanted.Row = extend ? std::max(m_state.selection.Row, m_state.fixedRows) : row;
+        wanted.RowSel = row;
     } else if (col >= m_state.fixedCols) {
         m_drag = Drag::Cols;
-        wanted.col = extend ? std::max(m_state.selection.col, m_state.fixedCols) : col;
-        wanted.colSel = col;
+        wanted.Col = extend ? std::max(m_state.selection.Col, m_state.fixedCols) : col;
+        wanted.ColSel = col;
     }
     Q_EMIT selectionWanted(widened(wanted));
 }
@@ -189,11 +189,11 @@ void FlexGridView::dragSelectionTo(const QPoint &position)
                         std::clamp(position.y(), area.top(), area.bottom()));
     const int row = rowAt(inside.y());
     const int col = colAt(inside.x());
-    FlexGridSelection wanted = m_state.selection;
+    GridSelection wanted = m_state.selection;
     if (m_drag != Drag::Cols)
-        wanted.rowSel = row < 0 ? m_state.cells.rows() - 1 : row;
+        wanted.RowSel = row < 0 ? m_state.cells.rows() - 1 : row;
     if (m_drag != Drag::Rows)
-        wanted.colSel = col < 0 ? m_state.cells.cols() - 1 : col;
+        wanted.ColSel = col < 0 ? m_state.cells.cols() - 1 : col;
     Q_EMIT selectionWanted(widened(wanted));
 }
 
@@ -255,7 +255,7 @@ void FlexGridView::contextMenuEvent(QContextMenuEvent *event)
     event->accept();
     if (event->reason() != QContextMenuEvent::Keyboard)
         return;
-    const QRect shown = cellRect(m_state.selection.row, m_state.selection.col) & cellArea();
+    const QRect shown = cellRect(m_state.selection.Row, m_state.selection.Col) & cellArea();
     const QPointF position = shown.isEmpty() ? cellArea().topLeft() : shown.center();
     Q_EMIT mousePressed(FlexGridKeys::buttonBits(Qt::RightButton), 0, position);
     Q_EMIT mouseReleased(FlexGridKeys::buttonBits(Qt::RightButton), 0, position);
