@@ -11,16 +11,6 @@ VocabularyFont fontOf(const ctlGrid &grid)
     return {font.family(), font.pointSizeF(), font.bold(), font.italic(), grid.ForeColor()};
 }
 
-void applyFont(ctlGrid &grid, const VocabularyFont &stored)
-{
-    QFont font(stored.name);
-    font.setPointSizeF(stored.size);
-    font.setBold(stored.bold);
-    font.setItalic(stored.italic);
-    grid.setGridFont(font);
-    grid.setForeColor(stored.color);
-}
-
 } // namespace
 
 namespace GridContent {
@@ -37,6 +27,12 @@ Vocabulary read(const ctlGrid &grid)
     for (int row = 0; row < rows; ++row)
         vocabulary.append(grid.word(row, 1), grid.word(row, 2), grid.RowHeight(row));
     return vocabulary;
+}
+
+void applyFont(ctlGrid &grid, const VocabularyFont &font)
+{
+    grid.setGridFont(font.toFont());
+    grid.setForeColor(font.color);
 }
 
 void fill(ctlGrid &grid, Vocabulary &&vocabulary)

@@ -2,6 +2,7 @@
 
 #include "document/ctlGridEdit.h"
 #include "document/rules/GridRules.h"
+#include "document/rules/Vocabulary.h"
 #include "platform/Twips.h"
 #include "resources/StringTable.h"
 #include "services/FormTexts.h"
@@ -181,9 +182,7 @@ void ctlGrid::AutoSetup(const QString &fontName, double fontSize, int rows, int 
     setRedraw(false);
     Clear();
     setFormatString(QString());
-    QFont font(fontName);
-    font.setPointSizeF(fontSize);
-    setGridFont(font);
+    setGridFont(VocabularyFont{fontName, fontSize}.toFont());
     setFixedRows(0);
     setFixedCols(0);
     setRows(rows);

@@ -1,5 +1,6 @@
 #include "document/ctlGrid.h"
 
+#include "document/rules/Vocabulary.h"
 #include "resources/Pictures.h"
 
 namespace {
@@ -12,8 +13,7 @@ constexpr int CustomPointer = 99;
 
 QVariantMap ctlGrid::documentDesign()
 {
-    QFont font(QStringLiteral("Arial"));
-    font.setPointSizeF(9.75);
+    const QFont font = VocabularyFont{QStringLiteral("Arial"), 9.75}.toFont();
     return {{QStringLiteral("Cols"), 3},
             {QStringLiteral("Rows"), 101},
             {QStringLiteral("FixedCols"), 1},

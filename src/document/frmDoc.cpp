@@ -1,10 +1,12 @@
 #include "document/frmDoc.h"
 
 #include "document/DocumentCloser.h"
+#include "document/GridContent.h"
 #include "document/ctlGrid.h"
 #include "document/ctlGridEdit.h"
 #include "document/rules/GridRules.h"
 #include "document/rules/QuizModeText.h"
+#include "document/rules/Vocabulary.h"
 #include "platform/Twips.h"
 #include "resources/StringTable.h"
 #include "services/rules/ProgramFlags.h"
@@ -36,13 +38,10 @@ constexpr int AlignLeftCenter = 1;
 constexpr int AlignRightCenter = 7;
 constexpr int ResizeRowsAndColumns = 3;
 
-QFont settingsFont(const clsAppProperties &settings)
+VocabularyFont fontOf(const clsAppProperties &settings)
 {
-    QFont font(settings.FontName());
-    font.setPointSizeF(settings.FontSize());
-    font.setBold(settings.FontBold());
-    font.setItalic(settings.FontItalic());
-    return font;
+    return {settings.FontName(), double(settings.FontSize()), settings.FontBold(), settings.FontItalic(),
+            settings.FontColor()};
 }
 
 } // namespace
@@ -106,8 +105,7 @@ void frmDoc::setUpGrid(const QSize &innerSize)
     m_grid->setFocusRect(1);
     m_grid->setTextMatrix(0, 1, resText(501));
     m_grid->setTextMatrix(0, 2, resText(502));
-    m_grid->setGridFont(settingsFont(m_shared.settings));
-    m_grid->setForeColor(m_shared.settings.FontColor());
+    GridContent::applyFont(*m_grid, fontOf(m_shared.settings));
     m_grid->setRows(FirstRows);
     m_grid->setCol(1);
     m_grid->setRow(1);

@@ -22,6 +22,15 @@ bool includes(const std::vector<QString> &column, const std::vector<QString> &pa
 
 } // namespace
 
+QFont VocabularyFont::toFont() const
+{
+    QFont font(name);
+    font.setPointSizeF(size);
+    font.setBold(bold);
+    font.setItalic(italic);
+    return font;
+}
+
 qsizetype Vocabulary::filledRows() const
 {
     qsizetype count = rows();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QFont>
 
 #include <array>
 #include <optional>
@@ -18,6 +18,7 @@ struct VocabularyFont
     bool italic = false;
     int color = 0; ///< 0x00BBGGRR; with the top bit set a system colour
 
+    QFont toFont() const;
     bool operator==(const VocabularyFont &) const = default;
 };
 
