@@ -5,7 +5,6 @@
 #include "document/FilePrompts.h"
 #include "document/GridContent.h"
 #include "document/ctlGrid.h"
-#include "document/rules/GridRules.h"
 #include "document/rules/RowNumbers.h"
 #include "document/rules/VocabularyFile.h"
 #include "resources/StringTable.h"
@@ -37,7 +36,7 @@ public:
     BusyStatus(modSBFunc &status, int textId, const QString &path, qint64 maximum)
         : m_status(status)
     {
-        m_status.showText(resText(textId) + GridRules::fileTitle(path));
+        m_status.showText(resText(textId) + VocabularyFile::title(path));
         m_status.createProgress(maximum);
     }
     ~BusyStatus()
@@ -63,7 +62,7 @@ QString unstoredText(int textId, const frmDoc &document, const std::vector<qsize
 
 QString withTitle(int textId, const QString &path)
 {
-    return resText(textId).replace(QStringLiteral("%1"), GridRules::fileTitle(path));
+    return resText(textId).replace(QStringLiteral("%1"), VocabularyFile::title(path));
 }
 
 } // namespace
@@ -293,7 +292,7 @@ void FileCommands::openVocabulary(const QString &path, Vocabulary &&vocabulary, 
     frmDoc *document = m_needs.documents.create();
     GridContent::fill(*document->Rutor(), std::move(vocabulary));
     m_needs.status.setProgress(stamp.size * 2);
-    document->setCaption(GridRules::fileTitle(path));
+    document->setCaption(VocabularyFile::title(path));
     document->setDirty(false);
     document->setDocName(path);
     document->fileStamp = stamp;
@@ -316,7 +315,7 @@ FileCommands::SaveReport FileCommands::SaveVocabulary(frmDoc &document, const QS
     if (!VocabularyFile(path).save(vocabulary, m_codePage, watchers, &report.error))
         return report;
     report.unstoredRows = vocabulary.unstoredRows();
-    document.setCaption(GridRules::fileTitle(path));
+    document.setCaption(VocabularyFile::title(path));
     document.setDirty(!report.unstoredRows.empty());
     document.setDocName(path);
     document.fileStamp = FileStamp::of(path);

@@ -88,11 +88,4 @@ QString cellReference(const GridSelection &selection)
     return text;
 }
 
-QString fileTitle(const QString &path)
-{
-    QString name = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
-    name.chop(4);
-    return name;
-}
-
 } // namespace GridRules

@@ -40,7 +40,4 @@ QString pastedPart(const GridSelection &pasted, int textRows, int textColumns);
 /// The cell reference of a selection, with a leading blank: " A5" or " A5:B7".
 QString cellReference(const GridSelection &selection);
 
-/// The name of a file without its folder and without its last four characters (the extension).
-QString fileTitle(const QString &path);
-
 } // namespace GridRules

@@ -5,6 +5,13 @@
 
 using VocabularyCodec::Outcome;
 
+QString VocabularyFile::title(const QString &path)
+{
+    QString name = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+    name.chop(4);
+    return name;
+}
+
 VocabularyCodec::Header VocabularyFile::readHeader()
 {
     QFile file;

@@ -13,6 +13,9 @@ public:
     {
     }
 
+    /// The name of a file without its folder and without its last four characters (the extension).
+    static QString title(const QString &path);
+
     /// Reads the file, no further than the header unless that is Ok. Failed: missing, unreadable, no regular file, or
     /// larger than LargestSize.
     VocabularyCodec::Header readHeader();

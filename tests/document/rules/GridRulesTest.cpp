@@ -52,13 +52,11 @@ TEST(GridRules, PastedTextGrowsFromASingleCellAndAtTheEndOnly)
     }
 }
 
-TEST(GridRules, NamesCellsAndFiles)
+TEST(GridRules, NamesCells)
 {
     EXPECT_EQ(cellReference({4, 2, 4, 2}), " B4");
     EXPECT_EQ(cellReference({3, 2, 2, 1}), " A2:B3");
     EXPECT_EQ(cellReference({5, 1, 7, 1}), " A5:A7");
-    EXPECT_EQ(fileTitle("/home/a.b/Verbs of motion.gla"), "Verbs of motion");
-    EXPECT_EQ(fileTitle("/x/a"), "");
 }
 
 TEST(QuizModeText, TellsDirectionAndOrder)

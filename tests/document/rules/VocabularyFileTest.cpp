@@ -29,6 +29,12 @@ struct VocabularyFileTest : ::testing::Test
     Vocabulary vocabulary;
 };
 
+TEST(VocabularyFile, ItsTitleIsItsNameWithoutFolderAndExtension)
+{
+    EXPECT_EQ(VocabularyFile::title("/home/a.b/Verbs of motion.gla"), "Verbs of motion");
+    EXPECT_EQ(VocabularyFile::title("/x/a"), "");
+}
+
 TEST_F(VocabularyFileTest, WhatIsNoReadableFileFails)
 {
     EXPECT_EQ(load(), Outcome::Failed);
