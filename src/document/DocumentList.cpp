@@ -21,8 +21,7 @@ frmDoc *DocumentList::create()
     Q_EMIT aboutToCreate();
     auto *document = new frmDoc(m_shared);
     document->resize(FirstSize);
-    document->setTag(int(m_slots.size()));
-    m_slots.push_back(document);
+    document->setTag(m_slots++);
     m_open.push_back(document);
     Q_EMIT created(document);
     document->setUpGrid(document->size());
@@ -45,17 +44,11 @@ void DocumentList::remove(frmDoc *document)
     if (place == m_open.end())
         return;
     m_open.erase(place);
-    m_slots[size_t(document->Tag())] = nullptr;
     if (m_shared.undo.belongsTo(document))
         m_shared.undo.clear();
     if (m_active == document)
         setActive(nullptr);
     Q_EMIT removed(document);
-}
-
-frmDoc *DocumentList::slot(int tag) const
-{
-    return tag >= 0 && size_t(tag) < m_slots.size() ? m_slots[size_t(tag)] : nullptr;
 }
 
 frmDoc *DocumentList::findByPath(const QString &path) const

@@ -26,8 +26,6 @@ public:
 
     /// Every open document in the order of creation.
     const std::vector<frmDoc *> &open() const { return m_open; }
-    /// The document in a slot; null when it was closed or the slot never used.
-    frmDoc *slot(int tag) const;
     /// The document stored under a path, whatever the case of its letters; null when none is.
     frmDoc *findByPath(const QString &path) const;
 
@@ -48,8 +46,8 @@ Q_SIGNALS:
 
 private:
     frmDoc::Shared m_shared;
-    std::vector<frmDoc *> m_slots;
     std::vector<frmDoc *> m_open;
     frmDoc *m_active = nullptr;
+    int m_slots = 0; ///< given out so far; none is used twice
     int m_untitled = 0;
 };

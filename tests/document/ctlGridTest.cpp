@@ -245,6 +245,17 @@ TEST_F(GridEditing, ComposedTextOpensTheBox)
     EXPECT_EQ(grid.EditText(), "\u4f60");
 }
 
+TEST_F(GridEditing, AutoSetupBeginsAnew)
+{
+    type("x");
+    grid.AutoSetup("Liberation Serif", 12, 4, 2, 1, 1, "|>L1");
+    EXPECT_FALSE(grid.EditMode());
+    EXPECT_EQ(grid.Clip() + grid.hwndText()->text(), "");
+    EXPECT_EQ(cell(0, 1), "L1");
+    EXPECT_EQ(grid.ColAlignment(1) + grid.Rows() * 10 + grid.Cols() * 100, 247);
+    EXPECT_EQ(grid.hwndText()->font(), grid.Font());
+}
+
 TEST_F(GridEditing, TabStaysAndDoesNothing)
 {
     type("a");

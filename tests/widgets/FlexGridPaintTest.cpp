@@ -116,6 +116,28 @@ TEST_F(PaintedGrid, OnlyTextsThatAreCutShowAllOfThemselvesAsToolTip)
     EXPECT_EQ(toolTip(2, 1), "<p dir='ltr'>three four five six seven</p>");
 }
 
+TEST_F(PaintedGrid, CellsAreDrawnAsTheyAreFormattedAndMerged)
+{
+    QPixmap square(10, 10);
+    square.fill(Qt::red);
+    grid.Select(1, 1, 1, 1);
+    grid.setCellBackColor(0x00FF00);
+    grid.setCellPicture(square);
+    grid.setCellPictureAlignment(7);
+    EXPECT_EQ(groundAt(1, 1), QColor(Qt::green));
+    EXPECT_GT(inkOf(1, 1).first, 85);
+    for (const auto &[row, col] : {std::pair(2, 1), std::pair(2, 2), std::pair(3, 2)})
+        grid.setTextMatrix(row, col, "same");
+    grid.setMergeRow(2, true);
+    EXPECT_LT(inkOf(2, 2).first, 8);
+    grid.setMergeCells(1);
+    EXPECT_EQ(inkOf(2, 2).second, -1) << "covered by the cell before it";
+    grid.setTextMatrix(1, 1, "flat");
+    const QImage flat = image(1, 1);
+    grid.setCellTextStyle(2);
+    EXPECT_NE(image(1, 1), flat);
+}
+
 TEST_F(PaintedGrid, SelectionUsesItsColoursAsHighLightSays)
 {
     grid.setBackColorSel(0x0000FF);

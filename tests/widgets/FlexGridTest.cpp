@@ -2,7 +2,9 @@
 
 #include "services/rules/CellText.h"
 
+#include <QMetaProperty>
 #include <QSignalSpy>
+#include <QStandardItemModel>
 
 namespace {
 
@@ -173,12 +175,22 @@ TEST(FlexGridCellsTest, FormatsFollowTheirCells)
     }
 }
 
-TEST(FlexGridProperties, AreStoredByNameAndReadBack)
+TEST(FlexGridProperties, AreToldStoredByNameAndReadBack)
 {
     FlexGrid grid;
-    grid.setFixedRows(2);
-    grid.setBackColorSel(0x123456);
-    grid.setEnabled(false);
+    QSignalSpy changes(&grid, &FlexGrid::PropertyChanged);
+    const QMetaObject &type = FlexGrid::staticMetaObject;
+    for (int i = type.propertyOffset(); i < type.propertyCount(); ++i) {
+        const QMetaProperty property = type.property(i);
+        const QVariant before = property.read(&grid);
+        changes.clear();
+        for (const QVariant &value : {QVariant(2), QVariant(0), QVariant(QFont("Courier")), QVariant(QPixmap(2, 2))}) {
+            if (changes.isEmpty() || property.read(&grid) == before)
+                property.write(&grid, value);
+        }
+        EXPECT_NE(property.read(&grid), before) << property.name();
+        EXPECT_EQ(changes.value(0).value(0).toString(), property.name());
+    }
     QVariantMap stored = grid.saveProperties();
     stored.remove("MouseIcon"); // pictures are never equal
     FlexGrid other;
@@ -188,4 +200,43 @@ TEST(FlexGridProperties, AreStoredByNameAndReadBack)
     EXPECT_EQ(read, stored);
     other.loadProperties({{"Cols", 3}});
     EXPECT_EQ(other.FixedRows() * 10 + other.Cols(), 13) << "what is not stored is as in a new grid";
+}
+
+TEST(FlexGridOperations, DoWhatTheySayAlsoWhereNobodyUsesThem)
+{
+    FlexGrid grid;
+    fill(grid, {"\ta\tb", "\tc\td", "\te\tf"});
+    grid.setTextArray(4, "A");
+    grid.setRowSel(2);
+    grid.setColSel(2);
+    EXPECT_EQ(grid.Clip() + grid.TextArray(11), "A\tb\rc\tdf");
+    grid.setColData(1, 7);
+    grid.setColAlignment(1, 1);
+    EXPECT_EQ(grid.FixedAlignment(1), 1) << "as the column";
+    grid.setFixedAlignment(1, 4);
+    grid.setMergeCol(1, true);
+    grid.setMergeRow(2, true);
+    EXPECT_EQ(grid.ColData(1) * 10 + grid.FixedAlignment(1), 74);
+    EXPECT_TRUE(grid.MergeCol(1) && !grid.MergeCol(2) && grid.MergeRow(2) && !grid.MergeRow(1));
+    grid.setRowHeightMin(450);
+    EXPECT_EQ(grid.RowHeight(1), 450);
+    grid.setFillStyle(1);
+    grid.setCellAlignment(7);
+    grid.setCellBackColor(0xFF);
+    grid.setCellTextStyle(2);
+    grid.setCellPicture(QPixmap(3, 3));
+    grid.setCellPictureAlignment(5);
+    for (const int row : {2, 3}) {
+        const bool formatted = row == 2;
+        grid.Select(row, 1, row, 1);
+        EXPECT_EQ(grid.CellAlignment(), formatted ? 7 : 1);
+        EXPECT_EQ(grid.CellBackColor(), formatted ? 0xFF : 0);
+        EXPECT_EQ(grid.CellTextStyle() * 10 + grid.CellPictureAlignment(), formatted ? 25 : 0);
+        EXPECT_EQ(grid.CellPicture().isNull(), !formatted);
+    }
+    QStandardItemModel model(0, 2);
+    grid.setDataSource(&model);
+    model.setHorizontalHeaderLabels({"L1", "L2"});
+    model.appendRow({new QStandardItem("x"), new QStandardItem("y")});
+    EXPECT_EQ(grid.TextMatrix(0, 2) + everyCell(grid), "L2x|y");
 }

@@ -197,6 +197,17 @@ TEST_F(ShownGrid, ScrollsByRowsAndKnowsWhatIsSeen)
     EXPECT_EQ(grid.ColPos(1), 1500);
 }
 
+TEST_F(ShownGrid, KnowsWhereItsCellsAndTheMouseAre)
+{
+    grid.setTopRow(3);
+    EXPECT_EQ(QRect(grid.CellLeft(), grid.CellTop(), grid.CellWidth(), grid.CellHeight()),
+              QRect(grid.ColPos(2), grid.RowPos(5), grid.ColWidth(2), grid.RowHeight(5)));
+    moveTo(cell(4, 1));
+    EXPECT_EQ(grid.MouseRow() * 10 + grid.MouseCol(), 41);
+    grid.Autosize();
+    EXPECT_EQ(grid.size(), QSize(400, 4020)) << "without scroll bars";
+}
+
 TEST_F(ShownGrid, ShowsNoScrollBarThatIsNotNeeded)
 {
     for (const int width : {360, 430, 415}) {

@@ -128,16 +128,6 @@ QString CodePage::decodePairs(QByteArrayView bytes) const
     return text;
 }
 
-std::optional<QByteArray> CodePage::encode(QStringView text) const
-{
-    QByteArray bytes(2 * text.size(), Qt::Uninitialized);
-    const char *end = encodeTo(text, bytes.data());
-    if (!end)
-        return std::nullopt;
-    bytes.truncate(end - bytes.constData());
-    return bytes;
-}
-
 char *CodePage::encodeTo(QStringView text, char *out) const
 {
     const char *const start = out;

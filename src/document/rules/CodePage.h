@@ -4,7 +4,6 @@
 #include <QString>
 
 #include <array>
-#include <optional>
 #include <vector>
 
 class QLocale;
@@ -30,10 +29,8 @@ public:
 
     QString decode(QByteArrayView bytes) const;
 
-    /// No value when a letter has no place in the character set, or when the bytes would not read as the same text.
-    std::optional<QByteArray> encode(QStringView text) const;
-
-    /// As encode(), written at out, which must have room for two bytes a letter. The end of what was written, or null.
+    /// Writes a text at out, which must have room for two bytes a letter. The end of what was written; null when a
+    /// letter has no place in the character set, or when the bytes would not read as the same text.
     char *encodeTo(QStringView text, char *out) const;
 
 private:

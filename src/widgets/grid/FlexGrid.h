@@ -119,7 +119,6 @@ public:
     QAbstractItemModel *DataSource() const { return m_dataSource; }
     void setDataSource(QAbstractItemModel *model);
     /// Rows that are not fixed show their number in column 0; texts written there are dropped.
-    bool rowNumbers() const { return m_rowNumbers; }
     void setRowNumbers(bool numbers);
 
     /// For whole lists: replaces all rows by the given texts of columns 1 and 2 and heights (twips), row 0 first. No
@@ -260,7 +259,6 @@ public:
     void setMousePointer(int pointer); ///< 99: MouseIcon
     int PictureType() const { return m_state.look.PictureType; }
     void setPictureType(int type); ///< 0 colour, 1 black and white
-    QPixmap Picture();             ///< the grid as it is shown, as PictureType says
     bool Redraw() const { return m_redraw; }
     void setRedraw(bool redraw); ///< false holds drawing back until it is true again
     void Refresh();

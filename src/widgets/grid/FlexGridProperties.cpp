@@ -2,7 +2,6 @@
 
 #include "widgets/grid/FlexGridView.h"
 
-#include <QBitmap>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -161,12 +160,6 @@ void FlexGrid::setMousePointer(int pointer)
 void FlexGrid::setPictureType(int type)
 {
     changeLook(m_state.look.PictureType, std::clamp(type, 0, 1), "PictureType");
-}
-
-QPixmap FlexGrid::Picture()
-{
-    const QPixmap picture = grab();
-    return PictureType() == 0 ? picture : QBitmap::fromPixmap(picture);
 }
 
 void FlexGrid::setRightToLeft(bool rightToLeft)

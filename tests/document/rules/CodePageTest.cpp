@@ -8,6 +8,14 @@ const char *const AllNames[] = {"windows-1250", "windows-1251", "windows-1252", 
                                 "windows-1255", "windows-1256", "windows-1257", "windows-1258", "windows-874",
                                 "windows-932",  "windows-936",  "windows-949",  "windows-950"};
 
+/// No value when the character set cannot hold the text.
+std::optional<QByteArray> encoded(const CodePage &codePage, const QString &text)
+{
+    QByteArray bytes(2 * text.size(), Qt::Uninitialized);
+    const char *end = codePage.encodeTo(text, bytes.data());
+    return end ? std::optional(bytes.first(end - bytes.constData())) : std::nullopt;
+}
+
 struct EveryCodePage : ::testing::TestWithParam<const char *>
 {
     const CodePage m_codePage{GetParam()};
@@ -25,7 +33,7 @@ TEST_P(EveryCodePage, ReadsAndWritesEveryByte)
         if (byte < 0x80) {
             EXPECT_EQ(text[0].unicode(), byte);
         }
-        EXPECT_EQ(m_codePage.encode(text), bytes) << byte;
+        EXPECT_EQ(encoded(m_codePage, text), bytes) << byte;
         letters += text;
     }
 }
@@ -39,14 +47,14 @@ TEST_P(EveryCodePage, WritesNothingThatReadsDifferently)
         for (char &byte : bytes)
             byte = char(random() >> 8);
         const QString text = m_codePage.decode(bytes);
-        if (const std::optional<QByteArray> again = m_codePage.encode(text)) {
+        if (const std::optional<QByteArray> again = encoded(m_codePage, text)) {
             ASSERT_EQ(m_codePage.decode(*again), text) << bytes.toHex().constData();
             ++written;
         }
     }
     EXPECT_GT(written, 10000);
     for (const QString &text : {QString("\U0001F3E0"), QString(QChar(0xD83C)), QString("a\uFFFD"), QString("\u0915")})
-        EXPECT_FALSE(m_codePage.encode(text)) << qPrintable(text);
+        EXPECT_FALSE(encoded(m_codePage, text)) << qPrintable(text);
 }
 
 INSTANTIATE_TEST_SUITE_P(CodePage, EveryCodePage, ::testing::ValuesIn(AllNames));
@@ -71,7 +79,7 @@ TEST(CodePage, LettersHaveTheirBytes)
     };
     for (const auto &[name, text, bytes] : cases) {
         const CodePage codePage(name);
-        EXPECT_EQ(codePage.encode(text).value_or("none").toHex(), bytes.toHex()) << name;
+        EXPECT_EQ(encoded(codePage, text).value_or("none").toHex(), bytes.toHex()) << name;
         EXPECT_EQ(codePage.decode(bytes), text) << name;
     }
     EXPECT_EQ(CodePage("no-such-set").decode("\xE9"), "é");
