@@ -50,6 +50,7 @@ frmDoc::frmDoc(const Shared &shared, QWidget *parent)
     : QWidget(parent)
     , m_shared(shared)
     , m_grid(new ctlGrid(&shared.flags, this))
+    , m_edit(shared.undo, shared.flags, this)
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -63,7 +64,7 @@ void frmDoc::connectGrid()
 {
     connect(m_grid, &ctlGrid::BeforeEdit, this, [this] { onBeforeEdit(); });
     connect(m_grid, &ctlGrid::AfterEdit, this,
-            [this](int &row, int &col, const QString &text) { onAfterEdit(row, col, text); });
+            [this](int &row, int &col) { finishEdit(RunningEdit::End::Committed, row, col); });
     connect(m_grid, &ctlGrid::KeyDown, this, &frmDoc::onKeyDown);
     connect(m_grid, &ctlGrid::KeyUp, this, [this] { m_shiftAlone = false; });
     connect(m_grid, &ctlGrid::KeyPress, this, [this](int &keyAscii) { onKeyPress(keyAscii); });
@@ -129,13 +130,10 @@ void frmDoc::showDocument()
 
 void frmDoc::commitRunningEdit()
 {
-    if (!m_grid->EditMode())
-        return;
-    // a search opens the edit box to show a match: that alone is no change
-    if (m_shared.flags.searching() && m_grid->EditText() == m_grid->Text())
+    if (!m_grid->EditMode() || !m_edit.isToStore(m_grid->EditText(), m_grid->Text()))
         return;
     m_grid->setText(m_grid->EditText());
-    m_committedEdit = m_grid->Text();
+    m_edit.store(m_grid->Text());
     makeRoomFor(m_grid->Row(), m_grid->Col());
     setDirty(true);
 }
@@ -184,53 +182,11 @@ void frmDoc::focusInEvent(QFocusEvent *event)
     m_grid->setFocus();
 }
 
-void frmDoc::rememberEntry()
-{
-    m_shared.undo.entryText = m_grid->Text();
-    m_shared.undo.setKind(UndoKind::Typing, this);
-}
-
 void frmDoc::onBeforeEdit()
 {
-    m_textBeforeEdit = m_grid->Text();
-    m_committedEdit.reset();
-    // a search opens the edit box to show a match: that alone is nothing to undo
-    if (!m_shared.flags.searching()) {
-        m_shared.undo.selection.Row = m_grid->Row();
-        m_shared.undo.selection.Col = m_grid->Col();
-        rememberEntry();
-    }
+    m_edit.begin(m_grid->Row(), m_grid->Col(), m_grid->Text());
     Q_EMIT editingChanged(true);
     m_shared.status.ShowStatus(modSBFunc::Edit);
-}
-
-void frmDoc::onAfterEdit(int row, int col, const QString &text)
-{
-    ceasedToEdit();
-    if (!m_shared.flags.searching() || text != m_textBeforeEdit)
-        noteEntry(row, col);
-    makeRoomFor(row, col);
-    m_textBeforeEdit.clear(); // both belong to this edit only
-    m_committedEdit.reset();
-}
-
-void frmDoc::noteEntry(int row, int col)
-{
-    if (m_grid->TextMatrix(row, col) != m_committedEdit) // else it may have been saved since
-        setDirty(true);
-    if (m_shared.undo.kind() == UndoKind::Replace)
-        return;
-    m_shared.undo.selection.Row = row;
-    m_shared.undo.selection.Col = col;
-    if (m_shared.undo.kind() != UndoKind::Typing) // else the keys have recorded it
-        m_shared.undo.entryText = m_textBeforeEdit;
-    m_shared.undo.setKind(UndoKind::Entry, this);
-}
-
-void frmDoc::ceasedToEdit()
-{
-    m_shared.status.ShowStatus(modSBFunc::Ready);
-    Q_EMIT editingChanged(false);
 }
 
 void frmDoc::endEdit()
@@ -238,10 +194,18 @@ void frmDoc::endEdit()
     if (!m_grid->EditMode())
         return;
     m_grid->setEditMode(false);
-    ceasedToEdit();
-    // a search that found the same cell again has stored what was typed there before
-    if (m_shared.undo.kind() == UndoKind::Typing && m_shared.undo.entryText != m_grid->Text())
-        noteEntry(m_grid->Row(), m_grid->Col());
+    finishEdit(RunningEdit::End::Closed, m_grid->Row(), m_grid->Col());
+}
+
+void frmDoc::finishEdit(RunningEdit::End how, int row, int col)
+{
+    m_shared.status.ShowStatus(modSBFunc::Ready);
+    if (m_edit.state() != RunningEdit::State::Browsing)
+        Q_EMIT editingChanged(false);
+    if (m_edit.end(how, row, col, m_grid->TextMatrix(row, col)))
+        setDirty(true);
+    if (how != RunningEdit::End::Closed)
+        makeRoomFor(row, col);
 }
 
 void frmDoc::makeRoomFor(int row, int col)
@@ -289,9 +253,9 @@ void frmDoc::onKeyPress(int keyAscii)
     if (keyAscii == KeyEnter)
         walk(m_shiftAlone);
     else if (keyAscii == KeyEscape)
-        onAfterEdit(m_grid->Row(), m_grid->Col(), m_textBeforeEdit);
+        finishEdit(RunningEdit::End::Escaped, m_grid->Row(), m_grid->Col());
     if (keyAscii > KeyEscape) {
-        rememberEntry();
+        m_edit.type(m_grid->Text());
         showEditStatus(); // which the undo caption has overwritten
     }
 }

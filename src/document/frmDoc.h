@@ -1,11 +1,10 @@
 #pragma once
 
 #include "document/rules/FileStamp.h"
+#include "document/rules/RunningEdit.h"
 #include "document/rules/UndoRecord.h"
 
 #include <QWidget>
-
-#include <optional>
 
 class DocumentCloser;
 class clsAppProperties;
@@ -107,24 +106,20 @@ protected:
 private:
     void connectGrid();
     void onBeforeEdit();
-    void onAfterEdit(int row, int col, const QString &text);
     void onKeyDown(int keyCode, int shift);
     void onKeyWhileBrowsing(int keyCode);
     void onKeyPress(int keyAscii);
     void onRowColChange();
     void onMouseMove();
     void onMouseUp(int button, float x, float y);
-    void noteEntry(int row, int col);
-    void ceasedToEdit();
+    void finishEdit(RunningEdit::End how, int row, int col);
     void walk(bool backwards);
-    void rememberEntry();
     void showEditStatus();
 
     Shared m_shared;
     DocumentCloser *m_closer = nullptr;
     ctlGrid *m_grid;
-    QString m_textBeforeEdit;
-    std::optional<QString> m_committedEdit; ///< what commitRunningEdit stored of the edit that is going on
+    RunningEdit m_edit;
     QString m_docName;
     QString m_caption;
     int m_tag = 0;

@@ -152,7 +152,7 @@ void frmFindReplace::FindNext(Mode mode)
         const Hourglass hourglass;
         if (mode == ReplaceAndFind)
             replaceMatch();
-        keepTyped();
+        document().commitRunningEdit(); // so that the search sees it and keeps it
         ReadOptions();
         const GridCells cells(*document().Rutor());
         match = mode == FindBack ? m_search.FindPrevious(cells) : m_search.FindNext(cells);
@@ -210,7 +210,7 @@ void frmFindReplace::ReplaceAllMatches()
     ReplaceAll::Summary summary;
     {
         const Hourglass hourglass;
-        keepTyped();
+        document().commitRunningEdit(); // so that the search sees it and keeps it
         ReadOptions();
         ctlGrid &grid = *document().Rutor();
         grid.setRedraw(false);
@@ -230,14 +230,6 @@ void frmFindReplace::endRegion(const QString &message)
     m_search.ResetSearch();
     // the last step: the dialog may be gone afterwards, with the document that was closed meanwhile
     m_needs.alert.show(this, {message, resText(507), Alert::Ok, 0, true});
-}
-
-/// What the user has typed into the cell editor is stored, so that the search sees it and keeps it.
-void frmFindReplace::keepTyped()
-{
-    ctlGrid &grid = *document().Rutor();
-    if (grid.EditMode() && grid.EditText() != grid.Text())
-        document().commitRunningEdit();
 }
 
 void frmFindReplace::leaveDocument()

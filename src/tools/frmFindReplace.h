@@ -68,7 +68,6 @@ private:
     void showMatch(const Search::Match &match);
     void endRegion(const QString &message);
     void noteReplacement();
-    void keepTyped();
     void leaveUndoStep();
     void restart();
 
