@@ -34,11 +34,7 @@ void paste(const AppContext &context)
 {
     if (ClipboardOwner::answers())
         return onActive(context, &EditCommands::Paste)();
-    Alert alert;
-    alert.prompt = resText(14077);
-    alert.sound = true;
-    alert.exclamation = true;
-    context.alert.show(nullptr, alert);
+    context.alert.show(nullptr, {.prompt = resText(14077), .sound = true, .exclamation = true});
 }
 
 /// The dialog goes along to the document that becomes active, and closes when there is none left.

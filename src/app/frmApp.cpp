@@ -370,9 +370,7 @@ void frmApp::reportRegistryErrors(const std::function<void()> &action)
     try {
         action();
     } catch (const RegistryError &error) {
-        Alert alert;
-        alert.prompt = error.Description();
-        m_context->alert.show(isVisible() ? this : nullptr, alert);
+        m_context->alert.show(isVisible() ? this : nullptr, {.prompt = error.Description()});
     }
 }
 

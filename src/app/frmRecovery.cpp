@@ -100,11 +100,9 @@ void frmRecovery::recoverSelected()
 
 bool frmRecovery::confirmDiscard(const QList<int> &rows)
 {
-    Alert alert;
-    alert.prompt = rows.size() == 1 ? resText(12621).arg(m_orphans[size_t(rows.first())].copy.caption)
-                                    : resText(12620).arg(rows.size());
-    alert.buttons = Alert::YesNo;
-    return m_alert.show(this, alert) == AlertBox::AnswerYes;
+    const QString prompt = rows.size() == 1 ? resText(12621).arg(m_orphans[size_t(rows.first())].copy.caption)
+                                            : resText(12620).arg(rows.size());
+    return m_alert.show(this, {.prompt = prompt, .buttons = Alert::YesNo}) == AlertBox::AnswerYes;
 }
 
 void frmRecovery::discardSelected()

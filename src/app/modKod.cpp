@@ -69,9 +69,7 @@ struct Program
 
 void showAlert(AlertBox &alertBox, const QString &prompt)
 {
-    Alert alert;
-    alert.prompt = prompt;
-    alertBox.show(nullptr, alert);
+    alertBox.show(nullptr, {.prompt = prompt});
 }
 
 /// A desktop that does not learn of the file type is no reason to trouble the user.
@@ -159,11 +157,7 @@ void tellOfMissingCopies(RecoveryKeeper &keeper, frmApp &window, AlertBox &alert
         if (told || isUserBusy(window))
             return;
         told = true;
-        Alert alert;
-        alert.prompt = resText(14076).arg(recoveryFolder());
-        alert.sound = true;
-        alert.exclamation = true;
-        alertBox.show(nullptr, alert);
+        alertBox.show(nullptr, {.prompt = resText(14076).arg(recoveryFolder()), .sound = true, .exclamation = true});
     });
 }
 

@@ -169,11 +169,9 @@ bool FileCommands::mayOverwrite(const frmDoc &document)
     const FileStamp now = FileStamp::of(document.DocName());
     if (!now.exists() || now == document.fileStamp)
         return true;
-    Alert alert;
-    alert.prompt = resText(12610).arg(document.DocName());
-    alert.buttons = Alert::YesNo;
-    alert.sound = true;
-    return m_needs.alert.show(nullptr, alert) == AlertBox::AnswerYes;
+    const QString prompt = resText(12610).arg(document.DocName());
+    return m_needs.alert.show(nullptr, {.prompt = prompt, .buttons = Alert::YesNo, .sound = true}) ==
+           AlertBox::AnswerYes;
 }
 
 bool FileCommands::confirmClose(frmDoc &document)
@@ -181,12 +179,10 @@ bool FileCommands::confirmClose(frmDoc &document)
     document.commitRunningEdit();
     if (!document.Dirty())
         return true;
-    Alert alert;
-    alert.prompt = resText(700) + QStringLiteral(" [") + document.Caption() + QStringLiteral("] ") + resText(701) +
-                   QStringLiteral("\r\n") + resText(702);
-    alert.buttons = Alert::YesNoCancelHelp;
-    alert.helpId = ClosingTopic;
-    const AlertBox::Answer answer = m_needs.alert.show(nullptr, alert);
+    const QString prompt = resText(700) + QStringLiteral(" [") + document.Caption() + QStringLiteral("] ") +
+                           resText(701) + QStringLiteral("\r\n") + resText(702);
+    const AlertBox::Answer answer =
+        m_needs.alert.show(nullptr, {.prompt = prompt, .buttons = Alert::YesNoCancelHelp, .helpId = ClosingTopic});
     if (answer == AlertBox::AnswerNo)
         Q_EMIT givenUp(&document);
     if (answer != AlertBox::AnswerYes)
@@ -212,33 +208,25 @@ bool FileCommands::mayCloseUnsaved(frmDoc &document, const QString &path, const 
 
 bool FileCommands::mayLose(const frmDoc &document, const SaveReport &report)
 {
-    Alert alert;
-    alert.prompt = report.unstoredRows.empty() ? resText(12627).arg(document.Caption())
-                                               : unstoredText(14065, document, report.unstoredRows);
-    alert.buttons = Alert::YesNo;
-    alert.sound = true;
-    alert.exclamation = true;
-    return m_needs.alert.show(nullptr, alert) == AlertBox::AnswerYes;
+    const QString prompt = report.unstoredRows.empty() ? resText(12627).arg(document.Caption())
+                                                       : unstoredText(14065, document, report.unstoredRows);
+    return m_needs.alert.show(nullptr,
+                              {.prompt = prompt, .buttons = Alert::YesNo, .sound = true, .exclamation = true}) ==
+           AlertBox::AnswerYes;
 }
 
 void FileCommands::warn(const QString &prompt, int helpId)
 {
-    Alert alert;
-    alert.prompt = prompt;
-    alert.buttons = helpId ? Alert::OkHelp : Alert::Ok;
-    alert.helpId = helpId;
-    alert.sound = true;
-    alert.exclamation = true;
-    m_needs.alert.show(nullptr, alert);
+    m_needs.alert.show(nullptr, {.prompt = prompt,
+                                 .buttons = helpId ? Alert::OkHelp : Alert::Ok,
+                                 .helpId = helpId,
+                                 .sound = true,
+                                 .exclamation = true});
 }
 
 void FileCommands::alertFile(const QString &prompt, int helpId)
 {
-    Alert alert;
-    alert.prompt = prompt;
-    alert.buttons = helpId ? Alert::OkHelp : Alert::Ok;
-    alert.helpId = helpId;
-    m_needs.alert.show(nullptr, alert);
+    m_needs.alert.show(nullptr, {.prompt = prompt, .buttons = helpId ? Alert::OkHelp : Alert::Ok, .helpId = helpId});
 }
 
 void FileCommands::LoadVocabulary(const QString &path)

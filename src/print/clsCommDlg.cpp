@@ -108,11 +108,7 @@ void clsCommDlg::print()
 
 void clsCommDlg::reportPrinterError(AlertBox &alertBox, QWidget *owner, const QString &text)
 {
-    Alert alert;
-    alert.prompt = text;
-    alert.title = resText(12400);
-    alert.exclamation = true;
-    alertBox.show(owner, alert);
+    alertBox.show(owner, {.prompt = text, .title = resText(12400), .exclamation = true});
 }
 
 void clsCommDlg::choosePages()

@@ -10,7 +10,7 @@ struct Alert
     enum Buttons { Ok, OkHelp, YesNo, YesNoCancelHelp };
 
     QString prompt;
-    QString title; ///< empty: the one that alert boxes have
+    QString title = {}; ///< empty: the one that alert boxes have
     Buttons buttons = Ok;
     int helpId = 0;           ///< help topic of the Help button, 0: none
     bool sound = false;       ///< the exclamation sound precedes the box

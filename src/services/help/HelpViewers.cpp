@@ -60,9 +60,8 @@ QString HelpViewers::topicOf(const HelpFile &file, const HelpTarget &target, Hel
 
 bool HelpViewers::refuse(int textId, const QString &detail)
 {
-    Alert alert;
-    alert.prompt = detail.isEmpty() ? resText(textId) : resText(textId).arg(detail);
-    m_alert.show(QApplication::activeWindow(), alert);
+    m_alert.show(QApplication::activeWindow(),
+                 {.prompt = detail.isEmpty() ? resText(textId) : resText(textId).arg(detail)});
     return false;
 }
 

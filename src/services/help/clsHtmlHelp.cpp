@@ -54,9 +54,7 @@ void clsHtmlHelp::attach(QWidget *window)
     QApplication::instance()->installEventFilter(this);
     if (recordControls())
         return;
-    Alert alert;
-    alert.prompt = resText(CannotAssignIds);
-    m_alert.show(window, alert);
+    m_alert.show(window, {.prompt = resText(CannotAssignIds)});
 }
 
 /// Drop-downs are windows of their own and are never hit.
