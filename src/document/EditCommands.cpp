@@ -58,7 +58,7 @@ void EditCommands::Copy(frmDoc &document)
     ctlGrid &grid = *document.Rutor();
     m_clipboard.clear();
     if (grid.EditMode()) {
-        grid.hwndText()->copyText();
+        grid.hwndText()->copy();
         return;
     }
     m_clipboard.setText(grid.Clip());

@@ -14,7 +14,6 @@ public:
     /// Begins with a text and the caret at its end, in a long text at position 1000; there is nothing to undo yet.
     void begin(const QString &text);
     void cutText();
-    void copyText() { copy(); }
     void pasteText();
     /// Undoes the last typing, or redoes it when the last thing done was to undo it.
     void undoText();

@@ -25,6 +25,7 @@ TEST(RunningEdit, ItsEndTellsWhatWasEntered)
     const auto open = [](RunningEdit &edit) { edit.begin(3, 2, "house"); };
     const auto type = [](RunningEdit &edit) { edit.begin(3, 2, "house"), edit.type("house"); };
     const auto store = [](RunningEdit &edit) { edit.begin(3, 2, "house"), edit.type("house"), edit.store("barn"); };
+    const auto replace = [&](RunningEdit &edit) { open(edit), undo.setKind(UndoKind::Replace, this); };
     const Case cases[] = {
         {"typed", false, type, End::Committed, "barn", true, UndoKind::Entry, "house"},
         {"only opened", false, open, End::Committed, "house", true, UndoKind::Entry, "house"},
@@ -40,9 +41,8 @@ TEST(RunningEdit, ItsEndTellsWhatWasEntered)
         {"a match shown", true, open, End::Committed, "house", false, UndoKind::None, ""},
         {"a match given up", true, open, End::Escaped, "house", false, UndoKind::None, ""},
         {"a match replaced", true, open, End::Committed, "barn", true, UndoKind::Entry, "house"},
-        {"what a replacement has recorded", true,
-         [&](RunningEdit &edit) { open(edit), undo.setKind(UndoKind::Replace, this); }, End::Committed, "barn", true,
-         UndoKind::Replace, ""},
+        {"what a replacement has recorded", true, replace, End::Committed, "barn", true, UndoKind::Replace, ""},
+        {"closed after a replacement", true, replace, End::Closed, "barn", false, UndoKind::Replace, ""},
         {"a match typed over, stored and shown again", true,
          [&](RunningEdit &edit) { store(edit), edit.begin(3, 2, "barn"); }, End::Closed, "barn", true, UndoKind::Entry,
          "house"},
