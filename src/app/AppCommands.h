@@ -3,8 +3,8 @@
 class CommandTable;
 struct AppContext;
 
-/// Where the program's commands are declared, a file a menu. Each routine adds its rows to the table; a row whose `run`
-/// is empty stands for a command that cannot be given.
+/// Where the program's commands are declared: a file a menu, but Mode with the quizzes and what prints with the
+/// preview. Each routine adds its rows to the table.
 namespace AppCommands {
 
 void addFileCommands(CommandTable &table, const AppContext &context);
