@@ -5,6 +5,7 @@
 #include "document/frmDoc.h"
 #include "document/modUndo.h"
 #include "document/rules/GridRules.h"
+#include "document/rules/Vocabulary.h"
 #include "services/status/modSBFunc.h"
 
 #include <QClipboard>
@@ -145,8 +146,11 @@ void EditCommands::Clear(frmDoc &document)
 
 void EditCommands::Insert(frmDoc &document)
 {
-    m_record.selection = document.selection();
-    document.Rutor()->insertRows(m_record.selection.top(), m_record.selection.rowCount());
+    const GridSelection selection = document.selection();
+    if (document.Rutor()->Rows() + selection.rowCount() > Vocabulary::MostRows)
+        return; // no file could be read again that holds so many
+    m_record.selection = selection;
+    document.Rutor()->insertRows(selection.top(), selection.rowCount());
     document.select(m_record.selection);
     m_record.setKind(UndoKind::Insert, &document);
 }

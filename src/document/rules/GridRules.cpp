@@ -61,7 +61,7 @@ GridSelection pastedCells(const GridSelection &selection, int textRows, int text
 {
     const bool single = selection.rowCount() == 1 && selection.colCount() == 1;
     const bool grows = single || selection.bottom() >= rows - 1;
-    const int bottom = selection.top() + textRows - 1;
+    const int bottom = std::max(selection.top(), std::min(selection.top() + textRows, Vocabulary::MostRows) - 1);
     const int right = selection.left() + textColumns - 1;
     return {selection.top(), selection.left(), grows ? bottom : std::min(bottom, selection.bottom()),
             std::min(right, grows ? Columns : selection.right())};

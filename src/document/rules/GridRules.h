@@ -30,7 +30,7 @@ int defaultRowHeight(int textHeight);
 
 /// The cells that a clipboard text of so many rows and columns takes when it is pasted into a selection. Into a single
 /// cell, and into a selection that reaches the last row, it goes as far as it reaches, to the right up to the second
-/// language; any other selection is not left. rows counts the header row.
+/// language, but not beyond the rows that a file may hold; any other selection is not left. rows counts the header row.
 GridSelection pastedCells(const GridSelection &selection, int textRows, int textColumns, int rows);
 
 /// What the status bar tells when only these cells of the text were pasted: "100 of 300 rows pasted". Empty when the

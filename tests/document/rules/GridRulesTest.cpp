@@ -45,6 +45,7 @@ TEST(GridRules, PastedTextGrowsFromASingleCellAndAtTheEndOnly)
         {{4, 2, 2, 2}, 4, 3, {2, 2, 4, 2}, "3 of 4 rows pasted, 1 of 3 columns pasted"},
         {{2, 1, 9, 2}, 3, 1, {2, 1, 4, 1}, ""},
         {{10, 1, 1, 1}, 300, 2, {1, 1, 300, 2}, ""}, // the last row
+        {{2, 1, 2, 1}, 6000000, 1, {2, 1, 4999999, 1}, "4999998 of 6000000 rows pasted"},
     };
     for (const auto &[selection, textRows, textColumns, pasted, told] : cases) {
         EXPECT_EQ(pastedCells(selection, textRows, textColumns, 11), pasted);
