@@ -181,13 +181,19 @@ def choose(found, count, chance, wanted):
     return chosen
 
 
-def write_tree(tree, mutants):
-    """A copy of the repository with the faults; what is as before is left alone for the build's sake."""
-    names = {name for name in run("git", "ls-files", cwd=ROOT).stdout.split("\n") if (ROOT / name).is_file()}
+def read_sources():
+    """The files of the repository as they stand, with the switch of the faults."""
+    names = [name for name in run("git", "ls-files", cwd=ROOT).stdout.split("\n") if (ROOT / name).is_file()]
     content = {name: (ROOT / name).read_bytes() for name in names}
     content["cmake/mutants.h"] = SWITCH.encode()
     for header in ("cmake/pch_rules.h", "cmake/pch_windows.h"):
         content[header] += b'#include "mutants.h"\n'
+    return content
+
+
+def write_tree(tree, sources, mutants):
+    """What is as before is left alone for the build's sake."""
+    content = dict(sources)
     for number, mutant in sorted(mutants.items(), key=lambda pair: -pair[1].start):
         code, text = content[mutant.file], mutant.text.replace("@", str(number), 1).encode()
         content[mutant.file] = code[: mutant.start] + text + code[mutant.end :]
@@ -196,16 +202,16 @@ def write_tree(tree, mutants):
         target.parent.mkdir(parents=True, exist_ok=True)
         if not (target.is_file() and target.read_bytes() == code):
             target.write_bytes(code)
-            target.chmod((ROOT / name).stat().st_mode if name in names else 0o644)
+            target.chmod(0o755)
     for path in [*(tree / "src").rglob("*"), *(tree / "tests").rglob("*")]:
-        if path.is_file() and str(path.relative_to(tree)) not in names:
+        if path.is_file() and str(path.relative_to(tree)) not in content:
             path.unlink()
 
 
-def build_all(tree, build, through, mutants):
+def build_all(tree, build, through, sources, mutants):
     """Builds the faults; those that the compiler refuses are left out."""
     while True:
-        write_tree(tree, mutants)
+        write_tree(tree, sources, mutants)
         run("cmake", "-S", tree, "-B", build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0",
             check=True)
         built = run(*through, "cmake", "--build", str(build), "--", "-j2", "-k", "0")
@@ -283,12 +289,12 @@ def main():
     through = options.through.split()
 
     wanted = {tuple(key) for key in json.loads(last.read_text())} if options.survivors else None
-    chance, chosen = random.Random(options.seed), []
+    sources, chance, chosen = read_sources(), random.Random(options.seed), []
     for folder, found in sorted(candidates().items()):
         if options.folder in (None, folder):
             chosen += choose(found, options.count if wanted is None else len(found), chance, wanted)
     mutants = dict(enumerate(chosen, 1))
-    build_all(tree, build, through, mutants)
+    build_all(tree, build, through, sources, mutants)
 
     tests = Tests(build, through)
     with concurrent.futures.ThreadPoolExecutor(options.jobs) as pool:
