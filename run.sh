@@ -20,5 +20,5 @@ if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
 fi
 picture=$build/glosaria-screenshot.png
 echo "There is no display here: starting Glosaria on a virtual one."
-/usr/bin/python3 tests/program/show.py "$build/glosaria" "$file" "$picture"
+PYTHONPATH=tests/program /usr/bin/python3 scripts/show.py "$build/glosaria" "$file" "$picture"
 echo "What it shows: $picture"

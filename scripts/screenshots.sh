@@ -12,14 +12,15 @@ scripts/setup.sh packages.txt packages-screenshots.txt
 cmake --preset dev
 cmake --build --preset dev --target glosaria
 
+export PYTHONPATH=tests/program
 result=0
 for look in "${looks[@]}"; do
     echo "Taking $look"
     mkdir -p "$folder/$look"
     rm -f "$folder/$look"/*.png "$folder/$look"-sheet*.png
-    /usr/bin/python3 tests/program/screenshots.py build/dev/glosaria "$folder/$look" "${look%-*}" "${look#*-}" || result=1
+    /usr/bin/python3 scripts/screenshots.py build/dev/glosaria "$folder/$look" "${look%-*}" "${look#*-}" || result=1
     montage -label '%t' "$folder/$look"/*.png -tile 4x3 -geometry '480x300>+6+6' "$folder/$look-sheet.png"
 done
-/usr/bin/python3 tests/program/screenshots_index.py "$folder"
+/usr/bin/python3 scripts/screenshots_index.py "$folder"
 echo "Look at $folder/index.html"
 exit "$result"

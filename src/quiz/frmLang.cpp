@@ -55,9 +55,14 @@ void frmLang::btnOK_Click()
 bool frmLang::eventFilter(QObject *watched, QEvent *event)
 {
     auto *box = qobject_cast<QLineEdit *>(watched);
-    // Selected once the box has handled its focus, so that the click that brought it does not take the selection away.
-    // After a menu of its own the box goes on where it was.
-    if (box && event->type() == QEvent::FocusIn && static_cast<QFocusEvent *>(event)->reason() != Qt::PopupFocusReason)
+    if (!box || event->type() != QEvent::FocusIn)
+        return QDialog::eventFilter(watched, event);
+    const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+    // The click that brought the focus would take the selection away; what is typed must not come before it. After a
+    // menu of its own the box goes on where it was.
+    if (reason == Qt::MouseFocusReason)
         QMetaObject::invokeMethod(box, &QLineEdit::selectAll, Qt::QueuedConnection);
+    else if (reason != Qt::PopupFocusReason)
+        box->selectAll();
     return QDialog::eventFilter(watched, event);
 }

@@ -41,9 +41,9 @@ class ProgramCase(unittest.TestCase):
         """A copy of a sample that the case may change."""
         return pathlib.Path(shutil.copy(SAMPLES / name, self.home))
 
-    def open(self, file, splash=False, through=()):
+    def open(self, file, through=()):
         """Starts the program on a file and waits for its words."""
-        program = self.desktop.start(*([] if splash else ["--no-splash"]), file, through=through)
+        program = self.desktop.start("--no-splash", file, through=through)
         self.desktop.wait(lambda: self.desktop.find("table") and self.desktop.cell(0, 0), "the words")
         return program
 

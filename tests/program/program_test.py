@@ -4,28 +4,6 @@
 from cases import ProgramCase, run
 
 
-class DocumentCase(ProgramCase):
-    """What becomes of a file that the user opens and edits."""
-
-    def test_an_edited_word_is_saved_and_nothing_else_changes(self):
-        file = self.sample("german-basics.gla")
-        before = file.read_bytes().split(b"\r\n")
-        program = self.open(file, splash=True)
-        self.desktop.type("the human being")
-        self.desktop.key("Return", "ctrl+s")
-        expected = b"the human being   [0000000285]"
-        self.desktop.wait(lambda: expected in file.read_bytes(), "the saved word")
-        self.assertEqual(self.desktop.quit(program), 0)
-
-        after = file.read_bytes().split(b"\r\n")
-        first_pair = before.index(b"[Vocabulary]") + 3
-        self.assertEqual(after, before[:first_pair] + [expected] + before[first_pair + 1:])
-
-        self.open(file)
-        self.assertEqual(self.desktop.cell(0, 0), "the human being")
-        self.assertEqual(self.desktop.cell(0, 1), "der Mensch")
-
-
 class EndCase(ProgramCase):
     """The program is told to end from outside, by the signal that a system sends when it shuts down."""
 

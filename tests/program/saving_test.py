@@ -39,14 +39,6 @@ class SavingCase(ProgramCase):
         self.desktop.wait(lambda: b"edited" in self.file.read_bytes(), "the saved word")
         self.assertEqual(read_vocabulary(self.file.read_bytes())[0], ("edited", self.first[1]))
 
-    def test_a_limit_of_the_files_size(self):
-        limit = len(self.before) // 2
-        self.edit(through=["prlimit", f"--fsize={limit}"])
-        self.desktop.key("ctrl+s")
-        self.expect_failure()
-        self.assertEqual(self.file.read_bytes(), self.before)
-        self.assertEqual(os.listdir(self.file.parent).count(self.file.name), 1)
-
     def test_a_folder_that_is_read_only(self):
         folder = self.home / "words"
         folder.mkdir()

@@ -12,7 +12,6 @@ struct frmLangTest : ::testing::Test, OpenDocument
         frmLang dialog(document);
         dialog.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-        QCoreApplication::processEvents();
         keys(dialog);
         EXPECT_FALSE(dialog.isVisible());
     }
@@ -30,13 +29,16 @@ TEST_F(frmLangTest, NamesAreWrittenAsTypedAndAnEmptyBoxKeepsItsName)
         QCoreApplication::processEvents();
         QTest::keyClicks(dialog.focusWidget(), " ");
         QTest::keyClick(dialog.focusWidget(), Qt::Key_2, Qt::AltModifier);
-        QCoreApplication::processEvents();
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Delete);
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_1, Qt::AltModifier);
+        QTest::keyClicks(dialog.focusWidget(), "Old"); // at once
+        QCoreApplication::processEvents();
+        QTest::keyClicks(dialog.focusWidget(), " English ");
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
     });
-    EXPECT_EQ(u" Old English |Language 2", names());
+    EXPECT_EQ(u"Old English |Language 2", names());
     EXPECT_TRUE(document.Dirty());
-    EXPECT_EQ(u" Old English  -> Language 2 In Order", status.text(2));
+    EXPECT_EQ(u"Old English  -> Language 2 In Order", status.text(2));
 }
 
 TEST_F(frmLangTest, EscapeWritesNothingAndOkMarksTheDocumentChanged)

@@ -1,10 +1,6 @@
 #include "document/EditCommands.h"
-#include "document/modUndo.h"
 #include "support/OpenDocument.h"
-#include "tools/DocumentCells.h"
 #include "tools/modSorting.h"
-#include "tools/rules/ReplaceAll.h"
-#include "tools/rules/SortFlag.h"
 
 #include <QClipboard>
 
@@ -113,31 +109,6 @@ TEST_F(RandomChanges, BySortingMoveWholeRowsAndAreUndone)
     EXPECT_EQ(grid.RowHeight(1), 3000);
     commands.Undo(document);
     EXPECT_GE(grid.RowHeight(2), grid.fittingRowHeight(2));
-}
-
-TEST_F(RandomChanges, ByReplaceAllEqualAPlainReplacementAndAreUndone)
-{
-    for (int round = 0; round < 200; ++round) {
-        const Words before = fresh();
-        const GridSelection selection = document.selection();
-        undo.snapshot = modUndo::takeSnapshot(grid);
-        undo.selection = selection;
-        Search search;
-        search.FindWhat = "w";
-        const bool matchCase = number(2);
-        search.SearchFlags = SearchFlag::WholeDocument | (matchCase ? SearchFlag::MatchCase : 0);
-        const QString with = QStringList{"w", "ab", "xWx"}[number(3)];
-        Words expected = before;
-        for (auto &row : expected) {
-            for (QString &word : row)
-                word.replace("w", with, matchCase ? Qt::CaseSensitive : Qt::CaseInsensitive);
-        }
-        DocumentCells cells(document);
-        ReplaceAll(search, with).run(cells);
-        ASSERT_EQ(words(), expected);
-        undo.setKind(UndoKind::Replace, &document);
-        expectUndone(before, selection);
-    }
 }
 
 } // namespace
