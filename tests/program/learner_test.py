@@ -5,6 +5,11 @@ from cases import ProgramCase, run
 
 WORDS = [("house", "casa"), ("tree", "árbol"), ("dog", "perro"), ("cat", "gato"), ("bread", "pan")]
 ANSWERS = dict(WORDS)
+SCRIPTS = [  # a key each for signs beyond the basic plane and for joiners too
+    ("Arabic", "كِتَابٌ جَدِيدٌ"), ("Chinese", "汉字"), ("Decomposed", "e\u0301te\u0301"), ("Family", "👩\u200d👩\u200d👧"),
+    ("Flag", "🇩🇪"), ("Greek", "Σίσυφος"), ("Hebrew", "שָׁלוֹם עולם"), ("Hindi", "नमस्ते क्षेत्र"), ("Japanese", "日本語のカタカナ"),
+    ("Korean", "한국어"), ("Rare", "\U00020bb7野家"), ("Russian", "Ёлка"), ("Thumb", "👍🏽"), ("Vietnamese", "tiếng Việt"),
+]
 
 
 def counters(questions, answered, correct, wrong):
@@ -34,6 +39,29 @@ class LearnerCase(ProgramCase):
         self.expect_column(1, [second for _, second in sorted(WORDS)])
         self.assertEqual(self.desktop.quit(program), 0)
 
+    def test_words_of_every_script_are_typed_saved_pasted_and_printed(self):
+        self.desktop.start("--no-splash")
+        words = [word for _, word in SCRIPTS]
+        text = "\n".join(f"{name}\t{word}" for name, word in SCRIPTS)
+        for file in (self.home / "typed.gla", self.home / "pasted.gla"):
+            self.desktop.key("alt+f", "n")
+            self.desktop.wait_for("table")
+            if file.stem == "typed":
+                self.desktop.type(text.replace("\t", "\r").replace("\n", "\r") + "\r")
+            else:
+                self.desktop.copy_elsewhere(text)
+                self.desktop.key("alt+e", "p")
+            self.expect_column(1, [*words, ""])
+            self.save_as(file)
+            self.desktop.wait_for("frame", file.stem)
+            self.check_file(file, SCRIPTS, ("Language 1", "Language 2"))
+        self.desktop.key(*["shift+Down"] * (len(SCRIPTS) - 1), "shift+Right", "alt+e", "c")
+        self.desktop.wait(lambda: self.desktop.copied().replace("\r", "\n") == text, "the copied words")
+        self.open_dialog("Print", "alt+f", "p")
+        self.close_dialog("Print", "Return")
+        fonts = self.desktop.tool("pdffonts", self.home / "Glosaria - pasted.pdf")
+        self.assertNotIn(" no ", " ".join(line[-30:-17] for line in fonts.splitlines()[2:]), "a font is not embedded")
+
     # The list
 
     def make_list(self):
@@ -56,13 +84,11 @@ class LearnerCase(ProgramCase):
         self.expect_column(0, sorted(ANSWERS) + [""])
         self.expect_column(1, [ANSWERS[first] for first in sorted(ANSWERS)] + [""])
 
-    def check_file(self, file, words):
-        lines = file.read_bytes().decode("cp1252").split("\r\n")
-        rows = [("English", "Spanish"), *words]
-        self.assertEqual(lines[14:17], [str(len(words)), "", "[Vocabulary]"])
-        self.assertEqual(
-            lines[17:], [line for first, second in rows for line in (first + "   [0000000285]", second)] + [""]
-        )
+    def check_file(self, file, words, languages=("English", "Spanish")):
+        lines = file.read_bytes().decode("utf-8" if b"UTF-8" in file.read_bytes() else "cp1252").split("\r\n")
+        rows = [line for first, second in [languages, *words] for line in (first + "   [0000000285]", second)]
+        self.assertEqual(lines[14], str(len(words)))
+        self.assertEqual(lines[lines.index("[Vocabulary]") + 1:], rows + [""])
 
     # Quizzes
 
