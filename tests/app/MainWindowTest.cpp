@@ -41,16 +41,6 @@ TEST_F(MainWindowTest, NewDocumentsCascadeInsideTheAreaAndTheirColumnsFillThem)
     }
 }
 
-TEST_F(MainWindowTest, CascadedWindowsKeepAUsefulSize)
-{
-    const QRect first = newDocument()->frame()->geometry();
-    const QRect second = newDocument()->frame()->geometry();
-    window->DoMenuClick("mnuWindow(1)");
-    window->DoMenuClick("mnuWindow(0)");
-    EXPECT_EQ(documents().open()[0]->frame()->geometry(), first);
-    EXPECT_EQ(documents().open()[1]->frame()->geometry(), second);
-}
-
 TEST_F(MainWindowTest, ClosingADocumentAmidAnEditLeavesNothingToDo)
 {
     newDocument()->Rutor()->GridEdit('x');
@@ -80,16 +70,6 @@ TEST_F(MainWindowTest, AnEditThatAnotherDocumentInterruptedGoesOn)
     EXPECT_EQ(document->Rutor()->EditText(), QString("xy"));
 }
 
-TEST_F(MainWindowTest, ClosingADocumentReturnsToTheOneBefore)
-{
-    frmDoc *first = newDocument();
-    newDocument();
-    window->activate(first);
-    newDocument();
-    window->DoMenuClick("mnuFileClose");
-    EXPECT_EQ(documents().active(), first);
-}
-
 TEST_F(MainWindowTest, ControlTabGoesAroundTheDocuments)
 {
     const std::array made = {newDocument(), newDocument(), newDocument()};
@@ -101,6 +81,9 @@ TEST_F(MainWindowTest, ControlTabGoesAroundTheDocuments)
         EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier), made[size_t(next)]);
     for (const int next : {2, 1, 0})
         EXPECT_EQ(press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier), made[size_t(next)]);
+    window->activate(made[2]);
+    window->DoMenuClick("mnuFileClose");
+    EXPECT_EQ(documents().active(), made[0]) << "the one that was active before";
 }
 
 TEST_F(MainWindowTest, TilesShareTheAreaWithoutOverlap)

@@ -62,27 +62,6 @@ TEST_F(PreviewCommandsTest, ThePreviewTakesTheDocumentsPlaceAndGivesItBack)
     EXPECT_EQ(undo.kind(), UndoKind::Clear);
 }
 
-TEST_F(PreviewCommandsTest, MaximisedAndMinimisedDocumentsStaySo)
-{
-    frmDoc *small = document(1);
-    frmDoc *large = document(1);
-    small->frame()->showMinimized();
-    large->frame()->showMaximized();
-    window->activate(large);
-    window->DoMenuClick("mnuFilePrintPreview");
-    window->DoMenuClick("mnuFilePrintPreview");
-    EXPECT_TRUE(small->frame()->isMinimized());
-    EXPECT_TRUE(large->frame()->isMaximized());
-    EXPECT_EQ(large->frame()->size(), window->documentArea()->viewport()->size());
-    large->frame()->showNormal();
-    EXPECT_NE(large->frame()->size(), window->documentArea()->viewport()->size());
-    large->frame()->showMinimized();
-    window->DoMenuClick("mnuFilePrintPreview");
-    window->DoMenuClick("mnuFilePrintPreview");
-    EXPECT_EQ(window->documentArea()->activeSubWindow(), large->frame());
-    EXPECT_TRUE(large->frame()->isMinimized());
-}
-
 TEST_F(PreviewCommandsTest, OpeningAFileAndLeavingTheProgramEndThePreview)
 {
     document(1);

@@ -57,28 +57,12 @@ TEST_F(FrmDocTest, TypingCommitsWithEnterAndMovesOn)
     EXPECT_EQ(undo.kind(), UndoKind::Entry);
     EXPECT_EQ(status.text(0) + status.text(1), resText(506) + " B1");
     EXPECT_EQ(editing, (QList<bool>{true, false}));
-}
-
-TEST_F(FrmDocTest, EscapeLeavesTheCellAsItWas)
-{
-    type("zzz");
-    press(Qt::Key_Escape, Qt::ControlModifier);
-    EXPECT_TRUE(grid.EditMode()) << "no character, so nobody would learn of the end";
-    press(Qt::Key_Escape);
-    EXPECT_EQ(grid.TextMatrix(1, 1), "house");
-    EXPECT_EQ(status.text(0), resText(506));
-}
-
-TEST_F(FrmDocTest, EnterWalksRoundTheWordsAndBack)
-{
-    press(Qt::Key_Return);
     press(Qt::Key_Return, Qt::ShiftModifier);
     press(Qt::Key_Return, Qt::ShiftModifier);
     EXPECT_EQ(cell(), std::pair(100, 2)) << "round to the last row";
     EXPECT_TRUE(grid.RowIsVisible(100));
     press(Qt::Key_Return);
     EXPECT_EQ(cell(), std::pair(1, 1));
-    EXPECT_EQ(grid.TopRow(), 1);
 }
 
 TEST_F(FrmDocTest, TabCommitsAndGoesWhereEnterGoes)

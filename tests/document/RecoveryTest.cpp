@@ -61,49 +61,28 @@ struct RecoveryTest : ::testing::Test
 
 TEST_F(RecoveryTest, WhatDiffersFromTheFileIsKeptAndNothingElse)
 {
-    struct Case
-    {
-        const char *name;
-        std::function<void(frmDoc &, ctlGrid &)> change;
-        bool kept;
+    using Change = std::function<void(frmDoc &, ctlGrid &)>;
+    const std::tuple<const char *, bool, Change> cases[] = {
+        {"nothing", false, [](frmDoc &, ctlGrid &) {}},
+        {"a word", true, [](frmDoc &, ctlGrid &grid) { grid.setTextMatrix(2, 1, "só 猫"); }},
+        {"a row's height", true, [](frmDoc &, ctlGrid &grid) { grid.setRowHeight(1, 777); }},
+        {"a column's width", true, [](frmDoc &, ctlGrid &grid) { grid.setColWidth(1, 777); }},
+        {"the font", true, [](frmDoc &, ctlGrid &grid) { grid.setGridFont(QFont("Arial", 33)); }},
+        {"the colour", true, [](frmDoc &, ctlGrid &grid) { grid.setForeColor(0xFF); }},
+        {"an inserted row", true, [](frmDoc &, ctlGrid &grid) { grid.insertRows(1, 1); }},
+        {"empty rows at the end", false, [](frmDoc &, ctlGrid &grid) { grid.setRows(300); }},
+        {"the mark of a change alone", false, [](frmDoc &document, ctlGrid &) { document.setDirty(true); }},
+        {"a row taken out again", false, [](frmDoc &, ctlGrid &grid) { grid.insertRows(1, 1), grid.removeRows(1, 1); }},
+        {"typing", true, [](frmDoc &, ctlGrid &grid) { grid.setEditMode(true), grid.setSelText("unfinished"); }},
+        {"deleting", true, [](frmDoc &, ctlGrid &grid) { grid.GridEdit(0), grid.SelectEditText(0, 3), grid.setSelText({}); }},
     };
-    const Case cases[] = {
-        {"nothing", [](frmDoc &, ctlGrid &) {}, false},
-        {"a word", [](frmDoc &, ctlGrid &grid) { grid.setTextMatrix(2, 1, "só 猫"); }, true},
-        {"a row's height", [](frmDoc &, ctlGrid &grid) { grid.setRowHeight(1, 777); }, true},
-        {"a column's width", [](frmDoc &, ctlGrid &grid) { grid.setColWidth(1, 777); }, true},
-        {"the font", [](frmDoc &, ctlGrid &grid) { grid.setGridFont(QFont("Arial", 33)); }, true},
-        {"the colour", [](frmDoc &, ctlGrid &grid) { grid.setForeColor(0xFF); }, true},
-        {"an inserted row", [](frmDoc &, ctlGrid &grid) { grid.insertRows(1, 1); }, true},
-        {"empty rows at the end", [](frmDoc &, ctlGrid &grid) { grid.setRows(300); }, false},
-        {"the mark of a change alone", [](frmDoc &document, ctlGrid &) { document.setDirty(true); }, false},
-        {"a row that is taken out again",
-         [](frmDoc &, ctlGrid &grid) {
-             grid.insertRows(1, 1);
-             grid.removeRows(1, 1);
-         },
-         false},
-        {"a word that is being typed",
-         [](frmDoc &, ctlGrid &grid) {
-             grid.setEditMode(true);
-             grid.setSelText("unfinished");
-         },
-         true},
-        {"a word that is being deleted",
-         [](frmDoc &, ctlGrid &grid) {
-             grid.setEditMode(true);
-             grid.SelectEditText(0, 3);
-             grid.setSelText(QString());
-         },
-         true},
-    };
-    for (const Case &c : cases) {
+    for (const auto &[name, kept, change] : cases) {
         frmDoc *document = run->changedDocument("one");
         run->prompts.savePath = home.filePath("words.gla");
         run->files.save();
         EXPECT_TRUE(copies().isEmpty()) << "saved";
-        c.change(*document, *document->Rutor());
-        EXPECT_EQ(copies().size(), c.kept) << c.name;
+        change(*document, *document->Rutor());
+        EXPECT_EQ(copies().size(), kept) << name;
         run->alert.answers = {AlertBox::AnswerNo};
         document->setDirty(true);
         run->files.closeActive();

@@ -45,16 +45,6 @@ struct GridEditing : ::testing::Test
     bool refuse = false;
 };
 
-TEST_F(GridEditing, TypingReplacesTheTextAndEnterCommitsIt)
-{
-    type("a");
-    EXPECT_TRUE(grid.hwndText()->hasFocus());
-    key(Qt::Key_Return);
-    EXPECT_TRUE(grid.hwndGrid()->hasFocus());
-    EXPECT_EQ(cell(1, 1), "a");
-    EXPECT_EQ(log, QStringList({"key 97", "before", "after 1 1 a", "key 13"}));
-}
-
 TEST_F(GridEditing, WhatIsTypedDecidesWhatTheBoxHolds)
 {
     const std::pair<int, QString> cases[] = {

@@ -39,21 +39,6 @@ class HelpCase(ProgramCase):
     def expect_help_closed(self, topic):
         self.desktop.wait(lambda: not self.desktop.find("frame", topic + " - Glosaria Help"), "the help to close")
 
-    def test_the_help_button_keeps_the_question_and_its_window_can_be_used(self):
-        program = self.open(self.sample("german-basics.gla"))
-        self.desktop.type("x")
-        self.desktop.key("Return", "ctrl+w")
-        alert = self.desktop.wait_for(name="Glosaria Alert")
-        self.desktop.click_on(self.desktop.wait_for("push button", "Help", alert))
-        viewer = self.help_on("Saving changes before closing")
-        self.desktop.click_on(self.desktop.wait_for("push button", "Home", viewer))
-        self.help_on("Welcome to Glosaria")
-        self.desktop.key("Escape")
-        self.expect_help_closed("Welcome to Glosaria")
-        self.desktop.wait_for(name="Glosaria Alert")
-        self.close_document("n")
-        self.assertEqual(self.desktop.quit(program), 0)
-
     def test_f1_explains_a_dialog_and_the_search_finds_other_topics(self):
         self.open(self.sample("german-basics.gla"))
         self.open_dialog("Sort", "alt+v", "s")

@@ -34,16 +34,6 @@ struct HelpViewerTest : ::testing::Test
     }
 };
 
-TEST_F(HelpViewerTest, TopicsOpenByIdAndByPath)
-{
-    EXPECT_TRUE(viewers.HtmlHelp(target, HH_HELP_CONTEXT, 1210));
-    EXPECT_EQ(main()->page(), "html/sort.html");
-    EXPECT_EQ(part<QTreeWidget>("contents")->currentItem()->text(0), "Sort");
-    EXPECT_TRUE(viewers.HtmlHelp(target, HH_DISPLAY_TOPIC, "html\\documentwindow.html"));
-    EXPECT_EQ(main()->page(), "html/documentwindow.html");
-    EXPECT_FALSE(part<QTextEdit>("browser")->toPlainText().isEmpty());
-}
-
 TEST_F(HelpViewerTest, WhatIsMissingIsToldAndHarmsNothing)
 {
     EXPECT_FALSE(viewers.HtmlHelp(target, HH_HELP_CONTEXT, 4711));
