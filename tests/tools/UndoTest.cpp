@@ -1,6 +1,7 @@
 #include "document/EditCommands.h"
 #include "support/OpenDocument.h"
 #include "tools/modSorting.h"
+#include "tools/rules/SortFlag.h"
 
 #include <QClipboard>
 
