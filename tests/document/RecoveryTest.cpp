@@ -74,7 +74,8 @@ TEST_F(RecoveryTest, WhatDiffersFromTheFileIsKeptAndNothingElse)
         {"the mark of a change alone", false, [](frmDoc &document, ctlGrid &) { document.setDirty(true); }},
         {"a row taken out again", false, [](frmDoc &, ctlGrid &grid) { grid.insertRows(1, 1), grid.removeRows(1, 1); }},
         {"typing", true, [](frmDoc &, ctlGrid &grid) { grid.setEditMode(true), grid.setSelText("unfinished"); }},
-        {"deleting", true, [](frmDoc &, ctlGrid &grid) { grid.GridEdit(0), grid.SelectEditText(0, 3), grid.setSelText({}); }},
+        {"deleting", true,
+         [](frmDoc &, ctlGrid &grid) { grid.GridEdit(0), grid.SelectEditText(0, 3), grid.setSelText({}); }},
     };
     for (const auto &[name, kept, change] : cases) {
         frmDoc *document = run->changedDocument("one");
