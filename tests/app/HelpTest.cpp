@@ -1,22 +1,10 @@
 #include "MainWindowFixture.h"
 
-#include "app/CommandTable.h"
 #include "app/MenuLayout.h"
-#include "document/ctlGrid.h"
 #include "print/PrintCommands.h"
-#include "resources/StringTable.h"
 #include "services/FormTexts.h"
 #include "services/help/DialogHelp.h"
 #include "services/help/rules/HelpBook.h"
-#include "support/Files.h"
-
-#include <QAbstractButton>
-#include <QAbstractSpinBox>
-#include <QComboBox>
-#include <QDialog>
-#include <QLayout>
-#include <QRegularExpression>
-#include <QWhatsThis>
 
 namespace {
 

@@ -1,27 +1,23 @@
 #pragma once
 
+#include "app/CommandTable.h"
 #include "app/frmApp.h"
 #include "document/DocumentCopies.h"
 #include "document/DocumentList.h"
+#include "document/ctlGrid.h"
 #include "document/rules/CodePage.h"
 #include "platform/RegistryTree.h"
 #include "platform/SoundPlayer.h"
 #include "quiz/rules/RandomSource.h"
+#include "resources/StringTable.h"
 #include "services/rules/ProgramFlags.h"
 #include "services/settings/clsAppProperties.h"
 #include "services/status/modSBFunc.h"
-#include "support/Files.h"
 #include "support/RecordingHelp.h"
 #include "support/RecordingPrinter.h"
 #include "support/ScriptedAlertBox.h"
 #include "support/ScriptedDialogs.h"
 #include "support/ScriptedPrompts.h"
-
-#include <QDialog>
-#include <QMenu>
-#include <QMenuBar>
-#include <QToolBar>
-#include <QToolButton>
 
 /// The main window with stand-ins for what comes from outside, shown on the offscreen platform.
 struct MainWindowFixture : ::testing::Test, DocumentCopies

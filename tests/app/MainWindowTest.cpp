@@ -1,14 +1,7 @@
 #include "MainWindowFixture.h"
 
-#include "document/ctlGrid.h"
 #include "document/ctlGridEdit.h"
 #include "platform/Twips.h"
-#include "resources/StringTable.h"
-
-#include <QClipboard>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QMimeData>
 
 struct MainWindowTest : MainWindowFixture
 {

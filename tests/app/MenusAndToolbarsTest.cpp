@@ -1,12 +1,8 @@
 #include "MainWindowFixture.h"
 
 #include "app/MenuLayout.h"
-#include "document/ctlGrid.h"
 #include "document/ctlGridEdit.h"
-#include "resources/StringTable.h"
 #include "tools/frmFindReplace.h"
-
-#include <QMdiArea>
 
 using MenusAndToolbarsTest = MainWindowFixture;
 

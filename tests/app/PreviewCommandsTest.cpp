@@ -1,10 +1,6 @@
 #include "MainWindowFixture.h"
 
-#include "document/ctlGrid.h"
 #include "print/PrintCommands.h"
-
-#include <QMdiArea>
-#include <QMdiSubWindow>
 
 struct PreviewCommandsTest : MainWindowFixture
 {

@@ -1,9 +1,7 @@
 #include "MainWindowFixture.h"
 
-#include "document/ctlGrid.h"
 #include "quiz/frmOva.h"
 #include "resources/Pictures.h"
-#include "resources/StringTable.h"
 
 using QuizCommandsTest = MainWindowFixture;
 

@@ -2,11 +2,6 @@
 #include "MainWindowFixture.h"
 #include "document/FileCommands.h"
 #include "document/RecoveryKeeper.h"
-#include "document/ctlGrid.h"
-#include "resources/StringTable.h"
-
-#include <QPushButton>
-#include <QTreeWidget>
 
 struct RecoveryOfferTest : MainWindowFixture
 {

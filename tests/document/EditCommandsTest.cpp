@@ -4,8 +4,6 @@
 #include "support/OpenDocument.h"
 #include "widgets/grid/FlexGridView.h"
 
-#include <QClipboard>
-
 using Words = OpenDocument::Words;
 
 struct Editing : ::testing::Test, OpenDocument

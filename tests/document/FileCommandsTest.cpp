@@ -1,9 +1,4 @@
-#include "document/ctlGrid.h"
-#include "resources/StringTable.h"
-#include "support/Files.h"
 #include "support/OpenFiles.h"
-
-#include <QProgressBar>
 
 const QByteArray Words =
     "Glosaria\r\n3.1.0\r\n\r\n[Font Info]\r\n\"Arial\"\r\n12.5\r\n#TRUE#\r\n#TRUE#\r\n255\r\n\r\n"

@@ -1,8 +1,4 @@
-#include "document/ctlGrid.h"
-#include "resources/StringTable.h"
 #include "support/OpenFiles.h"
-
-#include <QSignalSpy>
 
 /// One document, shown, with the focus in its grid and a word in the first row.
 struct FrmDocTest : ::testing::Test, OpenFiles

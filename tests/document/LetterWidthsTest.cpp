@@ -1,9 +1,5 @@
 #include "document/rules/LetterWidths.h"
 
-#include <QFontMetricsF>
-
-#include <random>
-
 TEST(LetterWidths, NeverTakeATextToFitThatDoesNot)
 {
     const QStringList pieces{"AV", "To", "ffi", "W.", "i",  "l",  "m",  "Œ",  "ß",    "ñ",

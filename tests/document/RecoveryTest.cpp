@@ -1,13 +1,5 @@
 #include "document/RecoveryKeeper.h"
-#include "document/ctlGrid.h"
-#include "resources/StringTable.h"
-#include "support/Files.h"
 #include "support/OpenFiles.h"
-
-#include <QBuffer>
-#include <QDirIterator>
-
-#include <sys/stat.h>
 
 /// A running program that keeps copies. What it leaves behind is found by another one over the same folder.
 struct Program : OpenFiles

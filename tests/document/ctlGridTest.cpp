@@ -4,10 +4,6 @@
 #include "services/rules/ProgramFlags.h"
 #include "widgets/grid/FlexGridView.h"
 
-#include <QClipboard>
-#include <QDropEvent>
-#include <QMimeData>
-
 /// A grid as a document window sets it up, shown and with the focus, that writes down what it tells its container.
 struct GridEditing : ::testing::Test
 {

@@ -2,12 +2,7 @@
 
 #include "platform/UserFolders.h"
 #include "support/FileSizeLimit.h"
-#include "support/Files.h"
 #include "support/OrdinaryUser.h"
-
-#include <QDir>
-
-#include <sys/stat.h>
 
 namespace {
 

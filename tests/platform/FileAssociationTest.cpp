@@ -1,8 +1,4 @@
 #include "platform/FileAssociation.h"
-#include "support/Files.h"
-
-#include <QDir>
-#include <QMimeDatabase>
 
 namespace {
 

@@ -1,11 +1,7 @@
 #include "platform/RegistryFile.h"
 
-#include "support/Files.h"
 #include "support/OrdinaryUser.h"
 
-#include <QDir>
-
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 

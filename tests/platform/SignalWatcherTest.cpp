@@ -1,7 +1,5 @@
 #include "platform/SignalWatcher.h"
 
-#include <QCoreApplication>
-
 TEST(SignalWatcher, RequestsToEndArriveInTheEventLoop)
 {
     std::signal(SIGHUP, SIG_IGN); // as nohup does

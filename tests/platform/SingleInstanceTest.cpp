@@ -3,14 +3,9 @@
 #include "platform/HandOff.h"
 #include "platform/InstancePlace.h"
 
-#include <QCoreApplication>
-#include <QDir>
 #include <QLocalSocket>
-#include <QProcess>
 
-#include <csignal>
 #include <sys/resource.h>
-#include <sys/stat.h>
 
 constexpr int Patience = 20000; // ms, only spent when something is wrong
 

@@ -1,8 +1,4 @@
 #include "platform/SoundPlayer.h"
-#include "support/Files.h"
-
-#include <QFileInfo>
-#include <QThread>
 
 // The player found first on the search path is given a file with the sound.
 TEST(SoundPlayer, PlayerOfTheDesktopPlaysTheSound)

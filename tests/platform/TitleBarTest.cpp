@@ -1,7 +1,5 @@
 #include "platform/TitleBar.h"
 
-#include <QString>
-
 TEST(TitleBar, HasAQuestionMarkWhereTheDesktopDrawsOne)
 {
     const std::pair<const char *, const char *> with[] = {{"xcb", "KDE"}, {"xcb", "ubuntu:KDE"}, {"windows", ""}};

@@ -4,18 +4,12 @@
 #include "print/QtPrinter.h"
 #include "print/frmPageSetup.h"
 #include "print/rules/FileDialogRules.h"
-#include "support/Files.h"
 #include "support/RecordingHelp.h"
 #include "support/ScriptedAlertBox.h"
 #include "support/ScriptedDialogs.h"
 #include "support/ScriptedPrintServer.h"
 
-#include <QComboBox>
-#include <QFileDialog>
-#include <QMessageBox>
 #include <QPrintDialog>
-#include <QRadioButton>
-#include <QSpinBox>
 
 constexpr char VocabularyFilter[] = "Glosaria Document (*.gla) | *.gla";
 

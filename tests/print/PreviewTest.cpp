@@ -5,8 +5,6 @@
 #include "support/ScriptedAlertBox.h"
 #include "support/ScriptedDialogs.h"
 
-#include <QSignalSpy>
-
 constexpr int RowsOfPage = 49;
 constexpr int ToolbarHeight = 40;
 

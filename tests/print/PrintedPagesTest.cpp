@@ -4,8 +4,6 @@
 #include "support/RecordingPrinter.h"
 #include "support/ScriptedPrintServer.h"
 
-#include <QProcess>
-
 namespace {
 
 QByteArray outputOf(const QString &program, const QStringList &arguments)

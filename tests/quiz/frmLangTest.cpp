@@ -2,8 +2,6 @@
 
 #include "support/OpenDocument.h"
 
-#include <QMenu>
-
 struct frmLangTest : ::testing::Test, OpenDocument
 {
     /// Opens the dialog and gives it keys.

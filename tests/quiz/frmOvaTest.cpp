@@ -10,10 +10,6 @@
 #include "services/settings/clsAppProperties.h"
 #include "support/ListWords.h"
 
-#include <QAccessible>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-
 enum Kind { Practice, MultipleChoice, QuestionAndAnswer };
 
 struct CountingSound : SoundPlayer

@@ -2,9 +2,6 @@
 
 #include "resources/StringTable.h"
 
-#include <QDesktopServices>
-#include <QToolButton>
-
 struct frmSplashTest : ::testing::Test
 {
     template <class Control> Control *control(const char *name) { return window.findChild<Control *>(name); }

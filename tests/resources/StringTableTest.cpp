@@ -1,8 +1,4 @@
 #include "resources/StringTable.h"
-#include "support/Files.h"
-
-#include <QDirIterator>
-#include <QRegularExpression>
 
 TEST(StringTable, TheProgramCarriesItsFaultlessSource)
 {

@@ -1,7 +1,5 @@
 #include "services/modMsgBox.h"
 
-#include <QMessageBox>
-
 TEST(AlertBox, TheHelpKeyOpensTheTopicAndEscapeAnswers)
 {
     const std::tuple<Alert::Buttons, bool, AlertBox::Answer> cases[] = {

@@ -1,7 +1,5 @@
 #include "services/desktop/Contrast.h"
 
-#include <QPalette>
-
 TEST(Contrast, BringsColoursOutOnEveryGround)
 {
     for (const auto &[colour, ratio] :

@@ -1,11 +1,5 @@
 #include "services/desktop/HandleReserve.h"
 
-#include <QApplication>
-#include <QFile>
-#include <QWidget>
-
-#include <list>
-
 #include <sys/resource.h>
 
 TEST(HandleReserve, GivesHandlesBackWhenAWindowNeedsThemAndTakesThemAgainLater)

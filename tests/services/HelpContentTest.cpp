@@ -1,9 +1,5 @@
 #include "services/help/HelpFile.h"
 #include "services/help/rules/HelpBook.h"
-#include "support/Files.h"
-
-#include <QDir>
-#include <QRegularExpression>
 
 namespace {
 

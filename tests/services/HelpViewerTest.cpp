@@ -1,14 +1,7 @@
 #include "services/help/HelpViewer.h"
 #include "services/help/HelpBrowser.h"
 #include "services/help/HelpViewers.h"
-#include "support/Files.h"
 #include "support/ScriptedAlertBox.h"
-
-#include <QDialog>
-#include <QListWidget>
-#include <QToolBar>
-#include <QTreeWidget>
-#include <QWindow>
 
 struct HelpViewerTest : ::testing::Test
 {

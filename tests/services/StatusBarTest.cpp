@@ -1,9 +1,6 @@
 #include "resources/StringTable.h"
 #include "services/status/modSBFunc.h"
 
-#include <QProgressBar>
-#include <QSizeGrip>
-
 struct StatusBarTest : ::testing::Test
 {
     ProgramFlags flags;

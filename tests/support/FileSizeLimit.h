@@ -1,6 +1,5 @@
 #pragma once
 
-#include <csignal>
 #include <sys/resource.h>
 
 /// While it lives, no file of this process can grow beyond a size: writes come up short as on a full disk.

@@ -2,8 +2,6 @@
 
 #include "quiz/rules/WordSource.h"
 
-#include <vector>
-
 /// A vocabulary made of a list of pairs, in the two languages "English" and "German". Like a document it ends in an
 /// empty row.
 struct ListWords : WordSource

@@ -7,9 +7,6 @@
 #include "services/settings/clsAppProperties.h"
 #include "services/status/modSBFunc.h"
 
-#include <array>
-#include <random>
-
 /// A document window with a vocabulary, shown in a main window, and all that the program shares with it.
 struct OpenDocument
 {

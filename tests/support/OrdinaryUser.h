@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-
 /// Permissions mean nothing to an administrator: what must be refused is tried as an ordinary user.
 namespace OrdinaryUser {
 

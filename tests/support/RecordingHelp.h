@@ -2,8 +2,6 @@
 
 #include "services/help/HelpDisplay.h"
 
-#include <vector>
-
 /// Keeps what help was asked for.
 struct RecordingHelp : HelpDisplay
 {

@@ -3,12 +3,6 @@
 #include "print/rules/PrintSource.h"
 #include "print/rules/PrinterDevice.h"
 
-#include <QSize>
-
-#include <algorithm>
-#include <functional>
-#include <vector>
-
 struct DrawnText
 {
     int x = 0;

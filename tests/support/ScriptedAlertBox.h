@@ -2,9 +2,6 @@
 
 #include "services/AlertBox.h"
 
-#include <deque>
-#include <vector>
-
 /// Answers alert boxes in the user's place and keeps what they showed. Without a prepared answer it says OK, or Cancel
 /// where there is such a button.
 struct ScriptedAlertBox : AlertBox

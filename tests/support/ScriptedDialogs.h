@@ -3,8 +3,6 @@
 #include "print/CommonDialogs.h"
 #include "print/rules/PrinterDevice.h"
 
-#include <functional>
-
 /// Answers the common dialogs as a user would, and keeps what it was asked.
 struct ScriptedDialogs : CommonDialogs
 {

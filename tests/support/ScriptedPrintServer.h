@@ -2,8 +2,6 @@
 
 #include "platform/PrintServer.h"
 
-#include <QFile>
-
 /// A print server that answers as it is told and keeps what it was sent.
 struct ScriptedPrintServer : PrintServer
 {

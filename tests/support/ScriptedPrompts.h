@@ -2,8 +2,6 @@
 
 #include "document/FilePrompts.h"
 
-#include <QStringList>
-
 /// Answers the file dialogs in the user's place: with the prepared path, or by cancelling when there is none.
 struct ScriptedPrompts : FilePrompts
 {

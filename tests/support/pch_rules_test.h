@@ -2,8 +2,17 @@
 #pragma once
 
 #include "../../cmake/pch_rules.h"
+#include "Files.h"
 
-#include <QTemporaryDir>
+#include <QtCore>
+#include <QtGui>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <csignal>
+#include <deque>
+#include <random>
+#include <set>
+#include <sys/stat.h>

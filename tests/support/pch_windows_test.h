@@ -2,9 +2,14 @@
 #pragma once
 
 #include "../../cmake/pch_windows.h"
+#include "Files.h"
 
-#include <QTemporaryDir>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <deque>
+#include <random>

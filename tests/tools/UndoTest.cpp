@@ -3,8 +3,6 @@
 #include "tools/modSorting.h"
 #include "tools/rules/SortFlag.h"
 
-#include <QClipboard>
-
 namespace {
 
 using Words = OpenDocument::Words;

@@ -3,8 +3,6 @@
 #include "platform/Twips.h"
 #include "support/OpenDocument.h"
 
-#include <QFontMetricsF>
-
 struct SizeDialog : ::testing::Test, OpenDocument
 {
     SizeDialog()

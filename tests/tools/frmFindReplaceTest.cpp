@@ -6,10 +6,6 @@
 #include "support/ScriptedAlertBox.h"
 #include "tools/FindOn.h"
 
-#include <QCheckBox>
-#include <QClipboard>
-#include <QRadioButton>
-
 using Words = OpenDocument::Words;
 
 struct FindReplace : ::testing::Test, OpenDocument

@@ -5,9 +5,6 @@
 #include "tools/FontSample.h"
 #include "widgets/ExtendedComboBox.h"
 
-#include <QCheckBox>
-#include <QFontDatabase>
-
 struct FontDialog : ::testing::Test, OpenDocument
 {
     void open()

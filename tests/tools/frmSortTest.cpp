@@ -3,8 +3,6 @@
 #include "support/OpenDocument.h"
 #include "tools/modSorting.h"
 
-#include <QCheckBox>
-
 using Words = OpenDocument::Words;
 
 struct Sorting : ::testing::Test, OpenDocument

@@ -1,7 +1,5 @@
 #include "widgets/FittedLabel.h"
 
-#include <QTextDocumentFragment>
-
 const QString LongPhrase = "a phrase that is a good deal longer than the label that has to show it";
 
 struct FittedLabelTest : ::testing::Test

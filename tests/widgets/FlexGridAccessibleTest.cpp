@@ -1,10 +1,6 @@
 #include "widgets/grid/FlexGrid.h"
 #include "widgets/grid/FlexGridView.h"
 
-#include <QAccessible>
-
-#include <limits>
-
 struct SpokenGrid : ::testing::Test
 {
     SpokenGrid()

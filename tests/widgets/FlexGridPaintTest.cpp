@@ -5,11 +5,6 @@
 #include "widgets/grid/FlexGridColours.h"
 #include "widgets/grid/FlexGridView.h"
 
-#include <QHelpEvent>
-#include <QToolTip>
-
-#include <cmath>
-
 /// A grid of large cells that is looked at pixel by pixel.
 struct PaintedGrid : ::testing::Test
 {

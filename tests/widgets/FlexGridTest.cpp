@@ -2,10 +2,6 @@
 
 #include "services/rules/CellText.h"
 
-#include <QMetaProperty>
-#include <QSignalSpy>
-#include <QStandardItemModel>
-
 namespace {
 
 /// Three columns whose rows are given as their cells, separated by tabs and beginning with column 0.

@@ -1,9 +1,6 @@
 #include "widgets/grid/FlexGridView.h"
 #include "widgets/grid/FlexGrid.h"
 
-#include <QScrollBar>
-#include <QSignalSpy>
-
 /// A shown grid of 200 rows and three word columns of 20 and 100 pixels that notes what it raises.
 struct ShownGrid : ::testing::Test
 {

@@ -1,9 +1,6 @@
 #include "widgets/ExtendedComboBox.h"
 #include "widgets/NumberBox.h"
 
-#include <QClipboard>
-#include <QSignalSpy>
-
 TEST(NumberBox, TakesDigitsOnlyAndRefusesTheRestAsAWhole)
 {
     // what is typed, what is pasted, and what the box shows

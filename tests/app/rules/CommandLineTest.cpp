@@ -1,8 +1,5 @@
 #include "app/rules/CommandLine.h"
 #include "app/rules/RequestedFile.h"
-#include "support/Files.h"
-
-#include <QDir>
 
 TEST(CommandLine, ArgumentsMakeOneAbsolutePath)
 {

@@ -2,8 +2,6 @@
 #include "document/rules/UndoRecord.h"
 #include "services/rules/ProgramFlags.h"
 
-#include <functional>
-
 using End = RunningEdit::End;
 
 /// The end of the edit of cell 3, 2, which holds "house", decides what Undo brings back and whether the document

@@ -2,8 +2,6 @@
 
 #include "services/rules/CellText.h"
 
-#include <QLocale>
-
 namespace {
 
 using VocabularyCodec::decode;

@@ -1,11 +1,6 @@
 #include "document/rules/VocabularyFile.h"
 
-#include "support/Files.h"
 #include "support/OrdinaryUser.h"
-
-#include <QDir>
-
-#include <sys/stat.h>
 
 using VocabularyCodec::Outcome;
 

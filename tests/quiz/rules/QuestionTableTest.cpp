@@ -2,8 +2,6 @@
 #include "quiz/rules/UsedPairs.h"
 #include "support/ListWords.h"
 
-#include <QSet>
-
 namespace {
 
 QStringList column(const QuestionTable &table, const QString &(Question::*field)() const)

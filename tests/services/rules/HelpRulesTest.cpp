@@ -1,8 +1,6 @@
 #include "services/help/rules/HelpBook.h"
 #include "services/help/rules/HelpSearch.h"
 
-#include <gtest/gtest.h>
-
 namespace {
 
 QString found(const QString &query)

@@ -1,10 +1,5 @@
 #include "services/rules/SortOrder.h"
 
-#include <QCollator>
-
-#include <random>
-#include <set>
-
 namespace {
 
 const QLocale German(QLocale::German, QLocale::Germany);

@@ -2,9 +2,6 @@
 
 #include "tools/rules/Cells.h"
 
-#include <array>
-#include <random>
-
 /// A vocabulary without a grid. A text written into the last row appends an empty row, as in a document.
 class MemoryCells : public CellStore
 {

@@ -2,8 +2,6 @@
 
 #include "MemoryCells.h"
 
-#include <QStringDecoder>
-
 namespace {
 
 using namespace SearchFlag;
