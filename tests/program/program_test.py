@@ -54,32 +54,5 @@ class HelpCase(ProgramCase):
         self.assertTrue(self.desktop.find("dialog", "Sort"), "the dialog is still open")
 
 
-class ScreenReaderCase(ProgramCase):
-    """What a user hears who does not see the screen."""
-
-    MENUS = ["File", "Edit", "Vocabulary", "Mode", "Quiz", "Window", "Help"]
-
-    def test_menus_cells_and_questions_can_be_heard(self):
-        program = self.open(self.sample("german-basics.gla"))
-        menu_bar = self.desktop.wait_for(role="menu bar")
-        self.assertEqual([menu.name for menu in menu_bar], self.MENUS)
-
-        table = self.desktop.find("table").queryTable()
-        self.assertEqual([table.getColumnHeader(column).name for column in (0, 1)], ["English", "German"])
-        self.assertEqual(table.getRowHeader(4).name, "5")
-        for row, column in ((-1, 0), (0, -1), (table.nRows, 0), (0, table.nColumns), (2**31 - 1, 2**31 - 1)):
-            self.assertIsNone(table.getAccessibleAt(row, column))
-        self.assertEqual(self.desktop.cell(0, 0), "the person")
-
-        self.desktop.type("somebody")
-        self.desktop.key("Return", "ctrl+w")
-        box = self.desktop.wait_for(name="Glosaria Alert")
-        self.assertIn("[german-basics] has changed.", self.desktop.wait_for("label", within=box).name)
-        buttons = {button.name for button in self.desktop.find_all("push button", within=box)}
-        self.assertEqual(buttons, {"Yes", "No", "Cancel", "Help"})
-        self.close_document("alt+n")
-        self.assertEqual(self.desktop.quit(program), 0)
-
-
 if __name__ == "__main__":
     run()

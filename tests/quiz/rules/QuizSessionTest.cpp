@@ -133,19 +133,6 @@ TEST_F(QuizSessionTest, AHintKeepsWhatIsInPlaceAndAddsALetter)
     }
 }
 
-TEST_F(QuizSessionTest, AHintCountsAsErrorOnlyWhenTheSettingSaysSoAndOnlyOnce)
-{
-    for (bool isError : {true, false}) {
-        Quiz quiz(settings, QuizKind::QuestionAndAnswer, ListWords::numbered(2));
-        quiz.session.setHintIsError(isError);
-        EXPECT_EQ(isError, settings.ErrorHint());
-        quiz.session.hint();
-        quiz.answer(true);
-        quiz.answer(true);
-        EXPECT_THAT(quiz.verdicts, testing::ElementsAre(!isError, true));
-    }
-}
-
 TEST_F(QuizSessionTest, PracticeSpellsTheAnswerOutAndWaitsBeforeItJudges)
 {
     Quiz quiz(settings, QuizKind::Practice, {{"house", "Haus"}, {"a", ""}, {"b", "bb"}});

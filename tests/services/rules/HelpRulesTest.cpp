@@ -39,10 +39,4 @@ TEST(HelpBook, ReadsContentsAndIndex)
     EXPECT_EQ(parseHelpBook("<QtHelpProject><toc><section title='A' ref='a'/><sec").pages().size(), 1u);
 }
 
-TEST(HelpBook, ReadsTheTableOfContextNumbers)
-{
-    EXPECT_EQ(parseHelpContexts("# head\n1160\thtml/find.html\r\n\nnonsense\n1170\thtml/replace.html"),
-              (QHash<int, QString>{{1160, "html/find.html"}, {1170, "html/replace.html"}}));
-}
-
 } // namespace
