@@ -13,6 +13,7 @@ namespace WindowLayout {
 std::vector<QRect> tiles(const QRect &area, int count, bool horizontal)
 {
     std::vector<QRect> places;
+    places.reserve(size_t(count));
     for (int i = 0; i < count; ++i) {
         const int extent = horizontal ? area.height() : area.width();
         const int from = extent * i / count;
@@ -34,6 +35,7 @@ QRect nextPlace(const QRect &area, int number, int step)
 std::vector<QRect> cascade(const QRect &area, int count, int step)
 {
     std::vector<QRect> places;
+    places.reserve(size_t(count));
     for (int i = 0; i < count; ++i)
         places.push_back(nextPlace(area, i, step));
     return places;
@@ -43,6 +45,7 @@ std::vector<QRect> icons(const QRect &area, int count, const QSize &size)
 {
     const int perRow = std::max(1, area.width() / std::max(1, size.width()));
     std::vector<QRect> places;
+    places.reserve(size_t(count));
     for (int i = 0; i < count; ++i) {
         const QPoint corner(area.left() + i % perRow * size.width(),
                             area.bottom() + 1 - (i / perRow + 1) * size.height());

@@ -59,7 +59,7 @@ void CodePage::readPairs()
             bytes.append(char(lead)).append(char(trail)).append('\n');
     }
     const QString text = QStringDecoder(m_name.constData())(bytes);
-    std::vector<char16_t> pairs(128 * 256);
+    std::vector<char16_t> pairs(size_t(128) * 256);
     bool found = false;
     qsizetype start = 0;
     for (qsizetype at = 0; at < bytes.size(); at += 3) {

@@ -73,7 +73,7 @@ QString pastedPart(const GridSelection &pasted, int textRows, int textColumns)
     const bool allColumns = pasted.colCount() == textColumns;
     if (allRows && allColumns)
         return {};
-    const QString rows = resText(RowsPasted).arg(pasted.rowCount()).arg(textRows);
+    QString rows = resText(RowsPasted).arg(pasted.rowCount()).arg(textRows);
     const QString columns = resText(ColumnsPasted).arg(pasted.colCount()).arg(textColumns);
     if (allColumns)
         return rows;

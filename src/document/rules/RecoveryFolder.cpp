@@ -93,7 +93,7 @@ bool RecoveryFolder::write(QString &path, const RecoveryCopy &copy)
 
 QString RecoveryFolder::adopt(const QString &orphanPath)
 {
-    const QString path = newPath();
+    QString path = newPath();
     if (takePlace() && QFile::rename(orphanPath, path)) {
         QDir().rmdir(QFileInfo(orphanPath).path());
         return path;
