@@ -4,6 +4,9 @@
 
 TEST(HandleReserve, GivesHandlesBackWhenAWindowNeedsThemAndTakesThemAgainLater)
 {
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "the sanitizer takes every object for a broken one when it has no handle left to look at it";
+#endif
     rlimit before = {};
     ::getrlimit(RLIMIT_NOFILE, &before);
     const rlimit few{128, before.rlim_max};
