@@ -5,8 +5,8 @@
 
 #include "document/GridContent.h"
 #include "document/ctlGrid.h"
-#include "document/rules/RecoveryFolder.h"
-#include "document/rules/VocabularyFile.h"
+#include "document/rules/file/VocabularyFile.h"
+#include "document/rules/recovery/RecoveryFolder.h"
 #include "services/rules/ProgramFlags.h"
 
 #include <QCoreApplication>

@@ -4,7 +4,7 @@
 
 #include "platform/CupsServer.h"
 #include "print/PaintedSurface.h"
-#include "print/QtPrinter.h"
+#include "print/printer/QtPrinter.h"
 #include "print/rules/PrintRun.h"
 
 #include <QFile>

@@ -4,8 +4,8 @@
 #include "support/SampleVocabulary.h"
 #include "support/VirtualDisplay.h"
 
-#include "document/rules/CodePage.h"
-#include "document/rules/VocabularyFile.h"
+#include "document/rules/file/CodePage.h"
+#include "document/rules/file/VocabularyFile.h"
 
 #include <QElapsedTimer>
 #include <QFile>

@@ -8,7 +8,7 @@
 #include "document/GridContent.h"
 #include "document/ctlGrid.h"
 #include "document/frmDoc.h"
-#include "platform/RegistryTree.h"
+#include "platform/registry/RegistryTree.h"
 #include "services/rules/ProgramFlags.h"
 #include "services/rules/SortOrder.h"
 #include "services/settings/clsAppProperties.h"

@@ -3,8 +3,8 @@
 
 #include "support/SampleVocabulary.h"
 
-#include "document/rules/VocabularyFile.h"
-#include "platform/AtomicFile.h"
+#include "document/rules/file/VocabularyFile.h"
+#include "platform/files/AtomicFile.h"
 
 #include <QFile>
 #include <QStringDecoder>

@@ -3,7 +3,7 @@
 #include "Require.h"
 
 #include "app/rules/RequestedFile.h"
-#include "platform/HandOff.h"
+#include "platform/instance/HandOff.h"
 
 #include <cstdint>
 

@@ -3,7 +3,7 @@
 
 #include "Require.h"
 
-#include "platform/RegistryText.h"
+#include "platform/registry/RegistryText.h"
 #include "services/settings/clsAppProperties.h"
 #include "services/settings/clsMRUFileList.h"
 #include "services/settings/clsRegistry.h"

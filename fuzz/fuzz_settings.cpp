@@ -2,7 +2,7 @@
 
 #include "Require.h"
 
-#include "platform/RegistryTree.h"
+#include "platform/registry/RegistryTree.h"
 #include "services/settings/clsAppProperties.h"
 
 #include <cstdint>

@@ -2,7 +2,7 @@
 
 #include "Require.h"
 
-#include "document/rules/VocabularyCodec.h"
+#include "document/rules/file/VocabularyCodec.h"
 
 #include <cstdint>
 

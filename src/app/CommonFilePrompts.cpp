@@ -1,6 +1,6 @@
 #include "app/CommonFilePrompts.h"
 
-#include "print/clsCommDlg.h"
+#include "print/dialogs/clsCommDlg.h"
 #include "resources/StringTable.h"
 
 CommonFilePrompts::CommonFilePrompts(CommonDialogs &dialogs, AlertBox &alertBox)

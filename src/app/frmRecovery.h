@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/rules/RecoveryFolder.h"
+#include "document/rules/recovery/RecoveryFolder.h"
 
 #include <QDialog>
 

@@ -6,7 +6,7 @@
 #include "document/GridContent.h"
 #include "document/ctlGrid.h"
 #include "document/rules/RowNumbers.h"
-#include "document/rules/VocabularyFile.h"
+#include "document/rules/file/VocabularyFile.h"
 #include "resources/StringTable.h"
 #include "services/AlertBox.h"
 #include "services/Hourglass.h"

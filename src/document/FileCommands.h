@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/DocumentCloser.h"
-#include "document/rules/VocabularyCodec.h"
+#include "document/rules/file/VocabularyCodec.h"
 
 #include <QObject>
 

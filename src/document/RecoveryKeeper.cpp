@@ -4,8 +4,8 @@
 #include "document/FileCommands.h"
 #include "document/GridContent.h"
 #include "document/ctlGrid.h"
-#include "document/rules/VocabularyCodec.h"
-#include "platform/RegularFile.h"
+#include "document/rules/file/VocabularyCodec.h"
+#include "platform/files/RegularFile.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include "document/DocumentCopies.h"
 #include "document/RecoveryWriter.h"
-#include "document/rules/CodePage.h"
+#include "document/rules/file/CodePage.h"
 
 #include <QFont>
 #include <QHash>

@@ -1,6 +1,6 @@
 #include "document/RecoveryWriter.h"
 
-#include "document/rules/VocabularyFile.h"
+#include "document/rules/file/VocabularyFile.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "document/rules/CodePage.h"
-#include "document/rules/RecoveryFolder.h"
-#include "document/rules/VocabularyDigest.h"
+#include "document/rules/file/CodePage.h"
+#include "document/rules/recovery/RecoveryFolder.h"
+#include "document/rules/recovery/VocabularyDigest.h"
 #include "platform/JobThread.h"
 
 #include <atomic>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "document/rules/FileStamp.h"
 #include "document/rules/RunningEdit.h"
 #include "document/rules/UndoRecord.h"
+#include "document/rules/file/FileStamp.h"
 
 #include <QWidget>
 

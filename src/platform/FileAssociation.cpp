@@ -1,9 +1,9 @@
 #include "platform/FileAssociation.h"
 
-#include "platform/AtomicFile.h"
 #include "platform/DetachedProcess.h"
-#include "platform/RegularFile.h"
-#include "platform/UserFolders.h"
+#include "platform/files/AtomicFile.h"
+#include "platform/files/RegularFile.h"
+#include "platform/files/UserFolders.h"
 
 #include <QDir>
 #include <QFile>

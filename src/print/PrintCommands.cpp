@@ -2,8 +2,8 @@
 
 #include "print/BusyWindow.h"
 #include "print/PrintHost.h"
-#include "print/clsCommDlg.h"
-#include "print/frmPrinting.h"
+#include "print/dialogs/clsCommDlg.h"
+#include "print/printer/frmPrinting.h"
 #include "print/rules/PrinterDevice.h"
 #include "resources/StringTable.h"
 #include "services/AlertBox.h"

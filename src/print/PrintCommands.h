@@ -1,6 +1,6 @@
 #pragma once
 
-#include "print/PrintPreview.h"
+#include "print/preview/PrintPreview.h"
 #include "print/rules/PrintRun.h"
 
 #include <optional>

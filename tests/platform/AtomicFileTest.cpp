@@ -1,6 +1,6 @@
-#include "platform/AtomicFile.h"
+#include "platform/files/AtomicFile.h"
 
-#include "platform/UserFolders.h"
+#include "platform/files/UserFolders.h"
 #include "support/FileSizeLimit.h"
 #include "support/OrdinaryUser.h"
 

@@ -1,4 +1,4 @@
-#include "platform/RegistryFile.h"
+#include "platform/registry/RegistryFile.h"
 
 #include "support/OrdinaryUser.h"
 

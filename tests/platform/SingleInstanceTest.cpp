@@ -1,7 +1,7 @@
-#include "platform/SingleInstance.h"
+#include "platform/instance/SingleInstance.h"
 
-#include "platform/HandOff.h"
-#include "platform/InstancePlace.h"
+#include "platform/instance/HandOff.h"
+#include "platform/instance/InstancePlace.h"
 
 #include <QLocalSocket>
 

@@ -1,8 +1,8 @@
-#include "print/clsCommDlg.h"
+#include "print/dialogs/clsCommDlg.h"
 
-#include "print/QtDialogs.h"
-#include "print/QtPrinter.h"
-#include "print/frmPageSetup.h"
+#include "print/dialogs/QtDialogs.h"
+#include "print/dialogs/frmPageSetup.h"
+#include "print/printer/QtPrinter.h"
 #include "print/rules/FileDialogRules.h"
 #include "support/RecordingHelp.h"
 #include "support/ScriptedAlertBox.h"

@@ -1,5 +1,5 @@
-#include "print/PrintJob.h"
-#include "print/QtPrinter.h"
+#include "print/printer/PrintJob.h"
+#include "print/printer/QtPrinter.h"
 #include "print/rules/PrintRun.h"
 #include "support/RecordingPrinter.h"
 #include "support/ScriptedPrintServer.h"

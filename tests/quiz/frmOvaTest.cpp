@@ -1,7 +1,7 @@
 #include "quiz/frmOva.h"
 
-#include "platform/RegistryTree.h"
 #include "platform/SoundPlayer.h"
+#include "platform/registry/RegistryTree.h"
 #include "quiz/AnswerOption.h"
 #include "quiz/MarkArea.h"
 #include "resources/Pictures.h"

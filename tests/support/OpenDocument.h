@@ -2,7 +2,7 @@
 
 #include "document/ctlGrid.h"
 #include "document/frmDoc.h"
-#include "platform/RegistryTree.h"
+#include "platform/registry/RegistryTree.h"
 #include "services/rules/ProgramFlags.h"
 #include "services/settings/clsAppProperties.h"
 #include "services/status/modSBFunc.h"

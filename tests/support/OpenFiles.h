@@ -4,7 +4,7 @@
 #include "document/DocumentList.h"
 #include "document/FileCommands.h"
 #include "document/ctlGrid.h"
-#include "platform/RegistryTree.h"
+#include "platform/registry/RegistryTree.h"
 #include "resources/StringTable.h"
 #include "services/rules/ProgramFlags.h"
 #include "services/settings/clsAppProperties.h"

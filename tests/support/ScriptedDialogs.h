@@ -1,6 +1,6 @@
 #pragma once
 
-#include "print/CommonDialogs.h"
+#include "print/dialogs/CommonDialogs.h"
 #include "print/rules/PrinterDevice.h"
 
 /// Answers the common dialogs as a user would, and keeps what it was asked.

@@ -1,6 +1,6 @@
 #include "app/rules/RequestedFile.h"
 
-#include "platform/LongPath.h"
+#include "platform/files/LongPath.h"
 
 namespace RequestedFile {
 

@@ -1,6 +1,6 @@
 #include "services/help/HelpDisplay.h"
 
-#include "platform/ProgramFiles.h"
+#include "platform/files/ProgramFiles.h"
 
 HelpTarget HelpTarget::ofProgram()
 {

@@ -1,4 +1,4 @@
-#include "document/rules/CodePage.h"
+#include "document/rules/file/CodePage.h"
 
 const char *const AllNames[] = {"windows-1250", "windows-1251", "windows-1252", "windows-1253", "windows-1254",
                                 "windows-1255", "windows-1256", "windows-1257", "windows-1258", "windows-874",

@@ -1,4 +1,4 @@
-#include "document/rules/VocabularyCodec.h"
+#include "document/rules/file/VocabularyCodec.h"
 
 #include "services/rules/CellText.h"
 

@@ -1,4 +1,4 @@
-#include "document/rules/VocabularyFile.h"
+#include "document/rules/file/VocabularyFile.h"
 
 #include "support/OrdinaryUser.h"
 

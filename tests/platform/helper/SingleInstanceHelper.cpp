@@ -1,6 +1,6 @@
 // One copy of a program: it says on its output what happens to it, and runs while it is the first copy. Arguments: the
 // socket's path, the command line, and how long to wait for an answer (ms).
-#include "platform/SingleInstance.h"
+#include "platform/instance/SingleInstance.h"
 
 #include <QCoreApplication>
 #include <QTextStream>

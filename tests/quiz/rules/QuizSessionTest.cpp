@@ -1,6 +1,6 @@
 #include "quiz/rules/QuizSession.h"
 
-#include "platform/RegistryTree.h"
+#include "platform/registry/RegistryTree.h"
 #include "quiz/rules/Seconds.h"
 #include "resources/StringTable.h"
 #include "services/settings/clsAppProperties.h"

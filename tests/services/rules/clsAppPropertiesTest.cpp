@@ -1,6 +1,6 @@
 #include "services/settings/clsAppProperties.h"
 
-#include "platform/RegistryTree.h"
+#include "platform/registry/RegistryTree.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "services/settings/clsMRUFileList.h"
 
-#include "platform/RegistryTree.h"
+#include "platform/registry/RegistryTree.h"
 #include "services/settings/clsRegistry.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #include "services/settings/clsRegistry.h"
 
-#include "platform/RegistryTree.h"
+#include "platform/registry/RegistryTree.h"
 
 /// A store whose disk is full.
 struct FailingStore : RegistryTree

@@ -1,9 +1,0 @@
-#include "document/rules/FileStamp.h"
-
-#include <QFileInfo>
-
-FileStamp FileStamp::of(const QString &path)
-{
-    const QFileInfo file(path);
-    return file.exists() ? FileStamp{file.size(), file.lastModified()} : FileStamp{};
-}
