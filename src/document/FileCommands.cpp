@@ -159,9 +159,9 @@ void FileCommands::saveAndTell(frmDoc &document, const QString &path)
 {
     SaveReport report;
     if (saveUnder(document, path, report) == SaveOutcome::Failed)
-        warn(resText(12625).arg(path, report.error));
+        tell(Tone::Warning, resText(12625).arg(path, report.error));
     else if (const auto &rows = report.unstoredRows; !rows.empty())
-        warn(unstoredText(14063, document, rows), SavingTopic);
+        tell(Tone::Warning, unstoredText(14063, document, rows), SavingTopic);
 }
 
 bool FileCommands::mayOverwrite(const frmDoc &document)
@@ -200,9 +200,9 @@ bool FileCommands::mayCloseUnsaved(frmDoc &document, const QString &path, const 
     if (!m_needs.copies.secure(document))
         return mayLose(document, report);
     if (!report.error.isEmpty())
-        warn(resText(12626).arg(path, report.error));
+        tell(Tone::Warning, resText(12626).arg(path, report.error));
     else if (!report.unstoredRows.empty())
-        warn(unstoredText(14064, document, report.unstoredRows), SavingTopic);
+        tell(Tone::Warning, unstoredText(14064, document, report.unstoredRows), SavingTopic);
     return true;
 }
 
@@ -215,18 +215,13 @@ bool FileCommands::mayLose(const frmDoc &document, const SaveReport &report)
            AlertBox::AnswerYes;
 }
 
-void FileCommands::warn(const QString &prompt, int helpId)
+void FileCommands::tell(Tone tone, const QString &prompt, int helpId)
 {
     m_needs.alert.show(nullptr, {.prompt = prompt,
                                  .buttons = helpId ? Alert::OkHelp : Alert::Ok,
                                  .helpId = helpId,
-                                 .sound = true,
-                                 .exclamation = true});
-}
-
-void FileCommands::alertFile(const QString &prompt, int helpId)
-{
-    m_needs.alert.show(nullptr, {.prompt = prompt, .buttons = helpId ? Alert::OkHelp : Alert::Ok, .helpId = helpId});
+                                 .sound = tone == Tone::Warning,
+                                 .exclamation = tone == Tone::Warning});
 }
 
 void FileCommands::LoadVocabulary(const QString &path)
@@ -242,26 +237,26 @@ void FileCommands::load(const QString &path)
     VocabularyFile file(path);
     const VocabularyCodec::Header header = file.readHeader();
     if (header.outcome == Outcome::BadFormat)
-        return alertFile(resText(713) + path + resText(714), BadFormatTopic);
+        return tell(Tone::Plain, resText(713) + path + resText(714), BadFormatTopic);
     if (header.outcome == Outcome::NewerVersion)
-        return alertFile(withTitle(722, path), NewerTopic);
+        return tell(Tone::Plain, withTitle(722, path), NewerTopic);
     if (header.outcome == Outcome::Ok && header.olderVersion) {
-        alertFile(withTitle(721, path), OlderTopic);
+        tell(Tone::Plain, withTitle(721, path), OlderTopic);
         if (refuseOpenOne(path)) // handed over once more while the message was on the screen
             return;
     }
     const Outcome outcome = header.outcome == Outcome::Ok ? readInto(file, path) : header.outcome;
     if (outcome == Outcome::TooManyRows)
-        alertFile(resText(712) + path + resText(14075).arg(QLocale().toString(Vocabulary::MostRows)), 0);
+        tell(Tone::Plain, resText(712) + path + resText(14075).arg(QLocale().toString(Vocabulary::MostRows)));
     else if (outcome != Outcome::Ok)
-        alertFile(resText(712) + path, 0);
+        tell(Tone::Plain, resText(712) + path);
 }
 
 bool FileCommands::refuseOpenOne(const QString &path)
 {
     const bool isOpen = m_needs.documents.findByPath(path);
     if (isOpen)
-        alertFile(resText(710) + path + resText(711), AlreadyOpenTopic);
+        tell(Tone::Plain, resText(710) + path + resText(711), AlreadyOpenTopic);
     return isOpen;
 }
 

@@ -97,8 +97,9 @@ private:
     /// Reads the rows of a file and opens them, if they can be read.
     VocabularyCodec::Outcome readInto(const VocabularyFile &file, const QString &path);
     void openVocabulary(const QString &path, Vocabulary &&vocabulary, const FileStamp &stamp);
-    void alertFile(const QString &prompt, int helpId);
-    void warn(const QString &prompt, int helpId = 0);
+    enum class Tone { Plain, Warning };
+    /// helpId is that of the page for the Help button; 0: there is none.
+    void tell(Tone tone, const QString &prompt, int helpId = 0);
 
     Needs m_needs;
     CodePage m_codePage;
