@@ -5,6 +5,7 @@ class DocumentList;
 class EditCommands;
 class FileCommands;
 class MainHelp;
+class PasteGuard;
 class PrintCommands;
 class RandomSource;
 class SoundPlayer;
@@ -27,6 +28,7 @@ struct AppContext
     DocumentList &documents;
     FileCommands &files;
     EditCommands &edit;
+    const PasteGuard &pasteGuard;
     clsMRUFileList &recentFiles;
     PrintCommands &print;
     MainHelp &help;

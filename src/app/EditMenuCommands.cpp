@@ -4,10 +4,10 @@
 #include "app/frmApp.h"
 #include "document/DocumentList.h"
 #include "document/EditCommands.h"
-#include "platform/ClipboardOwner.h"
 #include "resources/Pictures.h"
 #include "resources/StringTable.h"
 #include "services/AlertBox.h"
+#include "services/desktop/PasteGuard.h"
 #include "services/rules/ProgramFlags.h"
 #include "services/status/modSBFunc.h"
 #include "tools/FindOn.h"
@@ -32,7 +32,7 @@ std::function<void()> onActive(const AppContext &context, void (EditCommands::*c
 
 void paste(const AppContext &context)
 {
-    if (ClipboardOwner::answers())
+    if (context.pasteGuard.mayPaste())
         return onActive(context, &EditCommands::Paste)();
     context.alert.show(nullptr, {.prompt = resText(14077), .sound = true, .exclamation = true});
 }

@@ -8,6 +8,7 @@
 #include "document/RecoveryKeeper.h"
 #include "document/ctlGrid.h"
 #include "document/rules/file/CodePage.h"
+#include "platform/ClipboardOwner.h"
 #include "platform/CupsServer.h"
 #include "platform/DetachedProcess.h"
 #include "platform/FileAssociation.h"
@@ -224,7 +225,8 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     SignalWatcher watcher;
     QApplication::setStyle(new ProgramStyle);
     const ContextMenuKey contextMenuKey(application);
-    const PasteGuard pasteGuard(application);
+    ClipboardOwner clipboardOwner;
+    const PasteGuard pasteGuard(application, clipboardOwner);
     const ScreenFit screenFit(application);
     const HandleReserve handleReserve(application);
     readSettings(program);
@@ -232,8 +234,8 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     const std::unique_ptr<frmSplash> splash = makeSplash(commandLine);
     RecoveryKeeper keeper(program.codePage, recoveryFolder());
     frmApp window({program.flags, program.undo, program.settings, program.store, program.alert, program.prompts, keeper,
-                   program.printer, program.dialogs, program.codePage, program.random, program.errorSound,
-                   program.help});
+                   program.printer, program.dialogs, program.codePage, program.random, program.errorSound, program.help,
+                   pasteGuard});
     DialogHelp dialogHelp(program.help, program.alert, HelpTarget::ofProgram());
     program.alert.setMainWindow(&window);
     program.prompts.setOwner(&window);

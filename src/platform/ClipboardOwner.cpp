@@ -18,9 +18,11 @@ template <typename Reply> Owned<Reply> owned(Reply *reply)
     return {reply, &std::free};
 }
 
+} // namespace
+
 /// A connection of its own to the display: that of the toolkit takes the answers itself. It stays, with its window: an
 /// owner that answers late must find who has asked, or it may end with what it holds.
-class Asker
+class ClipboardOwner::Asker
 {
 public:
     Asker()
@@ -87,20 +89,18 @@ private:
     xcb_window_t m_window = XCB_NONE;
 };
 
-} // namespace
+ClipboardOwner::ClipboardOwner() = default;
+ClipboardOwner::~ClipboardOwner() = default;
 
-namespace ClipboardOwner {
-
-bool answers()
+bool ClipboardOwner::answers()
 {
     if (QGuiApplication::platformName() != QStringLiteral("xcb") || QGuiApplication::clipboard()->ownsClipboard())
         return true;
-    static const Asker asker;
-    const xcb_atom_t clipboard = asker.isConnected() ? asker.atom("CLIPBOARD") : xcb_atom_t(XCB_ATOM_NONE);
-    if (clipboard == XCB_ATOM_NONE || !asker.hasOwner(clipboard))
+    if (!m_asker)
+        m_asker = std::make_unique<Asker>();
+    const xcb_atom_t clipboard = m_asker->isConnected() ? m_asker->atom("CLIPBOARD") : xcb_atom_t(XCB_ATOM_NONE);
+    if (clipboard == XCB_ATOM_NONE || !m_asker->hasOwner(clipboard))
         return true;
-    asker.ask(clipboard);
-    return asker.isAnswered(QDeadlineTimer(Patience));
+    m_asker->ask(clipboard);
+    return m_asker->isAnswered(QDeadlineTimer(Patience));
 }
-
-} // namespace ClipboardOwner

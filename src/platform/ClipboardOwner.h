@@ -1,10 +1,20 @@
 #pragma once
 
-/// The program that the clipboard's text belongs to and comes from.
-namespace ClipboardOwner {
+#include <memory>
 
-/// False when there is one that hangs: it is given a second. The toolkit would wait for it several times as long, with
-/// the window standing still.
-bool answers();
+/// The program that the clipboard's text belongs to and comes from. Owns a connection to the display, made when there
+/// is somebody to ask.
+class ClipboardOwner
+{
+public:
+    ClipboardOwner();
+    ~ClipboardOwner();
 
-} // namespace ClipboardOwner
+    /// False when there is one that hangs: it is given a second. The toolkit would wait for it several times as long,
+    /// with the window standing still.
+    bool answers();
+
+private:
+    class Asker;
+    std::unique_ptr<Asker> m_asker;
+};

@@ -12,6 +12,7 @@ namespace {
 constexpr size_t Reserved = 16;
 constexpr size_t Needed = 4;  // to show a window
 constexpr size_t Plenty = 32; // what has been given back is not taken again at once
+constexpr int Pause = 500;    // ms
 
 /// As many handles as there are, up to a count.
 std::vector<int> takeHandles(size_t count)
@@ -70,9 +71,11 @@ void HandleReserve::release()
 bool HandleReserve::eventFilter(QObject *watched, QEvent *event)
 {
     const QEvent::Type type = event->type();
-    if (type == QEvent::Show || type == QEvent::Resize || type == QEvent::Close) {
-        if (watched->isWidgetType() && static_cast<QWidget *>(watched)->isWindow())
-            areScarce() ? release() : fill();
+    const bool isTime =
+        type == QEvent::Show || type == QEvent::Close || (type == QEvent::Resize && m_nextLook.hasExpired());
+    if (isTime && watched->isWidgetType() && static_cast<QWidget *>(watched)->isWindow()) {
+        areScarce() ? release() : fill();
+        m_nextLook.setRemainingTime(Pause);
     }
     return false;
 }

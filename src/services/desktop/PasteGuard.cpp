@@ -16,14 +16,20 @@ bool asksForClipboard(const QEvent &event)
 
 } // namespace
 
-PasteGuard::PasteGuard(QApplication &application)
+PasteGuard::PasteGuard(QApplication &application, ClipboardOwner &owner)
+    : m_owner(owner)
 {
     application.installEventFilter(this);
 }
 
+bool PasteGuard::mayPaste() const
+{
+    return m_owner.answers();
+}
+
 bool PasteGuard::eventFilter(QObject *watched, QEvent *event)
 {
-    if (!asksForClipboard(*event) || !qobject_cast<QLineEdit *>(watched) || ClipboardOwner::answers())
+    if (!asksForClipboard(*event) || !qobject_cast<QLineEdit *>(watched) || mayPaste())
         return false;
     QApplication::beep();
     return true;

@@ -2,17 +2,23 @@
 
 #include <QObject>
 
+class ClipboardOwner;
 class QApplication;
 
-/// Keeps text boxes from asking for the clipboard, when a key pastes or their menu opens, while the program that owns
-/// it hangs: their window would stand still.
+/// Keeps the program from asking for the clipboard while the program that owns it hangs: its windows would stand still.
+/// Text boxes are kept by itself, when a key pastes or their menu opens; commands ask it first.
 class PasteGuard : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit PasteGuard(QApplication &application);
+    PasteGuard(QApplication &application, ClipboardOwner &owner);
+
+    bool mayPaste() const;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    ClipboardOwner &m_owner;
 };
