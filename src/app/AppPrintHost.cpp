@@ -1,11 +1,11 @@
 #include "app/AppPrintHost.h"
 
+#include "app/DocumentArea.h"
 #include "app/frmApp.h"
 #include "document/DocumentList.h"
 #include "platform/Twips.h"
 #include "services/status/modSBFunc.h"
 
-#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QSignalBlocker>
 #include <QStackedWidget>

@@ -1,5 +1,6 @@
 #include "app/RecoveryOffer.h"
 
+#include "app/DocumentArea.h"
 #include "app/frmApp.h"
 #include "app/frmRecovery.h"
 #include "app/rules/RequestedFile.h"
@@ -41,7 +42,7 @@ void RecoveryOffer::open(const QString &requested)
 void RecoveryOffer::openWaiting(const QString &path)
 {
     if (frmDoc *recovered = m_window.context().documents.findByPath(path))
-        m_window.activate(recovered);
+        m_window.documentArea()->activate(*recovered);
     else
         m_window.OpenRequestedFile(path);
 }

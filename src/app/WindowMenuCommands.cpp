@@ -1,6 +1,7 @@
 #include "app/AppCommands.h"
 #include "app/AppContext.h"
 #include "app/CommandTable.h"
+#include "app/DocumentArea.h"
 #include "app/MenuLayout.h"
 #include "app/frmApp.h"
 #include "document/DocumentList.h"
@@ -18,7 +19,7 @@ void addDocuments(CommandTable &table, const AppContext &context)
 {
     QObject::connect(&context.documents, &DocumentList::created, &table, [&table, &context](frmDoc *document) {
         table.add({MenuLayout::documentKey(document->Tag()), Untitled, "", 0, 0, DocumentOrEditing,
-                   [&context, document] { context.window.activate(document); }});
+                   [&context, document] { context.window.documentArea()->activate(*document); }});
     });
     QObject::connect(&context.documents, &DocumentList::removed, &table,
                      [&table](frmDoc *document) { table.remove(MenuLayout::documentKey(document->Tag())); });
@@ -28,7 +29,9 @@ void addDocuments(CommandTable &table, const AppContext &context)
 
 void AppCommands::addWindowCommands(CommandTable &table, const AppContext &context)
 {
-    const auto arrange = [&context](WindowArrangement how) { return [&context, how] { context.window.arrange(how); }; };
+    const auto arrange = [&context](WindowArrangement how) {
+        return [&context, how] { context.window.documentArea()->arrange(how); };
+    };
     table.add({"mnuWindow(0)", 450, "", 51, PictureCascade, DocumentOrEditing, arrange(WindowArrangement::Cascade)});
     table.add({"mnuWindow(1)", 451, "", 52, PictureTileHorizontally, DocumentOrEditing,
                arrange(WindowArrangement::TileHorizontally)});

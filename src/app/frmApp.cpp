@@ -4,6 +4,7 @@
 #include "app/AppMenus.h"
 #include "app/AppPrintHost.h"
 #include "app/AppToolbars.h"
+#include "app/DocumentArea.h"
 #include "app/MainHelp.h"
 #include "app/WindowPosition.h"
 #include "app/rules/RequestedFile.h"
@@ -22,15 +23,11 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QFontMetrics>
-#include <QLayout>
-#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QShortcut>
 #include <QStackedWidget>
-#include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -50,16 +47,6 @@ void acceptAsCopy(QDropEvent &event)
     event.accept();
 }
 
-/// The window's own Close would share Ctrl+W with the command, and the key would then do nothing.
-void freeCloseKey(const QMenu &systemMenu)
-{
-    const QList<QAction *> actions = systemMenu.actions();
-    for (QAction *action : actions) {
-        if (action->shortcuts().contains(QKeySequence(Qt::CTRL | Qt::Key_W)))
-            action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F4));
-    }
-}
-
 UndoKind undoKindOf(const QString &caption)
 {
     for (int id = int(UndoKind::Insert); id <= int(UndoKind::Replace); ++id) {
@@ -67,6 +54,15 @@ UndoKind undoKindOf(const QString &caption)
             return UndoKind(id);
     }
     return UndoKind::None;
+}
+
+/// A change ends what was told before. Its note stands in place of Ready, until another text is due.
+void tellOfChange(modSBFunc &status, const QString &note)
+{
+    status.ShowStatus(0);
+    status.ShowStatus(modSBFunc::Ready);
+    if (!note.isEmpty())
+        status.SBSetText(0, modSBFunc::SBT_SUNKEN, note);
 }
 
 void selectRecentFilesKey(clsRegistry &registry)
@@ -80,7 +76,7 @@ void selectRecentFilesKey(clsRegistry &registry)
 frmApp::frmApp(const Needs &needs)
     : m_store(needs.store)
     , m_recentFiles(desktopTextWidth)
-    , m_area(new QMdiArea)
+    , m_area(new DocumentArea)
     , m_views(new QStackedWidget)
     , m_printHost(std::make_unique<AppPrintHost>(*this, *m_views))
     , m_print(std::make_unique<PrintCommands>(needs.printer, needs.dialogs, needs.alert, *m_printHost))
@@ -118,10 +114,10 @@ void frmApp::createParts(const Needs &needs)
     auto *documents = new DocumentList({needs.flags, needs.undo, *status, needs.settings}, this);
     auto *files = new FileCommands({*documents, m_recentFiles, *status, needs.alert, needs.prompts, needs.copies},
                                    needs.codePage, this);
-    m_editCommands = std::make_unique<EditCommands>(needs.undo, *QGuiApplication::clipboard(), *status);
-    m_context = std::make_unique<AppContext>(AppContext{*this, needs.flags, needs.undo, needs.settings, needs.alert,
-                                                        *status, *documents, *files, *m_editCommands, m_recentFiles,
-                                                        *m_print, *m_help, needs.random, needs.errorSound});
+    m_editCommands = std::make_unique<EditCommands>(needs.undo, *QGuiApplication::clipboard());
+    m_context = std::make_unique<AppContext>(AppContext{
+        *this, needs.flags, needs.undo, needs.settings, needs.alert, *status, *documents, *files, *m_editCommands,
+        needs.pasteGuard, m_recentFiles, *m_print, *m_help, needs.random, needs.errorSound});
     setCentralWidget(createCentre());
 
     connect(documents, &DocumentList::aboutToCreate, this, [this] { m_print->preview().close(); });
@@ -147,16 +143,6 @@ void frmApp::connectPreview()
 
 QWidget *frmApp::createCentre()
 {
-    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder); // who closes a document is back in the one before
-    connect(new QShortcut(Qt::ALT | Qt::Key_Minus, m_area), &QShortcut::activated, m_area, [this] {
-        if (QMdiSubWindow *document = m_area->activeSubWindow())
-            document->showSystemMenu();
-    });
-    connect(new QShortcut(Qt::CTRL | Qt::Key_Tab, m_area), &QShortcut::activated, this, [this] { goAround(true); });
-    connect(new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, m_area), &QShortcut::activated, this,
-            [this] { goAround(false); });
     auto *centre = new QWidget(this);
     auto *layout = new QVBoxLayout(centre);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -168,94 +154,17 @@ QWidget *frmApp::createCentre()
     return centre;
 }
 
-/// Goes to the document after or before the active one in the order of the Window menu; the area's own keys would
-/// follow its history.
-void frmApp::goAround(bool forward)
-{
-    m_area->setActivationOrder(QMdiArea::CreationOrder);
-    if (forward)
-        m_area->activateNextSubWindow();
-    else
-        m_area->activatePreviousSubWindow();
-    m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder);
-}
-
 void frmApp::placeDocument(frmDoc *document)
 {
-    QMdiSubWindow *frame = m_area->addSubWindow(document);
-    frame->setAttribute(Qt::WA_DeleteOnClose);
-    frame->setWindowIcon(picture(PictureDocument));
-    frame->setGeometry(WindowLayout::nextPlace(m_area->viewport()->rect(), document->Tag(), cascadeStep()));
-    frame->layout()->activate(); // the document measures its columns before it is shown
-    if (const QMdiSubWindow *active = m_area->activeSubWindow(); active && active->isMaximized())
-        document->resize(m_area->viewport()->size()); // so will this one be
-    freeCloseKey(*frame->systemMenu());
-    m_menuHelp->watch(frame->systemMenu());
-
+    m_menuHelp->watch(m_area->place(*document)->systemMenu());
     connect(document, &frmDoc::editingChanged, this, [this, document](bool editing) {
         // The edit of a document that is not the active one, closed ones among them, says nothing about the commands.
         if (document == m_context->documents.active())
             SetCommandState(editing ? AppState::StateEditing : AppState::StateDocument);
     });
-    connect(frame, &QMdiSubWindow::windowStateChanged, document,
-            [document](Qt::WindowStates before, Qt::WindowStates now) {
-                // Where an edit was ended by minimising, the toolkit knows nothing to give the focus back to.
-                if (before & ~now & Qt::WindowMinimized)
-                    document->setFocus();
-            });
     connect(document, &frmDoc::menuRequested, this,
             [this](const QPoint &position) { m_menus->gridMenu()->popup(position); });
     connect(document, &frmDoc::clearRequested, this, [this] { DoMenuClick(QStringLiteral("mnuEditClear")); });
-}
-
-int frmApp::cascadeStep() const
-{
-    return style()->pixelMetric(QStyle::PM_TitleBarHeight) + style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
-}
-
-std::vector<QRect> frmApp::placesFor(WindowArrangement how, const QList<QMdiSubWindow *> &windows) const
-{
-    const QRect area = m_area->viewport()->rect();
-    const int count = int(windows.size());
-    switch (how) {
-    case WindowArrangement::Cascade:
-        return WindowLayout::cascade(area, count, cascadeStep());
-    case WindowArrangement::ArrangeIcons:
-        return WindowLayout::icons(area, count, windows.first()->size());
-    default:
-        return WindowLayout::tiles(area, count, how == WindowArrangement::TileHorizontally);
-    }
-}
-
-void frmApp::activate(frmDoc *document)
-{
-    if (auto *frame = qobject_cast<QMdiSubWindow *>(document->frame())) {
-        if (frame->isMinimized())
-            frame->showNormal();
-        m_area->setActiveSubWindow(frame);
-    }
-    document->setFocus();
-}
-
-void frmApp::arrange(WindowArrangement how)
-{
-    QList<QMdiSubWindow *> open;
-    QList<QMdiSubWindow *> icons;
-    for (QMdiSubWindow *window : m_area->subWindowList()) {
-        if (window->isVisible())
-            (window->isMinimized() ? icons : open).append(window);
-    }
-    const QList<QMdiSubWindow *> &windows = how == WindowArrangement::ArrangeIcons ? icons : open;
-    if (windows.isEmpty())
-        return;
-    const std::vector<QRect> places = placesFor(how, windows);
-    for (qsizetype i = 0; i < windows.size(); ++i) {
-        if (windows[i]->isMaximized())
-            windows[i]->showNormal();
-        windows[i]->setGeometry(places[size_t(i)]);
-        if (how == WindowArrangement::Cascade)
-            windows[i]->raise();
-    }
 }
 
 void frmApp::DoMenuClick(const QString &key)
@@ -286,8 +195,7 @@ void frmApp::onUndoKind()
     m_commands.action(QStringLiteral("mnuEditUndo"))->setText(caption);
     m_commands.setAvailable(QStringLiteral("mnuEditUndo"), undoable() != UndoKind::None);
     m_toolbars->setToolTip(QStringLiteral("Undo"), caption);
-    m_context->status.ShowStatus(0); // what a command before has told is over
-    m_context->status.ShowStatus(modSBFunc::Ready);
+    tellOfChange(m_context->status, m_context->undo.note());
 }
 
 void frmApp::SetCommandState(AppState state)

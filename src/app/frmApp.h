@@ -2,7 +2,6 @@
 
 #include "app/AppContext.h"
 #include "app/CommandTable.h"
-#include "app/WindowArrangement.h"
 #include "document/EditCommands.h"
 #include "document/rules/UndoRecord.h"
 #include "services/settings/clsMRUFileList.h"
@@ -15,15 +14,15 @@ class AppMenus;
 class AppToolbars;
 class CodePage;
 class CommonDialogs;
+class DocumentArea;
 class DocumentCopies;
 class FilePrompts;
 class HelpDisplay;
 class MainHelp;
+class PasteGuard;
 class PrintCommands;
 class PrintHost;
 class PrinterDevice;
-class QMdiArea;
-class QMdiSubWindow;
 class QStackedWidget;
 class RegistryStore;
 class WindowPosition;
@@ -53,6 +52,7 @@ public:
         RandomSource &random;
         SoundPlayer &errorSound;
         HelpDisplay &help;
+        const PasteGuard &pasteGuard;
     };
 
     explicit frmApp(const Needs &needs);
@@ -81,17 +81,13 @@ public:
     /// Shows the window, restores it if it is minimised, and brings it to the front.
     void bringToFront();
 
-    /// Makes a document's window the active one.
-    void activate(frmDoc *document);
-    void arrange(WindowArrangement how);
-
     /// The picture by which a button of the standard toolbar shows its state.
     int buttonPicture(const QString &button) const;
     void setButtonPicture(const QString &button, int pictureNumber);
 
     const AppContext &context() const { return *m_context; }
     const CommandTable &commands() const { return m_commands; }
-    QMdiArea *documentArea() const { return m_area; }
+    DocumentArea *documentArea() const { return m_area; }
     /// Height in pixels of the menu bar and the toolbars above the document area.
     int toolbarHeight() const;
 
@@ -109,11 +105,7 @@ protected:
 private:
     void createParts(const Needs &needs);
     QWidget *createCentre();
-    void goAround(bool forward);
     void placeDocument(frmDoc *document);
-    /// How far the title bar of a window stands from that of the one behind it, in pixels.
-    int cascadeStep() const;
-    std::vector<QRect> placesFor(WindowArrangement how, const QList<QMdiSubWindow *> &windows) const;
     void onRemoved();
     void updateState();
     UndoKind undoable() const;
@@ -126,7 +118,7 @@ private:
     RegistryStore &m_store;
     clsMRUFileList m_recentFiles;
     std::unique_ptr<EditCommands> m_editCommands;
-    QMdiArea *m_area;
+    DocumentArea *m_area;
     QStackedWidget *m_views; ///< the document area, and the print preview in its place
     std::unique_ptr<PrintHost> m_printHost;
     std::unique_ptr<PrintCommands> m_print;

@@ -6,7 +6,6 @@
 #include "document/modUndo.h"
 #include "document/rules/GridRules.h"
 #include "document/rules/Vocabulary.h"
-#include "services/status/modSBFunc.h"
 
 #include <QClipboard>
 #include <QMimeData>
@@ -47,10 +46,9 @@ bool areSeveralCells(const std::vector<ClipText::Row> &rows)
 
 } // namespace
 
-EditCommands::EditCommands(UndoRecord &record, QClipboard &clipboard, modSBFunc &status)
+EditCommands::EditCommands(UndoRecord &record, QClipboard &clipboard)
     : m_record(record)
     , m_clipboard(clipboard)
-    , m_status(status)
 {
 }
 
@@ -112,10 +110,7 @@ void EditCommands::pasteCells(frmDoc &document, const std::vector<ClipText::Row>
         GridRules::pastedCells(document.selection(), int(rows.size()), columns, document.Rutor()->Rows());
     fillCells(document, cells, rows);
     document.setDirty(true);
-    m_record.setKind(UndoKind::Paste, &document);
-    const QString part = GridRules::pastedPart(cells, int(rows.size()), columns);
-    if (!part.isEmpty())
-        m_status.SBSetText(0, modSBFunc::SBT_SUNKEN, part); // in place of Ready, until another text is due
+    m_record.setKind(UndoKind::Paste, &document, GridRules::pastedPart(cells, int(rows.size()), columns));
 }
 
 void EditCommands::fillCells(frmDoc &document, const GridSelection &cells, const std::vector<ClipText::Row> &rows)

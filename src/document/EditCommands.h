@@ -6,22 +6,21 @@
 class QClipboard;
 class ctlGrid;
 class frmDoc;
-class modSBFunc;
 
 /// The commands of the Edit menu that change a document, and their undo. While the grid is browsing they act on its
 /// selection, while a cell is being edited on the edit box. Each leaves a record of what it did, Copy excepted.
 class EditCommands
 {
 public:
-    /// All outlive the object.
-    EditCommands(UndoRecord &record, QClipboard &clipboard, modSBFunc &status);
+    /// Both outlive the object.
+    EditCommands(UndoRecord &record, QClipboard &clipboard);
 
     void Copy(frmDoc &document);
     void Cut(frmDoc &document);
     /// A single selected cell, and a selection that reaches the last row, takes the whole clipboard text from there on;
-    /// any other selection is filled and nothing beyond it, and the status bar tells what did not fit. Without a text
-    /// on the clipboard nothing happens. A text of several cells is pasted as cells also into an edit box in which
-    /// nothing was typed yet.
+    /// any other selection is filled and nothing beyond it, and the note of the undo record tells what did not fit.
+    /// Without a text on the clipboard nothing happens. A text of several cells is pasted as cells also into an edit
+    /// box in which nothing was typed yet.
     void Paste(frmDoc &document);
     void Clear(frmDoc &document);
     /// Inserts as many empty rows as are selected above them.
@@ -46,5 +45,4 @@ private:
 
     UndoRecord &m_record;
     QClipboard &m_clipboard;
-    modSBFunc &m_status;
 };

@@ -1,15 +1,18 @@
 #pragma once
 
 #include "app/CommandTable.h"
+#include "app/DocumentArea.h"
 #include "app/frmApp.h"
 #include "document/DocumentCopies.h"
 #include "document/DocumentList.h"
 #include "document/ctlGrid.h"
 #include "document/rules/file/CodePage.h"
+#include "platform/ClipboardOwner.h"
 #include "platform/SoundPlayer.h"
 #include "platform/registry/RegistryTree.h"
 #include "quiz/rules/RandomSource.h"
 #include "resources/StringTable.h"
+#include "services/desktop/PasteGuard.h"
 #include "services/rules/ProgramFlags.h"
 #include "services/settings/clsAppProperties.h"
 #include "services/status/modSBFunc.h"
@@ -35,12 +38,14 @@ struct MainWindowFixture : ::testing::Test, DocumentCopies
     SeededRandom random{1};
     DesktopSoundPlayer silence{QByteArray()};
     RecordingHelp help;
+    ClipboardOwner clipboardOwner;
+    PasteGuard pasteGuard{*qApp, clipboardOwner};
     std::unique_ptr<frmApp> window;
 
     void SetUp() override
     {
         window = std::make_unique<frmApp>(frmApp::Needs{flags, undo, settings, store, alert, prompts, *this, printer,
-                                                        dialogs, codePage, random, silence, help});
+                                                        dialogs, codePage, random, silence, help, pasteGuard});
         window->show();
         QApplication::setActiveWindow(window.get());
     }

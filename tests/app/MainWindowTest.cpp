@@ -74,7 +74,7 @@ TEST_F(MainWindowTest, ControlTabGoesAroundTheDocuments)
         EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier), made[size_t(next)]);
     for (const int next : {2, 1, 0})
         EXPECT_EQ(press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier), made[size_t(next)]);
-    window->activate(made[2]);
+    window->documentArea()->activate(*made[2]);
     window->DoMenuClick("mnuFileClose");
     EXPECT_EQ(documents().active(), made[0]) << "the one that was active before";
 }

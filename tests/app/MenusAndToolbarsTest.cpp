@@ -106,7 +106,7 @@ TEST_F(MenusAndToolbarsTest, ModesStepInARingAndShowEverywhere)
 TEST_F(MenusAndToolbarsTest, TheStatusBarFollowsTheHighlight)
 {
     newDocument()->setCaption("first");
-    window->activate(newDocument());
+    window->documentArea()->activate(*newDocument());
     const QString modes[] = {resText(41) + " Language 1 -> Language 2 In Order",
                              resText(42) + " Language 2 -> Language 1 In Order"};
     const std::tuple<Qt::Key, Qt::KeyboardModifiers, QString> keys[] = {
@@ -231,7 +231,7 @@ TEST_F(MenusAndToolbarsTest, TheSearchGoesAlongWithTheActiveDocument)
     search->findChild<QLineEdit *>("txtFind")->setText("cat");
     click("btnFind");
     EXPECT_EQ(opened[1]->Rutor()->SelText(), "cat");
-    window->activate(opened[0]);
+    window->documentArea()->activate(*opened[0]);
     EXPECT_FALSE(opened[1]->Rutor()->EditMode());
     EXPECT_EQ(search->findChild<QAbstractButton *>("optScope2")->text(), "&2 English");
     click("btnFind");

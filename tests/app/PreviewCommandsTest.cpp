@@ -26,7 +26,7 @@ TEST_F(PreviewCommandsTest, ThePreviewTakesTheDocumentsPlaceAndGivesItBack)
         places.emplace_back(made, made->frame()->geometry());
     }
     frmDoc *active = places[1].first;
-    window->activate(active);
+    window->documentArea()->activate(*active);
     active->Rutor()->setRow(5);
     undo.setKind(UndoKind::Clear, active);
     window->DoMenuClick("mnuFilePrintPreview");

@@ -21,7 +21,7 @@ struct Editing : ::testing::Test, OpenDocument
     }
 
     QClipboard &clipboard = *QGuiApplication::clipboard();
-    EditCommands commands{undo, clipboard, status};
+    EditCommands commands{undo, clipboard};
     const Words before = words();
 };
 
@@ -94,7 +94,7 @@ TEST_F(Editing, PasteReachesAsFarAsTheTextOrTheSelection)
     select(2, 2, 3, 2);
     clipboard.setText(QStringLiteral("long words ").repeated(20) + "\nx\ny\n");
     commands.Paste(document);
-    EXPECT_EQ(status.text(0), "2 of 3 rows pasted");
+    EXPECT_EQ(undo.note(), "2 of 3 rows pasted");
     EXPECT_GT(grid.RowHeight(2), 2 * 285);
     clipboard.clear();
     commands.Paste(document);

@@ -34,7 +34,7 @@ protected:
 
     std::mt19937 engine{5};
     const QStringList texts{"", "w", "\"x", "y\"", "p\tq", "long word", "W", "10", "9"};
-    EditCommands commands{undo, *QGuiApplication::clipboard(), status};
+    EditCommands commands{undo, *QGuiApplication::clipboard()};
 };
 
 TEST_F(RandomChanges, OfTheEditMenuAreUndone)

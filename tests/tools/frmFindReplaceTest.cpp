@@ -148,7 +148,7 @@ TEST_F(FindReplace, ReplaceAllIsOneUndoStep)
     document.setDirty(false); // as saving does
     dialog->close();
     EXPECT_TRUE(document.Dirty());
-    EditCommands(undo, *QGuiApplication::clipboard(), status).Undo(document);
+    EditCommands(undo, *QGuiApplication::clipboard()).Undo(document);
     EXPECT_EQ(words(), before);
 }
 
@@ -166,7 +166,7 @@ TEST_F(FindReplace, WhatIsTypedIntoTheMatchCanBeUndone)
         EXPECT_EQ(grid.TextMatrix(1, 1), matchesAgain ? "uXa" : "uX");
         EXPECT_EQ(undo.kind(), UndoKind::Entry);
         EXPECT_TRUE(document.Dirty());
-        EditCommands(undo, *QGuiApplication::clipboard(), status).Undo(document);
+        EditCommands(undo, *QGuiApplication::clipboard()).Undo(document);
         EXPECT_EQ(grid.TextMatrix(1, 1), matchesAgain ? "aXa" : "aX");
     }
 }

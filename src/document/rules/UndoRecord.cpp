@@ -1,8 +1,9 @@
 #include "document/rules/UndoRecord.h"
 
-void UndoRecord::setKind(UndoKind kind, const void *document)
+void UndoRecord::setKind(UndoKind kind, const void *document, const QString &note)
 {
     m_kind = kind;
+    m_note = note;
     m_document = document;
     if (kind == UndoKind::None)
         m_document = nullptr;

@@ -55,7 +55,9 @@ public:
 
     UndoKind kind() const { return m_kind; }
     /// Names what Undo reverses and the document it belongs to (its window; compared, never used).
-    void setKind(UndoKind kind, const void *document);
+    /// note is what the user is told of the change; empty when there is nothing to tell.
+    void setKind(UndoKind kind, const void *document, const QString &note = {});
+    QString note() const { return m_note; }
     /// Ends the record: nothing to undo.
     void clear();
     bool belongsTo(const void *document) const { return m_document == document; }
@@ -66,4 +68,5 @@ Q_SIGNALS:
 private:
     UndoKind m_kind = UndoKind::None;
     const void *m_document = nullptr;
+    QString m_note;
 };
