@@ -35,18 +35,19 @@ AppMenus::AppMenus(QMenuBar *tbrMenu, CommandTable &table, const AppContext &con
     , m_context(context)
     , m_gridMenu(new QMenu(tbrMenu))
 {
+    int helpId = FirstTitleHelp;
     for (const MenuLayout::Menu &each : MenuLayout::menus())
-        addMenu(tbrMenu, each);
+        addMenu(tbrMenu, each, helpId++);
     buildGridMenu();
     help.watch(m_gridMenu);
 }
 
-void AppMenus::addMenu(QMenuBar *menuBar, const MenuLayout::Menu &layout)
+void AppMenus::addMenu(QMenuBar *menuBar, const MenuLayout::Menu &layout, int helpId)
 {
     QMenu *menu = menuBar->addMenu(resText(layout.captionId));
     menu->setObjectName(layout.key);
     menu->setProperty("helpContextId", layout.helpContextId);
-    menu->menuAction()->setStatusTip(resText(FirstTitleHelp + int(m_menus.size())));
+    menu->menuAction()->setStatusTip(resText(helpId));
     m_menus.insert(layout.key, menu);
     addEntries(menu, layout.entries);
     connect(menu, &QMenu::aboutToShow, this, [this, &layout] { oAppMenu_InitPopupMenu(layout); });
@@ -58,8 +59,40 @@ void AppMenus::addEntries(QMenu *menu, const QStringList &keys)
     for (const QString &key : keys) {
         if (key.startsWith(u'-'))
             menu->addSeparator()->setObjectName(key.mid(1));
+        else if (key.startsWith(u'>'))
+            menu->addMenu(submenu(MenuLayout::submenu(key.mid(1)), menu));
         else
             menu->addAction(m_table.action(key));
+    }
+}
+
+/// Made when it is needed first, and kept: File and Window are filled anew each time.
+QMenu *AppMenus::submenu(const MenuLayout::Submenu &layout, QMenu *parent)
+{
+    QMenu *&menu = m_menus[layout.key];
+    if (menu)
+        return menu;
+    menu = new QMenu(resText(layout.captionId), parent);
+    menu->setObjectName(layout.key);
+    menu->setProperty("helpContextId", parent->property("helpContextId"));
+    menu->menuAction()->setProperty("textId", layout.captionId);
+    menu->menuAction()->setStatusTip(resText(layout.helpId));
+    addEntries(menu, layout.entries);
+    return menu;
+}
+
+/// An entry that opens a menu is enabled while any entry of that is.
+void AppMenus::updateEntries(const QStringList &keys)
+{
+    for (const QString &key : keys) {
+        if (key.startsWith(u'>')) {
+            const QStringList &entries = MenuLayout::submenu(key.mid(1)).entries;
+            updateEntries(entries);
+            const auto enabled = [this](const QString &each) { return m_table.action(each)->isEnabled(); };
+            menu(key.mid(1))->menuAction()->setEnabled(std::any_of(entries.begin(), entries.end(), enabled));
+        } else if (const Command *command = m_table.find(key); command && command->checked) {
+            m_table.action(key)->setChecked(command->checked());
+        }
     }
 }
 
@@ -97,9 +130,10 @@ void AppMenus::oAppMenu_InitPopupMenu(const MenuLayout::Menu &layout)
     if (layout.key == QStringLiteral("mnuFile"))
         rebuildFile(menu(layout.key), layout.entries);
     else if (layout.key == QStringLiteral("mnuMode"))
-        rebuildMode();
+        nameModes();
     else if (layout.key == QStringLiteral("mnuWindow"))
         rebuildWindow(menu(layout.key), layout.entries);
+    updateEntries(layout.entries);
 }
 
 /// Of these entries the commands that can be given without a document.
@@ -140,7 +174,7 @@ void AppMenus::addRecentFiles(QMenu *menu)
     }
 }
 
-void AppMenus::rebuildMode()
+void AppMenus::nameModes()
 {
     const frmDoc *document = m_context.documents.active();
     if (!document)
@@ -150,8 +184,6 @@ void AppMenus::rebuildMode()
         const QString text = quizModeText(mode, document->language(1), document->language(2));
         action->setText(QStringLiteral("&%1 ").arg(mode) + FormTexts::escapeMnemonic(text));
         action->setStatusTip(resText(m_table.find(modeKey(mode))->helpId) + QStringLiteral(" ") + text);
-        action->setCheckable(true);
-        action->setChecked(mode == m_context.settings.QuizMode());
     }
 }
 

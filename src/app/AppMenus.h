@@ -14,7 +14,8 @@ struct AppContext;
 enum class AppState;
 
 /// The menu bar and the grid's context menu, built from the command table. File, Mode and Window are brought up to date
-/// each time they drop down.
+/// each time they drop down,
+/// as are check marks and the menus within them.
 class AppMenus : public QObject
 {
     Q_OBJECT
@@ -32,12 +33,14 @@ public:
     QMenu *gridMenu() const { return m_gridMenu; }
 
 private:
-    void addMenu(QMenuBar *menuBar, const MenuLayout::Menu &layout);
+    void addMenu(QMenuBar *menuBar, const MenuLayout::Menu &layout, int helpId);
+    QMenu *submenu(const MenuLayout::Submenu &layout, QMenu *parent);
+    void updateEntries(const QStringList &keys);
     void oAppMenu_InitPopupMenu(const MenuLayout::Menu &layout);
     QStringList withoutDocument(const QStringList &keys) const;
     void rebuildFile(QMenu *menu, const QStringList &entries);
     void addRecentFiles(QMenu *menu);
-    void rebuildMode();
+    void nameModes();
     void rebuildWindow(QMenu *menu, const QStringList &fixedEntries);
     void addEntries(QMenu *menu, const QStringList &keys);
     void buildGridMenu();

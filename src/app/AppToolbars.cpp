@@ -61,6 +61,7 @@ QAction *AppToolbars::addButton(QToolBar *bar, const MenuLayout::Button &button)
     QAction *command = m_table.action(button.command);
     auto *action = new QAction(command->icon(), resText(button.toolTipId), bar);
     action->setObjectName(button.key);
+    action->setProperty("textId", button.toolTipId);
     action->setWhatsThis(resText(button.whatsThisId));
     action->setStatusTip(resText(button.hoverHelpId));
     action->setEnabled(command->isEnabled());

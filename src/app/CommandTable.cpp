@@ -21,6 +21,8 @@ void CommandTable::add(const Command &command)
     action->setObjectName(command.key);
     action->setShortcut(QKeySequence(command.shortcut));
     action->setMenuRole(QAction::NoRole);
+    action->setProperty("textId", command.captionId);
+    action->setCheckable(bool(command.checked));
     if (command.helpId)
         action->setStatusTip(resText(command.helpId));
     if (command.picture)

@@ -37,6 +37,7 @@ struct Command
     int picture;        ///< picture number, 0: none
     StateSet enabledIn; ///< the states in which it can be given
     std::function<void()> run;
+    std::function<bool()> checked = {}; ///< whether its entry has a check mark now; null: it never has one
 };
 
 /// Every command by its key, each with the action that menus and toolbars share.

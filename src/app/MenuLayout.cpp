@@ -1,5 +1,7 @@
 #include "app/MenuLayout.h"
 
+#include <map>
+
 namespace MenuLayout {
 
 namespace {
@@ -40,6 +42,12 @@ const std::vector<Menu> &menus()
         {QStringLiteral("mnuHelp"), 454, 1090, keys("mnuHelpTopic -mnuHelp(4) mnuHelpAbout")},
     };
     return all;
+}
+
+const Submenu &submenu(const QString &key)
+{
+    static const std::map<QString, Submenu> all{};
+    return all.at(key);
 }
 
 const std::vector<Button> &standardButtons()

@@ -9,12 +9,21 @@
 /// in the command table.
 namespace MenuLayout {
 
-/// A drop-down of the menu bar. An entry with a dash before its key is a separator.
+/// A drop-down of the menu bar. An entry with a dash before its key is a separator, one with a ">" a menu of its own.
 struct Menu
 {
     QString key;
     int captionId;
     int helpContextId; ///< help topic of the drop-down
+    QStringList entries;
+};
+
+/// A menu that an entry of another one opens; its help topic is that of the drop-down it belongs to.
+struct Submenu
+{
+    QString key;
+    int captionId;
+    int helpId; ///< status text while the entry that opens it is highlighted
     QStringList entries;
 };
 
@@ -46,6 +55,8 @@ inline QString documentKey(int slot)
 /// The seven menus in the order of the menu bar with their fixed entries. When File drops down, what needs a document
 /// is left out while there is none, and the recent files are added; Window gets the open documents.
 const std::vector<Menu> &menus();
+/// Throws std::out_of_range for an unknown key.
+const Submenu &submenu(const QString &key);
 
 const std::vector<Button> &standardButtons();
 const std::vector<Button> &previewButtons();

@@ -70,7 +70,8 @@ void AppCommands::addQuizCommands(CommandTable &table, const AppContext &context
 {
     for (int mode = 1; mode <= QuizModes::Count; ++mode) {
         table.add({QStringLiteral("mnuMode%1").arg(mode), 439 + mode, "", 40 + mode, PictureMode1 + mode - 1,
-                   DocumentOrEditing, [&context, mode] { setQuizMode(context, mode); }});
+                   DocumentOrEditing, [&context, mode] { setQuizMode(context, mode); },
+                   [&context, mode] { return context.settings.QuizMode() == mode; }});
     }
     table.add({"Model", 1015, "", 221, PictureMode1, Document,
                [&context, &table] { table.run(nextModeKey(context.settings.QuizMode())); }});

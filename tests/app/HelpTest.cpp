@@ -141,6 +141,8 @@ TEST_F(HelpTest, WhatsThisExplainsToolbarButtonsAndNoSeparators)
         QCoreApplication::processEvents();
         int expected = first;
         for (QAction *action : bar->actions()) {
+            if (!action->isSeparator() && isAddition(*action))
+                continue;
             const std::vector<int> texts = textsAt(bar->widgetForAction(action));
             EXPECT_EQ(texts, action->isSeparator() ? std::vector<int>{} : std::vector{expected}) << expected;
             expected += !action->isSeparator();

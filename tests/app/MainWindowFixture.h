@@ -69,6 +69,12 @@ struct MainWindowFixture : ::testing::Test, DocumentCopies
         }
         return list;
     }
+    /// What stands beside the entries and buttons whose texts run on by position: it has texts from 14000 on, and its
+    /// separators in menus have no name.
+    static bool isAddition(const QAction &action)
+    {
+        return action.property("textId").toInt() >= 14000 || (action.isSeparator() && action.objectName().isEmpty());
+    }
     QStringList menuTitles()
     {
         QStringList titles;

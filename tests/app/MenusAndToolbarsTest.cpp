@@ -264,7 +264,14 @@ TEST_F(MenusAndToolbarsTest, EveryTitleAndEntryHasItsCaptionAndHelpText)
         EXPECT_EQ(each->text(), resText(id));
         EXPECT_EQ(each->statusTip(), resText(100 + title++));
         Q_EMIT dropDown->aboutToShow();
+        QStringList letters;
         for (QAction *entry : dropDown->actions()) {
+            letters += QKeySequence::mnemonic(entry->text()).toString();
+            EXPECT_LE(letters.count(letters.back()), letters.back().isEmpty() ? 99 : 1) << entry->text().toStdString();
+            if (isAddition(*entry)) {
+                EXPECT_NE(entry->isSeparator(), entry->text().size() > 2 && entry->statusTip().size() > 2);
+                continue;
+            }
             id = entry->objectName() == "mnuFileExit" ? 417 : id + 1;
             if (entry->isSeparator()) {
                 separators += entry->objectName();
@@ -290,10 +297,12 @@ TEST_F(MenusAndToolbarsTest, EveryButtonHasItsToolTipAndHelpText)
          {std::tuple("tbrStandard", 1000, 200), std::tuple("tbrPreview", 1101, 231)}) {
         const auto *bar = window->findChild<QToolBar *>(band);
         int toolTip = first;
-        for (int i = 0; i < bar->actions().size(); ++i) {
-            const QAction *action = bar->actions().at(i);
+        QList<QAction *> actions = bar->actions();
+        actions.removeIf([](const QAction *each) { return !each->isSeparator() && isAddition(*each); });
+        for (int i = 0; i < actions.size(); ++i) {
+            QAction *action = actions.at(i);
             QEvent enter(QEvent::Enter);
-            QApplication::sendEvent(bar->widgetForAction(bar->actions().at(i)), &enter);
+            QApplication::sendEvent(bar->widgetForAction(action), &enter);
             if (action->isSeparator())
                 continue;
             EXPECT_EQ(status(0), resText(firstHelp + i)) << i;

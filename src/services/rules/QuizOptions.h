@@ -16,6 +16,8 @@ struct AnswerTolerance
 /// How quizzes are asked and judged beyond the five modes, as the user chose it.
 struct QuizOptions
 {
+    static constexpr int MostWords = 32767; ///< that a quiz can ask
+
     int mostWords = 0; ///< at most so many words are asked, drawn at random; 0: all
     AnswerTolerance tolerance;
     bool readQuestion = false; ///< aloud

@@ -18,6 +18,64 @@ clsRegistry settingsKey(RegistryStore &store)
     return registry;
 }
 
+/// The options that are on or off, by the names under which they are stored.
+struct Switch
+{
+    const char *name;
+    bool &(*value)(QuizOptions &options);
+};
+
+constexpr Switch Switches[] = {
+    {"QuizForgiveCase", [](QuizOptions &options) -> bool & { return options.tolerance.letterCase; }},
+    {"QuizForgiveAccents", [](QuizOptions &options) -> bool & { return options.tolerance.accents; }},
+    {"QuizForgiveBlanks", [](QuizOptions &options) -> bool & { return options.tolerance.blanksAndPunctuation; }},
+    {"QuizForgiveBrackets", [](QuizOptions &options) -> bool & { return options.tolerance.brackets; }},
+    {"QuizOneOfSeveral", [](QuizOptions &options) -> bool & { return options.tolerance.oneOfSeveral; }},
+    {"QuizReadQuestion", [](QuizOptions &options) -> bool & { return options.readQuestion; }},
+    {"QuizReadAnswer", [](QuizOptions &options) -> bool & { return options.readAnswer; }},
+    {"QuizRememberAnswers", [](QuizOptions &options) -> bool & { return options.rememberAnswers; }},
+};
+constexpr char MostWordsName[] = "QuizMostWords";
+
+/// A stored number; the default where there is none, or something else.
+int storedNumber(clsRegistry &registry, const char *name, int byDefault)
+{
+    registry.setValueKey(QString::fromLatin1(name));
+    const QVariant stored = registry.Value();
+    return stored.typeId() == QMetaType::Int ? stored.toInt() : byDefault;
+}
+
+/// What was never changed stays out of the store.
+void storeNumber(clsRegistry &registry, const char *name, int number, int byDefault)
+{
+    registry.setValueKey(QString::fromLatin1(name));
+    registry.setValueType(RegistryType::Number);
+    if (number != byDefault)
+        registry.setValue(number);
+    else if (registry.Value().isValid())
+        registry.DeleteValue();
+}
+
+QuizOptions readOptions(clsRegistry &registry)
+{
+    QuizOptions options;
+    options.mostWords = storedNumber(registry, MostWordsName, options.mostWords);
+    for (const Switch &each : Switches) {
+        bool &on = each.value(options);
+        const int stored = storedNumber(registry, each.name, on);
+        on = stored == 0 || stored == 1 ? stored == 1 : on;
+    }
+    return options;
+}
+
+void saveOptions(clsRegistry &registry, QuizOptions options)
+{
+    QuizOptions byDefault;
+    storeNumber(registry, MostWordsName, options.mostWords, byDefault.mostWords);
+    for (const Switch &each : Switches)
+        storeNumber(registry, each.name, each.value(options), each.value(byDefault));
+}
+
 } // namespace
 
 clsAppProperties::clsAppProperties(RegistryStore &store, const QString &programPath)
@@ -47,6 +105,13 @@ void clsAppProperties::setQuizMode(int mode)
     m_values.QuizMode = QuizModes::exists(mode) ? qint16(mode) : SettingsRecord().QuizMode;
 }
 
+void clsAppProperties::setQuizOptions(const QuizOptions &options)
+{
+    m_quizOptions = options;
+    if (options.mostWords < 0 || options.mostWords > QuizOptions::MostWords)
+        m_quizOptions.mostWords = 0;
+}
+
 void clsAppProperties::setFrom(const SettingsRecord &record)
 {
     m_values = record;
@@ -61,6 +126,7 @@ void clsAppProperties::ReadProperties()
     m_firstRun = !registry.KeyExists();
     m_values = SettingsRecord();
     m_fontName = defaultFontName();
+    m_quizOptions = {};
     if (m_firstRun) {
         registry.CreateEXEAssociation(m_programPath, QStringLiteral("Glosaria.Document"),
                                       QStringLiteral("Glosaria Document"), QStringLiteral("gla"), 1);
@@ -73,6 +139,7 @@ void clsAppProperties::ReadProperties()
         setFrom(SettingsRecord::fromBytes(record.toByteArray()));
     registry.setValueKey(QStringLiteral("FontName"));
     setFontName(registry.Value().toString());
+    setQuizOptions(readOptions(registry));
 }
 
 void clsAppProperties::SaveProperties() const
@@ -86,4 +153,5 @@ void clsAppProperties::SaveProperties() const
     registry.setValueKey(QStringLiteral("FontName"));
     registry.setValueType(RegistryType::String);
     registry.setValue(m_fontName);
+    saveOptions(registry, m_quizOptions);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "services/rules/QuizOptions.h"
 #include "services/settings/SettingsRecord.h"
 
 #include <QString>
@@ -55,6 +56,10 @@ public:
     bool ErrorBeep() const { return m_values.ErrorBeep; }
     void setErrorBeep(bool beep) { m_values.ErrorBeep = beep; }
 
+    const QuizOptions &quizOptions() const { return m_quizOptions; }
+    /// A number of words below 0 or above QuizOptions::MostWords is taken as 0.
+    void setQuizOptions(const QuizOptions &options);
+
     static constexpr int LargestFontSize = 2048;
 
     /// Takes the stored settings. Without any, which is a first run, it takes the defaults and registers the file type.
@@ -73,5 +78,6 @@ private:
     QString m_programPath;
     SettingsRecord m_values;
     QString m_fontName;
+    QuizOptions m_quizOptions;
     bool m_firstRun = false;
 };

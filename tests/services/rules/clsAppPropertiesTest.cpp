@@ -70,6 +70,36 @@ TEST(AppProperties, SavedSettingsComeBack)
     EXPECT_EQ(defaultOf(store, ".gla"), "none");
 }
 
+TEST(AppProperties, QuizOptionsAreStoredOneByOneOnceTheyDifferFromTheDefault)
+{
+    RegistryTree store;
+    const QuizOptions changed{.mostWords = 10,
+                              .tolerance = {.letterCase = true, .oneOfSeveral = true},
+                              .readAnswer = true,
+                              .rememberAnswers = false};
+    for (const QuizOptions &options : {QuizOptions(), changed, QuizOptions()}) {
+        clsAppProperties saved(store, Program);
+        saved.setQuizOptions(options);
+        saved.SaveProperties();
+        clsAppProperties read(store, Program);
+        read.ReadProperties();
+        EXPECT_EQ(read.quizOptions(), options);
+        EXPECT_EQ(store.value(HKEY_CURRENT_USER, Key, "QuizMostWords").has_value(), options.mostWords == 10);
+    }
+    const std::pair<RegistryValue, int> stored[] = {{{RegistryType::Number, 32767u}, 32767},
+                                                    {{RegistryType::Number, 32768u}, 0},
+                                                    {{RegistryType::Number, 0xffffffffu}, 0},
+                                                    {{RegistryType::String, QString("10")}, 0}};
+    for (const auto &[value, words] : stored) {
+        store.setValue(HKEY_CURRENT_USER, Key, "QuizMostWords", value);
+        store.setValue(HKEY_CURRENT_USER, Key, "QuizRememberAnswers", {RegistryType::Number, 7u});
+        clsAppProperties read(store, Program);
+        read.ReadProperties();
+        EXPECT_EQ(read.quizOptions().mostWords, words);
+        EXPECT_TRUE(read.quizOptions().rememberAnswers);
+    }
+}
+
 TEST(AppProperties, ValuesOutOfRangeAreRepaired)
 {
     const auto with = [](const QByteArray &record) {
