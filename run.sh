@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Builds the program as users get it and starts it on FILE, or on a sample vocabulary: ./run.sh [FILE]
+# Builds the program as users get it and starts it on FILE, or on a lesson: ./run.sh [FILE]
 # Without a display it is started on a virtual one, and a screenshot is left in the build folder.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 
-file=$(realpath -- "${1:-$here/samples/german-basics.gla}")
+file=$(realpath -- "${1:-$here/samples/german/01-greetings.gla}")
 [ -f "$file" ] || {
     echo "There is no file $file" >&2
     exit 1

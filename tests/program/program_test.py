@@ -8,7 +8,7 @@ class EndCase(ProgramCase):
     """The program is told to end from outside, by the signal that a system sends when it shuts down."""
 
     def test_dialogs_are_left_before_documents_close(self):
-        file = self.sample("german-basics.gla")
+        file = self.sample("german/06-family-and-people.gla")
         for dialog, key in {"Sort": "s", "Font": "f", "Languages": "l", "Set Row Height": "r"}.items():
             program = self.open(file)
             self.desktop.key("ctrl+n")
@@ -40,7 +40,7 @@ class HelpCase(ProgramCase):
         self.desktop.wait(lambda: not self.desktop.find("frame", topic + " - Glosaria Help"), "the help to close")
 
     def test_f1_explains_a_dialog_and_the_search_finds_other_topics(self):
-        self.open(self.sample("german-basics.gla"))
+        self.open(self.sample("german/06-family-and-people.gla"))
         self.open_dialog("Sort", "alt+v", "s")
         self.desktop.key("F1")
         viewer = self.help_on("Sort")

@@ -15,7 +15,7 @@ class SavingCase(ProgramCase):
 
     def setUp(self):
         super().setUp()
-        self.file = self.sample("german-basics.gla")
+        self.file = self.sample("german/06-family-and-people.gla")
         self.before = self.file.read_bytes()
         self.first = read_vocabulary(self.before)[0]
 

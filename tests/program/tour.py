@@ -10,6 +10,7 @@ import shutil
 from cases import SAMPLES, vocabulary
 
 MENUS = {"f": "File", "e": "Edit", "v": "Vocabulary", "m": "Mode", "q": "Quiz", "w": "Window", "h": "Help"}
+LESSON = "german/06-family-and-people.gla"
 LONG_PAIRS = (
     ("the insurance company for legal protection", "die Rechtsschutzversicherungsgesellschaft"),
     ("the captain of a Danube steamboat company", "der Donaudampfschifffahrtsgesellschaftskapitän"),
@@ -54,7 +55,7 @@ class Tour:
         self._visit("main new document")
 
     def leg_document(self):
-        self._start("german-basics.gla")
+        self._start(LESSON)
         self._visit("main document")
         for key, menu in MENUS.items():
             self._menu(key, f"main, {menu} menu")
@@ -72,8 +73,8 @@ class Tour:
         self._dialog("Save Glosaria Document", "save as", "alt+f", "a")
 
     def leg_documents(self):
-        self._start("german-basics.gla")
-        for name in ("japanese-basics.gla", "russian-basics.gla"):
+        self._start(LESSON)
+        for name in ("japanese/07-food-and-drink.gla", "russian/05-time-and-days.gla"):
             self._open(self._copy(name))
         self._visit("main, several documents")
         for key, arrangement in (("c", "cascaded"), ("h", "tiled horizontally"), ("v", "tiled vertically")):
@@ -85,11 +86,11 @@ class Tour:
         self._press("n")
         self._visit("main, a document minimized")
         self._press("alt+minus", "x")
-        self._expect("Glosaria - [russian-basics]")
+        self._expect("Glosaria - [05-time-and-days]")
         self._visit("main, a document maximized")
 
     def leg_tools(self):
-        self._start("german-basics.gla")
+        self._start(LESSON)
         self._press("ctrl+f")
         self._expect("Find")
         self._desktop.type("father")
@@ -141,17 +142,14 @@ class Tour:
         self._visit("dialog alert, newer file")
 
     def leg_quizzes(self):
-        file = self._home / "long words.gla"
-        file.write_bytes(vocabulary(LONG_PAIRS))
-        self._desktop.start("--no-splash", file)
-        self._desktop.wait_for("table")
+        self._start_on("long words.gla", LONG_PAIRS)
         answered = "Previous Word"
         self._quiz("p", "Practice", [("answer", "alt+k", LONG_PAIRS[0][1]), ("known", None, answered)], "alt+o")
         self._quiz("m", "Multiple Choice", [("chosen", "1", None), ("answered", "Return", answered)], "1", "Return")
         self._quiz("q", "Question and Answer", [("hint", "alt+h", None), ("answered", "Return", answered)], "Return")
 
     def leg_printing(self):
-        self._start("german-basics.gla")
+        self._start_on("long list.gla", [(f"word {number}", f"Wort {number}") for number in range(351)])
         self._dialog("Print", "print", "ctrl+p")
         self._dialog("Page Setup", "page setup", "alt+f", "u")
         self._press("alt+f", "v")
@@ -165,7 +163,7 @@ class Tour:
         self._menu("f", "main, File menu of the preview")
 
     def leg_recovery(self):
-        program = self._start("german-basics.gla")
+        program = self._start(LESSON)
         self._desktop.type("changed")
         self._press("Return")
         state = self._home / "state"
@@ -179,7 +177,7 @@ class Tour:
         self._visit("dialog alert, discard")
 
     def leg_help(self):
-        self._start("german-basics.gla")
+        self._start(LESSON)
         self._press("alt+h", "h")
         self._expect("Welcome to Glosaria - Glosaria Help")
         self._visit("dialog help, contents")
@@ -207,6 +205,12 @@ class Tour:
         if samples:
             self._desktop.wait_for("table")
         return program
+
+    def _start_on(self, name, pairs):
+        file = self._home / name
+        file.write_bytes(vocabulary(pairs))
+        self._desktop.start("--no-splash", file)
+        self._desktop.wait_for("table")
 
     def _open(self, file):
         """Hands a file to the program that runs."""

@@ -6,22 +6,16 @@ using VocabularyCodec::Outcome;
 
 struct VocabularyFileTest : ::testing::Test
 {
-    static Outcome load(const QString &from, Vocabulary &vocabulary)
+    Outcome load() const
     {
-        VocabularyFile file(from);
+        VocabularyFile file(path);
         const VocabularyCodec::Header header = file.readHeader();
-        if (header.outcome != Outcome::Ok)
-            return header.outcome;
-        VocabularyCodec::DecodeResult result = file.read(CodePage());
-        vocabulary = std::move(result.vocabulary);
-        return result.outcome;
+        return header.outcome == Outcome::Ok ? file.read(CodePage()).outcome : header.outcome;
     }
-    Outcome load() { return load(path, vocabulary); }
     bool save() const { return VocabularyFile(path).save(Vocabulary(), CodePage()); }
 
     QTemporaryDir folder;
     const QString path = folder.filePath("words.gla");
-    Vocabulary vocabulary;
 };
 
 TEST(VocabularyFile, ItsTitleIsItsNameWithoutFolderAndExtension)
@@ -51,13 +45,42 @@ TEST_F(VocabularyFileTest, HugeFilesOfAnotherKindAreNotRead)
     EXPECT_EQ(load(), Outcome::BadFormat);
 }
 
-TEST_F(VocabularyFileTest, SamplesCanBeRead)
+struct LessonsTest : ::testing::Test
 {
-    const QDir samples(SOURCE_FOLDER "/samples");
-    EXPECT_FALSE(samples.isEmpty());
-    for (const QString &name : samples.entryList({"*.gla"})) {
-        EXPECT_EQ(load(samples.filePath(name), vocabulary), Outcome::Ok) << qPrintable(name);
-        EXPECT_TRUE(vocabulary.font && vocabulary.columnWidths) << qPrintable(name);
-        EXPECT_GT(vocabulary.rows(), 20) << qPrintable(name);
+    /// No cell is empty, has blanks that nobody sees or letters that no keyboard makes, or has its like in another row.
+    static void expectAskable(std::vector<QString> column)
+    {
+        for (const QString &cell : column) {
+            EXPECT_FALSE(cell.isEmpty());
+            EXPECT_EQ(cell, cell.simplified().normalized(QString::NormalizationForm_C)) << qPrintable(cell);
+        }
+        std::ranges::sort(column);
+        const auto twice = std::ranges::adjacent_find(column);
+        EXPECT_TRUE(twice == column.end()) << "two answers: " << qPrintable(*twice);
     }
+};
+
+TEST_F(LessonsTest, AreShortAskableAndAsTheProgramSavesThem)
+{
+    const QString root = SOURCE_FOLDER "/samples/";
+    const CodePage foreign("windows-874"); // holds none of their letters: they are the same for users of every locale
+    QDirIterator files(root, QDir::Files, QDirIterator::Subdirectories);
+    std::map<QString, int> ofLanguage;
+    while (files.hasNext()) {
+        const QString path = files.next();
+        const QString name = path.mid(root.size());
+        SCOPED_TRACE(qPrintable(name));
+        EXPECT_TRUE(QRegularExpression("^[a-z]+/[01][0-9](-[a-z]+)+\\.gla$").match(name).hasMatch());
+        ++ofLanguage[name.section('/', 0, 0)];
+        const QByteArray bytes = readFile(path);
+        const auto [outcome, older, lesson] = VocabularyCodec::decode(bytes, foreign);
+        ASSERT_EQ(outcome, Outcome::Ok);
+        EXPECT_EQ(VocabularyCodec::encode(lesson, foreign), bytes);
+        EXPECT_TRUE(lesson.rows() > 20 && lesson.rows() <= 41) << lesson.rows() - 1 << " words";
+        expectAskable(lesson.first);
+        expectAskable(lesson.second);
+    }
+    EXPECT_EQ(ofLanguage.size(), 6);
+    for (const auto &[language, lessons] : ofLanguage)
+        EXPECT_TRUE(lessons >= 8 && lessons <= 12) << qPrintable(language);
 }
