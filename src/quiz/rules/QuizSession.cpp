@@ -59,6 +59,8 @@ QuizSession::QuizSession(QuizKind kind, clsAppProperties &settings, QObject *par
 
 bool QuizSession::fByggMatriser(const WordSource &words, RandomSource &random)
 {
+    if (m_kind == QuizKind::QuestionAndAnswer)
+        m_judge.prepare(m_settings.quizOptions().tolerance);
     return m_table.fByggMatriser(m_kind, m_settings.QuizMode(), words, random);
 }
 
@@ -224,7 +226,8 @@ QuizSession::Verdict QuizSession::judgeText(bool hintUsed)
     m_givenAnswer = std::exchange(m_answerText, QString());
     if (m_givenAnswer == resText(PromptId))
         m_givenAnswer.clear();
-    const bool isCorrect = composed(m_givenAnswer) == composed(question().correctAnswer());
+    m_judgement = m_judge.judge(m_givenAnswer, question().correctAnswer(), m_settings.quizOptions().tolerance);
+    const bool isCorrect = m_judgement.verdict != Judgement::Verdict::Wrong;
     return isCorrect && !(hintUsed && hintIsError()) ? Verdict::Correct : Verdict::Wrong;
 }
 

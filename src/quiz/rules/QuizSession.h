@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quiz/rules/AnswerJudge.h"
 #include "quiz/rules/QuestionTable.h"
 
 #include <QObject>
@@ -43,6 +44,8 @@ public:
     int errorCount() const { return int(m_errors.size()); }
     /// The answer last judged.
     const QString &givenAnswer() const { return m_givenAnswer; }
+    /// What that answer was worth, as far as its text goes; plainly right where nothing was typed.
+    const Judgement &judgement() const { return m_judgement; }
     /// The text typed, or spelled out so far in Practice.
     const QString &answerText() const { return m_answerText; }
     /// The round has ended: what is left is to repeat the errors or to close.
@@ -138,6 +141,8 @@ private:
     bool m_done = false;
     QString m_answerText;
     QString m_givenAnswer;
+    AnswerJudge m_judge;
+    Judgement m_judgement;
     std::function<qint64()> m_clock;
     qint64 m_shownAt = 0; ///< milliseconds of the clock
     std::optional<Answer> m_open;
