@@ -1,4 +1,4 @@
-#include "platform/RegistryTree.h"
+#include "platform/registry/RegistryTree.h"
 #include "quiz/rules/QuizSession.h"
 #include "services/settings/clsAppProperties.h"
 #include "support/ListWords.h"
