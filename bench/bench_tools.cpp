@@ -17,6 +17,7 @@
 #include "tools/modSorting.h"
 #include "tools/rules/ReplaceAll.h"
 #include "tools/rules/SortFlag.h"
+#include "tools/rules/VocabularyCheck.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -186,10 +187,19 @@ void pasteInDocument(benchmark::State &state)
         text += words.TextMatrix(row, 1) + QLatin1Char('\t') + words.TextMatrix(row, 2) + QLatin1Char('\n');
     QGuiApplication::clipboard()->setText(text);
     SampleDocument sample(1);
-    EditCommands commands(sample.undo, *QGuiApplication::clipboard(), sample.status);
+    EditCommands commands(sample.undo, *QGuiApplication::clipboard());
     for (auto _ : state) {
         commands.Paste(sample.document);
         commands.Undo(sample.document);
+    }
+}
+
+void check(benchmark::State &state)
+{
+    const SampleCells cells(state.range(0));
+    for (auto _ : state) {
+        auto found = VocabularyCheck::findings(cells);
+        benchmark::DoNotOptimize(found);
     }
 }
 
@@ -204,3 +214,4 @@ BENCHMARK(bareReplaceAll)->Apply(SampleVocabulary::atAllSizes);
 BENCHMARK(sortInDocument)->Apply(SampleVocabulary::atAllSizes);
 BENCHMARK(replaceAllInDocument)->Apply(SampleVocabulary::atAllSizes);
 BENCHMARK(pasteInDocument)->Apply(SampleVocabulary::atAllSizes);
+BENCHMARK(check)->Apply(SampleVocabulary::atAllSizes);

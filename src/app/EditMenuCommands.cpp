@@ -1,6 +1,7 @@
 #include "app/AppCommands.h"
 #include "app/AppContext.h"
 #include "app/CommandTable.h"
+#include "app/DocumentDialogs.h"
 #include "app/frmApp.h"
 #include "document/DocumentList.h"
 #include "document/EditCommands.h"
@@ -37,48 +38,18 @@ void paste(const AppContext &context)
     context.alert.show(nullptr, {.prompt = resText(14077), .sound = true, .exclamation = true});
 }
 
-/// The dialog goes along to the document that becomes active, and closes when there is none left.
-void followActiveDocument(frmFindReplace &dialog, const DocumentList &documents)
-{
-    QObject::connect(&documents, &DocumentList::activeChanged, &dialog, [&dialog](frmDoc *active) {
-        if (active)
-            dialog.workOn(*active);
-        else
-            dialog.leaveDocument();
-    });
-    // Queued: the document behind a closed one becomes active afterwards.
-    QObject::connect(
-        &documents, &DocumentList::removed, &dialog,
-        [&dialog, &documents] {
-            if (!documents.active())
-                dialog.close();
-        },
-        Qt::QueuedConnection);
-}
-
 void openFindReplace(const AppContext &context, frmDoc &document, bool replace, Search &last)
 {
     context.status.ShowStatus(modSBFunc::DialogOpen);
     (replace ? context.flags.ReplaceMode : context.flags.FindMode) = true;
     const frmFindReplace::Needs needs{context.flags, context.undo, context.alert, last};
-    auto *dialog = new frmFindReplace(document, needs, &context.window);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    followActiveDocument(*dialog, context.documents);
-    QObject::connect(dialog, &QDialog::finished, &context.window,
-                     [&context] { context.status.ShowStatus(modSBFunc::Ready); });
-    dialog->show();
-}
-
-frmFindReplace *openDialog(const AppContext &context)
-{
-    auto *dialog = context.window.findChild<frmFindReplace *>();
-    return dialog && dialog->isVisible() ? dialog : nullptr;
+    DocumentDialogs::show(*new frmFindReplace(document, needs, &context.window), context);
 }
 
 void showFindReplace(const AppContext &context, bool replace, Search &last)
 {
     frmDoc *document = context.documents.active();
-    if (frmFindReplace *dialog = openDialog(context))
+    if (auto *dialog = DocumentDialogs::open<frmFindReplace>(context.window))
         dialog->showAgain(replace);
     else if (document)
         openFindReplace(context, *document, replace, last);
@@ -87,7 +58,7 @@ void showFindReplace(const AppContext &context, bool replace, Search &last)
 void findOn(const AppContext &context, bool backwards, Search &last)
 {
     frmDoc *document = context.documents.active();
-    if (frmFindReplace *dialog = openDialog(context))
+    if (auto *dialog = DocumentDialogs::open<frmFindReplace>(context.window))
         dialog->findOn(backwards);
     else if (last.FindWhat.isEmpty())
         showFindReplace(context, false, last);

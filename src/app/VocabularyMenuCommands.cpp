@@ -1,11 +1,13 @@
 #include "app/AppCommands.h"
 #include "app/AppContext.h"
 #include "app/CommandTable.h"
+#include "app/DocumentDialogs.h"
 #include "app/frmApp.h"
 #include "document/DocumentList.h"
 #include "quiz/frmLang.h"
 #include "resources/Pictures.h"
 #include "services/status/modSBFunc.h"
+#include "tools/frmCheck.h"
 #include "tools/frmColRow.h"
 #include "tools/frmFont.h"
 #include "tools/modSorting.h"
@@ -33,6 +35,18 @@ std::function<void()> withSizeDialog(const AppContext &context, frmColRow::Mode 
                       [&context, mode](frmDoc &document) { frmColRow(document, mode, &context.window).exec(); });
 }
 
+void showCheck(const AppContext &context)
+{
+    frmDoc *document = context.documents.active();
+    if (auto *dialog = DocumentDialogs::open<frmCheck>(context.window)) {
+        dialog->activateWindow();
+    } else if (document) {
+        document->endEdit();
+        context.status.ShowStatus(modSBFunc::DialogOpen);
+        DocumentDialogs::show(*new frmCheck(*document, {context.edit, context.undo}, &context.window), context);
+    }
+}
+
 } // namespace
 
 void AppCommands::addVocabularyCommands(CommandTable &table, const AppContext &context)
@@ -51,4 +65,5 @@ void AppCommands::addVocabularyCommands(CommandTable &table, const AppContext &c
         {"mnuVocabularySort", 438, "", 39, PictureSort, Document, withDialog(context, [&context](frmDoc &document) {
              modSorting::SortVocabulary(document, context.undo, QLocale(), &context.window);
          })});
+    table.add({"mnuVocabularyCheck", 14130, "", 14131, 0, Document, [&context] { showCheck(context); }});
 }

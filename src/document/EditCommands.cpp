@@ -172,6 +172,17 @@ void EditCommands::Delete(frmDoc &document)
     m_record.setKind(UndoKind::Delete, &document);
 }
 
+void EditCommands::enter(frmDoc &document, int row, int col, const QString &text)
+{
+    document.endEdit();
+    m_record.selection = {row, col, row, col};
+    m_record.entryText = document.Rutor()->TextMatrix(row, col);
+    document.Rutor()->setTextMatrix(row, col, text);
+    document.makeRoomFor(row, col);
+    document.setDirty(true);
+    m_record.setKind(UndoKind::Entry, &document);
+}
+
 void EditCommands::Undo(frmDoc &document)
 {
     if (m_record.belongsTo(&document) && !reverse(document))

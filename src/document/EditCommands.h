@@ -27,6 +27,8 @@ public:
     void Insert(frmDoc &document);
     /// Deletes the selected rows. When they are all rows, the last of them stays, emptied.
     void Delete(frmDoc &document);
+    /// Gives a cell another text, as one that is edited there.
+    void enter(frmDoc &document, int row, int col, const QString &text);
     /// Reverses what the record names, if it belongs to this document.
     void Undo(frmDoc &document);
 

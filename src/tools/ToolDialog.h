@@ -15,6 +15,12 @@ public:
 
     void setVisible(bool visible) override;
 
+    /// For dialogs that stay open beside the documents. Works on a document that has become the active one.
+    virtual void workOn(frmDoc &document) { setDocument(document); }
+    /// Leaves the document, which is about to close or has ceased to be the active one. Until workOn names another one,
+    /// the dialog can only be closed.
+    virtual void leaveDocument() {}
+
 protected:
     frmDoc &document() const { return *m_document; }
     void setDocument(frmDoc &document) { m_document = &document; }

@@ -38,11 +38,9 @@ public:
     void showAgain(bool replace);
     /// Shows the next or the previous match, as the dialog stands.
     void findOn(bool backwards);
-    /// Leaves the document, which is about to close or has ceased to be the active one, without an undo step. Until
-    /// workOn names another one, the dialog can only be closed.
-    void leaveDocument();
-    /// Works on a document that has become the active one.
-    void workOn(frmDoc &document);
+    /// No undo step is left.
+    void leaveDocument() override;
+    void workOn(frmDoc &document) override;
 
     /// Every way of closing the dialog ends here.
     void done(int result) override;
