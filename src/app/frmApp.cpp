@@ -6,6 +6,7 @@
 #include "app/AppToolbars.h"
 #include "app/DocumentArea.h"
 #include "app/MainHelp.h"
+#include "app/StartPage.h"
 #include "app/WindowPosition.h"
 #include "app/rules/RequestedFile.h"
 #include "document/DocumentList.h"
@@ -122,6 +123,7 @@ void frmApp::createParts(const Needs &needs)
 
     connect(documents, &DocumentList::aboutToCreate, this, [this] { m_print->preview().close(); });
     connect(documents, &DocumentList::created, this, &frmApp::placeDocument);
+    connect(documents, &DocumentList::created, this, &frmApp::updateStartPage);
     connect(documents, &DocumentList::activeChanged, this, &frmApp::updateState);
     connect(documents, &DocumentList::removed, this, &frmApp::onRemoved);
     connect(m_area, &QMdiArea::subWindowActivated, this, [documents](QMdiSubWindow *window) {
@@ -129,6 +131,22 @@ void frmApp::createParts(const Needs &needs)
     });
     connect(&needs.undo, &UndoRecord::kindChanged, this, &frmApp::onUndoKind);
     connectPreview();
+    createStartPage(needs.lessonFolder);
+}
+
+void frmApp::createStartPage(const QString &lessonFolder)
+{
+    const auto command = [this](const char *key) { return [this, key] { DoMenuClick(QLatin1String(key)); }; };
+    FileCommands &files = m_context->files;
+    m_startPage = new StartPage(*centralWidget(), *m_area,
+                                {command("mnuFileNew"), command("mnuFileOpen"),
+                                 [&files](const QString &path) { files.LoadVocabulary(path); },
+                                 [&files](const QString &path) { files.openCopy(path); }, m_recentFiles, lessonFolder});
+}
+
+void frmApp::updateStartPage()
+{
+    m_startPage->setVisible(m_context->documents.open().empty());
 }
 
 void frmApp::connectPreview()
@@ -220,6 +238,7 @@ void frmApp::onRemoved()
 {
     if (!m_context->documents.open().empty())
         return;
+    updateStartPage();
     SetCommandState(AppState::StateNoDocument);
     m_context->status.SBSetText(1, modSBFunc::SBT_SUNKEN, {});
     m_context->status.SBSetText(2, modSBFunc::SBT_SUNKEN, {});
@@ -264,6 +283,7 @@ void frmApp::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
     QTimer::singleShot(FrameDelay, this, [this] { m_position->makeRoomForFrame(); });
+    QTimer::singleShot(0, this, &frmApp::updateStartPage); // the window is not kept waiting for it
 }
 
 void frmApp::changeEvent(QEvent *event)

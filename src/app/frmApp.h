@@ -25,6 +25,7 @@ class PrintHost;
 class PrinterDevice;
 class QStackedWidget;
 class RegistryStore;
+class StartPage;
 class WindowPosition;
 class frmDoc;
 class modSBMenuHelp;
@@ -53,6 +54,7 @@ public:
         SoundPlayer &errorSound;
         HelpDisplay &help;
         const PasteGuard &pasteGuard;
+        QString lessonFolder; ///< with the vocabularies that come with the program
     };
 
     explicit frmApp(const Needs &needs);
@@ -105,6 +107,8 @@ protected:
 private:
     void createParts(const Needs &needs);
     QWidget *createCentre();
+    void createStartPage(const QString &lessonFolder);
+    void updateStartPage();
     void placeDocument(frmDoc *document);
     void onRemoved();
     void updateState();
@@ -129,4 +133,5 @@ private:
     modSBMenuHelp *m_menuHelp = nullptr;
     AppMenus *m_menus = nullptr;
     AppToolbars *m_toolbars = nullptr;
+    StartPage *m_startPage = nullptr;
 };

@@ -14,6 +14,7 @@
 #include "platform/FileAssociation.h"
 #include "platform/SignalWatcher.h"
 #include "platform/SoundPlayer.h"
+#include "platform/files/ProgramFiles.h"
 #include "platform/files/UserFolders.h"
 #include "platform/instance/InstancePlace.h"
 #include "platform/instance/SingleInstance.h"
@@ -235,7 +236,7 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     RecoveryKeeper keeper(program.codePage, recoveryFolder());
     frmApp window({program.flags, program.undo, program.settings, program.store, program.alert, program.prompts, keeper,
                    program.printer, program.dialogs, program.codePage, program.random, program.errorSound, program.help,
-                   pasteGuard});
+                   pasteGuard, ProgramFiles::path(QStringLiteral("samples"))});
     DialogHelp dialogHelp(program.help, program.alert, HelpTarget::ofProgram());
     program.alert.setMainWindow(&window);
     program.prompts.setOwner(&window);

@@ -226,13 +226,19 @@ void FileCommands::tell(Tone tone, const QString &prompt, int helpId)
 
 void FileCommands::LoadVocabulary(const QString &path)
 {
-    load(path);
+    load(path, OpenAs::File);
     m_needs.status.ShowStatus(modSBFunc::Ready);
 }
 
-void FileCommands::load(const QString &path)
+void FileCommands::openCopy(const QString &path)
 {
-    if (refuseOpenOne(path))
+    load(path, OpenAs::Copy);
+    m_needs.status.ShowStatus(modSBFunc::Ready);
+}
+
+void FileCommands::load(const QString &path, OpenAs how)
+{
+    if (how == OpenAs::File && refuseOpenOne(path))
         return;
     VocabularyFile file(path);
     const VocabularyCodec::Header header = file.readHeader();
@@ -242,10 +248,10 @@ void FileCommands::load(const QString &path)
         return tell(Tone::Plain, withTitle(722, path), NewerTopic);
     if (header.outcome == Outcome::Ok && header.olderVersion) {
         tell(Tone::Plain, withTitle(721, path), OlderTopic);
-        if (refuseOpenOne(path)) // handed over once more while the message was on the screen
+        if (how == OpenAs::File && refuseOpenOne(path)) // handed over once more while the message was on the screen
             return;
     }
-    const Outcome outcome = header.outcome == Outcome::Ok ? readInto(file, path) : header.outcome;
+    const Outcome outcome = header.outcome == Outcome::Ok ? readInto(file, path, how) : header.outcome;
     if (outcome == Outcome::TooManyRows)
         tell(Tone::Plain, resText(712) + path + resText(14075).arg(QLocale().toString(Vocabulary::MostRows)));
     else if (outcome != Outcome::Ok)
@@ -260,28 +266,38 @@ bool FileCommands::refuseOpenOne(const QString &path)
     return isOpen;
 }
 
-Outcome FileCommands::readInto(const VocabularyFile &file, const QString &path)
+Outcome FileCommands::readInto(const VocabularyFile &file, const QString &path, OpenAs how)
 {
     const BusyStatus busy(m_needs.status, 715, path, file.size() * 2);
     VocabularyCodec::DecodeResult result =
         file.read(m_codePage, [this](qint64 done) { m_needs.status.setProgress(done); });
-    if (result.outcome == Outcome::Ok)
-        openVocabulary(path, std::move(result.vocabulary), file.stamp());
+    if (result.outcome != Outcome::Ok)
+        return result.outcome;
+    frmDoc *document = createFilled(std::move(result.vocabulary), file.stamp());
+    if (how == OpenAs::File)
+        becomeFile(*document, path, file.stamp());
+    else
+        document->setCaption(m_needs.documents.nextUntitledCaption());
+    document->setDirty(false);
+    document->showDocument();
+    Q_EMIT opened(document);
     return result.outcome;
 }
 
-void FileCommands::openVocabulary(const QString &path, Vocabulary &&vocabulary, const FileStamp &stamp)
+frmDoc *FileCommands::createFilled(Vocabulary &&vocabulary, const FileStamp &stamp)
 {
     frmDoc *document = m_needs.documents.create();
     GridContent::fill(*document->Rutor(), std::move(vocabulary));
     m_needs.status.setProgress(stamp.size * 2);
-    document->setCaption(VocabularyFile::title(path));
-    document->setDirty(false);
-    document->setDocName(path);
-    document->fileStamp = stamp;
+    return document;
+}
+
+void FileCommands::becomeFile(frmDoc &document, const QString &path, const FileStamp &stamp)
+{
+    document.setCaption(VocabularyFile::title(path));
+    document.setDocName(path);
+    document.fileStamp = stamp;
     m_needs.recentFiles.AddFile(path);
-    document->showDocument();
-    Q_EMIT opened(document);
 }
 
 FileCommands::SaveReport FileCommands::SaveVocabulary(frmDoc &document, const QString &path)

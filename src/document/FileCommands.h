@@ -50,6 +50,9 @@ public:
     /// leaves no window.
     void LoadVocabulary(const QString &path);
 
+    /// The same, but what opens is a new document with the words of the file, which it knows nothing of.
+    void openCopy(const QString &path);
+
     /// What the user has to learn after a vocabulary was saved.
     struct SaveReport
     {
@@ -91,12 +94,14 @@ private:
     bool mayOverwrite(const frmDoc &document);
     QString pathOrAsk(const frmDoc &document);
     QString askPath(const frmDoc &document);
-    void load(const QString &path);
+    enum class OpenAs { File, Copy };
+    void load(const QString &path, OpenAs how);
     /// Tells the user when the file is open already; true then.
     bool refuseOpenOne(const QString &path);
     /// Reads the rows of a file and opens them, if they can be read.
-    VocabularyCodec::Outcome readInto(const VocabularyFile &file, const QString &path);
-    void openVocabulary(const QString &path, Vocabulary &&vocabulary, const FileStamp &stamp);
+    VocabularyCodec::Outcome readInto(const VocabularyFile &file, const QString &path, OpenAs how);
+    frmDoc *createFilled(Vocabulary &&vocabulary, const FileStamp &stamp);
+    void becomeFile(frmDoc &document, const QString &path, const FileStamp &stamp);
     enum class Tone { Plain, Warning };
     /// helpId is that of the page for the Help button; 0: there is none.
     void tell(Tone tone, const QString &prompt, int helpId = 0);

@@ -45,7 +45,8 @@ struct MainWindowFixture : ::testing::Test, DocumentCopies
     void SetUp() override
     {
         window = std::make_unique<frmApp>(frmApp::Needs{flags, undo, settings, store, alert, prompts, *this, printer,
-                                                        dialogs, codePage, random, silence, help, pasteGuard});
+                                                        dialogs, codePage, random, silence, help, pasteGuard,
+                                                        SOURCE_FOLDER "/samples"});
         window->show();
         QApplication::setActiveWindow(window.get());
     }
