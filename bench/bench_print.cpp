@@ -6,6 +6,7 @@
 #include "print/PaintedSurface.h"
 #include "print/printer/QtPrinter.h"
 #include "print/rules/PrintRun.h"
+#include "print/rules/modUtskrift.h"
 
 #include <QFile>
 #include <QImage>

@@ -29,13 +29,13 @@ const std::vector<Menu> &menus()
     static const std::vector<Menu> all{
         {QStringLiteral("mnuFile"), 400, 1030,
          keys("mnuFileNew mnuFileOpen mnuFileClose -mnuFile(3) mnuFileSave mnuFileSaveAs -mnuFile(8) mnuFilePageSetup "
-              "mnuFilePrintPreview mnuFilePrint")},
+              "mnuFilePrintPreview mnuFilePrint mnuFilePrintTest")},
         {QStringLiteral("mnuEdit"), 418, 1040,
          keys("mnuEditUndo -mnuEdit(1) mnuEditCut mnuEditCopy mnuEditPaste mnuEditClear -mnuEdit(5) mnuEditInsert "
               "mnuEditDelete -mnuEdit(5) mnuEditFind mnuEditReplace")},
         {QStringLiteral("mnuVocabulary"), 431, 1050,
          keys("mnuVocabularyLanguage -mnuToolbar(0) mnuVocabularyRowHeight mnuVocabularyColumnWidth "
-              "-mnuToolbar(3) mnuVocabularyFont mnuVocabularySort")},
+              "-mnuToolbar(3) mnuVocabularyFont mnuVocabularySort - mnuVocabularyCheck")},
         {QStringLiteral("mnuMode"), 439, 1060, keys("mnuMode1 mnuMode2 mnuMode3 mnuMode4 mnuMode5")},
         {QStringLiteral("mnuQuiz"), 445, 1070, keys("mnuQuizStudy mnuQuizMultiple mnuQuizQA")},
         {QStringLiteral("mnuWindow"), 449, 1080, keys("mnuWindow(0) mnuWindow(1) mnuWindow(2) mnuWindow(3)")},

@@ -16,6 +16,7 @@
 namespace {
 
 constexpr int PointsPerInch = 72;
+constexpr int LineWidth = 10;                ///< twips
 constexpr qreal PictureTwips = 1440 / 600.0; ///< size of a picture's pixel
 constexpr char16_t FirstPicture = 0x2000;    ///< no letter before it is drawn as a picture
 
@@ -76,7 +77,7 @@ void PaintedSurface::setFont(const PrintFont &font)
 
 void PaintedSurface::setForeColor(QRgb color)
 {
-    m_painter.setPen(QColor::fromRgb(color));
+    m_painter.setPen(QPen(QColor::fromRgb(color), LineWidth));
 }
 
 void PaintedSurface::drawText(int x, int y, const QString &text, bool rightToLeft)
@@ -88,6 +89,11 @@ void PaintedSurface::drawText(int x, int y, const QString &text, bool rightToLef
     m_painter.drawText(baseline, shown);
     if (m_painter.paintEngine()->type() == QPaintEngine::Pdf && mayHoldPictures(shown))
         drawPictures(baseline, shown, rightToLeft);
+}
+
+void PaintedSurface::drawLine(int x1, int y1, int x2, int y2)
+{
+    m_painter.drawLine(x1, y1, x2, y2);
 }
 
 /// A PDF file knows glyphs by their outlines only; those without any are put over the gaps that they left.

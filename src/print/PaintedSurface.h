@@ -16,6 +16,7 @@ public:
     void setFont(const PrintFont &font) override;
     void setForeColor(QRgb color) override;
     void drawText(int x, int y, const QString &text, bool rightToLeft) override;
+    void drawLine(int x1, int y1, int x2, int y2) override;
 
     /// The font for a painter or a measure whose unit is one twip.
     static QFont fontInTwips(const PrintFont &font);

@@ -27,9 +27,9 @@ PrintCommands::PrintCommands(PrinterDevice &printer, CommonDialogs &dialogs, Ale
 {
 }
 
-void PrintCommands::ShowPrintPreview(PrintSource document)
+void PrintCommands::ShowPrintPreview(const Printable &document)
 {
-    m_preview.open(std::move(document));
+    m_preview.open(document);
 }
 
 void PrintCommands::PageSetup()
@@ -46,19 +46,15 @@ void PrintCommands::PageSetup()
         m_preview.rebuild(0);
 }
 
-void PrintCommands::PrintDocument(PrintSource document)
-{
-    print(std::make_shared<const PrintSource>(std::move(document)));
-}
-
 void PrintCommands::printPreviewed()
 {
-    print(m_preview.document());
+    const Printable document = m_preview.document();
+    PrintDocument(document);
 }
 
-void PrintCommands::print(const std::shared_ptr<const PrintSource> &document)
+void PrintCommands::PrintDocument(const Printable &document)
 {
-    const std::optional<PageChoice> choice = choosePages(*document, countPages(document));
+    const std::optional<PageChoice> choice = choosePages(document, countPages(document));
     if (!choice)
         return;
     const int visiblePage = m_preview.visiblePage();
@@ -77,19 +73,19 @@ void PrintCommands::print(const std::shared_ptr<const PrintSource> &document)
         clsCommDlg::reportPrinterError(m_alertBox, m_host.window(), fault);
 }
 
-int PrintCommands::countPages(const std::shared_ptr<const PrintSource> &document)
+int PrintCommands::countPages(const Printable &document)
 {
     const BusyWindow busy(m_host.window());
-    const PrintLayout layout(document, m_printer);
-    m_printer.setDocName(layout.PageTitle());
-    return layout.pageCount();
+    const std::unique_ptr<const PageLayout> layout = document.layOut(m_printer);
+    m_printer.setDocName(layout->PageTitle());
+    return layout->pageCount();
 }
 
-std::optional<PageChoice> PrintCommands::choosePages(const PrintSource &document, int pageCount)
+std::optional<PageChoice> PrintCommands::choosePages(const Printable &document, int pageCount)
 {
     clsCommDlg dialog(m_dialogs, m_alertBox);
     dialog.Owner = m_host.window();
-    dialog.InitDir = document.Folder;
+    dialog.InitDir = document.folder();
     dialog.MinPage = 1;
     dialog.MaxPage = pageCount;
     dialog.flags = PrintFlags;

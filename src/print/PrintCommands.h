@@ -20,18 +20,17 @@ public:
     PrintPreview &preview() { return m_preview; }
 
     /// Opens the preview of a document.
-    void ShowPrintPreview(PrintSource document);
+    void ShowPrintPreview(const Printable &document);
     /// Shows the page setup; a preview that is open follows it.
     void PageSetup();
     /// Asks for pages and copies and prints them. The program answers while it prints. While the preview is open, its
     /// document is printed.
-    void PrintDocument(PrintSource document);
+    void PrintDocument(const Printable &document);
     void printPreviewed();
 
 private:
-    void print(const std::shared_ptr<const PrintSource> &document);
-    int countPages(const std::shared_ptr<const PrintSource> &document);
-    std::optional<PageChoice> choosePages(const PrintSource &document, int pageCount);
+    int countPages(const Printable &document);
+    std::optional<PageChoice> choosePages(const Printable &document, int pageCount);
     void printPages(PrintRun &run);
 
     PrinterDevice &m_printer;

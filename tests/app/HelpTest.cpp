@@ -70,6 +70,8 @@ TEST_F(HelpTest, EveryControlOfEveryDialogHasATopicATextANameAndAKey)
         {"mnuVocabularyRowHeight", 1200, "R"},
         {"mnuVocabularyColumnWidth", 1200, "C"},
         {"mnuVocabularySort", 1210, "12ADS"},
+        {"mnuVocabularyCheck", 3040, "LNTARC"},
+        {"mnuFilePrintTest", 3042, "SF12BOUNETAKPV"},
         {"mnuQuizStudy", 1220, "KOASCBR"},
         {"mnuQuizMultiple", 1230, "123ABR"},
         {"mnuQuizQA", 1240, "HTBR"},

@@ -84,3 +84,30 @@ TEST_F(PreviewCommandsTest, OpeningAFileAndLeavingTheProgramEndThePreview)
     EXPECT_FALSE(preview().isOpen());
     EXPECT_FALSE(window->isVisible());
 }
+
+TEST_F(PreviewCommandsTest, ATestIsPreviewedAndPrintedAsItWasChosen)
+{
+    ctlGrid &grid = *newDocument()->Rutor();
+    const auto press = [this](const QStringList &names) {
+        QTimer::singleShot(0, window.get(), [names] {
+            const QWidget *dialog = QApplication::activeModalWidget();
+            for (const QString &name : names)
+                dialog->findChild<QAbstractButton *>(name)->click();
+        });
+        window->DoMenuClick("mnuFilePrintTest");
+    };
+    press({});
+    EXPECT_EQ(alert.shown.size(), 1U) << "there are no words";
+    grid.setTextMatrix(1, 1, "a");
+    grid.setTextMatrix(1, 2, "b");
+    press({"optAsked1", "chkKey", "btnPreview"});
+    ASSERT_TRUE(preview().isOpen());
+    EXPECT_EQ(preview().pageWindow()->pageCount(), 1);
+    dialogs.pages = PrintChoice{1, 1, 1, false, false, false};
+    window->DoMenuClick("mnuFilePrint");
+    EXPECT_TRUE(printer.sheets.at(0).find("b") && !printer.sheets.at(0).find("a"));
+    window->DoMenuClick("Close");
+    press({"optCards", "btnPrint"});
+    ASSERT_EQ(printer.sheets.size(), 3U);
+    EXPECT_TRUE(printer.sheets[2].find("a")) << "the choice before is offered again";
+}

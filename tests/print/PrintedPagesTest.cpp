@@ -26,7 +26,7 @@ struct PrintedPages : ::testing::Test
     void print()
     {
         printer.printer().setOutputFileName(file);
-        PrintRun run(std::make_shared<PrintSource>(source), printer, {});
+        PrintRun run(source, printer, {});
         while (!run.finished())
             run.printSheet();
         run.end();
@@ -91,7 +91,7 @@ TEST_F(PrintedPages, ARunThatIsCancelledLeavesNoFile)
     source = sourceOf(120);
     printer.printer().setOutputFileName(file);
     {
-        PrintRun run(std::make_shared<PrintSource>(source), printer, {});
+        PrintRun run(source, printer, {});
         run.printSheet();
         EXPECT_TRUE(QFile::exists(file));
     }

@@ -1,6 +1,8 @@
 #!/usr/bin/env python3
 """A learner's evening with the program, with menus, keys and mouse: learner_test.py <program> [unittest arguments]."""
 
+import re
+
 from cases import ProgramCase, run
 
 WORDS = [("house", "casa"), ("tree", "árbol"), ("dog", "perro"), ("cat", "gato"), ("bread", "pan")]
@@ -165,6 +167,49 @@ class LearnerCase(ProgramCase):
         self.desktop.wait_for(name="Page 1 of 1")
         self.desktop.key("Escape")
         self.desktop.wait_for("frame", "holiday")
+
+
+class TeacherCase(ProgramCase):
+    """From the start page to paper."""
+
+    def test_a_list_is_checked_and_printed_as_test_and_as_cards(self):
+        self.desktop.start("--no-splash")
+        self.desktop.click_on(self.desktop.wait_for("link", "New vocabulary"))
+        self.desktop.wait_for("frame", "Untitled 1")
+        for first, second in [*WORDS, ("dog ", "perro"), ("рaк", "x")]:
+            self.desktop.type(f"{first}\r{second}\r")
+        self.open_dialog("Check", "alt+v", "k")
+        self.desktop.wait_for("list item", "Row 6: the same pair stands in row 3: dog  - perro")
+        self.desktop.key("alt+r")
+        self.desktop.wait_for("list item", "Row 6: letters of two scripts in the word 'рaк': a")
+        self.close_dialog("Check", "Escape")
+        self.expect_column(0, [first for first, _ in WORDS] + ["рaк", ""])
+        self.print_test("alt+s", "alt+1")
+        pages = self.printed("test")
+        self.assertEqual(len(pages), 2, "a sheet and its key")
+        self.assertFalse(pages[0].keys() & ANSWERS.values())
+        self.assertTrue(pages[1].keys() >= ANSWERS.keys() | ANSWERS.values())
+        self.print_test("alt+f")
+        (fronts, backs) = self.printed("flash cards")
+        for first, second in WORDS:
+            front, back = fronts[first], backs[second]
+            self.assertAlmostEqual(front[0] + back[0], 595, delta=1)
+            self.assertAlmostEqual(front[1], back[1], delta=1)
+
+    def print_test(self, *keys):
+        self.open_dialog("Print Test", "alt+f", "t")
+        self.desktop.key(*keys, "Return")
+        self.expect_active(name="Print")
+        self.close_dialog("Print", "Return")
+
+    def printed(self, kind):
+        """The middle of every word on each page, in points."""
+        pdf = self.home / f"Glosaria - Untitled 1 - {kind}.pdf"
+        self.desktop.wait(pdf.exists, "the PDF file")
+        pages = self.desktop.tool("pdftotext", "-bbox", pdf, "-").split("<page ")[1:]
+        word = re.compile(r'<word xMin="(.*)" yMin="(.*)" xMax="(.*)" yMax="(.*)">(.*)</word>')
+        return [{text: ((float(left) + float(right)) / 2, (float(top) + float(bottom)) / 2)
+                 for left, top, right, bottom, text in word.findall(page)} for page in pages]
 
 
 if __name__ == "__main__":

@@ -17,6 +17,7 @@ struct DrawnText
 struct RecordingSurface : PrintSurface
 {
     std::vector<DrawnText> texts;
+    std::vector<QLine> lines;
 
     void setFont(const PrintFont &font) override { m_font = font; }
     void setForeColor(QRgb color) override { m_color = color; }
@@ -24,6 +25,7 @@ struct RecordingSurface : PrintSurface
     {
         texts.push_back({x, y, text, m_font, m_color, rightToLeft});
     }
+    void drawLine(int x1, int y1, int x2, int y2) override { lines.emplace_back(x1, y1, x2, y2); }
     const DrawnText *find(const QString &text) const
     {
         const auto is = [&text](const DrawnText &drawn) { return drawn.text == text; };
@@ -41,6 +43,7 @@ struct RecordingPrinter : PrinterDevice
 {
     std::vector<RecordingSurface> sheets;
     QSize size{11900, 16840};
+    bool shortEdge = false;
     int failingSheet = 0; ///< from 1
     bool reverse = false;
     QList<int> wanted; ///< empty: every page
@@ -52,6 +55,7 @@ struct RecordingPrinter : PrinterDevice
     int Width() const override { return size.width(); }
     int Height() const override { return size.height(); }
     int ScaleHeight() const override { return size.height(); }
+    bool turnsOverShortEdge() const override { return shortEdge; }
     std::unique_ptr<TextMeasure> measure(const PrintFont &) const override
     {
         struct FixedMeasure : TextMeasure
@@ -64,6 +68,7 @@ struct RecordingPrinter : PrinterDevice
     void setFont(const PrintFont &font) override { sheets.back().setFont(font); }
     void setForeColor(QRgb color) override { sheets.back().setForeColor(color); }
     void drawText(int x, int y, const QString &text, bool rtl) override { sheets.back().drawText(x, y, text, rtl); }
+    void drawLine(int x1, int y1, int x2, int y2) override { sheets.back().drawLine(x1, y1, x2, y2); }
     void setDocName(const QString &name) override { docName = name; }
     void startPage() override
     {

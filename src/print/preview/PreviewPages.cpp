@@ -24,7 +24,7 @@ PreviewPages::~PreviewPages()
     delete m_number;
 }
 
-frmPrtPrev *PreviewPages::build(std::shared_ptr<const PrintLayout> layout, int page)
+frmPrtPrev *PreviewPages::build(std::shared_ptr<const PageLayout> layout, int page)
 {
     closeAll();
     m_window = new frmPrtPrev(std::move(layout), m_host.clientArea());

@@ -19,7 +19,7 @@ public:
 
     /// Makes the window for the pages of a layout and shows one of them (from 0), or the last if there are no more as
     /// many. The window before it is gone then.
-    frmPrtPrev *build(std::shared_ptr<const PrintLayout> layout, int page);
+    frmPrtPrev *build(std::shared_ptr<const PageLayout> layout, int page);
     void closeAll();
     int count() const { return m_window ? m_window->pageCount() : 0; }
 

@@ -3,7 +3,6 @@
 #include "platform/Twips.h"
 #include "print/BusyWindow.h"
 #include "print/PrintHost.h"
-#include "print/rules/modUtskrift.h"
 
 #include <QKeyEvent>
 
@@ -31,11 +30,11 @@ PrintPreview::PrintPreview(const PrinterMetrics &printer, PrintHost &host, QObje
 
 PrintPreview::~PrintPreview() = default;
 
-void PrintPreview::open(PrintSource document)
+void PrintPreview::open(const Printable &document)
 {
     const BusyWindow busy(m_host.window());
     m_host.enterPreview();
-    m_document = std::make_shared<const PrintSource>(std::move(document));
+    m_document = document;
     m_zoomDivisor = ThirdSize;
     m_host.clientArea()->installEventFilter(this);
     build(0);
@@ -60,8 +59,7 @@ void PrintPreview::rebuild(int page)
 void PrintPreview::build(int page)
 {
     m_pages.closeAll();
-    auto layout = std::make_shared<const PrintLayout>(m_document, m_printer, m_zoomDivisor);
-    frmPrtPrev *window = m_pages.build(std::move(layout), page);
+    frmPrtPrev *window = m_pages.build(m_document->layOut(m_printer, m_zoomDivisor), page);
     connect(window, &frmPrtPrev::zoomInRequested, this, [this] { zoom(m_zoomDivisor - 1); });
     connect(window, &frmPrtPrev::zoomOutRequested, this, [this] { zoom(m_zoomDivisor + 1); });
     connect(window, &frmPrtPrev::keyReleased, this, &PrintPreview::Form_KeyUp);

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "print/preview/PreviewPages.h"
+#include "print/rules/Printable.h"
 
 #include <QObject>
 
-#include <memory>
+#include <optional>
 
 class PrinterMetrics;
-struct PrintSource;
 
 /// The print preview: shows the pages of a document one at a time in the main window's client area, turns, zooms and
 /// scrolls them.
@@ -23,12 +23,12 @@ public:
     PrintPreview(const PrinterMetrics &printer, PrintHost &host, QObject *parent = nullptr);
     ~PrintPreview() override;
 
-    bool isOpen() const { return m_document != nullptr; }
-    /// The document shown. Whoever prints it shares it: the preview may close while the print dialog is open.
-    std::shared_ptr<const PrintSource> document() const { return m_document; }
+    bool isOpen() const { return m_document.has_value(); }
+    /// The document shown. Whoever prints it takes a copy: the preview may close while the print dialog is open.
+    const Printable &document() const { return *m_document; }
 
     /// Shows the first page at one third of its size.
-    void open(PrintSource document);
+    void open(const Printable &document);
     /// Gives the client area back to the documents. Nothing happens when the preview is not open.
     void close();
 
@@ -69,7 +69,7 @@ private:
     const PrinterMetrics &m_printer;
     PrintHost &m_host;
     PreviewPages m_pages;
-    std::shared_ptr<const PrintSource> m_document;
+    std::optional<Printable> m_document;
     double m_zoomDivisor = 3.0;
     int m_wheelTurned = 0; ///< pixels since the wheel turned a page
 };

@@ -2,7 +2,7 @@
 
 #include "platform/Twips.h"
 #include "print/PaintedSurface.h"
-#include "print/rules/modUtskrift.h"
+#include "print/rules/PageLayout.h"
 #include "resources/StringTable.h"
 #include "services/FormTexts.h"
 
@@ -23,7 +23,7 @@ bool actsOnRelease(int key)
 
 } // namespace
 
-frmPrtPrev::frmPrtPrev(std::shared_ptr<const PrintLayout> layout, QWidget *parent)
+frmPrtPrev::frmPrtPrev(std::shared_ptr<const PageLayout> layout, QWidget *parent)
     : QWidget(parent)
     , m_layout(std::move(layout))
 {

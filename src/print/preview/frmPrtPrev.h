@@ -4,7 +4,7 @@
 
 #include <memory>
 
-class PrintLayout;
+class PageLayout;
 
 /// A page of the preview on the screen, drawn from its layout when it is looked at. It knows nothing of the other
 /// pages: what the user does with it goes up as signals.
@@ -13,7 +13,7 @@ class frmPrtPrev : public QWidget
     Q_OBJECT
 
 public:
-    frmPrtPrev(std::shared_ptr<const PrintLayout> layout, QWidget *parent);
+    frmPrtPrev(std::shared_ptr<const PageLayout> layout, QWidget *parent);
     ~frmPrtPrev() override;
 
     /// The page shown, from 0.
@@ -39,6 +39,6 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
-    std::shared_ptr<const PrintLayout> m_layout;
+    std::shared_ptr<const PageLayout> m_layout;
     int m_page = 0;
 };

@@ -173,6 +173,16 @@ void QtPrinter::setForeColor(QRgb color)
     m_job->surface().setForeColor(color);
 }
 
+bool QtPrinter::turnsOverShortEdge() const
+{
+    return printer().duplex() == QPrinter::DuplexShortSide;
+}
+
+void QtPrinter::drawLine(int x1, int y1, int x2, int y2)
+{
+    m_job->surface().drawLine(x1, y1, x2, y2);
+}
+
 void QtPrinter::drawText(int x, int y, const QString &text, bool rightToLeft)
 {
     m_job->surface().drawText(x, y, text, rightToLeft);

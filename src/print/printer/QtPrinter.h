@@ -35,10 +35,12 @@ public:
     int Height() const override;
     int ScaleHeight() const override;
     std::unique_ptr<TextMeasure> measure(const PrintFont &font) const override;
+    bool turnsOverShortEdge() const override;
 
     void setFont(const PrintFont &font) override;
     void setForeColor(QRgb color) override;
     void drawText(int x, int y, const QString &text, bool rightToLeft) override;
+    void drawLine(int x1, int y1, int x2, int y2) override;
 
     void setDocName(const QString &name) override;
     void startPage() override;

@@ -5,14 +5,14 @@
 
 #include <algorithm>
 
-PrintRun::PrintRun(std::shared_ptr<const PrintSource> document, PrinterDevice &printer, const PageChoice &choice)
-    : m_layout(std::move(document), printer)
+PrintRun::PrintRun(const Printable &document, PrinterDevice &printer, const PageChoice &choice)
+    : m_layout(document.layOut(printer))
     , m_printer(printer)
     , m_choice(choice)
 {
     choosePages();
     if (m_pages.empty())
-        throw PrinterError(resText(14091).arg(m_layout.pageCount()));
+        throw PrinterError(resText(14091).arg(m_layout->pageCount()));
 }
 
 PrintRun::~PrintRun()
@@ -28,7 +28,7 @@ bool PrintRun::PrintToPrinter(int page) const
 
 void PrintRun::choosePages()
 {
-    for (int page = 0; page < m_layout.pageCount(); ++page) {
+    for (int page = 0; page < m_layout->pageCount(); ++page) {
         if (PrintToPrinter(page + 1))
             m_pages.push_back(page);
     }
@@ -45,7 +45,7 @@ int PrintRun::page() const
 void PrintRun::printSheet()
 {
     m_printer.startPage();
-    m_layout.drawPage(page() - 1, m_printer);
+    m_layout->drawPage(page() - 1, m_printer);
     ++m_sheetsDone;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "print/rules/modUtskrift.h"
+#include "print/rules/Printable.h"
 
 class PrinterDevice;
 
@@ -18,7 +18,7 @@ class PrintRun
 {
 public:
     /// Throws PrinterError when the document has none of the chosen pages.
-    PrintRun(std::shared_ptr<const PrintSource> document, PrinterDevice &printer, const PageChoice &choice);
+    PrintRun(const Printable &document, PrinterDevice &printer, const PageChoice &choice);
     /// Throws away a job that was not ended.
     ~PrintRun();
     Q_DISABLE_COPY_MOVE(PrintRun)
@@ -37,7 +37,7 @@ private:
     bool PrintToPrinter(int page) const;
     void choosePages();
 
-    PrintLayout m_layout;
+    std::unique_ptr<const PageLayout> m_layout;
     PrinterDevice &m_printer;
     PageChoice m_choice;
     std::vector<int> m_pages; ///< from 0, in the order of one copy

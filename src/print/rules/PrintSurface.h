@@ -33,6 +33,8 @@ public:
     virtual int Height() const = 0;
     virtual int ScaleHeight() const = 0; ///< the height that can be drawn on
     virtual std::unique_ptr<TextMeasure> measure(const PrintFont &font) const = 0;
+    /// Whether sheets that are printed on both sides are turned over their short edge.
+    virtual bool turnsOverShortEdge() const { return false; }
 };
 
 /// What a page is drawn on. Coordinates are twips from its top left corner.
@@ -45,4 +47,6 @@ public:
     /// Draws one line of text that begins at x, its top at y. A line that reads from right to left begins at its right
     /// end; words of the other direction find their place in either.
     virtual void drawText(int x, int y, const QString &text, bool rightToLeft) = 0;
+    /// Draws a thin line.
+    virtual void drawLine(int x1, int y1, int x2, int y2) = 0;
 };

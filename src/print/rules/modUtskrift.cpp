@@ -1,12 +1,12 @@
 #include "print/rules/modUtskrift.h"
 
 #include "print/rules/LineBreaker.h"
+#include "print/rules/PagePen.h"
 #include "resources/StringTable.h"
 
 #include <QColor>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -50,7 +50,7 @@ public:
     Page(const PrintLayout &layout, int number, PrintSurface *PrintDevice)
         : m_layout(layout)
         , m_number(number)
-        , m_device(PrintDevice)
+        , m_pen(PrintDevice, layout.m_zoomDivisor)
     {
     }
 
@@ -63,13 +63,11 @@ private:
     void PrintWrapped(const QString &text, int left, int right);
     void printHeading(const QString &text, int left, int right);
     void printLine(const QString &line, const TextMeasure &measure, int left, int right, bool rightToLeft);
-    void draw(int x, int y, const QString &text, bool rightToLeft = false);
-    void setColor(QRgb color);
     void setBold(bool bold);
 
     const PrintLayout &m_layout;
     int m_number; ///< from 0
-    PrintSurface *m_device;
+    PagePen m_pen;
     int m_currentY = 0;
 };
 
@@ -90,11 +88,11 @@ bool PrintLayout::Page::layOut(int &row)
 void PrintLayout::Page::layOutRow(int row)
 {
     const int rowTop = m_currentY;
-    if (m_device) {
+    if (m_pen.draws()) {
         const QString number = QString::number(row);
-        setColor(Black);
-        draw(NumberRight - m_layout.m_measure->TextWidth(number), rowTop, number);
-        setColor(m_layout.m_textColor);
+        m_pen.setColor(Black);
+        m_pen.draw(NumberRight - m_layout.m_measure->TextWidth(number), rowTop, number);
+        m_pen.setColor(m_layout.m_textColor);
     }
     PrintWrapped(m_layout.m_document->first[size_t(row)], Column1Left, m_layout.m_column2Left);
     const int end1 = m_currentY;
@@ -108,37 +106,37 @@ void PrintLayout::Page::PrintPageHeader()
     const bool documentBold = m_layout.m_document->Font.Bold;
     m_currentY = HeaderTop;
     setBold(documentBold);
-    setColor(Black);
-    draw(NumberRight, m_currentY, m_layout.m_pageTitle);
+    m_pen.setColor(Black);
+    m_pen.draw(NumberRight, m_currentY, m_layout.m_pageTitle);
     m_currentY += m_layout.m_measure->TextHeight() + 2 * m_layout.m_lineHeight;
     setBold(true);
     printHeading(m_layout.m_heading1, Column1Left, m_layout.m_column2Left);
     printHeading(m_layout.m_heading2, m_layout.m_column2Left, m_layout.m_width);
     m_currentY += m_layout.m_boldMeasure->TextHeight() + m_layout.m_lineHeight;
     setBold(documentBold);
-    setColor(m_layout.m_textColor);
+    m_pen.setColor(m_layout.m_textColor);
 }
 
 void PrintLayout::Page::PrintPageFooter()
 {
-    draw(m_layout.m_width / 2, m_layout.m_height - FooterHeight, QString::number(m_number + 1));
+    m_pen.draw(m_layout.m_width / 2, m_layout.m_height - FooterHeight, QString::number(m_number + 1));
 }
 
 void PrintLayout::Page::printHeading(const QString &text, int left, int right)
 {
-    if (m_device)
+    if (m_pen.draws())
         printLine(text, *m_layout.m_boldMeasure, left, right, text.isRightToLeft());
 }
 
 void PrintLayout::Page::PrintWrapped(const QString &text, int left, int right)
 {
     const int width = right - m_layout.m_columnGap - left;
-    if (!m_device && m_layout.m_lineBreaker->surelyFits(text, width))
+    if (!m_pen.draws() && m_layout.m_lineBreaker->surelyFits(text, width))
         return;
     const QStringList lines = m_layout.m_lineBreaker->lines(text, width);
     const bool rightToLeft = text.isRightToLeft();
     for (const QString &line : lines) {
-        if (m_device)
+        if (m_pen.draws())
             printLine(line, *m_layout.m_measure, left, right, rightToLeft);
         m_currentY += m_layout.m_lineHeight;
     }
@@ -151,29 +149,14 @@ void PrintLayout::Page::printLine(const QString &line, const TextMeasure &measur
                                   bool rightToLeft)
 {
     const int end = std::max(right - m_layout.m_columnGap, left + measure.TextWidth(line));
-    draw(rightToLeft ? end : left, m_currentY, line, rightToLeft);
-}
-
-void PrintLayout::Page::draw(int x, int y, const QString &text, bool rightToLeft)
-{
-    if (m_device && !text.isEmpty())
-        m_device->drawText(m_layout.divided(x), m_layout.divided(y), text, rightToLeft);
-}
-
-void PrintLayout::Page::setColor(QRgb color)
-{
-    if (m_device)
-        m_device->setForeColor(color);
+    m_pen.draw(rightToLeft ? end : left, m_currentY, line, rightToLeft);
 }
 
 void PrintLayout::Page::setBold(bool bold)
 {
-    if (!m_device)
-        return;
     PrintFont font = m_layout.m_document->Font;
-    font.Size = std::max(1, int(font.Size / m_layout.m_zoomDivisor));
     font.Bold = bold;
-    m_device->setFont(font);
+    m_pen.setFont(font);
 }
 
 PrintLayout::PrintLayout(std::shared_ptr<const PrintSource> document, const PrinterMetrics &printer, double ZoomDivisor)
@@ -215,5 +198,5 @@ void PrintLayout::drawPage(int page, PrintSurface &PrintDevice) const
 
 int PrintLayout::divided(int twips) const
 {
-    return int(std::lround(twips / m_zoomDivisor));
+    return PagePen::divided(twips, m_zoomDivisor);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "print/rules/PageLayout.h"
 #include "print/rules/PrintSource.h"
 
 #include <memory>
@@ -10,26 +11,23 @@ class PrinterMetrics;
 /// A vocabulary laid out in pages, made for a printer's page and a zoom; it never changes. Everything is laid out in
 /// twips of the printed page with the printer's measures; only what is drawn is divided by ZoomDivisor. So a preview
 /// breaks lines and pages where the printer does, at every zoom.
-class PrintLayout
+class PrintLayout : public PageLayout
 {
 public:
     /// Lays the document out. The printer is not needed any more afterwards; ZoomDivisor is 1.0 for printing and at
     /// least 1.0 in the preview.
     PrintLayout(std::shared_ptr<const PrintSource> document, const PrinterMetrics &printer, double ZoomDivisor = 1.0);
-    ~PrintLayout();
+    ~PrintLayout() override;
     Q_DISABLE_COPY_MOVE(PrintLayout)
 
-    const QString &PageTitle() const { return m_pageTitle; }
+    const QString &PageTitle() const override { return m_pageTitle; }
     /// The number of pages minus 1.
     int PageIndex() const { return pageCount() - 1; }
-    int pageCount() const { return int(m_pageStarts.size()); }
+    int pageCount() const override { return int(m_pageStarts.size()); }
 
-    /// The size of a drawn page in twips.
-    int pageWidth() const { return divided(m_width); }
-    int pageHeight() const { return divided(m_height); }
-
-    /// Draws a page (from 0).
-    void drawPage(int page, PrintSurface &PrintDevice) const;
+    int pageWidth() const override { return divided(m_width); }
+    int pageHeight() const override { return divided(m_height); }
+    void drawPage(int page, PrintSurface &PrintDevice) const override;
 
 private:
     class Page;

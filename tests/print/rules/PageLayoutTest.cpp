@@ -1,4 +1,5 @@
 #include "print/rules/PrintRun.h"
+#include "print/rules/modUtskrift.h"
 #include "support/RecordingPrinter.h"
 
 namespace {
@@ -183,7 +184,7 @@ TEST_F(PageLayout, ARunPrintsTheChosenPagesAsOneJob)
         printer.reverse = reverse;
         std::vector<int> told;
         try {
-            PrintRun run(std::make_shared<PrintSource>(source), printer, choice);
+            PrintRun run(source, printer, choice);
             for (; !run.finished(); run.printSheet())
                 told.push_back(run.page());
             run.end();
