@@ -1,6 +1,7 @@
 #include "print/dialogs/PrintDialog.h"
 
 #include "print/printer/QtPrinter.h"
+#include "services/desktop/EnterKey.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -24,6 +25,7 @@ PrintDialog::PrintDialog(QPrinter &printer, const QtPrinter &present, const Prin
     if (const auto *properties = findChild<QPushButton *>(QStringLiteral("properties")))
         connect(properties, &QPushButton::clicked, this, [this] { m_seenProperties = true; });
     showOptions();
+    EnterKey::leaveToDialog(*this);
 }
 
 /// Pages and copies show at once, not only behind the dialog's own button.

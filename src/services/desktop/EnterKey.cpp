@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QKeyEvent>
 
@@ -39,5 +40,9 @@ void EnterKey::leaveToDialog(QDialog &dialog)
     for (auto *button : dialog.findChildren<QAbstractButton *>()) {
         if (button->isCheckable())
             button->installEventFilter(filter);
+    }
+    for (auto *list : dialog.findChildren<QComboBox *>()) {
+        if (!list->isEditable()) // the others leave Enter to the dialog
+            list->installEventFilter(filter);
     }
 }

@@ -5,8 +5,9 @@ class QDialog;
 /// What Enter does on the controls of a dialog.
 namespace EnterKey {
 
-/// Lets Enter on the dialog's option buttons and check boxes press its default button on every desktop; some would have
-/// it choose the option. Filters that are installed on these controls later go first.
+/// Lets Enter on the dialog's option buttons, check boxes and drop-down lists press its default button on every
+/// desktop; some would have it choose the option or open the list. Filters that are installed on these controls later
+/// go first.
 void leaveToDialog(QDialog &dialog);
 
 } // namespace EnterKey
