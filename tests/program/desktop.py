@@ -249,6 +249,9 @@ class Desktop:
         holders = [item for item in self.find_all() if item.getState().contains(self._atspi.STATE_FOCUSED)]
         return holders[-1] if holders else None
 
+    def is_checked(self, item):
+        return item.getState().contains(self._atspi.STATE_CHECKED)
+
     def is_active(self, window):
         return bool(window) and window.getState().contains(self._atspi.STATE_ACTIVE)
 

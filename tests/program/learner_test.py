@@ -184,21 +184,24 @@ class TeacherCase(ProgramCase):
         self.desktop.wait_for("list item", "Row 6: letters of two scripts in the word 'рaк': a")
         self.close_dialog("Check", "Escape")
         self.expect_column(0, [first for first, _ in WORDS] + ["рaк", ""])
-        self.print_test("alt+s", "alt+1")
+        self.print_test("Test sheet", "alt+s")
         pages = self.printed("test")
         self.assertEqual(len(pages), 2, "a sheet and its key")
         self.assertFalse(pages[0].keys() & ANSWERS.values())
         self.assertTrue(pages[1].keys() >= ANSWERS.keys() | ANSWERS.values())
-        self.print_test("alt+f")
+        self.print_test("Flash cards", "alt+f")
         (fronts, backs) = self.printed("flash cards")
         for first, second in WORDS:
             front, back = fronts[first], backs[second]
             self.assertAlmostEqual(front[0] + back[0], 595, delta=1)
             self.assertAlmostEqual(front[1], back[1], delta=1)
 
-    def print_test(self, *keys):
+    def print_test(self, kind, key):
         self.open_dialog("Print Test", "alt+f", "t")
-        self.desktop.key(*keys, "Return")
+        self.desktop.key(key)
+        option = self.desktop.wait_for("radio button", kind)
+        self.desktop.wait(lambda: self.desktop.is_checked(option), f"the choice of {kind}")
+        self.desktop.key("Return")
         self.expect_active(name="Print")
         self.close_dialog("Print", "Return")
 
