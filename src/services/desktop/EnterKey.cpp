@@ -17,9 +17,10 @@ public:
     {
     }
 
-    bool eventFilter(QObject *, QEvent *event) override
+    bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (event->type() != QEvent::KeyPress)
+        const auto *list = qobject_cast<QComboBox *>(watched);
+        if (event->type() != QEvent::KeyPress || (list && list->isEditable())) // that leaves Enter to the dialog
             return false;
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key != Qt::Key_Return && key != Qt::Key_Enter)
@@ -41,8 +42,6 @@ void EnterKey::leaveToDialog(QDialog &dialog)
         if (button->isCheckable())
             button->installEventFilter(filter);
     }
-    for (auto *list : dialog.findChildren<QComboBox *>()) {
-        if (!list->isEditable()) // the others leave Enter to the dialog
-            list->installEventFilter(filter);
-    }
+    for (auto *list : dialog.findChildren<QComboBox *>())
+        list->installEventFilter(filter);
 }
