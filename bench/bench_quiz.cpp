@@ -24,13 +24,26 @@ private:
     Vocabulary m_vocabulary;
 };
 
+std::vector<bool> spread(int rows, qint64 count)
+{
+    std::vector<bool> chosen(static_cast<size_t>(rows));
+    for (qint64 i = 0; i < count; ++i)
+        chosen[size_t(1 + i * (rows - 1) / count)] = true;
+    return chosen;
+}
+
+/// Arguments: the words of the list, and how many of them are asked, spread over it.
 void setUp(benchmark::State &state, int mode)
 {
     const SampleWords words(state.range(0));
     SeededRandom random(1);
+    const std::vector<bool> chosen = spread(words.Rows(), state.range(1));
+    AskedRows rows;
+    if (state.range(1) < state.range(0))
+        rows.asks = [&chosen](int row) { return bool(chosen[size_t(row)]); };
     for (auto _ : state) {
         QuestionTable table;
-        if (!table.fByggMatriser(QuizKind::MultipleChoice, mode, words, random))
+        if (!table.fByggMatriser(QuizKind::MultipleChoice, mode, words, random, rows))
             state.SkipWithError("no quiz");
         benchmark::DoNotOptimize(table);
     }
@@ -38,6 +51,18 @@ void setUp(benchmark::State &state, int mode)
 
 } // namespace
 
-BENCHMARK_CAPTURE(setUp, inOrder, 1)->Arg(1000)->Arg(QuestionTable::MostQuestions)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(setUp, randomly, 3)->Arg(1000)->Arg(QuestionTable::MostQuestions)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(setUp, bothWays, 5)->Arg(1000)->Arg(QuestionTable::MostQuestions / 2)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(setUp, inOrder, 1)
+    ->Args({1000, 1000})
+    ->Args({QuestionTable::MostQuestions, QuestionTable::MostQuestions})
+    ->Args({QuestionTable::MostQuestions, 5000})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(setUp, randomly, 3)
+    ->Args({1000, 1000})
+    ->Args({QuestionTable::MostQuestions, QuestionTable::MostQuestions})
+    ->Args({QuestionTable::MostQuestions, 5000})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(setUp, bothWays, 5)
+    ->Args({1000, 1000})
+    ->Args({QuestionTable::MostQuestions / 2, QuestionTable::MostQuestions / 2})
+    ->Args({QuestionTable::MostQuestions, 5000})
+    ->Unit(benchmark::kMillisecond);

@@ -22,8 +22,13 @@ public:
     const QString &correctAnswer() const { return field(correctPosition()); }
     const QString &askedWord() const { return field(7); }
 
+    /// The column of the vocabulary that the answer was taken from, 1 or 2.
+    int answerColumn() const { return m_answerColumn; }
+    void setAnswerColumn(int column) { m_answerColumn = column; }
+
     bool operator==(const Question &) const = default;
 
 private:
     std::array<QString, 7> m_fields;
+    int m_answerColumn = 2;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "quiz/rules/AskedRows.h"
 #include "quiz/rules/Question.h"
 #include "quiz/rules/QuizKinds.h"
 #include "quiz/rules/RandomSource.h"
@@ -14,9 +15,14 @@ public:
     /// Questions are numbered with 16 bits.
     static constexpr int MostQuestions = 32767;
 
-    /// Fills the table from the rows of words whose first word is not empty. False, and the table left as it was, when
-    /// there are too few (3 for Multiple Choice, else 1) or more than can be numbered. QuizMode is 1 to 5.
-    bool fByggMatriser(QuizKind kind, int QuizMode, const WordSource &words, RandomSource &random);
+    /// How many words a vocabulary must have for a quiz.
+    static int fewestWords(QuizKind kind) { return kind == QuizKind::MultipleChoice ? 3 : 1; }
+
+    /// Fills the table from those of the asked rows whose first word is not empty; wrong options come from every row.
+    /// False, and the table left as it was, when there are too few words, none to ask, or more than can be numbered.
+    /// QuizMode is 1 to 5.
+    bool fByggMatriser(QuizKind kind, int QuizMode, const WordSource &words, RandomSource &random,
+                       const AskedRows &rows = {});
 
     /// Asks the given questions instead.
     void replace(std::vector<Question> questions) { m_questions = std::move(questions); }

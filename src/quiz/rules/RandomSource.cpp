@@ -11,9 +11,14 @@ std::mt19937_64 wellSeeded()
 
 } // namespace
 
+int RandomSource::number(int upper, int lower)
+{
+    return int((double(upper) - lower + 1) * draw()) + lower;
+}
+
 qint16 RandomSource::iGenRndNumber(qint16 upper, qint16 lower)
 {
-    return qint16(int((int(upper) - int(lower) + 1) * draw()) + lower);
+    return qint16(number(upper, lower));
 }
 
 SeededRandom::SeededRandom()

@@ -14,6 +14,7 @@ public:
     virtual double draw() = 0;
 
     /// A uniform number in lower..upper, both included.
+    int number(int upper, int lower);
     qint16 iGenRndNumber(qint16 upper, qint16 lower);
 };
 

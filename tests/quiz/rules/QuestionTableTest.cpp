@@ -115,6 +115,41 @@ TEST(QuestionTableTest, EachModeAsksEveryWordInItsDirectionAndOrder)
     }
 }
 
+TEST(QuestionTableTest, AsksOnlyTheRowsAskedForAndOffersWordsOfAll)
+{
+    const ListWords words = ListWords::numbered(40000); // more than a quiz can ask
+    const auto third = [](int row) { return row % 3 == 0 && row <= 300; };
+    for (const int mode : {1, 3, 5}) {
+        for (const int most : {0, 10, 100, 1000}) {
+            QuestionTable table;
+            SeededRandom random{quint64(most + mode)};
+            ASSERT_TRUE(table.fByggMatriser(QuizKind::MultipleChoice, mode, words, random, {third, most}));
+            QSet<int> asked;
+            bool inOrder = true;
+            int offered = 0;
+            for (int k = 1, last = 0; k <= table.count(); ++k) {
+                const Question &question = table.question(k);
+                EXPECT_EQ(question.answerColumn(), question.answerLanguage() == "German" ? 2 : 1);
+                asked.insert(question.askedWord().mid(1).toInt());
+                inOrder = inOrder && std::exchange(last, question.askedWord().mid(1).toInt()) < last;
+                for (int field = 4; field <= 6; ++field)
+                    offered = std::max(offered, question.field(field).mid(1).toInt());
+            }
+            EXPECT_EQ(asked.size(), most == 10 ? 10 : 100);
+            EXPECT_EQ(table.count(), asked.size() * (mode == 5 ? 2 : 1));
+            EXPECT_TRUE(std::all_of(asked.begin(), asked.end(), third));
+            EXPECT_EQ(inOrder, mode == 1);
+            EXPECT_GT(offered, 20000);
+        }
+    }
+    QuestionTable table;
+    SeededRandom random(1);
+    const auto none = [](int) { return false; };
+    EXPECT_FALSE(table.fByggMatriser(QuizKind::Practice, 1, words, random, {none}));
+    EXPECT_FALSE(table.fByggMatriser(QuizKind::Practice, 1, words, random));
+    EXPECT_TRUE(table.fByggMatriser(QuizKind::Practice, 1, words, random, {{}, QuestionTable::MostQuestions}));
+}
+
 TEST(QuestionTableTest, MultipleChoiceOffersTwoOtherWordsOfTheAnswersLanguage)
 {
     for (int words : {3, 40}) {
