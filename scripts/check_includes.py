@@ -10,7 +10,7 @@ import re
 import sys
 
 WINDOWS_MODULES = ("QtWidgets", "QtPrintSupport", "QtSvgWidgets")
-ALL_RULES = (("platform",), ("resources",), ("services", "settings"))  # folders that know no screen as a whole
+ALL_RULES = (("platform",), ("resources",), ("services", "settings"), ("memory",))  # folders that know no screen as a whole
 FLOOR_ROW = re.compile(r"^\| (\d) \| `(\w+)/` \|", re.MULTILINE)
 INCLUDE = re.compile(r'^\s*#\s*include\s+(?:"([^"]+)"|<([^>]+)>)', re.MULTILINE)
 

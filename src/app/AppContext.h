@@ -7,8 +7,8 @@ class FileCommands;
 class MainHelp;
 class PasteGuard;
 class PrintCommands;
+class QuizCommands;
 class RandomSource;
-class SoundPlayer;
 class UndoRecord;
 class clsAppProperties;
 class clsMRUFileList;
@@ -33,5 +33,6 @@ struct AppContext
     PrintCommands &print;
     MainHelp &help;
     RandomSource &random;
-    SoundPlayer &errorSound;
+    QuizCommands &quizzes;
+    bool canSpeak; ///< words can be read aloud
 };

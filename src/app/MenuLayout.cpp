@@ -37,7 +37,8 @@ const std::vector<Menu> &menus()
          keys("mnuVocabularyLanguage -mnuToolbar(0) mnuVocabularyRowHeight mnuVocabularyColumnWidth "
               "-mnuToolbar(3) mnuVocabularyFont mnuVocabularySort - mnuVocabularyCheck")},
         {QStringLiteral("mnuMode"), 439, 1060, keys("mnuMode1 mnuMode2 mnuMode3 mnuMode4 mnuMode5")},
-        {QStringLiteral("mnuQuiz"), 445, 1070, keys("mnuQuizStudy mnuQuizMultiple mnuQuizQA")},
+        {QStringLiteral("mnuQuiz"), 445, 1070,
+         keys("mnuQuizStudy mnuQuizMultiple mnuQuizQA - >mnuQuizWords mnuQuizOptions")},
         {QStringLiteral("mnuWindow"), 449, 1080, keys("mnuWindow(0) mnuWindow(1) mnuWindow(2) mnuWindow(3)")},
         {QStringLiteral("mnuHelp"), 454, 1090, keys("mnuHelpTopic -mnuHelp(4) mnuHelpAbout")},
     };
@@ -46,7 +47,11 @@ const std::vector<Menu> &menus()
 
 const Submenu &submenu(const QString &key)
 {
-    static const std::map<QString, Submenu> all{};
+    static const std::map<QString, Submenu> all{
+        {QStringLiteral("mnuQuizWords"),
+         {QStringLiteral("mnuQuizWords"), 14300, 14301,
+          keys("mnuWordsAll mnuWordsSelected mnuWordsDue mnuWordsMissed mnuWordsHardest")}},
+    };
     return all.at(key);
 }
 

@@ -2,9 +2,8 @@
 #include "app/AppContext.h"
 #include "app/CommandTable.h"
 #include "app/frmApp.h"
-#include "document/DocumentList.h"
-#include "quiz/GridWords.h"
-#include "quiz/frmOva.h"
+#include "quiz/QuizCommands.h"
+#include "quiz/frmQuizOptions.h"
 #include "resources/Pictures.h"
 #include "services/rules/QuizModes.h"
 #include "services/settings/clsAppProperties.h"
@@ -16,31 +15,34 @@ using enum AppState;
 
 constexpr StateSet Document(StateDocument);
 constexpr StateSet DocumentOrEditing(StateDocument, StateEditing);
-constexpr int NoQuiz = 12013;
+
+/// The entries of Words to Ask. Their captions begin at WordsCaption, each followed by its help text.
+constexpr std::pair<const char *, WordsToAsk> Words[] = {{"mnuWordsAll", WordsToAsk::All},
+                                                         {"mnuWordsSelected", WordsToAsk::SelectedRows},
+                                                         {"mnuWordsDue", WordsToAsk::Due},
+                                                         {"mnuWordsMissed", WordsToAsk::Missed},
+                                                         {"mnuWordsHardest", WordsToAsk::Hardest}};
+constexpr int WordsCaption = 14302;
 
 void setQuizMode(const AppContext &context, int mode)
 {
     context.status.ShowStatus(modSBFunc::Ready);
     context.settings.setQuizMode(mode);
     context.window.setButtonPicture(QStringLiteral("Model"), PictureMode1 + mode - 1);
-    if (frmDoc *document = context.documents.active())
-        document->refreshQuizMode();
+    context.quizzes.refreshMode();
 }
 
-/// The quiz window shows itself only when enough words were found.
 void startQuiz(const AppContext &context, QuizKind kind)
 {
     context.window.setButtonPicture(QStringLiteral("Quiz"), PicturePractice + int(kind));
-    const frmDoc *document = context.documents.active();
-    if (!document)
-        return;
-    frmOva quiz(context.settings, context.random, context.errorSound, &context.window);
-    quiz.setQuizType(qint16(kind));
-    quiz.Form_Load(GridWords(*document->Rutor()), *document->frame(), document->Caption());
-    if (quiz.Tag() == u"1")
-        quiz.exec();
-    else
-        context.status.ShowStatus(NoQuiz);
+    context.quizzes.start(kind);
+}
+
+void showOptions(const AppContext &context)
+{
+    context.status.ShowStatus(modSBFunc::DialogOpen);
+    frmQuizOptions(context.settings, context.canSpeak, &context.window).exec();
+    context.status.ShowStatus(modSBFunc::Ready);
 }
 
 /// The "Model" button steps through the modes in a ring.
@@ -64,6 +66,18 @@ QString quizKey(int picture)
     }
 }
 
+void addWordsToAsk(CommandTable &table, const AppContext &context)
+{
+    int captionId = WordsCaption;
+    for (const auto &[key, choice] : Words) {
+        table.add({QString::fromLatin1(key), captionId, "", captionId + 1, 0, Document,
+                   [&context, choice = choice] { context.quizzes.setWordsToAsk(choice); },
+                   [&context, choice = choice] { return context.quizzes.wordsToAsk() == choice; }});
+        table.setAvailable(QString::fromLatin1(key), context.quizzes.canChoose(choice));
+        captionId += 2;
+    }
+}
+
 } // namespace
 
 void AppCommands::addQuizCommands(CommandTable &table, const AppContext &context)
@@ -83,4 +97,6 @@ void AppCommands::addQuizCommands(CommandTable &table, const AppContext &context
                [&context] { startQuiz(context, QuizKind::QuestionAndAnswer); }});
     table.add({"Quiz", 1016, "", 222, PicturePractice, Document,
                [&context, &table] { table.run(quizKey(context.window.buttonPicture(QStringLiteral("Quiz")))); }});
+    addWordsToAsk(table, context);
+    table.add({"mnuQuizOptions", 14312, "", 14313, 0, Document, [&context] { showOptions(context); }});
 }

@@ -13,6 +13,7 @@
 #include "document/FileCommands.h"
 #include "document/ctlGrid.h"
 #include "print/PrintCommands.h"
+#include "quiz/QuizCommands.h"
 #include "resources/Pictures.h"
 #include "resources/StringTable.h"
 #include "services/AlertBox.h"
@@ -116,9 +117,11 @@ void frmApp::createParts(const Needs &needs)
     auto *files = new FileCommands({*documents, m_recentFiles, *status, needs.alert, needs.prompts, needs.copies},
                                    needs.codePage, this);
     m_editCommands = std::make_unique<EditCommands>(needs.undo, *QGuiApplication::clipboard());
+    auto *quizzes = new QuizCommands(
+        {*documents, needs.settings, needs.alert, *status, needs.random, needs.errorSound, *this, needs.memory}, this);
     m_context = std::make_unique<AppContext>(AppContext{
         *this, needs.flags, needs.undo, needs.settings, needs.alert, *status, *documents, *files, *m_editCommands,
-        needs.pasteGuard, m_recentFiles, *m_print, *m_help, needs.random, needs.errorSound});
+        needs.pasteGuard, m_recentFiles, *m_print, *m_help, needs.random, *quizzes, needs.canSpeak});
     setCentralWidget(createCentre());
 
     connect(documents, &DocumentList::aboutToCreate, this, [this] { m_print->preview().close(); });

@@ -10,6 +10,7 @@
 
 #include <memory>
 
+class AnswerMemory;
 class AppMenus;
 class AppToolbars;
 class CodePage;
@@ -24,7 +25,9 @@ class PrintCommands;
 class PrintHost;
 class PrinterDevice;
 class QStackedWidget;
+class RandomSource;
 class RegistryStore;
+class SoundPlayer;
 class StartPage;
 class WindowPosition;
 class frmDoc;
@@ -54,7 +57,9 @@ public:
         SoundPlayer &errorSound;
         HelpDisplay &help;
         const PasteGuard &pasteGuard;
-        QString lessonFolder; ///< with the vocabularies that come with the program
+        QString lessonFolder;           ///< with the vocabularies that come with the program
+        AnswerMemory *memory = nullptr; ///< null: nothing is remembered of quizzes
+        bool canSpeak = false;          ///< words can be read aloud
     };
 
     explicit frmApp(const Needs &needs);

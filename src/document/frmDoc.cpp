@@ -160,8 +160,16 @@ void frmDoc::refreshCellReference()
 
 void frmDoc::refreshQuizMode()
 {
-    m_shared.status.SBSetText(2, modSBFunc::SBT_SUNKEN,
-                              quizModeText(m_shared.settings.QuizMode(), language(1), language(2)));
+    QString text = quizModeText(m_shared.settings.QuizMode(), language(1), language(2));
+    if (!m_quizModeNote.isEmpty())
+        text += u' ' + m_quizModeNote;
+    m_shared.status.SBSetText(2, modSBFunc::SBT_SUNKEN, text);
+}
+
+void frmDoc::setQuizModeNote(const QString &note)
+{
+    m_quizModeNote = note;
+    refreshQuizMode();
 }
 
 void frmDoc::activated()

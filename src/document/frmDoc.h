@@ -86,6 +86,8 @@ public:
     /// Writes the cell reference or the quiz mode to the status bar.
     void refreshCellReference();
     void refreshQuizMode();
+    /// What the status bar adds to the quiz mode while this is the active document; empty: nothing.
+    void setQuizModeNote(const QString &note);
 
     /// To be called when this becomes the active document: brings the status texts up to date and ends the undo record,
     /// which belonged to another one.
@@ -122,6 +124,7 @@ private:
     RunningEdit m_edit;
     QString m_docName;
     QString m_caption;
+    QString m_quizModeNote;
     int m_tag = 0;
     bool m_shiftAlone = false;
 };

@@ -62,7 +62,7 @@ void frmOva::Form_Load(const WordSource &words, QWidget &document, const QString
     m_session = std::make_unique<QuizSession>(QuizKind(m_quizType), m_settings);
     {
         const Hourglass hourglass;
-        if (!m_session->fByggMatriser(words, m_random)) {
+        if (!m_session->fByggMatriser(words, m_random, m_askedRows)) {
             m_session.reset();
             return;
         }

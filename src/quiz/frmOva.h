@@ -31,6 +31,9 @@ public:
     qint16 QuizType() const { return m_quizType; }
     void setQuizType(qint16 type) { m_quizType = type; }
 
+    /// Which words are asked; set before Form_Load, else all are.
+    void setAskedRows(const AskedRows &rows) { m_askedRows = rows; }
+
     /// "1" once the quiz is ready, "0" when it could not be built.
     QString Tag() const { return m_tag; }
 
@@ -94,6 +97,7 @@ private:
     QPointer<QWidget> m_document; ///< may close while the quiz is open, when the program is told to end
     Qt::WindowStates m_documentState;
     qint16 m_quizType = 0;
+    AskedRows m_askedRows;
     QString m_tag = QStringLiteral("0");
     QWidget *m_speaker = nullptr; ///< the control whose description a screen reader hears
     QString m_spokenVerdict;

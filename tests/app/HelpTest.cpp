@@ -76,6 +76,7 @@ TEST_F(HelpTest, EveryControlOfEveryDialogHasATopicATextANameAndAKey)
         {"mnuQuizMultiple", 1230, "123ABR"},
         {"mnuQuizQA", 1240, "HTBR"},
         {"mnuHelpAbout", 1250, ""},
+        {"mnuQuizOptions", 3010, "MCABROY"},
     };
     for (const auto &[command, id, keys] : commands) {
         EXPECT_TRUE(inDialog(command, [&, id = id, keys = keys](QDialog &dialog) {

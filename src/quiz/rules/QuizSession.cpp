@@ -48,9 +48,9 @@ QuizSession::QuizSession(QuizKind kind, clsAppProperties &settings, QObject *par
         m_answerText = resText(PromptId);
 }
 
-bool QuizSession::fByggMatriser(const WordSource &words, RandomSource &random)
+bool QuizSession::fByggMatriser(const WordSource &words, RandomSource &random, const AskedRows &rows)
 {
-    return m_table.fByggMatriser(m_kind, m_settings.QuizMode(), words, random);
+    return m_table.fByggMatriser(m_kind, m_settings.QuizMode(), words, random, rows);
 }
 
 QString QuizSession::autoSeconds() const

@@ -25,7 +25,7 @@ public:
     QuizSession(QuizKind kind, clsAppProperties &settings, QObject *parent = nullptr);
 
     /// Builds the questions for the mode of the settings. False: no quiz, because of too few or too many words.
-    bool fByggMatriser(const WordSource &words, RandomSource &random);
+    bool fByggMatriser(const WordSource &words, RandomSource &random, const AskedRows &rows = {});
 
     QuizKind kind() const { return m_kind; }
     int questionCount() const { return m_table.count(); }

@@ -19,7 +19,7 @@ struct QuizOptions
     static constexpr int MostWords = 32767; ///< that a quiz can ask
 
     int mostWords = 0; ///< at most so many words are asked, drawn at random; 0: all
-    AnswerTolerance tolerance;
+    AnswerTolerance tolerance = {};
     bool readQuestion = false; ///< aloud
     bool readAnswer = false;   ///< aloud
     bool rememberAnswers = true;

@@ -1,0 +1,122 @@
+#include "quiz/QuizCommands.h"
+
+#include "document/DocumentList.h"
+#include "quiz/GridWords.h"
+#include "quiz/frmOva.h"
+#include "resources/StringTable.h"
+#include "services/AlertBox.h"
+#include "services/settings/clsAppProperties.h"
+#include "services/status/modSBFunc.h"
+
+#include <QTimer>
+
+namespace {
+
+constexpr int NoQuiz = 12013;
+
+/// The texts of each choice but the first: what the status bar says, and what is asked when there are no such words.
+struct ChoiceTexts
+{
+    int note;
+    int offer;
+};
+
+ChoiceTexts textsOf(WordsToAsk choice)
+{
+    const int place = int(choice) - int(WordsToAsk::SelectedRows);
+    return {14316 + place, 14320 + place};
+}
+
+} // namespace
+
+QuizCommands::QuizCommands(const Needs &needs, QObject *parent)
+    : QObject(parent)
+    , m_needs(needs)
+{
+    connect(&m_needs.documents, &DocumentList::activeChanged, this, &QuizCommands::refreshMode);
+    connect(&m_needs.documents, &DocumentList::created, this, &QuizCommands::watch);
+    connect(&m_needs.documents, &DocumentList::removed, this, [this](frmDoc *document) { m_traces.erase(document); });
+}
+
+/// The number of selected words follows the selection, once for all that changes at a time.
+void QuizCommands::watch(frmDoc *document)
+{
+    auto *later = new QTimer(document);
+    later->setSingleShot(true);
+    connect(later, &QTimer::timeout, this, &QuizCommands::refreshMode);
+    connect(document->Rutor(), &ctlGrid::SelChange, later, [this, later] {
+        if (m_choice == WordsToAsk::SelectedRows)
+            later->start(0);
+    });
+}
+
+void QuizCommands::refreshMode()
+{
+    if (frmDoc *document = m_needs.documents.active())
+        document->setQuizModeNote(modeNote(*document));
+}
+
+void QuizCommands::setWordsToAsk(WordsToAsk choice)
+{
+    m_choice = choice;
+    refreshMode();
+}
+
+bool QuizCommands::canChoose(WordsToAsk choice) const
+{
+    return m_needs.memory || (choice != WordsToAsk::Due && choice != WordsToAsk::Hardest);
+}
+
+std::vector<int> QuizCommands::rowsToAsk(const frmDoc &document, WordsToAsk choice) const
+{
+    const auto traces = m_traces.find(&document);
+    const GridSelection selection = document.selection();
+    return AskedWords::rows(choice, GridWords(*document.Rutor()),
+                            {.mode = m_needs.settings.QuizMode(),
+                             .firstRow = selection.top(),
+                             .lastRow = selection.bottom(),
+                             .missed = traces == m_traces.end() ? QSet<WordPair>() : traces->second.missed,
+                             .memory = m_needs.memory});
+}
+
+/// Which words are asked, and how many; empty for all.
+QString QuizCommands::modeNote(const frmDoc &document) const
+{
+    if (m_choice == WordsToAsk::All)
+        return {};
+    return resText(textsOf(m_choice).note).arg(rowsToAsk(document, m_choice).size());
+}
+
+/// Nothing when the user does not want to be asked. Where even all words are too few for a quiz, all are taken.
+std::optional<AskedRows> QuizCommands::askedRows(const frmDoc &document, QuizKind kind)
+{
+    if (m_choice == WordsToAsk::All)
+        return AskedRows();
+    const std::vector<int> chosen = rowsToAsk(document, m_choice);
+    if (!chosen.empty())
+        return AskedWords::only(chosen);
+    if (int(rowsToAsk(document, WordsToAsk::All).size()) < QuestionTable::fewestWords(kind))
+        return AskedRows();
+    const QString offer = resText(textsOf(m_choice).offer);
+    if (m_needs.alert.show(&m_needs.window, {.prompt = offer, .buttons = Alert::YesNo}) != AlertBox::AnswerYes)
+        return std::nullopt;
+    setWordsToAsk(WordsToAsk::All);
+    return AskedRows();
+}
+
+void QuizCommands::start(QuizKind kind)
+{
+    frmDoc *document = m_needs.documents.active();
+    std::optional<AskedRows> rows = document ? askedRows(*document, kind) : std::nullopt;
+    if (!rows)
+        return;
+    rows->most = m_needs.settings.quizOptions().mostWords;
+    frmOva quiz(m_needs.settings, m_needs.random, m_needs.errorSound, &m_needs.window);
+    quiz.setQuizType(qint16(kind));
+    quiz.setAskedRows(*rows);
+    quiz.Form_Load(GridWords(*document->Rutor()), *document->frame(), document->Caption());
+    if (quiz.Tag() == u"1")
+        quiz.exec();
+    else
+        m_needs.status.ShowStatus(NoQuiz);
+}

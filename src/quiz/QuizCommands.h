@@ -1,0 +1,70 @@
+#pragma once
+
+#include "quiz/rules/QuizKinds.h"
+#include "quiz/rules/WordsToAsk.h"
+
+#include <QObject>
+
+#include <map>
+#include <optional>
+
+class AlertBox;
+class AnswerMemory;
+class DocumentList;
+class RandomSource;
+class SoundPlayer;
+class clsAppProperties;
+class frmDoc;
+class modSBFunc;
+
+/// The commands of the Quiz menu. Owns what is chosen for quizzes but not stored, and what quizzes leave behind about
+/// each open document.
+class QuizCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What the commands work with; all of it outlives them.
+    struct Needs
+    {
+        DocumentList &documents;
+        clsAppProperties &settings;
+        AlertBox &alert;
+        modSBFunc &status;
+        RandomSource &random;
+        SoundPlayer &errorSound;
+        QWidget &window;                ///< parent of the quiz windows
+        AnswerMemory *memory = nullptr; ///< null: there is none
+    };
+
+    explicit QuizCommands(const Needs &needs, QObject *parent = nullptr);
+
+    /// Asks the words of the active document. When the user wants only some of them and there are none, a box offers
+    /// all.
+    void start(QuizKind kind);
+
+    /// All words when the program starts.
+    WordsToAsk wordsToAsk() const { return m_choice; }
+    void setWordsToAsk(WordsToAsk choice);
+    /// What can only be told from a memory cannot be chosen without one.
+    bool canChoose(WordsToAsk choice) const;
+
+    /// To be called when the quiz mode has changed: brings the status bar up to date.
+    void refreshMode();
+
+private:
+    /// What quizzes have left behind about a document.
+    struct Traces
+    {
+        QSet<WordPair> missed; ///< in the last quiz
+    };
+
+    void watch(frmDoc *document);
+    std::vector<int> rowsToAsk(const frmDoc &document, WordsToAsk choice) const;
+    std::optional<AskedRows> askedRows(const frmDoc &document, QuizKind kind);
+    QString modeNote(const frmDoc &document) const;
+
+    Needs m_needs;
+    WordsToAsk m_choice = WordsToAsk::All;
+    std::map<const frmDoc *, Traces> m_traces;
+};
