@@ -1,7 +1,9 @@
 // Setting up a Multiple Choice quiz: reading the words, drawing the questions, and for each of them two wrong options.
+// Judging a typed answer with every option on: a phrase with several answers, and one answer of so many letters.
 
 #include "support/SampleVocabulary.h"
 
+#include "quiz/rules/AnswerJudge.h"
 #include "quiz/rules/QuestionTable.h"
 
 namespace {
@@ -49,7 +51,36 @@ void setUp(benchmark::State &state, int mode)
     }
 }
 
+constexpr AnswerTolerance Everything{true, true, true, true, true};
+
+void judge(benchmark::State &state, const char *given, const char *expected)
+{
+    AnswerJudge judge;
+    judge.prepare(Everything);
+    const QString said = QString::fromUtf8(given);
+    const QString wanted = QString::fromUtf8(expected);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(judge.judge(said, wanted, Everything));
+}
+
+void judgeLong(benchmark::State &state)
+{
+    AnswerJudge judge;
+    judge.prepare(Everything);
+    const QString wanted = QStringLiteral("été, où (là) ").repeated(state.range(0) / 13);
+    const QString said = QStringLiteral("ete, ov (la) ").repeated(state.range(0) / 13);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(judge.judge(said, wanted, Everything));
+}
+
+constexpr const char *Several = "die Bank (Geld), das Geldinstitut / Kreditinstitut; die Sparkasse (örtlich)";
+
 } // namespace
+
+BENCHMARK_CAPTURE(judge, forgiven, "sparkasse ortlich, die bank", Several)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(judge, wrong, "die Sparkase", Several)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(judge, wrongInArabic, "كتب المعلم", "كِتَابُ الْمُعَلِّمِ")->Unit(benchmark::kMicrosecond);
+BENCHMARK(judgeLong)->Arg(130)->Arg(500)->Arg(10000)->Unit(benchmark::kMicrosecond);
 
 BENCHMARK_CAPTURE(setUp, inOrder, 1)
     ->Args({1000, 1000})

@@ -303,6 +303,8 @@ void frmOva::done(int result)
 
 void frmOva::Form_Terminate()
 {
+    if (m_session)
+        m_session->settle();
     QWidget *document = m_document;
     m_document = nullptr;
     if (!document)

@@ -6,6 +6,8 @@
 
 #include <QTextBoundaryFinder>
 
+#include <chrono>
+
 namespace {
 
 constexpr int PromptId = 922;
@@ -36,6 +38,12 @@ QString wholeLetters(const QString &text, qsizetype count)
     return text.left(finder.position());
 }
 
+qint64 systemClock()
+{
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
 } // namespace
 
 QuizSession::QuizSession(QuizKind kind, clsAppProperties &settings, QObject *parent)
@@ -43,6 +51,7 @@ QuizSession::QuizSession(QuizKind kind, clsAppProperties &settings, QObject *par
     , m_kind(kind)
     , m_settings(settings)
     , m_autoInterval(settings.AutoTimerInterval())
+    , m_clock(systemClock)
 {
     if (kind == QuizKind::QuestionAndAnswer)
         m_answerText = resText(PromptId);
@@ -50,6 +59,8 @@ QuizSession::QuizSession(QuizKind kind, clsAppProperties &settings, QObject *par
 
 bool QuizSession::fByggMatriser(const WordSource &words, RandomSource &random, const AskedRows &rows)
 {
+    if (m_kind == QuizKind::QuestionAndAnswer)
+        m_judge.prepare(m_settings.quizOptions().tolerance);
     return m_table.fByggMatriser(m_kind, m_settings.QuizMode(), words, random, rows);
 }
 
@@ -142,6 +153,7 @@ void QuizSession::fShowQuestion()
     m_chosenOption = NothingChosen;
     if (m_kind == QuizKind::Practice)
         m_answerText.clear();
+    m_shownAt = m_clock();
     Q_EMIT questionShown();
     if (m_kind == QuizKind::Practice && automatic())
         Q_EMIT autoIntervalChanged(m_autoInterval);
@@ -149,17 +161,54 @@ void QuizSession::fShowQuestion()
 
 QuizSession::Verdict QuizSession::fCheckAnswer(Verdict verdict)
 {
+    settle();
+    const bool hintUsed = m_kind == QuizKind::QuestionAndAnswer && std::exchange(m_hintUsed, false);
     if (verdict != Verdict::Undecided)
         m_givenAnswer = verdict == Verdict::Correct ? question().correctAnswer() : QString();
     else
-        verdict = m_kind == QuizKind::MultipleChoice ? judgeOption() : judgeText();
-    if (verdict == Verdict::Correct)
-        ++m_correctCount;
-    else
-        m_errors.push_back(question());
-    Q_EMIT judged(verdict == Verdict::Correct);
+        verdict = m_kind == QuizKind::MultipleChoice ? judgeOption() : judgeText(hintUsed);
+    const bool right = verdict == Verdict::Correct;
+    const Answer answer{question(), right, hintUsed, int(std::clamp<qint64>(m_clock() - m_shownAt, 0, INT_MAX))};
+    count(answer);
+    if (!right && m_kind == QuizKind::QuestionAndAnswer)
+        m_open = answer;
+    Q_EMIT judged(right);
+    if (!m_open)
+        tell(answer);
     fShowQuestion();
     return verdict;
+}
+
+void QuizSession::count(const Answer &answer)
+{
+    if (answer.right)
+        ++m_correctCount;
+    else
+        m_errors.push_back(answer.question);
+}
+
+void QuizSession::turnVerdict()
+{
+    if (!canTurn())
+        return;
+    if (m_open->right)
+        --m_correctCount;
+    else
+        m_errors.pop_back();
+    m_open->right = !m_open->right;
+    count(*m_open);
+    Q_EMIT verdictTurned(m_open->right);
+}
+
+void QuizSession::settle()
+{
+    if (const std::optional<Answer> answer = std::exchange(m_open, std::nullopt))
+        tell(*answer);
+}
+
+void QuizSession::tell(const Answer &answer)
+{
+    Q_EMIT settled(answer.question, answer.right, answer.hintUsed, answer.milliseconds);
 }
 
 QuizSession::Verdict QuizSession::judgeOption()
@@ -172,15 +221,14 @@ QuizSession::Verdict QuizSession::judgeOption()
     return field == question().correctPosition() ? Verdict::Correct : Verdict::Wrong;
 }
 
-QuizSession::Verdict QuizSession::judgeText()
+QuizSession::Verdict QuizSession::judgeText(bool hintUsed)
 {
-    const bool hintCounts = hintIsError() && m_hintUsed;
-    m_hintUsed = false;
     m_givenAnswer = std::exchange(m_answerText, QString());
     if (m_givenAnswer == resText(PromptId))
         m_givenAnswer.clear();
-    const bool isCorrect = composed(m_givenAnswer) == composed(question().correctAnswer());
-    return isCorrect && !hintCounts ? Verdict::Correct : Verdict::Wrong;
+    m_judgement = m_judge.judge(m_givenAnswer, question().correctAnswer(), m_settings.quizOptions().tolerance);
+    const bool isCorrect = m_judgement.verdict != Judgement::Verdict::Wrong;
+    return isCorrect && !(hintUsed && hintIsError()) ? Verdict::Correct : Verdict::Wrong;
 }
 
 void QuizSession::fGiveHint()
@@ -197,6 +245,7 @@ void QuizSession::fRepeatErrors()
 {
     if (!canRepeat())
         return;
+    settle();
     m_table.replace(std::exchange(m_errors, {}));
     m_current = 0;
     m_correctCount = 0;

@@ -1,13 +1,18 @@
 #pragma once
 
+#include "quiz/rules/AnswerJudge.h"
 #include "quiz/rules/QuestionTable.h"
 
 #include <QObject>
 
+#include <functional>
+#include <optional>
+
 class clsAppProperties;
 
 /// Runs one quiz without a window: asks, hints, judges, counts and asks again what was answered wrongly. The window
-/// passes on what the user does, calls the ticks from its two timers and shows what the signals announce.
+/// passes on what the user does, calls the ticks from its two timers and shows what the signals announce. The signal
+/// settled() tells every answer once, when its verdict is final: who remembers answers listens to that one.
 class QuizSession : public QObject
 {
     Q_OBJECT
@@ -24,6 +29,9 @@ public:
     /// The settings are read at each use and written as soon as the user changes one.
     QuizSession(QuizKind kind, clsAppProperties &settings, QObject *parent = nullptr);
 
+    /// The clock that tells how long an answer took, in milliseconds from any start; without one it is the system's.
+    void setClock(std::function<qint64()> clock) { m_clock = std::move(clock); }
+
     /// Builds the questions for the mode of the settings. False: no quiz, because of too few or too many words.
     bool fByggMatriser(const WordSource &words, RandomSource &random, const AskedRows &rows = {});
 
@@ -36,6 +44,8 @@ public:
     int errorCount() const { return int(m_errors.size()); }
     /// The answer last judged.
     const QString &givenAnswer() const { return m_givenAnswer; }
+    /// What that answer was worth, as far as its text goes; plainly right where nothing was typed.
+    const Judgement &judgement() const { return m_judgement; }
     /// The text typed, or spelled out so far in Practice.
     const QString &answerText() const { return m_answerText; }
     /// The round has ended: what is left is to repeat the errors or to close.
@@ -71,6 +81,15 @@ public:
     /// Starts a round with the questions answered wrongly.
     void fRepeatErrors();
 
+    /// A typed answer that was judged wrong can be turned until the next answer, a repeat, or settle().
+    bool canTurn() const { return m_open.has_value(); }
+    /// The verdict that can be turned has been: the answer counts as right.
+    bool turned() const { return m_open && m_open->right; }
+    /// Makes the last verdict right, or wrong again; counters and errors follow.
+    void turnVerdict();
+    /// The last verdict can no longer be turned. To be called when the quiz is left.
+    void settle();
+
     void revealTick();
     void autoTick();
 
@@ -84,13 +103,28 @@ Q_SIGNALS:
     void answerRevealed();
     /// The question still on view has been judged and counted.
     void judged(bool correct);
+    void verdictTurned(bool correct);
+    /// An answer's verdict is final; told in the order of the answers. The milliseconds are those from when the
+    /// question was shown until it was answered.
+    void settled(const Question &question, bool right, bool hintUsed, int milliseconds);
     void roundEnded();
 
 private:
+    /// An answer that is judged, but not settled.
+    struct Answer
+    {
+        Question question;
+        bool right;
+        bool hintUsed;
+        int milliseconds;
+    };
+
     bool asking() const { return m_current > 0 && !m_done; }
     void startReveal(Verdict reason);
     Verdict judgeOption();
-    Verdict judgeText();
+    Verdict judgeText(bool hintUsed);
+    void count(const Answer &answer);
+    void tell(const Answer &answer);
     void endRound();
 
     const QuizKind m_kind;
@@ -107,4 +141,9 @@ private:
     bool m_done = false;
     QString m_answerText;
     QString m_givenAnswer;
+    AnswerJudge m_judge;
+    Judgement m_judgement;
+    std::function<qint64()> m_clock;
+    qint64 m_shownAt = 0; ///< milliseconds of the clock
+    std::optional<Answer> m_open;
 };

@@ -1,0 +1,294 @@
+#include "quiz/rules/LetterDifference.h"
+
+#include "quiz/rules/LetterMatch.h"
+
+#include <algorithm>
+#include <unordered_map>
+
+namespace {
+
+/// The different letters of a part of a text, numbered.
+class Alphabet
+{
+public:
+    Alphabet(const Letters &letters, size_t start, size_t count);
+
+    size_t size() const { return m_letters.size(); }
+    const LetterForms &letter(size_t number) const { return *m_letters[number]; }
+    size_t numberAt(size_t place) const { return m_numbers[place]; }
+
+private:
+    std::vector<const LetterForms *> m_letters;
+    std::vector<size_t> m_numbers;
+};
+
+Alphabet::Alphabet(const Letters &letters, size_t start, size_t count)
+{
+    std::unordered_map<const LetterForms *, size_t> known;
+    for (size_t i = start; i < start + count; ++i) {
+        const auto [place, isNew] = known.try_emplace(letters[i].forms, m_letters.size());
+        if (isNew)
+            m_letters.push_back(letters[i].forms);
+        m_numbers.push_back(place->second);
+    }
+}
+
+bool sameLetter(const LetterForms &given, const LetterForms &expected, const AnswerTolerance &tolerance)
+{
+    if (tolerance.blanksAndPunctuation && !given.counts() && !expected.counts())
+        return true;
+    return LetterRules::same(given, expected, tolerance);
+}
+
+} // namespace
+
+/// How many letters at most the first i letters given and the first j expected have in common, those of both counted.
+class LetterDifference::Table
+{
+public:
+    Table(const LetterDifference &texts, size_t start, size_t given, size_t expected);
+
+    /// The steps from the beginning of both parts to their end.
+    std::vector<Step> steps() const;
+
+private:
+    quint16 &best(size_t i, size_t j) { return m_best[i * (m_expected + 1) + j]; }
+    quint16 best(size_t i, size_t j) const { return m_best[i * (m_expected + 1) + j]; }
+    void fill(size_t i, size_t j);
+    bool same(size_t i, size_t j) const;
+    /// The length of a spelling of the last of j letters that ends the first i given; 0 if there is none.
+    size_t spelling(size_t i, size_t j) const;
+
+    const LetterDifference &m_texts;
+    size_t m_start;
+    size_t m_given;
+    size_t m_expected;
+    Alphabet m_givenAlphabet;
+    Alphabet m_expectedAlphabet;
+    std::vector<char> m_same; ///< of every two letters of the alphabets
+    std::vector<quint16> m_best;
+};
+
+LetterDifference::Table::Table(const LetterDifference &texts, size_t start, size_t given, size_t expected)
+    : m_texts(texts)
+    , m_start(start)
+    , m_given(given)
+    , m_expected(expected)
+    , m_givenAlphabet(texts.m_given, start, given)
+    , m_expectedAlphabet(texts.m_expected, start, expected)
+    , m_best((given + 1) * (expected + 1))
+{
+    for (size_t g = 0; g < m_givenAlphabet.size(); ++g) {
+        for (size_t e = 0; e < m_expectedAlphabet.size(); ++e)
+            m_same.push_back(sameLetter(m_givenAlphabet.letter(g), m_expectedAlphabet.letter(e), texts.m_tolerance));
+    }
+    for (size_t i = 1; i <= given; ++i) {
+        for (size_t j = 1; j <= expected; ++j)
+            fill(i, j);
+    }
+}
+
+bool LetterDifference::Table::same(size_t i, size_t j) const
+{
+    return m_same[m_givenAlphabet.numberAt(i - 1) * m_expectedAlphabet.size() + m_expectedAlphabet.numberAt(j - 1)];
+}
+
+size_t LetterDifference::Table::spelling(size_t i, size_t j) const
+{
+    if (!m_texts.m_tolerance.accents)
+        return 0;
+    for (const auto &spelling : m_expectedAlphabet.letter(m_expectedAlphabet.numberAt(j - 1)).spellings) {
+        if (spelling.size() <= i &&
+            LetterMatch::spelledAt(m_texts.m_given, m_start + i - spelling.size(), spelling, m_texts.m_tolerance))
+            return spelling.size();
+    }
+    return 0;
+}
+
+void LetterDifference::Table::fill(size_t i, size_t j)
+{
+    int most = std::max(best(i - 1, j), best(i, j - 1));
+    if (same(i, j))
+        most = std::max(most, best(i - 1, j - 1) + 2);
+    if (const size_t length = spelling(i, j))
+        most = std::max(most, best(i - length, j - 1) + int(length) + 1);
+    best(i, j) = quint16(most);
+}
+
+std::vector<LetterDifference::Step> LetterDifference::Table::steps() const
+{
+    std::vector<Step> steps;
+    size_t i = m_given;
+    size_t j = m_expected;
+    while (i > 0 || j > 0) {
+        const size_t length = i > 0 && j > 0 ? spelling(i, j) : 0;
+        if (length > 0 && best(i, j) == best(i - length, j - 1) + length + 1)
+            steps.push_back({length, 1});
+        else if (i > 0 && j > 0 && same(i, j) && best(i, j) == best(i - 1, j - 1) + 2)
+            steps.push_back({1, 1});
+        else if (i > 0 && best(i, j) == best(i - 1, j))
+            steps.push_back({1, 0});
+        else
+            steps.push_back({0, 1});
+        i -= steps.back().given;
+        j -= steps.back().expected;
+    }
+    std::reverse(steps.begin(), steps.end());
+    return steps;
+}
+
+LetterDifference::Side::Side(size_t letters)
+    : found(letters)
+    , forgiven(letters)
+{
+}
+
+void LetterDifference::Side::forgivePunctuation(const Letters &letters)
+{
+    for (size_t i = 0; i < letters.size(); ++i)
+        forgiven[i] = !found[i] && letters[i].forms->punctuation;
+}
+
+/// A bracket of which nothing has been found was left out.
+void LetterDifference::Side::forgiveBrackets(const Letters &letters, const std::vector<AnswerParts::Part> &brackets)
+{
+    size_t end = 0;
+    for (const AnswerParts::Part &bracket : brackets) {
+        size_t first = end;
+        while (first < letters.size() && letters[first].start < bracket.start)
+            ++first;
+        for (end = first; end < letters.size() && letters[end].start < bracket.end();)
+            ++end;
+        if (std::find(found.begin() + ptrdiff_t(first), found.begin() + ptrdiff_t(end), true) ==
+            found.begin() + ptrdiff_t(end))
+            std::fill(forgiven.begin() + ptrdiff_t(first), forgiven.begin() + ptrdiff_t(end), true);
+    }
+}
+
+/// A blank at an edge, beside another one or beside what is forgiven; the last alone unless everywhere.
+void LetterDifference::Side::forgiveBlanks(const Letters &letters, bool everywhere)
+{
+    for (size_t i = 0; i < letters.size(); ++i) {
+        if (found[i] || !letters[i].forms->blank)
+            continue;
+        const bool atEdge = i == 0 || i + 1 == letters.size();
+        const bool besideBlank =
+            (i > 0 && letters[i - 1].forms->blank) || (i + 1 < letters.size() && letters[i + 1].forms->blank);
+        const bool besideForgiven = (i > 0 && forgiven[i - 1]) || (i + 1 < letters.size() && forgiven[i + 1]);
+        forgiven[i] = besideForgiven || (everywhere && (atEdge || besideBlank));
+    }
+}
+
+/// The letters that count and are not forgiven.
+size_t LetterDifference::Side::size(const Letters &letters) const
+{
+    size_t count = 0;
+    for (size_t i = 0; i < letters.size(); ++i)
+        count += letters[i].forms->counts() && !forgiven[i] ? 1 : 0;
+    return count;
+}
+
+LetterDifference::LetterDifference(const Letters &given, const Letters &expected,
+                                   const std::vector<AnswerParts::Part> &brackets, const AnswerTolerance &tolerance)
+    : m_given(given)
+    , m_expected(expected)
+    , m_tolerance(tolerance)
+    , m_givenSide(given.size())
+    , m_expectedSide(expected.size())
+{
+    align();
+    size_t i = 0;
+    size_t j = 0;
+    for (const Step &step : m_steps) {
+        for (size_t k = 0; k < step.given; ++k)
+            m_givenSide.found[i++] = step.same();
+        if (step.expected > 0)
+            m_expectedSide.found[j++] = step.same();
+    }
+    forgive(brackets);
+}
+
+bool LetterDifference::same(size_t given, size_t expected) const
+{
+    return sameLetter(*m_given[given].forms, *m_expected[expected].forms, m_tolerance);
+}
+
+/// The letter given may be the beginning of a spelling of the one expected.
+bool LetterDifference::spelledOut(size_t given, size_t expected) const
+{
+    return m_tolerance.accents && m_given[given].forms != m_expected[expected].forms &&
+           !m_expected[expected].forms->spellings.empty();
+}
+
+void LetterDifference::align()
+{
+    const size_t shorter = std::min(m_given.size(), m_expected.size());
+    size_t start = 0;
+    while (start < shorter && same(start, start) && !spelledOut(start, start))
+        ++start;
+    size_t end = 0;
+    while (end < shorter - start && same(m_given.size() - 1 - end, m_expected.size() - 1 - end))
+        ++end;
+    const size_t given = m_given.size() - start - end;
+    const size_t expected = m_expected.size() - start - end;
+    addSteps(start, {1, 1});
+    if (std::max(given, expected) <= MostCompared) {
+        const std::vector<Step> between = Table(*this, start, given, expected).steps();
+        m_steps.insert(m_steps.end(), between.begin(), between.end());
+    } else {
+        addSteps(given, {1, 0});
+        addSteps(expected, {0, 1});
+    }
+    addSteps(end, {1, 1});
+}
+
+void LetterDifference::forgive(const std::vector<AnswerParts::Part> &brackets)
+{
+    if (m_tolerance.blanksAndPunctuation) {
+        m_givenSide.forgivePunctuation(m_given);
+        m_expectedSide.forgivePunctuation(m_expected);
+    }
+    if (m_tolerance.brackets)
+        m_expectedSide.forgiveBrackets(m_expected, brackets);
+    m_givenSide.forgiveBlanks(m_given, m_tolerance.blanksAndPunctuation);
+    m_expectedSide.forgiveBlanks(m_expected, m_tolerance.blanksAndPunctuation);
+}
+
+double LetterDifference::likeness() const
+{
+    size_t common = 0;
+    for (size_t i = 0; i < m_expected.size(); ++i)
+        common += m_expectedSide.found[i] && m_expected[i].forms->counts() ? 1 : 0;
+    const size_t shorter = std::min(m_givenSide.size(m_given), m_expectedSide.size(m_expected));
+    return shorter == 0 ? 0 : double(common) / double(shorter);
+}
+
+std::vector<Difference::Change> LetterDifference::changes() const
+{
+    const auto place = [](const Letters &letters, size_t i) {
+        return i < letters.size() ? letters[i].start
+               : letters.empty()  ? 0
+                                  : letters.back().start + letters.back().length;
+    };
+    std::vector<Difference::Change> all;
+    bool open = false; // the last change goes on
+    size_t i = 0;
+    size_t j = 0;
+    for (const Step &step : m_steps) {
+        const bool forgiven =
+            (step.given == 1 && m_givenSide.forgiven[i]) || (step.expected == 1 && m_expectedSide.forgiven[j]);
+        if (!step.same() && !forgiven) {
+            if (!std::exchange(open, true))
+                all.push_back({place(m_given, i), 0, place(m_expected, j), 0});
+            Difference::Change &change = all.back();
+            if (step.given == 1)
+                change.givenLength = place(m_given, i + 1) - change.givenStart;
+            else
+                change.expectedLength = place(m_expected, j + 1) - change.expectedStart;
+        }
+        open = open && !step.same();
+        i += step.given;
+        j += step.expected;
+    }
+    return all;
+}
