@@ -35,6 +35,20 @@ void AnswerBox::mouseReleaseEvent(QMouseEvent *event)
     selectPrompt();
 }
 
+/// While nothing is typed the keys for Undo and Redo are the window's: there is nothing in the box to undo.
+bool AnswerBox::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride && text().isEmpty()) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if ((key->matches(QKeySequence::Undo) && !isUndoAvailable()) ||
+            (key->matches(QKeySequence::Redo) && !isRedoAvailable())) {
+            event->ignore();
+            return true;
+        }
+    }
+    return QLineEdit::event(event);
+}
+
 void AnswerBox::paintEvent(QPaintEvent *event)
 {
     QLineEdit::paintEvent(event);

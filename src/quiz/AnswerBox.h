@@ -15,6 +15,7 @@ public:
     void setPrompt(const QString &prompt) { m_prompt = prompt; }
 
 protected:
+    bool event(QEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 

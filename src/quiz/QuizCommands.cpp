@@ -114,6 +114,7 @@ void QuizCommands::start(QuizKind kind)
     frmOva quiz(m_needs.settings, m_needs.random, m_needs.errorSound, &m_needs.window);
     quiz.setQuizType(qint16(kind));
     quiz.setAskedRows(*rows);
+    quiz.setWordFamily(document->Rutor()->Font().family());
     quiz.Form_Load(GridWords(*document->Rutor()), *document->frame(), document->Caption());
     if (quiz.Tag() == u"1")
         quiz.exec();

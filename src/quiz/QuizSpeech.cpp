@@ -3,11 +3,74 @@
 #include "quiz/rules/QuizSession.h"
 #include "resources/StringTable.h"
 
+namespace {
+
+constexpr size_t MostChanges = 5; ///< more are too many to listen to
+
+/// As a reader says it: a text of blanks would not be heard.
+QString spoken(const QString &letters)
+{
+    return letters.trimmed().isEmpty() ? resText(14206) : letters;
+}
+
+QString change(const QString &given, const QString &expected)
+{
+    if (given.isEmpty())
+        return resText(14203).arg(spoken(expected));
+    if (expected.isEmpty())
+        return resText(14204).arg(spoken(given));
+    // Letters that differ by their size alone sound the same.
+    int id = 14205;
+    if (given.toLower() == expected.toLower())
+        id = given == given.toLower() ? 14207 : 14208;
+    return resText(id).arg(spoken(given), spoken(expected));
+}
+
+} // namespace
+
 namespace QuizSpeech {
 
 QString verdict(const QuizSession &session, bool correct)
 {
-    return correct ? resText(12007) : resText(12008).arg(session.question().correctAnswer());
+    QStringList sentences{correct ? resText(12007) : resText(12008).arg(session.question().correctAnswer())};
+    if (const QString forgiven = QuizSpeech::forgiven(session.judgement()); correct && !forgiven.isEmpty())
+        sentences << resText(14209).arg(session.question().correctAnswer()) << forgiven + u'.';
+    if (const QString difference = QuizSpeech::difference(session); !difference.isEmpty())
+        sentences << resText(14218).arg(difference);
+    return sentences.join(u' ');
+}
+
+QString turned(bool correct)
+{
+    return resText(correct ? 14216 : 14217);
+}
+
+QString difference(const QuizSession &session)
+{
+    const QString given = session.givenAnswer().normalized(QString::NormalizationForm_C);
+    const QString expected = session.question().correctAnswer().normalized(QString::NormalizationForm_C);
+    QStringList all;
+    for (const Difference::Change &each : session.judgement().difference.changes) {
+        if (all.size() < qsizetype(MostChanges))
+            all << change(given.mid(each.givenStart, each.givenLength),
+                          expected.mid(each.expectedStart, each.expectedLength));
+    }
+    return all.join(QStringLiteral("; "));
+}
+
+QString forgiven(const Judgement &judgement)
+{
+    const std::pair<bool, int> names[] = {{judgement.forgiven.letterCase, 14211},
+                                          {judgement.forgiven.accents, 14212},
+                                          {judgement.forgiven.blanksAndPunctuation, 14213},
+                                          {judgement.forgiven.brackets, 14214},
+                                          {judgement.forgiven.oneOfSeveral, 14215}};
+    QStringList all;
+    for (const auto &[used, id] : names) {
+        if (used)
+            all << resText(id);
+    }
+    return all.isEmpty() ? QString() : resText(14210).arg(all.join(QStringLiteral(", ")));
 }
 
 QString state(const QuizSession &session)

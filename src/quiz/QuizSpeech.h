@@ -3,12 +3,19 @@
 #include <QString>
 
 class QuizSession;
+struct Judgement;
 
 /// What a screen reader says of a running quiz.
 namespace QuizSpeech {
 
-/// The verdict on the question still on view.
+/// The verdict on the question still on view, with what was wrong or forgiven.
 QString verdict(const QuizSession &session, bool correct);
+/// The user has turned the last verdict.
+QString turned(bool correct);
+/// What was wrong with the last typed answer: "missing: h". Empty where that tells nothing.
+QString difference(const QuizSession &session);
+/// What was forgiven; empty when nothing was.
+QString forgiven(const Judgement &judgement);
 /// The counters and the word that is asked now, or the summary of the round when it has ended.
 QString state(const QuizSession &session);
 

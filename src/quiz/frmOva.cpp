@@ -2,13 +2,10 @@
 
 #include "platform/SoundPlayer.h"
 #include "quiz/OnePress.h"
-#include "quiz/QuizColours.h"
 #include "quiz/QuizLook.h"
 #include "quiz/QuizSpeech.h"
-#include "resources/Pictures.h"
 #include "resources/StringTable.h"
 #include "services/Hourglass.h"
-#include "services/desktop/Contrast.h"
 #include "services/desktop/EnterKey.h"
 #include "services/settings/clsAppProperties.h"
 
@@ -18,24 +15,7 @@
 #include <QInputMethod>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-
-namespace {
-
-void showCount(QLabel *number, QLabel *title, int count, const QColor &colour)
-{
-    number->setNum(count);
-    number->setAccessibleName(resText(12009).arg(title->text()).arg(count));
-    number->setVisible(true);
-    title->setVisible(true);
-    if (!colour.isValid())
-        return;
-    QPalette palette;
-    if (count > 0)
-        palette.setColor(QPalette::WindowText, Contrast::readable(colour, palette));
-    number->setPalette(palette);
-}
-
-} // namespace
+#include <QShortcut>
 
 frmOva::frmOva(clsAppProperties &settings, RandomSource &random, SoundPlayer &errorSound, QWidget *parent)
     : QDialog(parent)
@@ -43,13 +23,12 @@ frmOva::frmOva(clsAppProperties &settings, RandomSource &random, SoundPlayer &er
     , m_settings(settings)
     , m_random(random)
     , m_errorSound(errorSound)
+    , m_place(*this, settings)
 {
     m_ui->setupUi(this);
     EnterKey::leaveToDialog(*this);
     m_optAnswer =
         std::make_unique<AnswerOptions>(std::array{m_ui->optAnswer0, m_ui->optAnswer1, m_ui->optAnswer2}, nullptr);
-    m_lblResult = {m_ui->lblResult0, m_ui->lblResult1, m_ui->lblResult2, m_ui->lblResult3};
-    m_lblResultTitel = {m_ui->lblResultTitel0, m_ui->lblResultTitel1, m_ui->lblResultTitel2, m_ui->lblResultTitel3};
 }
 
 frmOva::~frmOva()
@@ -84,6 +63,15 @@ void frmOva::connectControls()
     connect(m_ui->btnCheck, &QPushButton::clicked, this, &frmOva::btnCheck_Click);
     connect(m_ui->btnHint, &QPushButton::clicked, this, &frmOva::btnHint_Click);
     connect(m_ui->btnRep, &QPushButton::clicked, this, &frmOva::btnRep_Click);
+    connect(m_ui->btnRight, &QToolButton::clicked, m_session.get(), &QuizSession::turnVerdict);
+    for (const auto &[key, turned] : {std::pair(QKeySequence::Undo, false), std::pair(QKeySequence::Redo, true)}) {
+        auto *shortcut = new QShortcut(key, this);
+        shortcut->setAutoRepeat(false);
+        connect(shortcut, &QShortcut::activated, this, [this, turned = turned] {
+            if (m_session->turned() == turned)
+                m_session->turnVerdict();
+        });
+    }
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &frmOva::reject);
     connect(m_ui->chkAuto, &QCheckBox::clicked, this, &frmOva::chkAuto_Click);
     connect(m_ui->chkError, &QCheckBox::clicked, m_session.get(), &QuizSession::setHintIsError);
@@ -105,6 +93,7 @@ void frmOva::connectSession()
     connect(m_session.get(), &QuizSession::questionShown, this, &frmOva::showQuestion);
     connect(m_session.get(), &QuizSession::answerRevealed, this, &frmOva::showAnswer);
     connect(m_session.get(), &QuizSession::judged, this, &frmOva::showVerdict);
+    connect(m_session.get(), &QuizSession::verdictTurned, this, &frmOva::showTurned);
     connect(m_session.get(), &QuizSession::roundEnded, this, &frmOva::showRoundEnd);
 }
 
@@ -162,6 +151,7 @@ void frmOva::showQuestion()
         m_ui->txtSvar->setAccessibleName(resText(12012).arg(question.answerLanguage()));
         break;
     }
+    showTurning();
     speak(QuizSpeech::state(*m_session));
     focusAnswer();
     setUpdatesEnabled(true);
@@ -181,30 +171,38 @@ void frmOva::showAnswer()
 void frmOva::showVerdict(bool correct)
 {
     setUpdatesEnabled(false);
-    m_ui->picMark->clear();
-    const Question &question = m_session->question();
-    m_ui->lblPrev->setFullText(question.askedWord());
-    m_ui->lblAns->setFullText(m_session->givenAnswer());
-    m_ui->lblCorr->setFullText(question.correctAnswer());
-    m_ui->picMark->setMark(correct ? PictureRight : PictureWrong);
-    setResultVisible(true, !correct);
-    showCounters();
     m_spokenVerdict = QuizSpeech::verdict(*m_session, correct);
-    m_ui->picMark->setAccessibleName(m_spokenVerdict);
+    m_ui->picResult->showVerdict(*m_session, correct, m_spokenVerdict);
+    showCounters();
     if (!correct && m_session->beepOnError())
         m_errorSound.play();
 }
 
+void frmOva::showTurned(bool correct)
+{
+    m_spokenVerdict = QuizSpeech::turned(correct);
+    m_ui->picResult->showTurned(correct, m_spokenVerdict);
+    showCounters();
+    showTurning();
+    if (m_session->done())
+        showScore();
+    speak(QuizSpeech::state(*m_session));
+}
+
+/// Offers to turn the last verdict. At the end of the round the letter R repeats the errors.
+void frmOva::showTurning()
+{
+    m_ui->btnRight->setVisible(m_session->canTurn());
+    if (m_session->done())
+        m_ui->btnRight->setText(resText(m_session->turned() ? 14220 : 14219));
+    else
+        m_ui->btnRight->setText(resText(m_session->turned() ? 14201 : 14200));
+}
+
 void frmOva::showCounters()
 {
-    const std::array counts = {m_session->questionCount(), m_session->correctCount() + m_session->errorCount(),
-                               m_session->correctCount(), m_session->errorCount()};
-    const std::array colours = {QColor(), QColor(), QuizColours::Right, QuizColours::Wrong};
-    for (size_t i = 0; i < counts.size(); ++i) {
-        if (i == 0 || counts[i] > 0 || m_session->done())
-            showCount(m_lblResult[i], m_lblResultTitel[i], counts[i], colours[i]);
-    }
-    m_ui->picProgress->setCounts(counts[0], counts[2], counts[3]);
+    m_ui->picResult->showCounters(*m_session);
+    m_ui->picProgress->setCounts(m_session->questionCount(), m_session->correctCount(), m_session->errorCount());
 }
 
 void frmOva::showRoundStart()
@@ -214,6 +212,7 @@ void frmOva::showRoundStart()
     hideResults();
     m_ui->btnHint->setEnabled(true);
     m_ui->btnRep->setEnabled(false);
+    showTurning();
 }
 
 void frmOva::showRoundEnd()
@@ -223,15 +222,21 @@ void frmOva::showRoundEnd()
         control->hide();
     m_optAnswer->setVisible(false);
     m_ui->lblSum->show();
-    m_ui->lblScore->setText(resText(12006).arg(m_session->correctCount()).arg(m_session->questionCount()));
     m_ui->lblScore->show();
+    showScore();
     showCounters();
-    m_ui->btnRep->setEnabled(m_session->canRepeat());
+    showTurning();
     m_ui->btnHint->setEnabled(false);
     m_ui->btnCheck->setText(resText(921));
     speak(QuizSpeech::state(*m_session));
     m_ui->btnCheck->setFocus(Qt::OtherFocusReason);
     setUpdatesEnabled(true);
+}
+
+void frmOva::showScore()
+{
+    m_ui->lblScore->setText(resText(12006).arg(m_session->correctCount()).arg(m_session->questionCount()));
+    m_ui->btnRep->setEnabled(m_session->canRepeat());
 }
 
 QWidget *frmOva::answerControl() const
@@ -268,6 +273,7 @@ void frmOva::changeEvent(QEvent *event)
 
 void frmOva::Form_Activate()
 {
+    m_place.opened();
     if (m_ui->txtSvar->isVisible()) {
         m_ui->txtSvar->selectAll();
         m_ui->txtSvar->setFocus(Qt::OtherFocusReason);
@@ -279,6 +285,12 @@ void frmOva::keyPressEvent(QKeyEvent *event)
     const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     if (!plain || !m_optAnswer->chooseByDigit(event->key()))
         QDialog::keyPressEvent(event);
+}
+
+void frmOva::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    scaleWords();
 }
 
 /// Enter in the box for seconds leads back to the answer.
@@ -295,6 +307,7 @@ bool frmOva::eventFilter(QObject *watched, QEvent *event)
 
 void frmOva::done(int result)
 {
+    m_place.keep();
     m_tmrSvar.setInterval(0);
     m_tmrAutoSvar.setInterval(0);
     QDialog::done(result);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "quiz/AnswerOptions.h"
+#include "quiz/QuizPlace.h"
 #include "quiz/rules/QuizSession.h"
 #include "widgets/clsTimer.h"
 
@@ -10,7 +11,6 @@
 #include <memory>
 
 class clsAppProperties;
-class QLabel;
 class SoundPlayer;
 
 namespace Ui {
@@ -33,6 +33,8 @@ public:
 
     /// Which words are asked; set before Form_Load, else all are.
     void setAskedRows(const AskedRows &rows) { m_askedRows = rows; }
+    /// The family of the vocabulary's words, the window's own if it is empty; set before Form_Load.
+    void setWordFamily(const QString &family) { m_wordFamily = family; }
 
     /// "1" once the quiz is ready, "0" when it could not be built.
     QString Tag() const { return m_tag; }
@@ -49,6 +51,7 @@ public Q_SLOTS:
 protected:
     void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -58,7 +61,10 @@ private:
 
     void layOut();
     void takeRoom();
-    void dressTypes(const Sizes &sizes);
+    /// Gives the words their types, scale times as large as at the window's first size.
+    void dressTypes(double scale);
+    /// Lets the words grow with the window.
+    void scaleWords();
     void dressLabels();
     void dressKind();
     void connectControls();
@@ -66,7 +72,6 @@ private:
     void showForKind();
     void showCounters();
     void hideResults();
-    void setResultVisible(bool previous, bool correct);
     QWidget *answerControl() const;
     void focusAnswer();
     /// Has a screen reader say the verdict on the last answer, if there is one, and a text.
@@ -82,17 +87,24 @@ private:
     void showQuestion();
     void showAnswer();
     void showVerdict(bool correct);
+    void showTurned(bool correct);
+    void showTurning();
+    void showScore();
     void showRoundEnd();
 
     std::unique_ptr<Ui::frmOva> m_ui;
     std::unique_ptr<AnswerOptions> m_optAnswer;
-    std::array<QLabel *, 4> m_lblResult;
-    std::array<QLabel *, 4> m_lblResultTitel;
     clsTimer m_tmrSvar;
     clsTimer m_tmrAutoSvar;
     clsAppProperties &m_settings;
     RandomSource &m_random;
     SoundPlayer &m_errorSound;
+    QuizPlace m_place;
+    const Sizes *m_sizes = &Roomy;
+    QSize m_firstSize;      ///< the size at which the words have their first size
+    int m_resultHeight = 0; ///< of the result panel at that size
+    double m_scale = 1;
+    QString m_wordFamily;
     std::unique_ptr<QuizSession> m_session;
     QPointer<QWidget> m_document; ///< may close while the quiz is open, when the program is told to end
     Qt::WindowStates m_documentState;

@@ -1,47 +1,33 @@
 #include "quiz/frmOva.h"
 
+#include "quiz/QuizColours.h"
 #include "quiz/QuizLook.h"
 #include "quiz/rules/Seconds.h"
 #include "resources/StringTable.h"
 #include "services/FormTexts.h"
-#include "services/desktop/Contrast.h"
 #include "services/desktop/ScreenFit.h"
 
 #include "ui_frmOva.h"
 
 #include <QRegularExpressionValidator>
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 constexpr double SmallestType = 1.0;
 constexpr int InitialWidth = 620; ///< pixels
+constexpr double LargestScale = 6;
+constexpr double ScaleStep = 0.02; ///< a smaller change of the scale does not show
 
-void scaleType(QWidget *control, double factor)
+void scaleType(QWidget *control, double factor, const QString &family)
 {
     QFont font = control->window()->font();
     font.setPointSizeF(QFontInfo(font).pointSizeF() * factor);
+    if (!family.isEmpty())
+        font.setFamilies({family, font.family()});
     control->setFont(font);
-}
-
-void setBold(QWidget *control)
-{
-    QFont font = control->font();
-    font.setBold(true);
-    control->setFont(font);
-}
-
-void setMuted(QWidget *control)
-{
-    QPalette palette = control->palette();
-    palette.setColor(QPalette::WindowText, Contrast::readable(palette.color(QPalette::PlaceholderText), palette));
-    control->setPalette(palette);
-}
-
-void keepRoom(QWidget *control)
-{
-    QSizePolicy policy = control->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    control->setSizePolicy(policy);
 }
 
 void dress(QWidget *control, int textId, int whatsThisId)
@@ -70,7 +56,7 @@ const frmOva::Sizes frmOva::Tight{1.6, 1.4, 1.2, 1.1, 7};
 void frmOva::layOut()
 {
     FormTexts::apply(this);
-    dressTypes(Roomy);
+    dressTypes(1);
     dressLabels();
     dressKind();
     showForKind();
@@ -79,22 +65,46 @@ void frmOva::layOut()
 
 void frmOva::takeRoom()
 {
-    if (sizeHint().height() > ScreenFit::room(*this).height())
-        dressTypes(Tight);
+    if (sizeHint().height() > ScreenFit::room(*this).height()) {
+        m_sizes = &Tight;
+        dressTypes(1);
+    }
     // The room stays when the round ends and the question makes way for the summary.
     m_ui->picQuestion->setMinimumHeight(m_ui->picQuestion->sizeHint().height());
-    resize(sizeHint().expandedTo(QSize(InitialWidth, 0)));
+    m_resultHeight = m_ui->picResult->sizeHint().height();
+    const QSize firstSize = sizeHint().expandedTo(QSize(InitialWidth, 0));
+    resize(firstSize);
+    m_firstSize = firstSize;
+    m_place.restore();
 }
 
-void frmOva::dressTypes(const Sizes &sizes)
+void frmOva::scaleWords()
 {
-    m_ui->lblFraga->setTypeSizes(sizes.askedType, SmallestType);
-    m_ui->lblNote->setTypeSizes(sizes.noteType, SmallestType);
-    m_ui->lblSum->setTypeSizes(sizes.askedType, SmallestType);
-    scaleType(m_ui->lblScore, sizes.optionType);
-    scaleType(m_ui->txtSvar, sizes.answerType);
+    if (m_firstSize.isEmpty())
+        return;
+    const double share = std::min(double(width()) / m_firstSize.width(), double(height()) / m_firstSize.height());
+    const double scale = std::clamp(share, 1.0, LargestScale);
+    if (std::abs(scale - m_scale) < ScaleStep && scale > 1)
+        return;
+    // What the words take beyond their first size must not keep the window from being made smaller.
+    m_ui->picResult->setMinimumHeight(scale > 1 ? m_resultHeight : 0);
+    m_scale = scale;
+    dressTypes(scale);
+}
+
+void frmOva::dressTypes(double scale)
+{
+    const Sizes &sizes = *m_sizes;
+    for (FittedLabel *label : {m_ui->lblFraga, m_ui->lblNote})
+        label->setFamily(m_wordFamily);
+    m_ui->lblFraga->setTypeSizes(sizes.askedType * scale, SmallestType);
+    m_ui->lblNote->setTypeSizes(sizes.noteType * scale, SmallestType);
+    m_ui->lblSum->setTypeSizes(sizes.askedType * scale, SmallestType);
+    m_ui->picResult->setWordType(m_wordFamily, scale);
+    scaleType(m_ui->lblScore, sizes.optionType * scale, QString());
+    scaleType(m_ui->txtSvar, sizes.answerType * scale, m_wordFamily);
     for (int i = 0; i < AnswerOptions::Count; ++i)
-        scaleType(m_optAnswer->option(i), sizes.optionType);
+        scaleType(m_optAnswer->option(i), sizes.optionType * scale, m_wordFamily);
     layout()->setContentsMargins(sizes.margin, sizes.margin * 3 / 4, sizes.margin, sizes.margin * 3 / 4);
     layout()->setSpacing(sizes.margin / 2);
 }
@@ -102,18 +112,9 @@ void frmOva::dressTypes(const Sizes &sizes)
 void frmOva::dressLabels()
 {
     m_ui->lblSum->setFullText(resText(915));
-    for (QWidget *muted : std::initializer_list<QWidget *>{m_ui->lblLang1, m_ui->lblLang2, m_ui->lblPrevTitel,
-                                                           m_ui->lblAnsTitel, m_ui->lblCorrTitel})
-        setMuted(muted);
-    for (QWidget *steady : std::initializer_list<QWidget *>{m_ui->lblPrevTitel, m_ui->lblPrev, m_ui->lblAnsTitel,
-                                                            m_ui->lblAns, m_ui->lblCorrTitel, m_ui->lblCorr})
-        keepRoom(steady);
-    for (size_t i = 0; i < m_lblResult.size(); ++i) {
-        setMuted(m_lblResultTitel[i]);
-        setBold(m_lblResult[i]);
-        keepRoom(m_lblResultTitel[i]);
-        keepRoom(m_lblResult[i]);
-    }
+    QuizColours::mute(*m_ui->lblLang1);
+    QuizColours::mute(*m_ui->lblLang2);
+    m_ui->picResult->dress();
 }
 
 void frmOva::dressKind()
@@ -159,20 +160,6 @@ void frmOva::showForKind()
 
 void frmOva::hideResults()
 {
-    setResultVisible(false, false);
-    m_ui->picMark->clear();
-    for (size_t i = 1; i < m_lblResult.size(); ++i) {
-        m_lblResult[i]->hide();
-        m_lblResultTitel[i]->hide();
-    }
+    m_ui->picResult->clear();
     showCounters();
-}
-
-void frmOva::setResultVisible(bool previous, bool correct)
-{
-    for (QWidget *label :
-         std::initializer_list<QWidget *>{m_ui->lblPrevTitel, m_ui->lblPrev, m_ui->lblAnsTitel, m_ui->lblAns})
-        label->setVisible(previous);
-    m_ui->lblCorrTitel->setVisible(correct);
-    m_ui->lblCorr->setVisible(correct);
 }

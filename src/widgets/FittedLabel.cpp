@@ -52,6 +52,13 @@ void FittedLabel::setTypeSizes(double preferred, double smallest)
     fit();
 }
 
+void FittedLabel::setFamily(const QString &family)
+{
+    m_family = family;
+    updateGeometry();
+    fit();
+}
+
 void FittedLabel::setRoomFor(const QString &text)
 {
     m_roomFor = text.normalized(QString::NormalizationForm_C);
@@ -89,6 +96,8 @@ QFont FittedLabel::scaledFont(double factor) const
     const QFont base = parentWidget() ? parentWidget()->font() : font();
     QFont scaled = base;
     scaled.setPointSizeF(QFontInfo(base).pointSizeF() * factor);
+    if (!m_family.isEmpty())
+        scaled.setFamilies({m_family, base.family()});
     return scaled;
 }
 
@@ -103,12 +112,16 @@ QFont FittedLabel::fittingFont(double width) const
 
 void FittedLabel::fit()
 {
-    const double width = contentsRect().width() * UsableWidth;
+    const double width = usableWidth();
     const QFont type = fittingFont(width);
+    showFitted(fittedText(m_fullText, type, width), type);
+}
+
+void FittedLabel::showFitted(const QString &text, const QFont &type)
+{
     m_fitting = true;
     setFont(type);
     m_fitting = false;
-    const QString shown = fittedText(m_fullText, type, width);
-    setText(shown);
-    setToolTip(shown == m_fullText ? QString() : FormTexts::plainToolTip(m_fullText));
+    setText(text);
+    setToolTip(text == m_fullText ? QString() : FormTexts::plainToolTip(m_fullText));
 }

@@ -19,6 +19,8 @@ public:
 
     /// The type the label prefers and the smallest it may take, as multiples of the window's type.
     void setTypeSizes(double preferred, double smallest);
+    /// The family to write in instead of the window's.
+    void setFamily(const QString &family);
     /// The type is chosen as if this text were shown: a text that grows up to it does not change its size.
     void setRoomFor(const QString &text);
 
@@ -29,11 +31,21 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
 
-private:
+    /// The text in normalization form C.
+    const QString &fullText() const { return m_fullText; }
+    /// The width that the text may take, in pixels.
+    double usableWidth() const { return contentsRect().width() * UsableWidth; }
+    double preferredType() const { return m_preferred; }
+    double smallestType() const { return m_smallest; }
     QFont scaledFont(double factor) const;
-    QFont fittingFont(double width) const;
-    void fit();
+    /// Gives the label its type and what it shows of its text.
+    virtual void fit();
+    void showFitted(const QString &text, const QFont &type);
 
+private:
+    QFont fittingFont(double width) const;
+
+    QString m_family;
     QString m_fullText;
     QString m_roomFor;
     double m_preferred = 1;

@@ -261,3 +261,86 @@ TEST_F(frmOvaTest, AScreenReaderHearsTheWordTheVerdictAndTheCounters)
     mnemonic(Qt::Key_R);
     EXPECT_EQ(QString(), control("btnCheck")->accessibleDescription());
 }
+
+TEST_F(frmOvaTest, AWrongAnswerIsTurnedUntilTheNextOne)
+{
+    open(QuestionAndAnswer);
+    auto *turn = control<QToolButton>("btnRight");
+    const auto counts = [this] {
+        return std::pair(window->session()->correctCount(), window->session()->errorCount());
+    };
+    type("Hund");
+    EXPECT_FALSE(turn->isVisible());
+    type("Kaze");
+    EXPECT_TRUE(turn->isVisible());
+    QTest::keyClick(answerBox(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(std::pair(2, 0), counts());
+    EXPECT_EQ(PictureRight, mark());
+    EXPECT_EQ(u"0", control<QLabel>("lblResult3")->text());
+    EXPECT_EQ(u"Now correct. English: cow. Question 3 of 3, 2 correct, 0 incorrect.",
+              answerBox()->accessibleDescription());
+    QTest::keyClick(answerBox(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(std::pair(2, 0), counts()) << "once is enough";
+    QTest::keyClick(answerBox(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(std::pair(1, 1), counts());
+    QTest::keyClicks(answerBox(), "Kuhh");
+    QTest::keyClick(answerBox(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(QString(), answerBox()->text());
+    EXPECT_EQ(std::pair(1, 1), counts()) << "what was typed is undone first";
+    mnemonic(Qt::Key_R);
+    EXPECT_EQ(std::pair(2, 0), counts());
+    type("?");
+    EXPECT_EQ(std::pair(2, 1), counts());
+    mnemonic(Qt::Key_W);
+    EXPECT_FALSE(control("btnRep")->isEnabled());
+    EXPECT_EQ(u"3 of 3 answered correctly", control<QLabel>("lblScore")->text());
+    click(turn);
+    mnemonic(Qt::Key_R);
+    EXPECT_EQ(std::pair(0, 0), counts()) << "the errors are repeated";
+    EXPECT_FALSE(turn->isVisible());
+}
+
+TEST_F(frmOvaTest, TheResultTellsWhatWasWrongAndWhatWasForgiven)
+{
+    QuizOptions options;
+    options.tolerance = {.letterCase = true, .blanksAndPunctuation = true};
+    settings.setQuizOptions(options);
+    open(QuestionAndAnswer);
+    const auto *exact = control<QLabel>("lblCorr");
+    type("HUND ");
+    EXPECT_EQ(PictureRight, mark());
+    EXPECT_TRUE(exact->isVisible());
+    EXPECT_EQ(u"Hund", exact->text());
+    EXPECT_EQ(u"Forgiven: capital and small letters, blanks and punctuation", exact->accessibleDescription());
+    type("Kaxe");
+    EXPECT_EQ(u"x instead of tz", control("lblAns")->accessibleDescription());
+    EXPECT_EQ(u"Incorrect. The correct answer is Katze. What differs: x instead of tz. English: cow. "
+              u"Question 3 of 3, 1 correct, 1 incorrect.",
+              answerBox()->accessibleDescription());
+    type("Kuh");
+    EXPECT_FALSE(exact->isVisible());
+}
+
+TEST_F(frmOvaTest, WordsGrowWithTheWindowWhosePlaceIsRemembered)
+{
+    const auto type = [this](const char *name) { return control(QString::fromLatin1(name))->font().pointSizeF(); };
+    open(QuestionAndAnswer);
+    const QSize first = window->size();
+    const QSize larger = first * 1.25;
+    const std::pair before(type("lblFraga"), type("lblPrev"));
+    key(Qt::Key_Escape);
+    EXPECT_TRUE(settings.QuizWindow().isEmpty()) << "the user has changed nothing";
+
+    open(QuestionAndAnswer);
+    window->resize(larger);
+    window->move(30, 20);
+    key(Qt::Key_Escape);
+    EXPECT_EQ(QRect(QPoint(30, 20), larger), settings.QuizWindow());
+    open(QuestionAndAnswer);
+    EXPECT_EQ(larger, window->size());
+    EXPECT_NEAR(1.25 * before.first, type("lblFraga"), 0.5);
+    EXPECT_NEAR(1.25 * before.second, type("lblPrev"), 0.5);
+    window->resize(1, 1);
+    EXPECT_NEAR(before.first, type("lblFraga"), 0.1) << "large words do not hold the window open";
+    EXPECT_LE(window->height(), first.height());
+}

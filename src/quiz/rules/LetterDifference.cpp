@@ -263,15 +263,10 @@ double LetterDifference::likeness() const
     return shorter == 0 ? 0 : double(common) / double(shorter);
 }
 
-std::vector<Difference::Change> LetterDifference::changes() const
+std::vector<LetterDifference::Span> LetterDifference::spans() const
 {
-    const auto place = [](const Letters &letters, size_t i) {
-        return i < letters.size() ? letters[i].start
-               : letters.empty()  ? 0
-                                  : letters.back().start + letters.back().length;
-    };
-    std::vector<Difference::Change> all;
-    bool open = false; // the last change goes on
+    std::vector<Span> all;
+    bool open = false; // the last span goes on
     size_t i = 0;
     size_t j = 0;
     for (const Step &step : m_steps) {
@@ -279,16 +274,51 @@ std::vector<Difference::Change> LetterDifference::changes() const
             (step.given == 1 && m_givenSide.forgiven[i]) || (step.expected == 1 && m_expectedSide.forgiven[j]);
         if (!step.same() && !forgiven) {
             if (!std::exchange(open, true))
-                all.push_back({place(m_given, i), 0, place(m_expected, j), 0});
-            Difference::Change &change = all.back();
-            if (step.given == 1)
-                change.givenLength = place(m_given, i + 1) - change.givenStart;
-            else
-                change.expectedLength = place(m_expected, j + 1) - change.expectedStart;
+                all.push_back({i, i, j, j});
+            (step.given == 1 ? all.back().givenEnd : all.back().expectedEnd) = (step.given == 1 ? i : j) + 1;
         }
         open = open && !step.same();
         i += step.given;
         j += step.expected;
+    }
+    return all;
+}
+
+/// Letters that are missing or too much can often be told in several ways: "d[ie Bank, d]as" and "[die Bank, ]das". The
+/// one that begins with a word is taken, if it is at most room letters before.
+void LetterDifference::moveToWord(Span &span, size_t room) const
+{
+    const bool missing = span.given == span.givenEnd;
+    if (missing == (span.expected == span.expectedEnd))
+        return;
+    const Letters &letters = missing ? m_expected : m_given;
+    const size_t start = missing ? span.expected : span.given;
+    const size_t end = missing ? span.expectedEnd : span.givenEnd;
+    size_t back = 0;
+    while (start > back && !letters[start - back - 1].forms->blank) {
+        if (back == room || letters[start - back - 1].forms != letters[end - back - 1].forms)
+            return;
+        ++back;
+    }
+    span = {span.given - back, span.givenEnd - back, span.expected - back, span.expectedEnd - back};
+}
+
+std::vector<Difference::Change> LetterDifference::changes() const
+{
+    const auto place = [](const Letters &letters, size_t i) {
+        if (i < letters.size())
+            return letters[i].start;
+        return letters.empty() ? 0 : letters.back().start + letters.back().length;
+    };
+    std::vector<Difference::Change> all;
+    Span before{0, 0, 0, 0};
+    for (Span span : spans()) {
+        moveToWord(span, std::min(span.given - before.givenEnd, span.expected - before.expectedEnd));
+        before = span;
+        const qsizetype given = place(m_given, span.given);
+        const qsizetype expected = place(m_expected, span.expected);
+        all.push_back(
+            {given, place(m_given, span.givenEnd) - given, expected, place(m_expected, span.expectedEnd) - expected});
     }
     return all;
 }

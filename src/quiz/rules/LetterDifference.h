@@ -43,6 +43,14 @@ private:
         void forgiveBlanks(const Letters &letters, bool everywhere);
         size_t size(const Letters &letters) const;
     };
+    /// Letters of both texts, from the first to the one behind the last, that stand where the other has something else.
+    struct Span
+    {
+        size_t given;
+        size_t givenEnd;
+        size_t expected;
+        size_t expectedEnd;
+    };
     class Table;
 
     bool same(size_t given, size_t expected) const;
@@ -50,6 +58,8 @@ private:
     void align();
     void addSteps(size_t count, Step step) { m_steps.insert(m_steps.end(), count, step); }
     void forgive(const std::vector<AnswerParts::Part> &brackets);
+    std::vector<Span> spans() const;
+    void moveToWord(Span &span, size_t room) const;
 
     const Letters &m_given;
     const Letters &m_expected;

@@ -76,6 +76,20 @@ void saveOptions(clsRegistry &registry, QuizOptions options)
         storeNumber(registry, each.name, each.value(options), each.value(byDefault));
 }
 
+QRect readPlace(clsRegistry &registry)
+{
+    return {storedNumber(registry, "QuizWindowLeft", 0), storedNumber(registry, "QuizWindowTop", 0),
+            storedNumber(registry, "QuizWindowWidth", 0), storedNumber(registry, "QuizWindowHeight", 0)};
+}
+
+void savePlace(clsRegistry &registry, const QRect &place)
+{
+    storeNumber(registry, "QuizWindowLeft", place.left(), 0);
+    storeNumber(registry, "QuizWindowTop", place.top(), 0);
+    storeNumber(registry, "QuizWindowWidth", place.width(), 0);
+    storeNumber(registry, "QuizWindowHeight", place.height(), 0);
+}
+
 } // namespace
 
 clsAppProperties::clsAppProperties(RegistryStore &store, const QString &programPath)
@@ -112,6 +126,13 @@ void clsAppProperties::setQuizOptions(const QuizOptions &options)
         m_quizOptions.mostWords = 0;
 }
 
+void clsAppProperties::setQuizWindow(const QRect &place)
+{
+    constexpr int Farthest = 32767;
+    const QRect screens(QPoint(-Farthest, -Farthest), QPoint(Farthest, Farthest));
+    m_quizWindow = !place.isEmpty() && screens.contains(place) ? place : QRect();
+}
+
 void clsAppProperties::setFrom(const SettingsRecord &record)
 {
     m_values = record;
@@ -140,6 +161,7 @@ void clsAppProperties::ReadProperties()
     registry.setValueKey(QStringLiteral("FontName"));
     setFontName(registry.Value().toString());
     setQuizOptions(readOptions(registry));
+    setQuizWindow(readPlace(registry));
 }
 
 void clsAppProperties::SaveProperties() const
@@ -154,4 +176,5 @@ void clsAppProperties::SaveProperties() const
     registry.setValueType(RegistryType::String);
     registry.setValue(m_fontName);
     saveOptions(registry, m_quizOptions);
+    savePlace(registry, m_quizWindow);
 }

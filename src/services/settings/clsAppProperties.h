@@ -3,6 +3,7 @@
 #include "services/rules/QuizOptions.h"
 #include "services/settings/SettingsRecord.h"
 
+#include <QRect>
 #include <QString>
 
 class RegistryStore;
@@ -60,6 +61,11 @@ public:
     /// A number of words below 0 or above QuizOptions::MostWords is taken as 0.
     void setQuizOptions(const QuizOptions &options);
 
+    /// Place and size of the quiz window in pixels, an empty rectangle if none is remembered; one that no screen can have
+    /// is not taken.
+    QRect QuizWindow() const { return m_quizWindow; }
+    void setQuizWindow(const QRect &place);
+
     static constexpr int LargestFontSize = 2048;
 
     /// Takes the stored settings. Without any, which is a first run, it takes the defaults and registers the file type.
@@ -79,5 +85,6 @@ private:
     SettingsRecord m_values;
     QString m_fontName;
     QuizOptions m_quizOptions;
+    QRect m_quizWindow;
     bool m_firstRun = false;
 };

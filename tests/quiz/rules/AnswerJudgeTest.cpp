@@ -130,6 +130,8 @@ TEST(AnswerJudge, ShowsWhereAWrongAnswerDiffers)
         "|Haus|| / Haus",
         "Strase|Straße|a|Stra[s]e / Stra[ß]e",
         "Grusse an ale|Grüße an alle|a|Grusse an a[]le / Grüße an a[l]le",
+        "das Geldinstitut|die Bank, das Geldinstitut||[]das Geldinstitut / [die Bank, ]das Geldinstitut",
+        "ein Haus Haus|ein Haus||ein [Haus ]Haus / ein []Haus",
         "Baerchn|Bärchen|a|Baerch[]n / Bärch[e]n",
         "die Bonk|die Bank (Geld)|k|die B[o]nk / die B[a]nk (Geld)",
         "die Bonk|die Bank (Geld)||die B[o]nk[] / die B[a]nk[ (Geld)]",

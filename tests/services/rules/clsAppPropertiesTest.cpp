@@ -100,6 +100,24 @@ TEST(AppProperties, QuizOptionsAreStoredOneByOneOnceTheyDifferFromTheDefault)
     }
 }
 
+TEST(AppProperties, ThePlaceOfTheQuizWindowIsKeptIfAScreenCanHaveIt)
+{
+    const std::pair<QRect, bool> places[] = {{{-5, 0, 700, 500}, true},
+                                             {{10, 20, 0, 500}, false},
+                                             {{10, 20, 700, -500}, false},
+                                             {{INT_MIN, 0, 700, 500}, false},
+                                             {{0, 0, INT_MAX, 500}, false}};
+    for (const auto &[place, kept] : places) {
+        RegistryTree store;
+        clsAppProperties saved(store, Program);
+        saved.setQuizWindow(place);
+        saved.SaveProperties();
+        clsAppProperties read(store, Program);
+        read.ReadProperties();
+        EXPECT_EQ(read.QuizWindow(), kept ? place : QRect());
+    }
+}
+
 TEST(AppProperties, ValuesOutOfRangeAreRepaired)
 {
     const auto with = [](const QByteArray &record) {
