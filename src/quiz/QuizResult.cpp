@@ -139,11 +139,11 @@ void QuizResult::showAnswer(const QuizSession &session, bool correct)
 void QuizResult::showTypedAnswer(const QuizSession &session, bool correct)
 {
     const Judgement &judgement = session.judgement();
-    const QString forgiven = correct ? QuizSpeech::forgiven(judgement) : QString();
+    const QString remark = QuizSpeech::remark(judgement, correct);
     m_ui->lblAns->setMarkedText(session.givenAnswer(), marksOfGiven(judgement.difference));
     m_ui->lblAns->setAccessibleDescription(QuizSpeech::difference(session));
-    m_ui->lblCorr->setMarkedText(session.question().correctAnswer(), marksOfExpected(judgement.difference), forgiven);
-    m_ui->lblCorr->setAccessibleDescription(forgiven);
+    m_ui->lblCorr->setMarkedText(session.question().correctAnswer(), marksOfExpected(judgement.difference), remark);
+    m_ui->lblCorr->setAccessibleDescription(remark);
 }
 
 void QuizResult::setResultVisible(bool previous, bool exact)

@@ -33,8 +33,11 @@ namespace QuizSpeech {
 QString verdict(const QuizSession &session, bool correct)
 {
     QStringList sentences{correct ? resText(12007) : resText(12008).arg(session.question().correctAnswer())};
-    if (const QString forgiven = QuizSpeech::forgiven(session.judgement()); correct && !forgiven.isEmpty())
-        sentences << resText(14209).arg(session.question().correctAnswer()) << forgiven + u'.';
+    if (const QString remark = QuizSpeech::remark(session.judgement(), correct); !remark.isEmpty()) {
+        if (correct)
+            sentences << resText(14209).arg(session.question().correctAnswer());
+        sentences << remark + u'.';
+    }
     if (const QString difference = QuizSpeech::difference(session); !difference.isEmpty())
         sentences << resText(14218).arg(difference);
     return sentences.join(u' ');
@@ -58,8 +61,10 @@ QString difference(const QuizSession &session)
     return all.join(QStringLiteral("; "));
 }
 
-QString forgiven(const Judgement &judgement)
+QString remark(const Judgement &judgement, bool correct)
 {
+    if (!correct)
+        return judgement.verdict == Judgement::Verdict::Wrong ? QString() : resText(14221);
     const std::pair<bool, int> names[] = {{judgement.forgiven.letterCase, 14211},
                                           {judgement.forgiven.accents, 14212},
                                           {judgement.forgiven.blanksAndPunctuation, 14213},

@@ -14,8 +14,8 @@ QString verdict(const QuizSession &session, bool correct);
 QString turned(bool correct);
 /// What was wrong with the last typed answer: "missing: h". Empty where that tells nothing.
 QString difference(const QuizSession &session);
-/// What was forgiven; empty when nothing was.
-QString forgiven(const Judgement &judgement);
+/// What was forgiven of an answer that counts as right, or why the right text counts as wrong; else empty.
+QString remark(const Judgement &judgement, bool correct);
 /// The counters and the word that is asked now, or the summary of the round when it has ended.
 QString state(const QuizSession &session);
 

@@ -63,7 +63,7 @@ void frmOva::connectControls()
     connect(m_ui->btnCheck, &QPushButton::clicked, this, &frmOva::btnCheck_Click);
     connect(m_ui->btnHint, &QPushButton::clicked, this, &frmOva::btnHint_Click);
     connect(m_ui->btnRep, &QPushButton::clicked, this, &frmOva::btnRep_Click);
-    connect(m_ui->btnRight, &QToolButton::clicked, m_session.get(), &QuizSession::turnVerdict);
+    connect(m_ui->btnRight, &QPushButton::clicked, m_session.get(), &QuizSession::turnVerdict);
     for (const auto &[key, turned] : {std::pair(QKeySequence::Undo, false), std::pair(QKeySequence::Redo, true)}) {
         auto *shortcut = new QShortcut(key, this);
         shortcut->setAutoRepeat(false);
@@ -82,7 +82,7 @@ void frmOva::connectControls()
     connect(&m_tmrSvar, &clsTimer::ThatTime, m_session.get(), &QuizSession::revealTick);
     connect(&m_tmrAutoSvar, &clsTimer::ThatTime, m_session.get(), &QuizSession::autoTick);
     m_ui->txtTime->installEventFilter(this);
-    new OnePress(*this, {m_ui->btnCheck, m_ui->optAnswer0, m_ui->optAnswer1, m_ui->optAnswer2});
+    new OnePress(*this, {m_ui->btnCheck, m_ui->btnRight, m_ui->optAnswer0, m_ui->optAnswer1, m_ui->optAnswer2});
 }
 
 void frmOva::connectSession()

@@ -147,7 +147,7 @@ class Tour:
         answered = "Previous Word"
         self._quiz("p", "Practice", [("answer", "alt+k", LONG_PAIRS[0][1]), ("known", None, answered)], "alt+o")
         self._quiz("m", "Multiple Choice", [("chosen", "1", None), ("answered", "Return", answered)], "1", "Return")
-        self._quiz("q", "Question and Answer", [("hint", "alt+h", None), ("answered", "Return", answered)], "Return")
+        self._quiz("q", "Question and Answer", [("hint", "alt+h", None), ("answered", "Return", answered), ("turned", "ctrl+z", None)], "Return")
 
     def leg_printing(self):
         self._start_on("long list.gla", [(f"word {number}", f"Wort {number}") for number in range(351)])

@@ -265,7 +265,7 @@ TEST_F(frmOvaTest, AScreenReaderHearsTheWordTheVerdictAndTheCounters)
 TEST_F(frmOvaTest, AWrongAnswerIsTurnedUntilTheNextOne)
 {
     open(QuestionAndAnswer);
-    auto *turn = control<QToolButton>("btnRight");
+    auto *turn = control<QPushButton>("btnRight");
     const auto counts = [this] {
         return std::pair(window->session()->correctCount(), window->session()->errorCount());
     };

@@ -54,7 +54,7 @@ public:
 private:
     quint16 &best(size_t i, size_t j) { return m_best[i * (m_expected + 1) + j]; }
     quint16 best(size_t i, size_t j) const { return m_best[i * (m_expected + 1) + j]; }
-    void fill(size_t i, size_t j);
+    void fillRow(size_t i);
     bool same(size_t i, size_t j) const;
     /// The length of a spelling of the last of j letters that ends the first i given; 0 if there is none.
     size_t spelling(size_t i, size_t j) const;
@@ -82,10 +82,8 @@ LetterDifference::Table::Table(const LetterDifference &texts, size_t start, size
         for (size_t e = 0; e < m_expectedAlphabet.size(); ++e)
             m_same.push_back(sameLetter(m_givenAlphabet.letter(g), m_expectedAlphabet.letter(e), texts.m_tolerance));
     }
-    for (size_t i = 1; i <= given; ++i) {
-        for (size_t j = 1; j <= expected; ++j)
-            fill(i, j);
-    }
+    for (size_t i = 1; i <= given; ++i)
+        fillRow(i);
 }
 
 bool LetterDifference::Table::same(size_t i, size_t j) const
@@ -95,9 +93,10 @@ bool LetterDifference::Table::same(size_t i, size_t j) const
 
 size_t LetterDifference::Table::spelling(size_t i, size_t j) const
 {
-    if (!m_texts.m_tolerance.accents)
+    const LetterForms &letter = *m_texts.m_expected[m_start + j - 1].forms;
+    if (!m_texts.m_tolerance.accents || letter.spellings.empty())
         return 0;
-    for (const auto &spelling : m_expectedAlphabet.letter(m_expectedAlphabet.numberAt(j - 1)).spellings) {
+    for (const auto &spelling : letter.spellings) {
         if (spelling.size() <= i &&
             LetterMatch::spelledAt(m_texts.m_given, m_start + i - spelling.size(), spelling, m_texts.m_tolerance))
             return spelling.size();
@@ -105,14 +104,19 @@ size_t LetterDifference::Table::spelling(size_t i, size_t j) const
     return 0;
 }
 
-void LetterDifference::Table::fill(size_t i, size_t j)
+void LetterDifference::Table::fillRow(size_t i)
 {
-    int most = std::max(best(i - 1, j), best(i, j - 1));
-    if (same(i, j))
-        most = std::max(most, best(i - 1, j - 1) + 2);
-    if (const size_t length = spelling(i, j))
-        most = std::max(most, best(i - length, j - 1) + int(length) + 1);
-    best(i, j) = quint16(most);
+    const quint16 *above = &best(i - 1, 0);
+    quint16 *row = &best(i, 0);
+    const char *sameAs = &m_same[m_givenAlphabet.numberAt(i - 1) * m_expectedAlphabet.size()];
+    for (size_t j = 1; j <= m_expected; ++j) {
+        int most = std::max(above[j], row[j - 1]);
+        if (sameAs[m_expectedAlphabet.numberAt(j - 1)])
+            most = std::max(most, above[j - 1] + 2);
+        if (const size_t length = spelling(i, j))
+            most = std::max(most, best(i - length, j - 1) + int(length) + 1);
+        row[j] = quint16(most);
+    }
 }
 
 std::vector<LetterDifference::Step> LetterDifference::Table::steps() const

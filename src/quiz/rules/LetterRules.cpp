@@ -173,6 +173,7 @@ void LetterRules::addSpellings(LetterForms &letter)
         if (isAsciiLetters(text))
             spellings << text << text.left(1) + text.mid(1).toLower();
     }
+    spellings.remove(letter.base); // which stands for the letter as it is
     for (const QString &spelling : spellings) {
         std::vector<const LetterForms *> &parts = letter.spellings.emplace_back();
         for (const QChar part : spelling)
