@@ -61,8 +61,8 @@ public:
     /// A number of words below 0 or above QuizOptions::MostWords is taken as 0.
     void setQuizOptions(const QuizOptions &options);
 
-    /// Place and size of the quiz window in pixels, an empty rectangle if none is remembered; one that no screen can have
-    /// is not taken.
+    /// Place and size of the quiz window in pixels, an empty rectangle if none is remembered; one that no screen can
+    /// have is not taken.
     QRect QuizWindow() const { return m_quizWindow; }
     void setQuizWindow(const QRect &place);
 
