@@ -96,12 +96,11 @@ QIcon ExtendedComboBox::swatch(QColor color) const
     const QSize size = iconSize();
     QPixmap pixmap(size * devicePixelRatioF());
     pixmap.setDevicePixelRatio(devicePixelRatioF());
-    pixmap.fill(Qt::transparent);
+    pixmap.fill(color);
     QPainter painter(&pixmap);
     QColor border = palette().color(QPalette::Text);
     border.setAlphaF(0.4F);
     painter.setPen(border);
-    painter.setBrush(color);
     painter.drawRect(QRectF(0.5, 0.5, size.width() - 1, size.height() - 1));
     QIcon icon(pixmap);
     icon.addPixmap(pixmap, QIcon::Selected); // the highlight must not change the colour

@@ -55,3 +55,25 @@ TEST_F(FittedLabelTest, ARightToLeftTextKeepsItsPunctuationAndItsPlace)
     label.setFullText("peace!");
     EXPECT_EQ(Qt::LeftToRight, label.layoutDirection());
 }
+
+TEST(FittedLabelOrder, WhateverComesFirstTheLabelEndsUpTheSame)
+{
+    std::array order{0, 1, 2, 3, 4};
+    std::set<QString> looks;
+    do {
+        QWidget window;
+        FittedLabel label(&window);
+        window.show();
+        const std::array<std::function<void()>, 5> steps{
+            [&] { label.setFullText("words"); }, [&] { label.setTypeSizes(4, 1); },
+            [&] { label.setRoomFor("words that take more room"); }, [&] { label.resize(260, 60); },
+            [&] { window.setFont(QFont("Liberation Serif", 13)); }};
+        for (const int step : order)
+            steps[size_t(step)]();
+        const QSize wanted = label.sizeHint();
+        EXPECT_GE(wanted.width(), label.fontMetrics().horizontalAdvance("words"));
+        EXPECT_EQ(label.minimumSizeHint(), QSize(0, wanted.height()));
+        looks.insert(QString("%1 %2 %3").arg(label.text()).arg(label.font().toString()).arg(wanted.height()));
+    } while (std::next_permutation(order.begin(), order.end()));
+    EXPECT_EQ(looks.size(), 1u) << looks.begin()->toStdString() << " and " << looks.rbegin()->toStdString();
+}

@@ -1,5 +1,6 @@
 #include "widgets/ExtendedComboBox.h"
 #include "widgets/NumberBox.h"
+#include "widgets/clsTimer.h"
 
 TEST(NumberBox, TakesDigitsOnlyAndRefusesTheRestAsAWhole)
 {
@@ -17,7 +18,20 @@ TEST(NumberBox, TakesDigitsOnlyAndRefusesTheRestAsAWhole)
         EXPECT_EQ(box.Value(), box.text().toInt());
         EXPECT_EQ(refused.isEmpty(), box.text() == QString(typed) + pasted) << typed;
     }
-    EXPECT_EQ(NumberBox().Value(), std::nullopt);
+    NumberBox box;
+    EXPECT_EQ(box.Value(), std::nullopt);
+    for (const auto &[value, typed] : {std::pair(10.0, "100"), {10.5, "10.05"}}) {
+        box.setValue(value);
+        box.setCursorPosition(box.text().size() - (value > 10));
+        QTest::keyClicks(&box, ".");
+        QGuiApplication::clipboard()->setText("0");
+        box.paste();
+        EXPECT_EQ(box.text(), typed);
+        box.setText("9");
+        QGuiApplication::clipboard()->setText(".");
+        box.paste();
+        EXPECT_EQ(box.text(), value > 10 ? "9." : "9") << "a point where there was one";
+    }
 }
 
 TEST(ExtendedComboBox, CompletesFromItsListAndComesBackToIt)
@@ -29,7 +43,11 @@ TEST(ExtendedComboBox, CompletesFromItsListAndComesBackToIt)
     ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
     // what is typed, what it is completed with, the entry that it stands for, and what the box shows in the end
     const std::tuple<const char *, const char *, int, const char *> cases[] = {
-        {"Any", "", -1, "Cambria"}, {"noto", " Serif", 2, "Noto Serif"}, {"Nothing", "", -1, "Noto Serif"}};
+        {"Any", "", -1, "Cambria"},
+        {"noto", " Serif", 2, "Noto Serif"},
+        {"Nothing", "", -1, "Noto Serif"},
+        {"liberation m", "ono", 0, "Liberation Mono"},
+        {"Nothing", "", -1, "Liberation Mono"}};
     for (const auto &[typed, completion, entry, shown] : cases) {
         box.lineEdit()->selectAll();
         QTest::keyClicks(box.lineEdit(), typed);
@@ -39,4 +57,40 @@ TEST(ExtendedComboBox, CompletesFromItsListAndComesBackToIt)
         EXPECT_EQ(box.currentText(), shown);
     }
     EXPECT_EQ(box.count(), 3);
+}
+
+TEST(ExtendedComboBox, ShowsColoursInFramesThatFollowThePalette)
+{
+    ExtendedComboBox box;
+    box.addColor("Red", Qt::red, 255);
+    box.addItem("none");
+    box.addColor("Blue", Qt::blue, 0xFF0000);
+    EXPECT_EQ(box.itemData(2), 0xFF0000);
+    EXPECT_TRUE(box.itemIcon(1).isNull());
+    QSet<QRgb> frames;
+    for (const QColor &text : {QColor(Qt::black), QColor(Qt::green)}) {
+        QPalette palette;
+        palette.setColor(QPalette::Text, text);
+        box.setPalette(palette);
+        for (const auto &[entry, colour] : {std::pair(0, Qt::red), {2, Qt::blue}}) {
+            const QSize size = box.iconSize();
+            const QImage drawn = box.itemIcon(entry).pixmap(size).toImage();
+            EXPECT_EQ(drawn.pixelColor(size.width() / 2, size.height() / 2), QColor(colour));
+            EXPECT_EQ(box.itemIcon(entry).pixmap(size, QIcon::Selected).toImage(), drawn) << "also on the highlight";
+            for (const QPoint &corner : {QPoint(), QPoint(size.width() - 1, size.height() - 1)})
+                frames += drawn.pixel(corner);
+        }
+    }
+    EXPECT_EQ(frames.size(), 4) << "one of each colour and text";
+}
+
+TEST(Timer, TellsItsIntervalWhileItRuns)
+{
+    clsTimer timer;
+    const QSignalSpy ticks(&timer, &clsTimer::ThatTime);
+    for (const int interval : {0, 1, 5000, -3}) {
+        timer.setInterval(interval);
+        EXPECT_EQ(timer.Interval(), std::max(0, interval));
+        EXPECT_EQ(QTest::qWaitFor([&ticks] { return ticks.size() > 1; }, 30), interval != 0);
+    }
 }
