@@ -58,7 +58,8 @@ struct Program
     clsAppProperties settings{store, QApplication::applicationFilePath()};
     ProgramFlags flags;
     UndoRecord undo;
-    modMsgBox alert{[this](int topic) { help.HtmlHelp(HelpTarget::ofAlertBoxes(), HH_HELP_CONTEXT, topic); }};
+    modMsgBox alert{[this](int topic) { help.HtmlHelp(HelpTarget::ofAlertBoxes(), HH_HELP_CONTEXT, topic); },
+                    QApplication::beep};
     HelpViewers help{alert, UserFolders::state() + QStringLiteral("/help-favorites")};
     CupsServer printServer;
     QtPrinter printer{printServer};

@@ -48,8 +48,9 @@ AlertBox::Answer answerOf(int button)
 
 } // namespace
 
-modMsgBox::modMsgBox(OpenTopic openTopic)
+modMsgBox::modMsgBox(OpenTopic openTopic, std::function<void()> beep)
     : m_openTopic(std::move(openTopic))
+    , m_beep(std::move(beep))
 {
 }
 
@@ -78,7 +79,7 @@ AlertBox::Answer modMsgBox::show(QWidget *owner, const Alert &alert)
         QObject::connect(new QShortcut(QKeySequence::HelpContents, box), &QShortcut::activated, box, open);
     }
     if (alert.sound)
-        QApplication::beep();
+        m_beep();
     const int button = box->exec();
     if (!box)
         return answerOf(buttons.escape);

@@ -15,7 +15,8 @@ public:
     /// openTopic shows a help topic in the window that belongs to alert boxes.
     using OpenTopic = std::function<void(int helpId)>;
 
-    explicit modMsgBox(OpenTopic openTopic);
+    /// beep gives the sound of a box that has one.
+    modMsgBox(OpenTopic openTopic, std::function<void()> beep);
 
     /// The window that owns a box whose caller names none.
     void setMainWindow(QWidget *window) { m_mainWindow = window; }
@@ -24,5 +25,6 @@ public:
 
 private:
     OpenTopic m_openTopic;
+    std::function<void()> m_beep;
     QPointer<QWidget> m_mainWindow;
 };

@@ -1,36 +1,46 @@
 #include "services/modMsgBox.h"
 
-TEST(AlertBox, TheHelpKeyOpensTheTopicAndEscapeAnswers)
+#include "support/Shown.h"
+
+TEST(AlertBox, ShowsWhatItIsAskedToAndAnswersByKeys)
 {
-    const std::tuple<Alert::Buttons, bool, AlertBox::Answer> cases[] = {
-        {Alert::YesNoCancelHelp, true, AlertBox::AnswerCancel},
-        {Alert::OkHelp, true, AlertBox::AnswerOk},
-        {Alert::YesNo, false, AlertBox::AnswerNo},
-        {Alert::Ok, false, AlertBox::AnswerOk},
+    QWidget mainWindow, caller;
+    const std::tuple<Alert::Buttons, const char *, AlertBox::Answer, AlertBox::Answer> cases[] = {
+        {Alert::Ok, ">OK", AlertBox::AnswerOk, AlertBox::AnswerOk},
+        {Alert::OkHelp, ">OK | &Help", AlertBox::AnswerOk, AlertBox::AnswerOk},
+        {Alert::YesNo, "&Yes | >&No", AlertBox::AnswerNo, AlertBox::AnswerNo},
+        {Alert::YesNoCancelHelp, ">&Yes | &No | Cancel | &Help", AlertBox::AnswerYes, AlertBox::AnswerCancel},
     };
-    for (const auto &[buttons, help, answer] : cases) {
+    for (const auto &[buttons, parts, enter, escape] : cases) {
         std::vector<int> topics;
-        modMsgBox box([&topics](int id) { topics.push_back(id); });
-        Alert alert;
-        alert.buttons = buttons;
-        alert.helpId = 1400;
-        alert.prompt = "A question";
-        alert.exclamation = help;
-        QTimer::singleShot(0, [&topics, waits = help] {
-            QWidget *shown = QApplication::activeModalWidget();
-            QApplication::setActiveWindow(shown);
-            const auto *message = qobject_cast<QMessageBox *>(shown);
-            EXPECT_EQ(message->icon(), waits ? QMessageBox::Warning : QMessageBox::NoIcon);
-            EXPECT_EQ(message->text(), "A question");
-            QTest::keyClick(shown, Qt::Key_H, Qt::AltModifier);
-            EXPECT_TRUE(!waits || QTest::qWaitFor([&topics] { return !topics.empty(); }));
-            EXPECT_TRUE(shown->isVisible());
-            QTest::keyClick(shown, Qt::Key_Escape);
-        });
-        EXPECT_EQ(box.show(nullptr, alert), answer) << int(buttons);
-        EXPECT_EQ(topics, help ? std::vector{1400} : std::vector<int>{});
-        auto *owner = new QWidget;
-        QTimer::singleShot(0, [owner] { delete owner; });
-        EXPECT_EQ(box.show(owner, alert), answer) << "the owner has gone";
+        int beeps = 0;
+        modMsgBox box([&topics](int id) { topics.push_back(id); }, [&beeps] { ++beeps; });
+        box.setMainWindow(&mainWindow);
+        const bool help = buttons == Alert::OkHelp || buttons == Alert::YesNoCancelHelp;
+        const Alert alert{"<b>A question</b>", help ? "Title" : "", buttons, 1400, help, help};
+        for (const auto &[key, answer] : {std::pair(Qt::Key_Return, enter), {Qt::Key_Escape, escape}}) {
+            topics.clear();
+            QWidget *owner = key == Qt::Key_Return ? nullptr : &caller;
+            QTimer::singleShot(0, [&, key = key, parts = parts] {
+                auto *message = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+                QApplication::setActiveWindow(message);
+                EXPECT_EQ(message->parentWidget(), owner ? &caller : &mainWindow);
+                EXPECT_EQ(message->icon(), help ? QMessageBox::Warning : QMessageBox::NoIcon);
+                EXPECT_EQ(shown(*message).toStdString(),
+                          std::string(help ? "Title" : "Glosaria Alert") + " | <b>A question</b> | " + parts);
+                for (const auto &[press, modifiers] :
+                     {std::pair(Qt::Key_H, Qt::AltModifier), {Qt::Key_F1, Qt::NoModifier}})
+                    QTest::keyClick(message, press, modifiers);
+                EXPECT_TRUE(!help || QTest::qWaitFor([&topics] { return topics.size() == 2; }));
+                EXPECT_TRUE(message->isVisible());
+                QTest::keyClick(message->focusWidget(), key);
+            });
+            EXPECT_EQ(box.show(owner, alert), answer) << int(buttons);
+            EXPECT_EQ(topics, help ? (std::vector{1400, 1400}) : std::vector<int>{});
+        }
+        EXPECT_EQ(beeps, help ? 2 : 0);
+        auto *gone = new QWidget;
+        QTimer::singleShot(0, [gone] { delete gone; });
+        EXPECT_EQ(box.show(gone, alert), escape) << "the owner has gone";
     }
 }

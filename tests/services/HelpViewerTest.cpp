@@ -50,21 +50,39 @@ TEST_F(HelpViewerTest, SearchMarksTheWordsOfATopicOrTellsThatNoneHoldsThem)
         QTest::mouseClick(part<QPushButton>("listTopics"), Qt::LeftButton);
         EXPECT_EQ(texts(part<QListWidget>("found")), topics);
         EXPECT_EQ(part<QLabel>("outcome")->text() == "No topic holds all these words.", topics.isEmpty());
-        EXPECT_FALSE(part<HelpBrowser>("browser")->extraSelections().isEmpty());
+        const auto marks = part<HelpBrowser>("browser")->extraSelections();
+        ASSERT_FALSE(marks.isEmpty());
+        EXPECT_EQ(marks[0].format.foreground(), main()->palette().highlightedText());
+        EXPECT_EQ(marks[0].format.background(), main()->palette().highlight());
     }
 }
 
-TEST_F(HelpViewerTest, TheIndexNarrowsWhileTyping)
+TEST_F(HelpViewerTest, TheIndexIsSortedAndNarrowsToWhatIsTyped)
 {
     ASSERT_TRUE(viewers.HtmlHelp(target, HH_DISPLAY_INDEX));
-    QTest::keyClicks(part<QLineEdit>("keyword"), "ac");
-    EXPECT_TRUE(texts(part<QListWidget>("keywords")).contains("accents"));
-    EXPECT_FALSE(texts(part<QListWidget>("keywords")).contains("undo"));
-    QTest::keyClick(part<QLineEdit>("keyword"), Qt::Key_Return);
-    EXPECT_EQ(main()->page(), "html/accents.html");
+    const auto *list = part<QListWidget>("keywords");
+    QStringList sorted = texts(list);
+    std::stable_sort(sorted.begin(), sorted.end(), [](const QString &one, const QString &other) {
+        return one.compare(other, Qt::CaseInsensitive) < 0;
+    });
+    EXPECT_EQ(texts(list), sorted);
+    // what is typed, how many entries are left, which of them is chosen, and the page that Enter shows
+    const std::tuple<const char *, int, const char *, const char *> cases[] = {
+        {"ac", 3, "accents", "html/accents.html"},
+        {"an", 6, "answers", "html/quizzes.html"},
+        {"ES", 8, "drop files", "html/openandsave.html"}, // none begins so
+        {"xyzzy", 0, "", "html/openandsave.html"}};
+    for (const auto &[typed, count, chosen, page] : cases) {
+        part<QLineEdit>("keyword")->clear();
+        QTest::keyClicks(part<QLineEdit>("keyword"), typed);
+        EXPECT_EQ(texts(list).size(), count);
+        EXPECT_EQ(list->currentItem() ? list->currentItem()->text() : "", chosen);
+        QTest::keyClick(part<QLineEdit>("keyword"), Qt::Key_Return);
+        EXPECT_EQ(main()->page(), page);
+    }
 }
 
-TEST_F(HelpViewerTest, FavoritesAreKeptForTheNextTime)
+TEST_F(HelpViewerTest, FavoritesAreKeptForTheNextTimeUntilTheyAreRemoved)
 {
     viewers.HtmlHelp(target, HH_HELP_CONTEXT, 1204);
     viewers.HtmlHelp(target, HH_DISPLAY_FAVORITES);
@@ -74,6 +92,58 @@ TEST_F(HelpViewerTest, FavoritesAreKeptForTheNextTime)
     later.HtmlHelp(target, HH_DISPLAY_FAVORITES);
     auto *list = later.window("Main")->findChild<QListWidget *>("favorites");
     EXPECT_EQ(texts(list), QStringList{"Font"});
+    auto *remove = later.window("Main")->findChild<QPushButton *>("remove");
+    remove->click();
+    EXPECT_EQ(list->count(), 1) << "nothing is chosen";
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
+    EXPECT_EQ(later.window("Main")->page(), "html/font.html");
+    remove->click();
+    EXPECT_EQ(list->count(), 0);
+}
+
+TEST_F(HelpViewerTest, KeysDoWhatTheToolsDo)
+{
+    target.HelpWindow = "MboxHelp";
+    viewers.HtmlHelp(target, HH_HELP_CONTEXT, 1210);
+    HelpViewer &viewer = *viewers.window("MboxHelp");
+    QApplication::setActiveWindow(&viewer);
+    const auto *browser = viewer.findChild<HelpBrowser *>();
+    const double size = browser->font().pointSizeF();
+    const auto state = [&] {
+        const QList<QAction *> tools = viewer.findChild<QToolBar *>("toolBar")->actions();
+        QString text =
+            (tools.at(2)->isEnabled() ? "<" : "") + viewer.windowTitle() + (tools.at(3)->isEnabled() ? ">" : "");
+        text += viewer.findChild<QWidget *>("navigation")->isVisible() ? " contents" : "";
+        if (viewer.findChild<QWidget *>("findBar")->isVisible())
+            text += " find:" + browser->textCursor().selectedText() + viewer.findChild<QLabel *>("findOutcome")->text();
+        return text + QString(" %1").arg(browser->font().pointSizeF() - size) + (viewer.isVisible() ? "" : " closed");
+    };
+    const std::pair<const char *, const char *> steps[] = {
+        {"Alt+Home", "<Welcome to Glosaria - Glosaria Help 0"},
+        {"F1", "<Using help - Glosaria Help 0"},
+        {"Alt+Left", "<Welcome to Glosaria - Glosaria Help> 0"},
+        {"Alt+Right", "<Using help - Glosaria Help 0"},
+        {"F9", "<Using help - Glosaria Help contents 0"},
+        {"F9", "<Using help - Glosaria Help 0"},
+        {"Ctrl+F, z, q", "<Using help - Glosaria Help find: 0"},
+        {"Return", "<Using help - Glosaria Help find:Not on this page 0"},
+        {"Backspace", "<Using help - Glosaria Help find: 0"},
+        {"Return", "<Using help - Glosaria Help find:Z 0"},
+        {"Return", "<Using help - Glosaria Help find:z 0"},
+        {"Esc", "<Using help - Glosaria Help 0"},
+        {"Ctrl++, Ctrl++", "<Using help - Glosaria Help 2"},
+        {"Ctrl+-", "<Using help - Glosaria Help 1"},
+        {"Ctrl+0", "<Using help - Glosaria Help 0"},
+        {"Ctrl+-, Ctrl+-, Ctrl+-, Ctrl+-", "<Using help - Glosaria Help -4"},
+        {"Ctrl+-", "<Using help - Glosaria Help -4"},
+        {"Esc", "<Using help - Glosaria Help -4 closed"}};
+    EXPECT_EQ(state(), "Sort - Glosaria Help 0");
+    for (const auto &[keys, expected] : steps) {
+        const QKeySequence sequence(keys);
+        for (int i = 0; i < sequence.count(); ++i)
+            QTest::keySequence(viewer.focusWidget(), sequence[uint(i)]);
+        EXPECT_EQ(state().toStdString(), expected) << keys;
+    }
 }
 
 TEST_F(HelpViewerTest, EveryLinkLeadsToItsPageByMouseAndByKeyAndBackAndForward)
@@ -120,20 +190,6 @@ TEST_F(HelpViewerTest, EveryLinkLeadsToItsPageByMouseAndByKeyAndBackAndForward)
         }
     }
     EXPECT_GT(followed, 60);
-}
-
-TEST_F(HelpViewerTest, FindsOnThePageAndCloses)
-{
-    viewers.HtmlHelp(target, HH_HELP_CONTEXT, 1210);
-    QApplication::setActiveWindow(main());
-    QTest::keyClick(main(), Qt::Key_F, Qt::ControlModifier);
-    QTest::keyClicks(part<QLineEdit>("findText"), "alphabet");
-    QTest::keyClick(part<QLineEdit>("findText"), Qt::Key_Return);
-    EXPECT_EQ(part<HelpBrowser>("browser")->textCursor().selectedText(), "alphabet");
-    QTest::keyClick(main(), Qt::Key_Escape);
-    EXPECT_TRUE(main()->isVisible());
-    QTest::keyClick(main(), Qt::Key_Escape);
-    EXPECT_FALSE(main()->isVisible());
 }
 
 TEST_F(HelpViewerTest, StaysUsableWhileDialogsOpenAndClose)

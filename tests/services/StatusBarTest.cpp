@@ -1,5 +1,6 @@
 #include "resources/StringTable.h"
 #include "services/status/modSBFunc.h"
+#include "support/Pixels.h"
 
 struct StatusBarTest : ::testing::Test
 {
@@ -35,6 +36,10 @@ TEST_F(StatusBarTest, ALongTextShowsWholeAsFarAsTheModeLeavesRoom)
         const QString text = QString("Randomly -> ").repeated(length);
         bar.SBSetText(0, modSBFunc::SBT_SUNKEN, text);
         EXPECT_EQ(bar.childAt(5, 10)->toolTip().isEmpty(), length != 50) << "it is cut";
+        const QImage drawn = bar.grab(bar.panelRect(0).adjusted(2, 2, -2, -2)).toImage();
+        const QRect ink = inkOf(drawn, drawn.pixelColor(0, 0));
+        EXPECT_TRUE(ink.left() >= 3 && ink.right() < drawn.width() - 3) << ink.left() << ' ' << ink.right();
+        EXPECT_NEAR(ink.width(), std::min(width(text), bar.panelRect(0).width() - 10), 15);
         EXPECT_EQ(bar.panelRect(1).left() > 300, length != 1);
         EXPECT_EQ(bar.panelRect(1).width(), 178);
         EXPECT_EQ(bar.findChild<QProgressBar *>()->geometry(), bar.panelRect(1));
@@ -73,12 +78,17 @@ TEST_F(StatusBarTest, SendsUnusualRequestsToPanelZero)
 
 TEST_F(StatusBarTest, ProgressLiesOverPanelOneAndNeverLeavesItsRange)
 {
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&bar));
     const std::tuple<qint64, qint64, int> cases[] = {{32767, 20000, 20000}, {qint64(1) << 40, qint64(1) << 39, 100}};
     for (const auto &[maximum, position, shown] : cases) {
         bar.createProgress(maximum);
+        const auto onScreen = [this] { return bar.screen()->grabWindow(bar.winId()).toImage(); };
+        const QImage before = onScreen();
         bar.setProgress(position);
+        EXPECT_NE(onScreen(), before) << "at once, while the program is busy";
         const auto *progress = bar.findChild<QProgressBar *>();
         ASSERT_TRUE(progress);
+        EXPECT_EQ(progress->accessibleName(), bar.text(0));
         EXPECT_EQ(progress->geometry(), bar.panelRect(1));
         EXPECT_EQ(progress->value(), shown);
     }

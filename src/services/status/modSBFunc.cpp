@@ -63,8 +63,6 @@ void modSBFunc::SBSetText(int panel, int style, const QString &text)
     const int target = style == SBT_SUNKEN && panel >= 0 && panel <= 2 ? panel : 0;
     m_panels[size_t(target)]->setText(text);
     placePanels();
-    if (style != SBT_SUNKEN)
-        update();
 }
 
 void modSBFunc::ShowStatus(int id)

@@ -1,0 +1,297 @@
+#include "resources/Pictures.h"
+#include "services/desktop/ContextMenuKey.h"
+#include "services/desktop/Contrast.h"
+#include "services/desktop/EnterKey.h"
+#include "services/desktop/ProgramStyle.h"
+#include "services/desktop/ScreenFit.h"
+#include "support/Pixels.h"
+
+namespace {
+
+QPalette paletteOf(const QColor &text, const QColor &window, const QColor &base)
+{
+    QPalette palette(window);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(role, text);
+    palette.setColor(QPalette::Base, base);
+    return palette;
+}
+
+const QPalette Dark = paletteOf(QColor(238, 238, 236), QColor(50, 50, 50), QColor(36, 36, 36));
+const QPalette Light = paletteOf(Qt::black, QColor(239, 239, 239), Qt::white);
+
+/// How clearly the brightest and the darkest pixel of a picture's part stand out of a ground.
+std::pair<double, double> contrasts(const QImage &image, const QRect &part, const QColor &ground)
+{
+    std::pair<double, double> found;
+    for (int i = 0; i < part.width() * part.height(); ++i) {
+        const QColor colour = image.pixelColor(part.x() + i % part.width(), part.y() + i / part.width());
+        double &best = colour.lightnessF() > ground.lightnessF() ? found.first : found.second;
+        best = std::max(best, Contrast::between(colour, ground));
+    }
+    return found;
+}
+
+struct StyleTest : ::testing::Test
+{
+    ProgramStyle style;
+    std::unique_ptr<QStyle> plain{QStyleFactory::create("Fusion")};
+
+    static QImage look(QWidget &widget, QStyle &with, const QPalette &palette)
+    {
+        widget.setStyle(&with);
+        widget.setPalette(palette);
+        return widget.grab().toImage();
+    }
+    static QImage look(const QStyleOption &option, const QStyle &with)
+    {
+        QImage image(option.rect.size(), QImage::Format_RGB32);
+        image.fill(option.palette.window().color());
+        QPainter painter(&image);
+        if (const auto *title = qstyleoption_cast<const QStyleOptionTitleBar *>(&option))
+            with.drawComplexControl(QStyle::CC_TitleBar, title, &painter);
+        else
+            with.drawControl(QStyle::CE_MenuItem, &option, &painter);
+        return image;
+    }
+};
+
+TEST_F(StyleTest, OutlinesStandOutOnDarkWindowsAndAreTheToolkitsOnLightOnes)
+{
+    const QRect all(0, 0, 120, 60);
+    QCheckBox check;
+    QRadioButton radio;
+    QLineEdit line;
+    QPushButton button("Push"), focused("Focus"), flat("Flat"), preferred("Enter");
+    QFrame frame;
+    QSpinBox spin;
+    struct : QScrollBar
+    {
+        using QScrollBar::initStyleOption;
+    } scroll;
+    QGroupBox group("Title");
+    QLabel label("no outline");
+    flat.setFlat(true);
+    preferred.setDefault(true);
+    frame.setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    scroll.setOrientation(Qt::Vertical);
+    scroll.resize(all.size());
+    QStyleOptionSlider slider;
+    scroll.initStyleOption(&slider);
+    focused.show();
+    QApplication::setActiveWindow(&focused);
+    focused.setFocus();
+    QStyleOptionButton box;
+    box.rect = all;
+    const std::tuple<QWidget *, QRect, double> cases[] = {
+        {&check, plain->subElementRect(QStyle::SE_CheckBoxIndicator, &box), 3},
+        {&radio, plain->subElementRect(QStyle::SE_RadioButtonIndicator, &box), 3},
+        {&line, all, 3},
+        {&button, all, 3},
+        {&focused, {}, 0},
+        {&flat, {}, 0},
+        {&preferred, {}, 0},
+        {&frame, all, 1.7},
+        {&spin, all, 3},
+        {&group, all.adjusted(0, group.fontMetrics().height() + 5, 0, 0), 1.7},
+        {&scroll, plain->subControlRect(QStyle::CC_ScrollBar, &slider, QStyle::SC_ScrollBarSlider), 3},
+        {&label, {}, 0},
+    };
+    for (const auto &[widget, outline, contrast] : cases) {
+        SCOPED_TRACE(widget->metaObject()->className());
+        widget->resize(all.size());
+        EXPECT_EQ(look(*widget, *plain, Light), look(*widget, style, Light));
+        const QImage drawn = look(*widget, style, Dark);
+        EXPECT_EQ(difference(drawn, look(*widget, *plain, Dark)), outline);
+        EXPECT_GE(contrasts(drawn, outline, Dark.window().color()).first, contrast);
+        const QRect middle(outline.center(), QSize(1, outline.bottom() - outline.center().y() + 1));
+        EXPECT_GE(contrasts(drawn, outline.isEmpty() ? outline : middle, Dark.window().color()).first, contrast)
+            << "below";
+    }
+}
+
+TEST_F(StyleTest, ChosenAndCheckedMenuEntriesShowTheirPictures)
+{
+    QStyleOptionMenuItem entry;
+    entry.rect = {0, 0, 160, 26};
+    entry.palette = Light;
+    entry.palette.setColor(QPalette::Highlight, Qt::darkBlue);
+    entry.state = QStyle::State_Enabled;
+    entry.icon = picture(PictureFind);
+    entry.maxIconWidth = 20;
+    EXPECT_EQ(look(entry, style), look(entry, *plain));
+    QStyleOptionMenuItem chosen = entry;
+    chosen.state |= QStyle::State_Selected;
+    EXPECT_GT(contrasts(look(chosen, style), QRect(4, 4, 20, 18), Qt::darkBlue).first, 4.5) << "on the highlight";
+    chosen.icon = {};
+    EXPECT_EQ(look(chosen, style), look(chosen, *plain));
+    for (const QStyle::State state : {entry.state, chosen.state}) {
+        QStyleOptionMenuItem checked = entry, mark = entry;
+        checked.state = mark.state = state;
+        checked.checkType = mark.checkType = QStyleOptionMenuItem::NonExclusive;
+        checked.checked = true;
+        mark.icon = picture(PictureChecked);
+        EXPECT_EQ(look(checked, style), look(mark, style));
+    }
+    for (const QPalette &palette : {Light, Dark}) {
+        entry.palette = palette;
+        for (const auto kind : {QStyleOptionMenuItem::Separator, QStyleOptionMenuItem::Normal}) {
+            entry.menuItemType = kind;
+            EXPECT_EQ(look(entry, style) != look(entry, *plain),
+                      palette == Dark && kind == QStyleOptionMenuItem::Separator);
+        }
+    }
+}
+
+TEST_F(StyleTest, TitlesOfDocumentsCanBeRead)
+{
+    QStyleOptionTitleBar title;
+    title.rect = {0, 0, 240, 28};
+    title.text = "WWWW";
+    title.titleBarFlags = Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
+    title.subControls = QStyle::SC_TitleBarLabel | QStyle::SC_TitleBarCloseButton;
+    for (const auto &[palette, active] : {std::pair(Light, true), {Light, false}, {Dark, true}, {Dark, false}}) {
+        title.palette = palette;
+        title.palette.setColor(QPalette::Highlight, QColor(170, 200, 240));
+        title.titleBarState = active ? QStyle::State_Active : QStyle::State_None;
+        const QImage bar = look(title, style);
+        const auto [letters, shadow] = contrasts(bar, {90, 8, 60, 12}, bar.pixelColor(60, 14));
+        const double signs = contrasts(bar, {214, 8, 22, 12}, bar.pixelColor(60, 14)).first;
+        if (palette == Light && !active)
+            EXPECT_EQ(bar, look(title, *plain));
+        else
+            EXPECT_TRUE(letters > 3 && shadow > 1.5 && signs > 3) << letters << ' ' << shadow << ' ' << signs;
+    }
+}
+
+TEST_F(StyleTest, SignsAreTheProgramsInTheColoursOfTheirGroundAndButtonsHaveNone)
+{
+    const auto image = [](const QIcon &icon, QIcon::Mode mode = QIcon::Normal) {
+        return icon.pixmap({48, 48}, mode).toImage();
+    };
+    const std::pair<QStyle::StandardPixmap, int> signs[] = {{QStyle::SP_ToolBarHorizontalExtensionButton, PictureMore},
+                                                            {QStyle::SP_ToolBarVerticalExtensionButton, PictureMore},
+                                                            {QStyle::SP_TitleBarMinButton, PictureMinimize},
+                                                            {QStyle::SP_TitleBarMaxButton, PictureMaximize},
+                                                            {QStyle::SP_TitleBarNormalButton, PictureRestore},
+                                                            {QStyle::SP_TitleBarCloseButton, PictureClose}};
+    for (const auto &[sign, number] : signs)
+        EXPECT_EQ(image(style.standardIcon(sign)), image(picture(number))) << sign;
+    EXPECT_EQ(image(style.standardIcon(QStyle::SP_FileIcon)), image(plain->standardIcon(QStyle::SP_FileIcon)));
+    const QPalette palette = QGuiApplication::palette();
+    const QColor text = palette.windowText().color(), accent("#2f86e0"), chosen = palette.highlightedText().color();
+    const QColor grey = palette.color(QPalette::Disabled, QPalette::WindowText);
+    const std::tuple<QIcon::Mode, QColor, QColor> modes[] = {{QIcon::Normal, text, accent},
+                                                             {QIcon::Active, text, Contrast::mixed(accent, text, 0.5)},
+                                                             {QIcon::Selected, chosen, chosen},
+                                                             {QIcon::Disabled, grey, grey}};
+    for (const auto &[mode, line, other] : modes)
+        EXPECT_EQ(image(picture(PictureFind), mode), drawPicture(PictureFind, 48, line, other)) << mode;
+    for (const auto hint : {QStyle::SH_DialogButtonBox_ButtonsHaveIcons, QStyle::SH_EtchDisabledText})
+        EXPECT_EQ(style.styleHint(hint), 0);
+    EXPECT_EQ(style.styleHint(QStyle::SH_ToolTip_WakeUpDelay), plain->styleHint(QStyle::SH_ToolTip_WakeUpDelay));
+}
+
+TEST(ScreenFitTest, DialogsLargerThanTheScreenScrollAndKeepTheirButtons)
+{
+    const ScreenFit fit(*qApp);
+    const QSize room = QGuiApplication::primaryScreen()->availableSize() - QSize(10, 36);
+    // the rows of the dialog, whether it ends in buttons, the size it asks for and gets, and whether it scrolls
+    const std::tuple<int, bool, QSize, QSize, bool> cases[] = {{3, true, {300, 200}, {300, 200}, false},
+                                                               {3, true, {9000, 200}, {room.width(), 200}, false},
+                                                               {90, true, {9, 9}, {-1, room.height()}, true},
+                                                               {90, false, {9000, 9000}, room, true},
+                                                               {0, false, {9000, 9000}, {9000, 9000}, false}};
+    for (const auto &[rows, hasButtons, asked, got, scrolls] : cases) {
+        SCOPED_TRACE(rows + hasButtons);
+        QDialog dialog;
+        auto *layout = rows ? new QVBoxLayout(&dialog) : nullptr;
+        QLineEdit *last = nullptr;
+        for (int row = 0; row < rows; ++row)
+            layout->addWidget(last = new QLineEdit);
+        QWidget *button = nullptr;
+        if (hasButtons) {
+            auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
+            layout->addWidget(buttons);
+            button = buttons->button(QDialogButtonBox::Ok);
+        }
+        dialog.resize(asked);
+        dialog.show();
+        EXPECT_EQ(dialog.size(), QSize(got.width() < 0 ? dialog.width() : got.width(), got.height()));
+        const auto *area = dialog.findChild<QScrollArea *>();
+        EXPECT_EQ(area != nullptr, scrolls);
+        QApplication::setActiveWindow(&dialog);
+        for (QWidget *part : {static_cast<QWidget *>(last), button}) {
+            if (!part)
+                continue;
+            part->setFocus();
+            QCoreApplication::processEvents();
+            EXPECT_EQ(part->visibleRegion().boundingRect(), part->rect());
+            const int beside = dialog.width() - part->mapTo(&dialog, QPoint(part->width(), 0)).x();
+            EXPECT_TRUE(part == last || (beside >= 9 && beside <= 11)) << beside;
+        }
+        EXPECT_TRUE(!area || area->horizontalScrollBar()->maximum() == 0);
+        EXPECT_TRUE(!area || area->verticalScrollBar()->value() > 0);
+    }
+}
+
+/// Presses its buttons with Enter, as some desktops do, and counts the keys that nobody took.
+struct EagerWindow : QDialog
+{
+    struct Button : QCheckBox
+    {
+        void keyPressEvent(QKeyEvent *event) override
+        {
+            event->key() == Qt::Key_Return ? click() : QCheckBox::keyPressEvent(event);
+        }
+    };
+    int left = 0;
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        left += event->key() != Qt::Key_Shift;
+        QDialog::keyPressEvent(event);
+    }
+};
+
+TEST(DesktopKeys, ShiftF10OpensTheMenuAtTheCaretOfTheControlWithTheFocus)
+{
+    const ContextMenuKey key(*qApp);
+    EagerWindow window;
+    QLineEdit line("some words", &window), other(&window);
+    for (QLineEdit *each : {&line, &other})
+        each->setContextMenuPolicy(Qt::CustomContextMenu);
+    const QSignalSpy asked(&line, &QWidget::customContextMenuRequested),
+        askedOther(&other, &QWidget::customContextMenuRequested);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    line.setFocus();
+    line.setCursorPosition(4);
+    QTest::keyClick(&line, Qt::Key_F10);
+    QTest::keyClick(&line, Qt::Key_F9, Qt::ShiftModifier);
+    QTest::keyClick(&other, Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_EQ(asked.size() + askedOther.size(), 0);
+    EXPECT_EQ(std::exchange(window.left, 0), 3);
+    QTest::keyClick(&line, Qt::Key_F10, Qt::ShiftModifier);
+    ASSERT_EQ(asked.size(), 1);
+    EXPECT_EQ(asked.at(0).at(0).toPoint(), line.inputMethodQuery(Qt::ImCursorRectangle).toRect().center());
+    EXPECT_EQ(window.left, 0);
+}
+
+TEST(DesktopKeys, EnterOnACheckBoxMeansTheDefaultButton)
+{
+    EagerWindow dialog;
+    EagerWindow::Button box;
+    box.setParent(&dialog);
+    QPushButton ok("OK", &dialog);
+    ok.setDefault(true);
+    QObject::connect(&ok, &QPushButton::clicked, &dialog, &QDialog::accept);
+    EnterKey::leaveToDialog(dialog);
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Enter, Qt::Key_Return}) {
+        dialog.show();
+        QTest::keyClick(&box, key);
+        EXPECT_TRUE(box.isChecked());
+        EXPECT_EQ(dialog.isVisible(), key == Qt::Key_Space);
+    }
+}
+
+} // namespace

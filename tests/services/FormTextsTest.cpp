@@ -1,0 +1,40 @@
+#include "services/FormTexts.h"
+
+#include "resources/StringTable.h"
+#include "support/Shown.h"
+
+TEST(FormTexts, ComeFromTheIdsOfControlsAndNameThem)
+{
+    for (const bool explained : {true, false}) {
+        QDialog dialog;
+        QGroupBox group(&dialog);
+        QLabel label(&group);
+        QLineEdit line(&group), named(&dialog);
+        QPushButton button(&dialog);
+        label.setBuddy(&line);
+        const std::tuple<QWidget *, const char *, int> ids[] = {
+            {&dialog, "textId", 915},    {&group, "textId", 911},      {&label, "textId", 920},
+            {&button, "textId", 921},    {&button, "toolTipId", 922},  {&named, "accessibleTextId", 920},
+            {&line, "helpContextId", 1}, {&dialog, "helpContextId", 1}};
+        for (const auto &[control, property, id] : ids)
+            control->setProperty(property, id);
+        if (explained)
+            button.setProperty("whatsThisId", 20088);
+        FormTexts::apply(&dialog);
+        FormTexts::setHelpContextId(&dialog, 1400);
+        dialog.show();
+        EXPECT_EQ(shown(dialog), "Summary | Your Answer | Check | <> | <> | Done");
+        EXPECT_EQ(button.toolTip(), resText(922));
+        EXPECT_EQ(button.whatsThis(), explained ? resText(20088) : "");
+        EXPECT_EQ(line.accessibleName() + named.accessibleName(), "CheckCheck");
+        EXPECT_EQ(dialog.windowFlags().testFlag(Qt::WindowContextHelpButtonHint), explained);
+        EXPECT_EQ(line.property("helpContextId").toInt(), 1400);
+        EXPECT_FALSE(named.property("helpContextId").isValid());
+        for (const QWidget *control : {static_cast<QWidget *>(&line), static_cast<QWidget *>(&named)})
+            EXPECT_EQ(FormTexts::helpContextId(control), 1400);
+    }
+    QWidget plain;
+    plain.setProperty("whatsThisId", 20088);
+    FormTexts::apply(&plain);
+    EXPECT_FALSE(plain.windowFlags() & Qt::WindowContextHelpButtonHint) << "no dialog";
+}
