@@ -79,19 +79,48 @@ TEST_F(MainWindowTest, ControlTabGoesAroundTheDocuments)
     EXPECT_EQ(documents().active(), made[0]) << "the one that was active before";
 }
 
-TEST_F(MainWindowTest, TilesShareTheAreaWithoutOverlap)
+TEST_F(MainWindowTest, DocumentsAreTiledCascadedAndLinedUpAsIcons)
 {
-    for (int i = 0; i < 3; ++i)
-        newDocument();
-    for (const char *key : {"mnuWindow(1)", "mnuWindow(2)"}) {
-        window->DoMenuClick(QLatin1String(key));
-        QRegion covered;
-        for (const QMdiSubWindow *each : window->documentArea()->subWindowList()) {
-            EXPECT_FALSE(covered.intersects(each->geometry())) << key;
-            covered += each->geometry();
-        }
-        EXPECT_EQ(covered, QRegion(window->documentArea()->viewport()->rect())) << key;
+    std::vector<QWidget *> frames;
+    std::vector<QRect> places;
+    for (int i = 0; i < 3; ++i) {
+        frames.push_back(newDocument()->frame());
+        places.push_back(frames.back()->geometry());
     }
+    const QRect area = window->documentArea()->viewport()->rect();
+    const auto covered = [&] {
+        QRegion all;
+        for (const QWidget *each : frames) {
+            EXPECT_FALSE(all.intersects(each->geometry()));
+            all += each->geometry();
+        }
+        return all;
+    };
+    for (const char *key : {"mnuWindow(1)", "mnuWindow(2)"}) {
+        frames[1]->showMaximized();
+        window->DoMenuClick(QLatin1String(key));
+        EXPECT_EQ(covered(), QRegion(area)) << key;
+        EXPECT_EQ(frames[0]->width() == area.width(), key == QLatin1String("mnuWindow(1)"));
+    }
+    window->activate(documents().open()[0]);
+    window->DoMenuClick("mnuWindow(0)");
+    for (size_t i = 0; i < frames.size(); ++i) {
+        EXPECT_EQ(frames[i]->geometry(), places[i]) << "as new ones";
+        EXPECT_EQ(window->documentArea()->subWindowList(QMdiArea::StackingOrder)[int(i)], frames[i]);
+    }
+    const QRect open = frames.back()->geometry();
+    for (int i = 0; i < 6; ++i)
+        frames.insert(frames.begin(), newDocument()->frame());
+    frames.pop_back();
+    for (QWidget *each : frames)
+        each->showMinimized();
+    window->DoMenuClick("mnuWindow(3)");
+    EXPECT_TRUE(area.contains(covered().boundingRect()));
+    EXPECT_EQ(covered().boundingRect().bottomLeft(), area.bottomLeft());
+    window->DoMenuClick("mnuWindow(1)");
+    EXPECT_TRUE(frames.front()->isMinimized());
+    EXPECT_EQ(window->documentArea()->subWindowList().at(2)->geometry(), area) << "icons are left alone";
+    EXPECT_NE(open, area);
 }
 
 TEST_F(MainWindowTest, RecentFilesAreKeptFromRunToRun)

@@ -4,32 +4,6 @@
 from cases import ProgramCase, run
 
 
-class EndCase(ProgramCase):
-    """The program is told to end from outside, by the signal that a system sends when it shuts down."""
-
-    def test_dialogs_are_left_before_documents_close(self):
-        file = self.sample("german/06-family-and-people.gla")
-        for dialog, key in {"Sort": "s", "Font": "f", "Languages": "l", "Set Row Height": "r"}.items():
-            program = self.open(file)
-            self.desktop.key("ctrl+n")
-            self.desktop.wait_for("frame", "Untitled 1")
-            self.desktop.type("x\r")
-            self.desktop.key("ctrl+Tab")
-            self.desktop.wait_for("frame", "English -> German In Order")
-            self.open_dialog(dialog, "alt+v", key)
-            program.terminate()
-            # The dialog's document has closed by now; the other one asks.
-            self.expect_active("alert", "Glosaria Alert")
-            self.assertFalse(self.desktop.find("dialog", dialog))
-            self.desktop.key("Escape")
-            self.expect_column(0, ["x", ""])
-            program.terminate()
-            self.expect_active("alert", "Glosaria Alert")
-            self.desktop.key("n")
-            self.desktop.wait(lambda program=program: program.poll() is not None, "the end of the program")
-            self.assertEqual(program.returncode, 0)
-
-
 class HelpCase(ProgramCase):
     """Help that is read while the program waits for an answer."""
 
