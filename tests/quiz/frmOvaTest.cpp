@@ -9,6 +9,7 @@
 #include "services/FormTexts.h"
 #include "services/settings/clsAppProperties.h"
 #include "support/ListWords.h"
+#include "support/Shown.h"
 
 enum Kind { Practice, MultipleChoice, QuestionAndAnswer };
 
@@ -80,6 +81,71 @@ struct frmOvaTest : ::testing::Test
     SeededRandom m_random{1};
     std::unique_ptr<frmOva> window;
 };
+
+TEST_F(frmOvaTest, EveryStateOfEveryKindShowsItsWordsItsCountersAndWhatCanBeDone)
+{
+    settings.setErrorHint(true);
+    const auto check = [this] { click(control("btnCheck")); };
+    const auto hint = [this] { click(control("btnHint")); };
+    const auto answer = [this](const QString &text) { return [this, text] { type(text); }; };
+    const auto pick = [this] { key(Qt::Key_Down), key(Qt::Key_Return); };
+    const auto again = [this] { click(control("btnRep")); };
+    const auto start = [] {};
+    const std::tuple<Kind, const char *, std::vector<std::pair<std::function<void()>, const char *>>> kinds[] = {
+        {Practice,
+         "[ ] Show answer &automatically after | (<0>) | &seconds | ([x] &Count as error)",
+         {{start,
+           "Practice - Animals | English | dog | German | >I &know | I d&ont know | ? | Number Of Questions | *3*"},
+          {check, "Practice - Animals | English | cat | German | >I &know | I d&ont know | ? | Previous Word | dog | "
+                  "Your Answer | H | "
+                  "Number Of Questions | Answered Questions | Correct Answers | *3* | *1* | *1*"},
+          {hint, "Practice - Animals | English | cow | German | >I &know | I d&ont know | ? | Previous Word | cat | "
+                 "Your Answer | "
+                 "Correct Answer | K | Number Of Questions | Answered Questions | Correct Answers | Incorrect Answers "
+                 "| *3* | *2* "
+                 "| *1* | *1*"},
+          {check,
+           "Practice - Animals | Summary | 2 of 3 answered correctly | >Done | (I d&ont know) | ? | Previous Word | "
+           "cow | "
+           "Your Answer | R | Number Of Questions | Answered Questions | Correct Answers | Incorrect Answers | *3* | "
+           "*3* | "
+           "*2* | *1* | [ ] Show answer &automatically after | (<0>) | &seconds | ([x] &Count as error) | [x] &Beep On "
+           "Error | &Repeat Errors | Cancel"},
+          {again,
+           "Practice - Animals | English | cat | German | >I &know | I d&ont know | ? | Number Of Questions | *1*"}}},
+        {MultipleChoice,
+         "[ ] &Automatically check selected answer",
+         {{start, "Multiple Choice - Animals | English | dog | German | >[ ] &1 H | [ ] &2 K | [ ] &3 R | Check | ? | "
+                  "Number Of Questions | *3*"},
+          {pick, "Multiple Choice - Animals | English | cat | German | >[ ] &1 H | [ ] &2 K | [ ] &3 R | Check | ? | "
+                 "Previous "
+                 "Word | dog | Your Answer | H | Number Of Questions | Answered Questions | Correct Answers | *3* | "
+                 "*1* | *1*"}}},
+        {QuestionAndAnswer,
+         "[x] &Treat Hint As Error",
+         {{start,
+           "Question and Answer - Animals | English | dog | German | ><Type your answer here> | Check | &Hint | ? | "
+           "Number Of Questions | *3*"},
+          {hint, "Question and Answer - Animals | English | dog | German | ><H> | Check | &Hint | ? | Number Of "
+                 "Questions | *3*"},
+          {answer(""), "Question and Answer - Animals | English | cat | German | ><> | Check | &Hint | ? | Previous "
+                       "Word | dog | Your "
+                       "Answer | H | Correct Answer | H | Number Of Questions | Answered Questions | Incorrect Answers "
+                       "| *3* | *1* | "
+                       "*1*"}}},
+    };
+    for (const auto &[kind, boxes, steps] : kinds) {
+        open(kind, {{"dog", "H"}, {"cat", "K"}, {"cow", "R"}});
+        const QPoint place = control("btnCheck")->pos();
+        for (const auto &[step, expected] : steps) {
+            step();
+            EXPECT_TRUE(QTest::qWaitFor([this] { return !window->session()->revealing(); }));
+            const QString asBefore = QString(" | %1 | [x] &Beep On Error | (&Repeat Errors) | Cancel").arg(boxes);
+            EXPECT_EQ(shown(*window).remove(asBefore).toStdString(), expected);
+            EXPECT_EQ(control("btnCheck")->pos(), place) << "nothing jumps";
+        }
+    }
+}
 
 TEST_F(frmOvaTest, AWrongAnswerIsMarkedAndBeepsUnlessThatIsSwitchedOff)
 {
