@@ -1,6 +1,7 @@
 #include "widgets/grid/FlexGrid.h"
 
 #include "services/desktop/Contrast.h"
+#include "support/Pixels.h"
 #include "widgets/grid/FlexGridCellText.h"
 #include "widgets/grid/FlexGridColours.h"
 #include "widgets/grid/FlexGridView.h"
@@ -26,17 +27,8 @@ struct PaintedGrid : ::testing::Test
     std::pair<int, int> inkOf(int row, int col)
     {
         const QImage cell = image(row, col);
-        const QRgb ground = cell.pixel(1, 1);
-        std::pair<int, int> ink{cell.width(), -1};
-        for (int x = 1; x < cell.width() - 2; ++x) {
-            for (int y = 1; y < cell.height() - 2; ++y) {
-                if (cell.pixel(x, y) != ground) {
-                    ink.first = std::min(ink.first, x);
-                    ink.second = std::max(ink.second, x);
-                }
-            }
-        }
-        return ink;
+        const QRect ink = ::inkOf(cell.copy(cell.rect().adjusted(1, 1, -2, -2)), cell.pixelColor(1, 1));
+        return {ink.isEmpty() ? cell.width() : ink.left() + 1, ink.isEmpty() ? -1 : ink.right() + 1};
     }
     QColor groundAt(int row, int col) { return image(row, col).pixelColor(2, 2); }
 
@@ -133,17 +125,92 @@ TEST_F(PaintedGrid, CellsAreDrawnAsTheyAreFormattedAndMerged)
     EXPECT_NE(image(1, 1), flat);
 }
 
-TEST_F(PaintedGrid, SelectionUsesItsColoursAsHighLightSays)
+/// Grids of two by two small cells without letters, drawn with a sign for each colour: w b cells, f fixed ones, s
+/// selected, o focus, + x lines, L D light and dark edges, r a picture and . what lies beyond.
+TEST(DrawnGrid, LinesSelectionFocusMergesAndPicturesStandInTheirPlaces)
 {
-    grid.setBackColorSel(0x0000FF);
-    grid.Select(1, 1, 2, 1);
-    EXPECT_EQ(groundAt(2, 1), grid.palette().base().color());
-    grid.setHighLight(1);
-    EXPECT_EQ(groundAt(2, 1), QColor(Qt::red));
-    EXPECT_EQ(groundAt(1, 1), QColor(Qt::red));
-    EXPECT_NE(groundAt(2, 2), QColor(Qt::red));
-    grid.setFocusRect(2);
-    EXPECT_NE(groundAt(1, 1), QColor(Qt::red)) << "the focus rectangle marks the current cell";
+    QPalette palette(Qt::gray);
+    palette.setColor(QPalette::Light, QColor(1, 1, 1));
+    palette.setColor(QPalette::Dark, QColor(2, 2, 2));
+    palette.setColor(QPalette::Text, Qt::black);
+    const QHash<QRgb, char> signs{{0xFFFFFFFF, 'w'}, {0xFF0000FF, 'b'}, {0xFF808000, 'f'}, {0xFF00FF00, 's'},
+                                  {0xFF00FFFF, '+'}, {0xFFFF00FF, 'x'}, {0xFF010101, 'L'}, {0xFF020202, 'D'},
+                                  {0xFFFF0000, 'r'}, {0xFFFFFF00, '.'}};
+    QPixmap dot(2, 2);
+    dot.fill(Qt::red);
+    const std::function<void(FlexGrid &)> looks[] = {
+        [](FlexGrid &) {},
+        [](FlexGrid &grid) {
+            grid.setRightToLeft(true);
+            grid.setGridLines(FlexGridLook::InsetLines);
+            grid.setGridLinesFixed(3);
+            grid.setHighLight(0);
+        },
+        [&dot](FlexGrid &grid) {
+            grid.setGridLineWidth(2);
+            grid.setFocusRect(0);
+            grid.setHighLight(2);
+            grid.setRowHeight(2, 0);
+            grid.setCellBackColor(0xFF0000);
+            grid.setCellPicture(dot);
+            grid.setCellPictureAlignment(8);
+        },
+        [](FlexGrid &grid) {
+            grid.setFocusRect(2);
+            grid.setMergeCells(1);
+            grid.setMergeRow(2, true);
+            grid.setTextMatrix(2, 1, " ");
+            grid.setTextMatrix(2, 2, " ");
+        },
+    };
+    QStringList drawn;
+    for (const auto &look : looks) {
+        FlexGrid grid;
+        grid.setPalette(palette);
+        grid.setRows(3);
+        grid.setCols(3);
+        grid.setRowHeight(-1, 75);
+        grid.setColWidth(-1, 105);
+        grid.setBorderStyle(0);
+        for (const auto &[name, colour] : {std::pair("BackColor", 0xFFFFFF),
+                                           {"BackColorFixed", 0x008080},
+                                           {"BackColorSel", 0x00FF00},
+                                           {"GridColor", 0xFFFF00},
+                                           {"GridColorFixed", 0xFF00FF},
+                                           {"BackColorBkg", 0x00FFFF}})
+            grid.setProperty(name, colour);
+        grid.Select(1, 1, 2, 1);
+        look(grid);
+        grid.resize(23, 16);
+        const QImage image = grid.grab().toImage();
+        for (int y = 0; y < image.height(); ++y) {
+            QString line;
+            for (int x = 0; x < image.width(); ++x)
+                line += signs.value(image.pixel(x, y), 'o');
+            if (y == drawn.size())
+                drawn.append(line);
+            else
+                drawn[y] += ' ' + line;
+        }
+    }
+    const char *expected =
+        "ffffffxffffffxffffffx.. ..DLLLLLLDLLLLLLDLLLLLL fffffxxfffffxxfffffxx.. ffffffxffffffxffffffx..\n"
+        "ffffffxffffffxffffffx.. ..DfffffLDfffffLDfffffL fffffxxfffffxxfffffxx.. ffffffxffffffxffffffx..\n"
+        "ffffffxffffffxffffffx.. ..DfffffLDfffffLDfffffL fffffxxfffffxxfffffxx.. ffffffxffffffxffffffx..\n"
+        "ffffffxffffffxffffffx.. ..DfffffLDfffffLDfffffL xxxxxxxxxxxxxxxxxxxxx.. ffffffxffffffxffffffx..\n"
+        "xxxxxxxxxxxxxxxxxxxxx.. ..DDDDDDDDDDDDDDDDDDDDD xxxxxxxxxxxxxxxxxxxxx.. xxxxxxxxxxxxxxxxxxxxx..\n"
+        "ffffffxoooooo+wwwwww+.. ..LDDDDDDLLLLLLLDLLLLLL fffffxxbbbbb++wwwww++.. ffffffxoooooo+wwwwww+..\n"
+        "ffffffxowwwwo+wwwwww+.. ..LwwwwwDLowwwwLDfffffL fffffxxbbbrr++wwwww++.. ffffffxoooooo+wwwwww+..\n"
+        "ffffffxowwwwo+wwwwww+.. ..LwwwwwDLowwwwLDfffffL fffffxxbbbrr++wwwww++.. ffffffxoooooo+wwwwww+..\n"
+        "ffffffxoooooo+wwwwww+.. ..LwwwwwDLoooooLDfffffL xxxxxxx++++++++++++++.. ffffffxoooooo+wwwwww+..\n"
+        "xxxxxxx++++++++++++++.. ..LLLLLLLLLLLLLLDDDDDDD xxxxxxx++++++++++++++.. xxxxxxx++++++++++++++..\n"
+        "ffffffxssssss+wwwwww+.. ..LDDDDDDLDDDDDDDLLLLLL ....................... ffffffxsssssssssssss+..\n"
+        "ffffffxssssss+wwwwww+.. ..LwwwwwDLwwwwwDDfffffL ....................... ffffffxsssssssssssss+..\n"
+        "ffffffxssssss+wwwwww+.. ..LwwwwwDLwwwwwDDfffffL ....................... ffffffxsssssssssssss+..\n"
+        "ffffffxssssss+wwwwww+.. ..LwwwwwDLwwwwwDDfffffL ....................... ffffffxsssssssssssss+..\n"
+        "xxxxxxx++++++++++++++.. ..LLLLLLLLLLLLLLDDDDDDD ....................... xxxxxxx++++++++++++++..\n"
+        "....................... ....................... ....................... .......................";
+    EXPECT_EQ(drawn.join('\n').toStdString(), expected);
 }
 
 TEST(FlexGridColoursTest, TextsStayReadableOnEveryPalette)
