@@ -54,6 +54,16 @@ TEST_F(Editing, CommandsActOnTheSelection)
     }
 }
 
+TEST_F(Editing, DeletingEveryRowLeavesAnEmptyOneAlsoOfAListThatEndsInWords)
+{
+    grid.setRows(4);
+    const Words full = words();
+    select(3, 1, 1, 2);
+    commands.Delete(document);
+    EXPECT_EQ(words(), Words(1));
+    expectUndone(full);
+}
+
 TEST_F(Editing, CopyAndCutPutTheCellsOnTheClipboard)
 {
     select(2, 2, 1, 1);

@@ -61,6 +61,15 @@ TEST_F(FrmDocTest, TypingCommitsWithEnterAndMovesOn)
     EXPECT_EQ(cell(), std::pair(1, 1));
 }
 
+TEST_F(FrmDocTest, EscapeLeavesTheCellAsItWas)
+{
+    type("zzz");
+    press(Qt::Key_Escape, Qt::ControlModifier);
+    EXPECT_TRUE(grid.EditMode()) << "no character, so nobody would learn of the end";
+    press(Qt::Key_Escape);
+    EXPECT_EQ(grid.TextMatrix(1, 1) + status.text(0), "house" + resText(506));
+}
+
 TEST_F(FrmDocTest, TabCommitsAndGoesWhereEnterGoes)
 {
     type("barn");

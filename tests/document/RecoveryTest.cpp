@@ -60,6 +60,7 @@ TEST_F(RecoveryTest, WhatDiffersFromTheFileIsKeptAndNothingElse)
         {"a row's height", true, [](frmDoc &, ctlGrid &grid) { grid.setRowHeight(1, 777); }},
         {"a column's width", true, [](frmDoc &, ctlGrid &grid) { grid.setColWidth(1, 777); }},
         {"the font", true, [](frmDoc &, ctlGrid &grid) { grid.setGridFont(QFont("Arial", 33)); }},
+        {"the font's name", true, [](frmDoc &, ctlGrid &grid) { grid.setGridFont(QFont("Liberation Serif", 10)); }},
         {"the colour", true, [](frmDoc &, ctlGrid &grid) { grid.setForeColor(0xFF); }},
         {"an inserted row", true, [](frmDoc &, ctlGrid &grid) { grid.insertRows(1, 1); }},
         {"empty rows at the end", false, [](frmDoc &, ctlGrid &grid) { grid.setRows(300); }},

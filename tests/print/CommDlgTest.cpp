@@ -48,6 +48,8 @@ TEST_F(CommDlg, SaveAsGivesEveryNameTheExtension)
 
 TEST_F(CommDlg, CancelIsAnErrorAndLeavesTheProperties)
 {
+    QWidget active;
+    QApplication::setActiveWindow(&active);
     dialog.Copies = 7;
     for (const int action : {clsCommDlg::ActionOpen, clsCommDlg::ActionSaveAs, clsCommDlg::ActionPrint})
         EXPECT_THROW(dialog.setAction(action), CommDlgCancelled);
@@ -55,6 +57,7 @@ TEST_F(CommDlg, CancelIsAnErrorAndLeavesTheProperties)
     EXPECT_THROW(dialog.setAction(clsCommDlg::ActionPrint), CommDlgCancelled);
     EXPECT_EQ(dialog.FileName, "Untitled 1");
     EXPECT_EQ(dialog.Copies, 7);
+    EXPECT_EQ(dialogs.file.owner, &active) << "when none is named";
     EXPECT_TRUE(alerts.shown.empty());
 }
 

@@ -1,6 +1,8 @@
+#include "print/PaintedSurface.h"
 #include "print/printer/PrintJob.h"
 #include "print/printer/QtPrinter.h"
 #include "print/rules/PrintRun.h"
+#include "support/Pixels.h"
 #include "support/RecordingPrinter.h"
 #include "support/ScriptedPrintServer.h"
 
@@ -84,6 +86,38 @@ TEST_F(PrintedPages, AQueueIsSentWholeJobsOnly)
     EXPECT_EQ(server.options, (PrintServer::Options{{"media", "A4"}, {"sides", "one-sided"}, {"landscape", "true"}}));
     server.refusal = "no jobs today";
     EXPECT_THROW(draw([](PrintJob &job) { job.end(); }), PrinterError);
+}
+
+TEST_F(PrintedPages, TheNextDocumentsFileIsProposedBesideTheLast)
+{
+    printer.setDocName("First");
+    EXPECT_EQ(printer.printer().outputFileName(), "");
+    printer.printer().setOutputFileName(file);
+    printer.setDocName("First");
+    EXPECT_EQ(printer.printer().outputFileName(), file);
+    printer.setDocName("Second");
+    EXPECT_EQ(printer.printer().outputFileName(), folder.filePath("Second.pdf"));
+    EXPECT_EQ(printer.printer().docName(), "Second");
+}
+
+TEST(PaintedText, StandsBelowItsPlaceAndBeforeItWhenItGoesFromRightToLeft)
+{
+    const auto drawn = [](int x, const QString &text, bool rightToLeft, bool bold = false) {
+        QImage page(4000, 600, QImage::Format_RGB32);
+        page.fill(Qt::white);
+        QPainter painter(&page);
+        PaintedSurface surface(painter);
+        surface.setFont({"Liberation Sans", 10, bold, false});
+        surface.setForeColor(qRgb(0, 0, 255));
+        surface.drawText(x, 100, text, rightToLeft);
+        return page;
+    };
+    const QRect left = inkOf(drawn(1000, "Hl.", false), Qt::white), right = inkOf(drawn(3000, "Hl.", true), Qt::white);
+    EXPECT_TRUE(left.left() >= 1000 && left.left() < 1040) << left.left();
+    EXPECT_TRUE(left.top() > 130 && left.bottom() < 300 && left.height() > 130) << "ten points are 200 twips";
+    EXPECT_TRUE(right.right() <= 3000 && right.right() > 2960) << right.right();
+    EXPECT_EQ(right.size(), inkOf(drawn(1000, ".Hl", false), Qt::white).size()) << "the full stop stands at the left";
+    EXPECT_GT(inkOf(drawn(1000, "Hl.", false, true), Qt::white).width(), left.width());
 }
 
 TEST_F(PrintedPages, ARunThatIsCancelledLeavesNoFile)

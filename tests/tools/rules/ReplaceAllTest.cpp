@@ -29,6 +29,23 @@ ReplaceAll::Summary replaceStepByStep(MemoryCells &cells, Search search, const Q
     return summary;
 }
 
+TEST(ReplaceAll, ReplacesWhatTheSingleStepsReplace)
+{
+    // the text, what is replaced, with what, and the result
+    const std::tuple<const char *, const char *, const char *, const char *, int> cases[] = {
+        {"banana", "a", "aa", "baanaanaa", 3},
+        {"Anna", "a", "o", "onno", 2},
+        {"abab", "b", "", "aa", 2},
+        {"xyy", "xy", "zx", "zzx", 2}, // the inserted x and the y behind it match again
+        {"aaa", "a", "", "a", 2},      // the search goes on one character behind the start of each match
+    };
+    for (const auto &[text, what, with, result, count] : cases) {
+        MemoryCells cells{{text, QString()}, {}};
+        EXPECT_EQ(ReplaceAll(searchFor(what, WholeDocument), with).run(cells).count, count);
+        EXPECT_EQ(cells.words[0][0], result);
+    }
+}
+
 TEST(ReplaceAll, EqualsTheSingleStepsOnRandomWords)
 {
     std::mt19937 engine(1);
