@@ -102,7 +102,7 @@ TEST_F(MainWindowTest, DocumentsAreTiledCascadedAndLinedUpAsIcons)
         EXPECT_EQ(covered(), QRegion(area)) << key;
         EXPECT_EQ(frames[0]->width() == area.width(), key == QLatin1String("mnuWindow(1)"));
     }
-    window->activate(documents().open()[0]);
+    window->documentArea()->activate(*documents().open()[0]);
     window->DoMenuClick("mnuWindow(0)");
     for (size_t i = 0; i < frames.size(); ++i) {
         EXPECT_EQ(frames[i]->geometry(), places[i]) << "as new ones";

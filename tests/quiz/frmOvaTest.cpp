@@ -97,20 +97,14 @@ TEST_F(frmOvaTest, EveryStateOfEveryKindShowsItsWordsItsCountersAndWhatCanBeDone
          {{start,
            "Practice - Animals | English | dog | German | >I &know | I d&ont know | ? | Number Of Questions | *3*"},
           {check, "Practice - Animals | English | cat | German | >I &know | I d&ont know | ? | Previous Word | dog | "
-                  "Your Answer | H | "
-                  "Number Of Questions | Answered Questions | Correct Answers | *3* | *1* | *1*"},
+                  "Your Answer | H | Number Of Questions | Answered Questions | Correct Answers | *3* | *1* | *1*"},
           {hint, "Practice - Animals | English | cow | German | >I &know | I d&ont know | ? | Previous Word | cat | "
-                 "Your Answer | "
-                 "Correct Answer | K | Number Of Questions | Answered Questions | Correct Answers | Incorrect Answers "
-                 "| *3* | *2* "
-                 "| *1* | *1*"},
-          {check,
-           "Practice - Animals | Summary | 2 of 3 answered correctly | >Done | (I d&ont know) | ? | Previous Word | "
-           "cow | "
-           "Your Answer | R | Number Of Questions | Answered Questions | Correct Answers | Incorrect Answers | *3* | "
-           "*3* | "
-           "*2* | *1* | [ ] Show answer &automatically after | (<0>) | &seconds | ([x] &Count as error) | [x] &Beep On "
-           "Error | &Repeat Errors | Cancel"},
+                 "Your Answer | Correct Answer | K | Number Of Questions | Answered Questions | Correct Answers | "
+                 "Incorrect Answers | *3* | *2* | *1* | *1*"},
+          {check, "Practice - Animals | Summary | 2 of 3 answered correctly | >Done | (I d&ont know) | ? | Previous "
+                  "Word | cow | Your Answer | R | Number Of Questions | Answered Questions | Correct Answers | "
+                  "Incorrect Answers | *3* | *3* | *2* | *1* | [ ] Show answer &automatically after | (<0>) | &seconds "
+                  "| ([x] &Count as error) | [x] &Beep On Error | &Repeat Errors | Cancel"},
           {again,
            "Practice - Animals | English | cat | German | >I &know | I d&ont know | ? | Number Of Questions | *1*"}}},
         {MultipleChoice,
@@ -118,22 +112,17 @@ TEST_F(frmOvaTest, EveryStateOfEveryKindShowsItsWordsItsCountersAndWhatCanBeDone
          {{start, "Multiple Choice - Animals | English | dog | German | >[ ] &1 H | [ ] &2 K | [ ] &3 R | Check | ? | "
                   "Number Of Questions | *3*"},
           {pick, "Multiple Choice - Animals | English | cat | German | >[ ] &1 H | [ ] &2 K | [ ] &3 R | Check | ? | "
-                 "Previous "
-                 "Word | dog | Your Answer | H | Number Of Questions | Answered Questions | Correct Answers | *3* | "
-                 "*1* | *1*"}}},
+                 "Previous Word | dog | Your Answer | H | Number Of Questions | Answered Questions | Correct Answers | "
+                 "*3* | *1* | *1*"}}},
         {QuestionAndAnswer,
          "[x] &Treat Hint As Error",
-         {{start,
-           "Question and Answer - Animals | English | dog | German | ><Type your answer here> | Check | &Hint | ? | "
-           "Number Of Questions | *3*"},
+         {{start, "Question and Answer - Animals | English | dog | German | ><Type your answer here> | Check | &Hint | "
+                  "? | Number Of Questions | *3*"},
           {hint, "Question and Answer - Animals | English | dog | German | ><H> | Check | &Hint | ? | Number Of "
                  "Questions | *3*"},
           {answer(""), "Question and Answer - Animals | English | cat | German | ><> | Check | &Hint | ? | Previous "
-                       "Word | dog | Your "
-                       "Answer | H | Correct Answer | H | Number Of Questions | Answered Questions | Incorrect Answers "
-                       "| *3* | *1* | "
-                       "*1*"}}},
-    };
+                       "Word | dog | Your Answer | H | Correct Answer | H | Number Of Questions | Answered Questions | "
+                       "Incorrect Answers | *3* | *1* | *1*"}}}};
     for (const auto &[kind, boxes, steps] : kinds) {
         open(kind, {{"dog", "H"}, {"cat", "K"}, {"cow", "R"}});
         const QPoint place = control("btnCheck")->pos();

@@ -95,8 +95,7 @@ TEST_F(StyleTest, OutlinesStandOutOnDarkWindowsAndAreTheToolkitsOnLightOnes)
         {&spin, all, 3},
         {&group, all.adjusted(0, group.fontMetrics().height() + 5, 0, 0), 1.7},
         {&scroll, plain->subControlRect(QStyle::CC_ScrollBar, &slider, QStyle::SC_ScrollBarSlider), 3},
-        {&label, {}, 0},
-    };
+        {&label, {}, 0}};
     for (const auto &[widget, outline, contrast] : cases) {
         SCOPED_TRACE(widget->metaObject()->className());
         widget->resize(all.size());

@@ -30,7 +30,6 @@ struct PaintedGrid : ::testing::Test
         const QRect ink = ::inkOf(cell.copy(cell.rect().adjusted(1, 1, -2, -2)), cell.pixelColor(1, 1));
         return {ink.isEmpty() ? cell.width() : ink.left() + 1, ink.isEmpty() ? -1 : ink.right() + 1};
     }
-    QColor groundAt(int row, int col) { return image(row, col).pixelColor(2, 2); }
 
     FlexGrid grid;
 };
@@ -101,28 +100,6 @@ TEST_F(PaintedGrid, OnlyTextsThatAreCutShowAllOfThemselvesAsToolTip)
     EXPECT_EQ(toolTip(1, 1), "<p dir='ltr'>" + longText.toHtmlEscaped() + "</p>");
     grid.setWordWrap(false);
     EXPECT_EQ(toolTip(2, 1), "<p dir='ltr'>three four five six seven</p>");
-}
-
-TEST_F(PaintedGrid, CellsAreDrawnAsTheyAreFormattedAndMerged)
-{
-    QPixmap square(10, 10);
-    square.fill(Qt::red);
-    grid.Select(1, 1, 1, 1);
-    grid.setCellBackColor(0x00FF00);
-    grid.setCellPicture(square);
-    grid.setCellPictureAlignment(7);
-    EXPECT_EQ(groundAt(1, 1), QColor(Qt::green));
-    EXPECT_GT(inkOf(1, 1).first, 85);
-    for (const auto &[row, col] : {std::pair(2, 1), std::pair(2, 2), std::pair(3, 2)})
-        grid.setTextMatrix(row, col, "same");
-    grid.setMergeRow(2, true);
-    EXPECT_LT(inkOf(2, 2).first, 8);
-    grid.setMergeCells(1);
-    EXPECT_EQ(inkOf(2, 2).second, -1) << "covered by the cell before it";
-    grid.setTextMatrix(1, 1, "flat");
-    const QImage flat = image(1, 1);
-    grid.setCellTextStyle(2);
-    EXPECT_NE(image(1, 1), flat);
 }
 
 /// Grids of two by two small cells without letters, drawn with a sign for each colour: w b cells, f fixed ones, s
