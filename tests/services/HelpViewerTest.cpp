@@ -66,16 +66,14 @@ TEST_F(HelpViewerTest, TheIndexIsSortedAndNarrowsToWhatIsTyped)
         return one.compare(other, Qt::CaseInsensitive) < 0;
     });
     EXPECT_EQ(texts(list), sorted);
-    // what is typed, how many entries are left, which of them is chosen, and the page that Enter shows
-    const std::tuple<const char *, int, const char *, const char *> cases[] = {
-        {"ac", 3, "accents", "html/accents.html"},
-        {"an", 6, "answers", "html/quizzes.html"},
-        {"ES", 8, "drop files", "html/openandsave.html"}, // none begins so
-        {"xyzzy", 0, "", "html/openandsave.html"}};
-    for (const auto &[typed, count, chosen, page] : cases) {
+    // what is typed, the entry that is chosen then, and the page that Enter shows
+    const std::array<const char *, 3> cases[] = {{"ac", "accents", "html/accents.html"},
+                                                 {"an", "answers", "html/quizzes.html"},
+                                                 {"xyzzy", "", "html/quizzes.html"}};
+    for (const auto &[typed, chosen, page] : cases) {
         part<QLineEdit>("keyword")->clear();
         QTest::keyClicks(part<QLineEdit>("keyword"), typed);
-        EXPECT_EQ(texts(list).size(), count);
+        EXPECT_EQ(texts(list), sorted.filter(typed, Qt::CaseInsensitive));
         EXPECT_EQ(list->currentItem() ? list->currentItem()->text() : "", chosen);
         QTest::keyClick(part<QLineEdit>("keyword"), Qt::Key_Return);
         EXPECT_EQ(main()->page(), page);
