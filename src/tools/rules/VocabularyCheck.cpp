@@ -23,8 +23,16 @@ bool isItem(QStringView text, qsizetype position)
     return length > 0 && length <= LongestItem && (begin == 0 || text[begin - 1].isSpace());
 }
 
+/// Quickly, for letters of every script: no bracket is among them.
+bool mayHoldBracket(QStringView text)
+{
+    return std::any_of(text.begin(), text.end(), [](QChar c) { return c < u'\x80' ? c.isPunct() : c >= u'\u3000'; });
+}
+
 bool bracketsClose(QStringView text)
 {
+    if (!mayHoldBracket(text))
+        return true;
     QString open;
     for (qsizetype i = 0; i < text.size(); ++i) {
         if (Opening.contains(text[i]))
@@ -37,6 +45,19 @@ bool bracketsClose(QStringView text)
         open.chop(1);
     }
     return open.isEmpty();
+}
+
+/// At an edge, or beside another one.
+bool hasStrayBlank(QStringView text)
+{
+    bool blankBefore = true;
+    for (const QChar c : text) {
+        const bool blank = c.isSpace();
+        if (blank && blankBefore)
+            return true;
+        blankBefore = blank;
+    }
+    return blankBefore && !text.isEmpty();
 }
 
 /// Languages of East Asia write several scripts in one word, Latin letters among them.
@@ -73,15 +94,27 @@ private:
     std::map<QChar::Script, QString> m_letters;
 };
 
-bool isAscii(QStringView text)
+/// Whether letters of two scripts stand anywhere in a text, be it in different words.
+bool mixesScripts(QStringView text)
 {
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+    QChar::Script seen = QChar::Script_Common;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool isPair = i + 1 < text.size() && text[i].isHighSurrogate() && text[i + 1].isLowSurrogate();
+        const char32_t character = isPair ? QChar::surrogateToUcs4(text[i], text[i + 1]) : text[i].unicode();
+        const QChar::Script script = QChar::script(character);
+        if (script == seen || mixesWithAll(script))
+            continue;
+        if (seen != QChar::Script_Common)
+            return true;
+        seen = script;
+    }
+    return false;
 }
 
 /// The first word of a text whose letters are of two scripts, and its odd letters; empty when there is none.
 QString mixedWord(const QString &text)
 {
-    if (isAscii(text))
+    if (!mixesScripts(text))
         return {};
     QString word;
     WordScripts scripts;
@@ -156,6 +189,8 @@ namespace VocabularyCheck {
 
 QString trimmed(const QString &text)
 {
+    if (!hasStrayBlank(text))
+        return text;
     QString result;
     result.reserve(text.size());
     qsizetype blanks = 0;
