@@ -137,6 +137,8 @@ void frmCheck::trim()
 void frmCheck::trimAll()
 {
     fillList();
+    if (!m_ui->btnTrimAll->isEnabled())
+        return;
     ctlGrid &grid = *document().Rutor();
     m_needs.undo.selection = document().selection();
     m_needs.undo.snapshot = modUndo::takeSnapshot(grid);

@@ -25,7 +25,8 @@ public:
     }
     QString text(QAccessible::Text what) const override
     {
-        return what == QAccessible::Name ? link()->text() : QAccessibleWidget::text(what);
+        const bool isCaption = what == QAccessible::Name && link()->accessibleName().isEmpty();
+        return isCaption ? link()->text() : QAccessibleWidget::text(what);
     }
     QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
     void doAction(const QString &name) override
@@ -132,6 +133,7 @@ void LinkList::add(const Link &link)
     auto *button = new LinkButton(link.text, this);
     button->setAccessibleDescription(m_heading);
     button->setToolTip(FormTexts::plainToolTip(link.toolTip));
+    button->setAccessibleName(link.toolTip);
     FormTexts::setWhatsThis(button, link.whatsThisId);
     button->installEventFilter(this);
     connect(button, &LinkButton::clicked, this, link.run);

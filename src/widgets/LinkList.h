@@ -36,7 +36,7 @@ public:
     struct Link
     {
         QString text;
-        QString toolTip; ///< empty: none
+        QString toolTip; ///< the whole text where only a part is shown; empty: none
         int whatsThisId;
         std::function<void()> run;
     };
