@@ -43,8 +43,8 @@ QString takeServerOption(QPrinter &printer, const QString &name)
     const qsizetype at = options.indexOf(name);
     if (at < 0 || at + 1 >= options.size())
         return {};
-    const QString value = options.at(at + 1);
-    options.remove(at, 2);
+    QString value = options.takeAt(at + 1);
+    options.removeAt(at);
     printer.printEngine()->setProperty(ServerOptions, options);
     return value;
 }
