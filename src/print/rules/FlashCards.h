@@ -6,7 +6,7 @@
 
 /// Cards to cut out, a page of fronts with the questions followed by a page of backs with the answers. A back stands
 /// where its front is when the sheet has been turned over.
-class FlashCards : public TestLayout
+class FlashCards final : public TestLayout
 {
 public:
     FlashCards(const PrintSource &vocabulary, const TestChoice &choice, const PrinterMetrics &printer,

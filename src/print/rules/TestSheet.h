@@ -5,7 +5,7 @@
 #include "print/rules/TestLayout.h"
 
 /// Numbered words with lines to write the answers on, and on pages of its own the key with the answers.
-class TestSheet : public TestLayout
+class TestSheet final : public TestLayout
 {
 public:
     TestSheet(const PrintSource &vocabulary, const TestChoice &choice, const PrinterMetrics &printer,

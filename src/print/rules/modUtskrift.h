@@ -11,7 +11,7 @@ class PrinterMetrics;
 /// A vocabulary laid out in pages, made for a printer's page and a zoom; it never changes. Everything is laid out in
 /// twips of the printed page with the printer's measures; only what is drawn is divided by ZoomDivisor. So a preview
 /// breaks lines and pages where the printer does, at every zoom.
-class PrintLayout : public PageLayout
+class PrintLayout final : public PageLayout
 {
 public:
     /// Lays the document out. The printer is not needed any more afterwards; ZoomDivisor is 1.0 for printing and at
