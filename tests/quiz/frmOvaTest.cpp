@@ -120,9 +120,9 @@ TEST_F(frmOvaTest, EveryStateOfEveryKindShowsItsWordsItsCountersAndWhatCanBeDone
                   "? | Number Of Questions | *3*"},
           {hint, "Question and Answer - Animals | English | dog | German | ><H> | Check | &Hint | ? | Number Of "
                  "Questions | *3*"},
-          {answer(""), "Question and Answer - Animals | English | cat | German | ><> | Check | &Hint | ? | Previous "
-                       "Word | dog | Your Answer | H | Correct Answer | H | Number Of Questions | Answered Questions | "
-                       "Incorrect Answers | *3* | *1* | *1*"}}}};
+          {answer(""), "Question and Answer - Animals | English | cat | German | ><> | Check | &Hint | I was &right | "
+                       "? | Previous Word | dog | Your Answer | H | Correct Answer | H | Number Of Questions | "
+                       "Answered Questions | Incorrect Answers | *3* | *1* | *1*"}}}};
     for (const auto &[kind, boxes, steps] : kinds) {
         open(kind, {{"dog", "H"}, {"cat", "K"}, {"cow", "R"}});
         const QPoint place = control("btnCheck")->pos();

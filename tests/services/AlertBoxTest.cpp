@@ -25,6 +25,7 @@ TEST(AlertBox, ShowsWhatItIsAskedToAndAnswersByKeys)
                 auto *message = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
                 QApplication::setActiveWindow(message);
                 EXPECT_EQ(message->parentWidget(), owner ? &caller : &mainWindow);
+                EXPECT_EQ(message->textFormat(), Qt::PlainText);
                 EXPECT_EQ(message->icon(), help ? QMessageBox::Warning : QMessageBox::NoIcon);
                 EXPECT_EQ(shown(*message).toStdString(),
                           std::string(help ? "Title" : "Glosaria Alert") + " | <b>A question</b> | " + parts);

@@ -177,15 +177,17 @@ TEST_F(StyleTest, SignsAreTheProgramsInTheColoursOfTheirGroundAndButtonsHaveNone
     for (const auto &[sign, number] : signs)
         EXPECT_EQ(image(style.standardIcon(sign)), image(picture(number))) << sign;
     EXPECT_EQ(image(style.standardIcon(QStyle::SP_FileIcon)), image(plain->standardIcon(QStyle::SP_FileIcon)));
-    const QPalette palette = QGuiApplication::palette();
-    const QColor text = palette.windowText().color(), accent("#2f86e0"), chosen = palette.highlightedText().color();
-    const QColor grey = palette.color(QPalette::Disabled, QPalette::WindowText);
+    const QPalette before = QGuiApplication::palette();
+    QGuiApplication::setPalette(Dark);
+    const QColor text = Dark.windowText().color(), accent("#2f86e0"), chosen = Dark.highlightedText().color();
+    const QColor grey = Dark.color(QPalette::Disabled, QPalette::WindowText);
     const std::tuple<QIcon::Mode, QColor, QColor> modes[] = {{QIcon::Normal, text, accent},
                                                              {QIcon::Active, text, Contrast::mixed(accent, text, 0.5)},
                                                              {QIcon::Selected, chosen, chosen},
                                                              {QIcon::Disabled, grey, grey}};
     for (const auto &[mode, line, other] : modes)
         EXPECT_EQ(image(picture(PictureFind), mode), drawPicture(PictureFind, 48, line, other)) << mode;
+    QGuiApplication::setPalette(before);
     for (const auto hint : {QStyle::SH_DialogButtonBox_ButtonsHaveIcons, QStyle::SH_EtchDisabledText})
         EXPECT_EQ(style.styleHint(hint), 0);
     EXPECT_EQ(style.styleHint(QStyle::SH_ToolTip_WakeUpDelay), plain->styleHint(QStyle::SH_ToolTip_WakeUpDelay));

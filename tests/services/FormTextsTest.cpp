@@ -38,3 +38,17 @@ TEST(FormTexts, ComeFromTheIdsOfControlsAndNameThem)
     FormTexts::apply(&plain);
     EXPECT_FALSE(plain.windowFlags() & Qt::WindowContextHelpButtonHint) << "no dialog";
 }
+
+TEST(FormTexts, MnemonicsAndMarkupAreReadAsTheyStand)
+{
+    for (const auto &[caption, plain] :
+         {std::pair("&Find && &Replace", "Find & Replace"), {"R&&D", "R&D"}, {"end&", "end"}})
+        EXPECT_EQ(FormTexts::withoutMnemonic(caption), plain);
+    EXPECT_EQ(FormTexts::withoutMnemonic(FormTexts::escapeMnemonic("R&D & more")), "R&D & more");
+    for (const QString text : {"plain", "a < b & c", "<b>bold</b>"}) {
+        const QString toolTip = FormTexts::plainToolTip(text);
+        EXPECT_EQ(Qt::mightBeRichText(toolTip) ? QTextDocumentFragment::fromHtml(toolTip).toPlainText() : toolTip,
+                  text);
+        EXPECT_EQ(toolTip == text, !text.startsWith('<'));
+    }
+}

@@ -54,6 +54,9 @@ TEST_F(FittedLabelTest, ARightToLeftTextKeepsItsPunctuationAndItsPlace)
     EXPECT_TRUE(label.alignment().testFlags(Qt::AlignLeft | Qt::AlignAbsolute));
     label.setFullText("peace!");
     EXPECT_EQ(Qt::LeftToRight, label.layoutDirection());
+    window.setLayoutDirection(Qt::RightToLeft);
+    label.setFullText("peace!");
+    EXPECT_TRUE(label.alignment().testFlags(Qt::AlignRight | Qt::AlignAbsolute));
 }
 
 TEST(FittedLabelOrder, WhateverComesFirstTheLabelEndsUpTheSame)

@@ -120,7 +120,7 @@ TEST(DrawnGrid, LinesSelectionFocusMergesAndPicturesStandInTheirPlaces)
         [](FlexGrid &grid) {
             grid.setRightToLeft(true);
             grid.setGridLines(FlexGridLook::InsetLines);
-            grid.setGridLinesFixed(3);
+            grid.setGridLinesFixed(99); // the last kind
             grid.setHighLight(0);
         },
         [&dot](FlexGrid &grid) {
