@@ -58,6 +58,19 @@ TEST_F(PreviewCommandsTest, ThePreviewTakesTheDocumentsPlaceAndGivesItBack)
     EXPECT_EQ(undo.kind(), UndoKind::Clear);
 }
 
+TEST_F(PreviewCommandsTest, MaximisedAndMinimisedDocumentsStaySo)
+{
+    QWidget *small = document(1)->frame();
+    frmDoc *large = document(1);
+    small->showMinimized();
+    large->frame()->showMaximized();
+    window->documentArea()->activate(*large);
+    window->DoMenuClick("mnuFilePrintPreview");
+    window->DoMenuClick("mnuFilePrintPreview");
+    EXPECT_TRUE(small->isMinimized() && large->frame()->isMaximized());
+    EXPECT_EQ(large->frame()->size(), window->documentArea()->viewport()->size());
+}
+
 TEST_F(PreviewCommandsTest, OpeningAFileAndLeavingTheProgramEndThePreview)
 {
     document(1);
