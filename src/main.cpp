@@ -1,7 +1,9 @@
+#include "app/ToolkitLanguage.h"
 #include "app/modKod.h"
 #include "app/rules/CommandLine.h"
 #include "platform/FontReader.h"
 #include "resources/Pictures.h"
+#include "resources/TextLanguage.h"
 
 #include <QApplication>
 #include <QDir>
@@ -25,6 +27,8 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName(QStringLiteral("Glosaria"));
     QCoreApplication::setApplicationVersion(QStringLiteral(GLOSARIA_VERSION));
     const CommandLine commandLine = CommandLine::parse(argumentsOf(argc, argv), QDir::currentPath());
+    const QString language = modKod::textLanguage(commandLine);
+    TextLanguage::use(language);
     int exitCode = 0;
     if (modKod::answer(commandLine, exitCode))
         return exitCode;
@@ -35,5 +39,6 @@ int main(int argc, char **argv)
     QApplication::setWindowIcon(picture(PictureApplication));
     QApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setDesktopFileName(QStringLiteral("glosaria"));
+    const ToolkitLanguage toolkitLanguage(application, language);
     return modKod::run(application, commandLine);
 }

@@ -25,6 +25,7 @@
 #include "quiz/rules/RandomSource.h"
 #include "resources/ResourceFiles.h"
 #include "resources/StringTable.h"
+#include "resources/TextLanguage.h"
 #include "services/desktop/ContextMenuKey.h"
 #include "services/desktop/HandleReserve.h"
 #include "services/desktop/PasteGuard.h"
@@ -197,12 +198,22 @@ void showInTurn(frmSplash *splash, frmApp &window, const QString &file, Recovery
 
 } // namespace
 
+QString modKod::textLanguage(const CommandLine &commandLine)
+{
+    const QString &wanted = commandLine.language;
+    return TextLanguage::bestOf(wanted.isNull() ? QLocale::system().uiLanguages() : QStringList(wanted));
+}
+
 bool modKod::answer(const CommandLine &commandLine, int &exitCode)
 {
     exitCode = 0;
     if (!commandLine.unknownOption.isEmpty()) {
         exitCode = UsageError;
         QTextStream(stderr) << resText(12602).arg(commandLine.unknownOption) << '\n' << resText(12601) << '\n';
+    } else if (!commandLine.language.isNull() && !TextLanguage::isKnown(commandLine.language)) {
+        exitCode = UsageError;
+        const QString known = TextLanguage::available().join(QStringLiteral(", "));
+        QTextStream(stderr) << resText(14900).arg(commandLine.language, known) << '\n';
     } else if (commandLine.help) {
         QTextStream(stdout) << resText(12600) << '\n';
     } else if (commandLine.version) {

@@ -1,13 +1,18 @@
 #pragma once
 
+#include <QString>
+
 struct CommandLine;
 class QApplication;
 
 /// The program from its start to its end.
 namespace modKod {
 
-/// What can be answered without a display: the help text, the version, or that an option is unknown. True when it was;
-/// exitCode is that of the process then.
+/// The language to take the texts from, as TextLanguage names it: the one asked for, else the desktop's.
+QString textLanguage(const CommandLine &commandLine);
+
+/// What can be answered without a display: the help text, the version, or that an option or a language is unknown. True
+/// when it was; exitCode is that of the process then.
 bool answer(const CommandLine &commandLine, int &exitCode);
 
 /// Runs as the only copy on the user's desktop, or hands the command line to the copy that runs already and returns.

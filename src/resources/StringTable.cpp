@@ -1,6 +1,7 @@
 #include "resources/StringTable.h"
 
 #include "resources/ResourceFiles.h"
+#include "resources/TextLanguage.h"
 
 #include <algorithm>
 
@@ -34,13 +35,22 @@ QString takeLine(QByteArrayView line, QHash<int, QString> &table)
     return {};
 }
 
-const QHash<int, QString> &texts()
+/// The texts in use: English ones until another table is laid over them.
+QHash<int, QString> &texts()
 {
-    static const QHash<int, QString> table = parseStringTable(ResourceFiles::contents(ResourceFiles::StringTable));
+    static QHash<int, QString> table = parseStringTable(ResourceFiles::contents(ResourceFiles::StringTable));
     return table;
 }
 
 } // namespace
+
+void TextLanguage::use(const QString &language)
+{
+    if (language.isEmpty())
+        return;
+    const QByteArray name = "strings." + language.toLatin1() + ".txt";
+    texts().insert(parseStringTable(ResourceFiles::contents(QLatin1String(name))));
+}
 
 QHash<int, QString> parseStringTable(QByteArrayView source, QStringList *faults)
 {

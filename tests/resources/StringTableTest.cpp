@@ -1,4 +1,20 @@
 #include "resources/StringTable.h"
+#include "resources/TextLanguage.h"
+
+namespace {
+
+/// What a translation must hold as the English text does: placeholders in any order, and whether there is a mnemonic.
+QString bones(const QString &text)
+{
+    static const QRegularExpression bone(R"(%\d|&(?=[^& ]))");
+    QStringList found;
+    for (auto match = bone.globalMatch(text); match.hasNext();)
+        found += match.next().captured();
+    found.sort();
+    return found.join(u' ');
+}
+
+} // namespace
 
 TEST(StringTable, TheProgramCarriesItsFaultlessSource)
 {
@@ -36,4 +52,28 @@ TEST(StringTable, ParserResolvesEscapesAndNamesFaults)
     EXPECT_EQ(table, (QHash<int, QString>{{1, "a\nb\tc\\n "}, {2, "x"}}));
     EXPECT_EQ(faults, (QStringList{"line 5: doubled id 2", "line 6: malformed", "line 7: malformed",
                                    "line 8: malformed", "line 9: malformed", "line 10: malformed"}));
+}
+
+TEST(TextLanguage, TablesHoldTheTextsOfTheEnglishOne)
+{
+    const auto english = parseStringTable(readFile(SOURCE_FOLDER "/src/resources/strings.txt"));
+    for (const QString &language : TextLanguage::available()) {
+        QStringList faults;
+        const auto table = parseStringTable(
+            readFile(QStringLiteral(SOURCE_FOLDER "/src/resources/strings.%1.txt").arg(language)), &faults);
+        EXPECT_TRUE(faults.isEmpty()) << language.toStdString() << ": " << faults.join(u'\n').toStdString();
+        for (auto text = table.begin(); text != table.end(); ++text) {
+            EXPECT_EQ(bones(*text), bones(english.value(text.key())))
+                << language.toStdString() << ' ' << text.key() << ' ' << text->toStdString();
+        }
+    }
+}
+
+TEST(TextLanguage, TheFirstWantedLanguageWithATableIsTaken)
+{
+    const char *const cases[][2] = {
+        {"de_AT", "de"},         {"sv_SE|fr-CA|de", "fr"}, {"en_GB|de", ""}, {"pt_PT", "pt_BR"},
+        {"zh-Hans-SG", "zh_CN"}, {"zh_TW|ja", "ja"},       {"C", ""},        {"", ""}};
+    for (const auto &[wanted, table] : cases)
+        EXPECT_EQ(TextLanguage::bestOf(QString(wanted).split(u'|')).toStdString(), table) << wanted;
 }

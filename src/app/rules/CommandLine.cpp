@@ -63,6 +63,10 @@ CommandLine CommandLine::parse(const QStringList &arguments, const QString &fold
             line.version = true;
         else if (argument == QStringLiteral("--no-splash"))
             line.splash = false;
+        else if (argument.startsWith(QStringLiteral("--language=")))
+            line.language = argument.section(QLatin1Char('='), 1);
+        else if (argument == QStringLiteral("--language") && i + 1 < arguments.size())
+            line.language = arguments.at(++i);
         else if (line.unknownOption.isEmpty())
             line.unknownOption = argument;
     }

@@ -10,6 +10,8 @@ struct CommandLine
     bool help = false;
     bool version = false;
     bool splash = true;
+    /// The language that the texts are wanted in, as a locale's name; null: the desktop's.
+    QString language;
     /// The first option that the program does not have; empty: none.
     QString unknownOption;
     /// All that is no option, joined by blanks: the path of one file, absolute, and in quotes if it was given so.

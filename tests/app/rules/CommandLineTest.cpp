@@ -36,6 +36,9 @@ TEST(CommandLine, OptionsAreToldFromPaths)
     EXPECT_TRUE(line.help && line.version);
     EXPECT_EQ(line.unknownOption, "-x");
     EXPECT_EQ(line.text, "/a.gla");
+    EXPECT_EQ(CommandLine::parse({"--language", "de", "a.gla"}, "/cwd").language, "de");
+    EXPECT_EQ(CommandLine::parse({"--language=fr", "a.gla"}, "/cwd").language, "fr");
+    EXPECT_EQ(CommandLine::parse({"--language"}, "/cwd").unknownOption, "--language");
 }
 
 TEST(RequestedFile, TextsFromOutside)
