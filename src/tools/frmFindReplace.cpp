@@ -222,7 +222,7 @@ void frmFindReplace::ReplaceAllMatches()
             showMatch({summary.row, summary.col, summary.end, 0});
         }
     }
-    endRegion(resText(7014) + u' ' + QString::number(summary.count) + resText(7015));
+    endRegion(resText(14901).arg(resText(7014), QString::number(summary.count), resText(7015)));
 }
 
 void frmFindReplace::endRegion(const QString &message)
