@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
-"""Takes pictures of every window: screenshots.py <program> <folder> <palette> <percent> [<leg of the tour>...].
+"""Takes pictures of every window: screenshots.py <program> <folder> <look> [<leg of the tour>...].
 
+A look is a palette, a scale in percent and, if it is not English, a language: light-100, dark-125-de.
 Palettes are set as users of Debian set them: light and dark by the theme of GTK, high contrast by qt6ct.
 """
 
@@ -65,13 +66,15 @@ class Album:
 
 
 def main():
-    program, folder, palette, percent, *legs = sys.argv[1:]
+    program, folder, look, *legs = sys.argv[1:]
+    palette, percent, *language = look.split("-")
     album = pathlib.Path(folder)
     album.mkdir(parents=True, exist_ok=True)
     environment = PALETTES[palette] | {"QT_SCALE_FACTOR": str(int(percent) / 100), "GDK_SCALE": str(int(percent) // 100)}
+    environment |= {"LANG": f"{name}.UTF-8" for name in language}
     failed = []
     with Desktop(program, environment=environment) as desktop:
-        tour = Tour(desktop, Album(desktop, album).take)
+        tour = Tour(desktop, Album(desktop, album).take, *language)
         for leg in legs or Tour.legs():
             home = desktop.fresh_home()
             if palette == "contrast":

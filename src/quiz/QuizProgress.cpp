@@ -36,6 +36,10 @@ void QuizProgress::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF bar(rect());
+    if (isRightToLeft()) {
+        painter.translate(bar.right(), 0);
+        painter.scale(-1, 1);
+    }
     QPainterPath shape;
     shape.addRoundedRect(bar, bar.height() / 2, bar.height() / 2);
     painter.setClipPath(shape);

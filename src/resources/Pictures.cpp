@@ -34,6 +34,14 @@ bool isPicture(int number)
     return number >= 1 && number <= int(Files.size());
 }
 
+/// Arrows point the way that the eye goes: to the left for what follows, where lines begin at the right.
+int towardsReading(int number)
+{
+    if (!QGuiApplication::isRightToLeft())
+        return number;
+    return number == PicturePrevious ? PictureNext : number == PictureNext ? PicturePrevious : number;
+}
+
 QByteArray pictureSource(int number)
 {
     const QByteArray name = QByteArray("pictures/") + Files[size_t(number - 1)] + ".svg";
@@ -112,7 +120,7 @@ private:
 
 QIcon picture(int number)
 {
-    return isPicture(number) ? QIcon(new PictureEngine(number)) : QIcon();
+    return isPicture(number) ? QIcon(new PictureEngine(towardsReading(number))) : QIcon();
 }
 
 QImage drawPicture(int number, int pixels, const QColor &line, const QColor &accent)

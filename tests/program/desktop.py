@@ -12,6 +12,7 @@ import ctypes
 import itertools
 import os
 import pathlib
+import re
 import shutil
 import signal
 import subprocess
@@ -166,8 +167,10 @@ class Desktop:
     # The user's hands and eyes
 
     def key(self, *keys):
-        """Presses keys in xdotool's names: "ctrl+s", "Return"."""
-        self.tool("xdotool", "key", "--clearmodifiers", *keys)
+        """Presses keys in xdotool's names: "ctrl+s", "Return", "alt+ö"."""
+        self._add_keys("".join(keys))
+        named = [re.sub("[^ -~]", lambda letter: f"U{ord(letter[0]):04X}", key) for key in keys]
+        self.tool("xdotool", "key", "--clearmodifiers", *named)
 
     def type(self, text):
         """Types on a keyboard that gets a key for each letter it lacks."""

@@ -3,6 +3,8 @@
 #include "resources/Pictures.h"
 #include "services/desktop/Contrast.h"
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -199,5 +201,33 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption *option, const QW
 {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons || hint == SH_EtchDisabledText)
         return 0;
+    if (hint == SH_UnderlineShortcut && QGuiApplication::isRightToLeft() && !m_altHeld)
+        return 0;
     return QProxyStyle::styleHint(hint, option, widget, returnData);
+}
+
+void ProgramStyle::polish(QApplication *application)
+{
+    QProxyStyle::polish(application);
+    if (QGuiApplication::isRightToLeft())
+        application->installEventFilter(this);
+}
+
+bool ProgramStyle::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    if (key && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Alt)
+        setAltHeld(event->type() == QEvent::KeyPress);
+    else if (event->type() == QEvent::ApplicationDeactivate)
+        setAltHeld(false);
+    return QProxyStyle::eventFilter(watched, event);
+}
+
+void ProgramStyle::setAltHeld(bool held)
+{
+    if (held == m_altHeld)
+        return;
+    m_altHeld = held;
+    for (QWidget *widget : QApplication::allWidgets())
+        widget->update();
 }

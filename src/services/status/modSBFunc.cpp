@@ -5,6 +5,7 @@
 
 #include <QProgressBar>
 #include <QSizeGrip>
+#include <QStyle>
 
 namespace {
 
@@ -49,13 +50,20 @@ void modSBFunc::placePanels()
     int left = 0;
     for (size_t i = 0; i < m_panels.size(); ++i) {
         const int right = i < 2 ? m_rightEdges[i] + moved : i == 2 ? m_rightEdges[i] : std::max(left, width());
-        m_panels[i]->setGeometry(left, 1, right - left - PanelGap, height() - 1);
+        m_panels[i]->setGeometry(mirrored({left, 1, right - left - PanelGap, height() - 1}));
         left = right;
     }
     if (m_progress)
         m_progress->setGeometry(panelRect(1));
     const QSize grip = m_grip->sizeHint();
-    m_grip->setGeometry(QRect(rect().bottomRight() - QPoint(grip.width(), grip.height()) + QPoint(1, 1), grip));
+    m_grip->setGeometry(
+        mirrored(QRect(rect().bottomRight() - QPoint(grip.width(), grip.height()) + QPoint(1, 1), grip)));
+}
+
+/// A place counted from the left, where it is when lines begin at the right.
+QRect modSBFunc::mirrored(const QRect &place) const
+{
+    return QStyle::visualRect(layoutDirection(), rect(), place);
 }
 
 void modSBFunc::SBSetText(int panel, int style, const QString &text)

@@ -62,6 +62,7 @@ protected:
 
 private:
     void placePanels();
+    QRect mirrored(const QRect &place) const;
     int roomForMessage() const;
 
     const ProgramFlags &m_flags;
