@@ -6,10 +6,10 @@
 /// marks, titles of documents
 /// on a light highlight or on dark windows, signs on their buttons and in their menus, and, in the toolkit's Fusion
 /// style, outlines of controls on dark windows. Texts that are disabled have no shadow, buttons of dialogs no icons.
-/// Where lines begin at the right, letters are underlined only while Alt is held: the toolkit draws an underlined Arabic
-/// letter apart from its neighbours, wider than the room that the text was given.
-/// The picture of a bar's button for what has no room is the program's own: the style's would be read from a file, for
-/// which the start would have to load every image format there is.
+/// Where lines begin at the right, letters are underlined only while Alt is held: the toolkit draws an underlined
+/// Arabic letter apart from its neighbours, wider than the room that the text was given. The picture of a bar's button
+/// for what has no room is the program's own: the style's would be read from a file, for which the start would have to
+/// load every image format there is.
 class ProgramStyle : public QProxyStyle
 {
     Q_OBJECT
