@@ -186,7 +186,8 @@ void MarkedLabel::drawGap(QPainter &painter, const MarkedPart &part, QPointF ori
     if (!line.isValid() || (m_cut && part.start >= m_layout.text().size()))
         return;
     const double side = line.descent() * 0.9;
-    const QPointF top = origin + QPointF(line.cursorToX(place), line.y() + line.ascent());
+    const double middle = std::clamp(line.cursorToX(place), side, std::max(side, usableWidth() - side));
+    const QPointF top = origin + QPointF(middle, line.y() + line.ascent());
     QPainterPath wedge(top);
     wedge.lineTo(top + QPointF(side, side * 1.2));
     wedge.lineTo(top + QPointF(-side, side * 1.2));

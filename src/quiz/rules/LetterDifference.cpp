@@ -19,7 +19,7 @@ public:
 
 private:
     std::vector<const LetterForms *> m_letters;
-    std::vector<size_t> m_numbers;
+    std::vector<quint16> m_numbers;
 };
 
 Alphabet::Alphabet(const Letters &letters, size_t start, size_t count)
@@ -29,7 +29,7 @@ Alphabet::Alphabet(const Letters &letters, size_t start, size_t count)
         const auto [place, isNew] = known.try_emplace(letters[i].forms, m_letters.size());
         if (isNew)
             m_letters.push_back(letters[i].forms);
-        m_numbers.push_back(place->second);
+        m_numbers.push_back(quint16(place->second));
     }
 }
 
@@ -65,7 +65,8 @@ private:
     size_t m_expected;
     Alphabet m_givenAlphabet;
     Alphabet m_expectedAlphabet;
-    std::vector<char> m_same; ///< of every two letters of the alphabets
+    std::vector<quint16> m_pairs; ///< of every two letters of the alphabets: 2 if they are the same, else 0
+    std::vector<char> m_spelled;  ///< of every letter expected: whether it can be spelled out
     std::vector<quint16> m_best;
 };
 
@@ -80,23 +81,26 @@ LetterDifference::Table::Table(const LetterDifference &texts, size_t start, size
 {
     for (size_t g = 0; g < m_givenAlphabet.size(); ++g) {
         for (size_t e = 0; e < m_expectedAlphabet.size(); ++e)
-            m_same.push_back(sameLetter(m_givenAlphabet.letter(g), m_expectedAlphabet.letter(e), texts.m_tolerance));
+            m_pairs.push_back(
+                sameLetter(m_givenAlphabet.letter(g), m_expectedAlphabet.letter(e), texts.m_tolerance) ? 2 : 0);
     }
+    for (size_t j = start; j < start + expected; ++j)
+        m_spelled.push_back(texts.m_tolerance.accents && !texts.m_expected[j].forms->spellings.empty());
     for (size_t i = 1; i <= given; ++i)
         fillRow(i);
 }
 
 bool LetterDifference::Table::same(size_t i, size_t j) const
 {
-    return m_same[m_givenAlphabet.numberAt(i - 1) * m_expectedAlphabet.size() + m_expectedAlphabet.numberAt(j - 1)];
+    return m_pairs[m_givenAlphabet.numberAt(i - 1) * m_expectedAlphabet.size() + m_expectedAlphabet.numberAt(j - 1)] >
+           0;
 }
 
 size_t LetterDifference::Table::spelling(size_t i, size_t j) const
 {
-    const LetterForms &letter = *m_texts.m_expected[m_start + j - 1].forms;
-    if (!m_texts.m_tolerance.accents || letter.spellings.empty())
+    if (m_spelled[j - 1] == 0)
         return 0;
-    for (const auto &spelling : letter.spellings) {
+    for (const auto &spelling : m_texts.m_expected[m_start + j - 1].forms->spellings) {
         if (spelling.size() <= i &&
             LetterMatch::spelledAt(m_texts.m_given, m_start + i - spelling.size(), spelling, m_texts.m_tolerance))
             return spelling.size();
@@ -108,13 +112,14 @@ void LetterDifference::Table::fillRow(size_t i)
 {
     const quint16 *above = &best(i - 1, 0);
     quint16 *row = &best(i, 0);
-    const char *sameAs = &m_same[m_givenAlphabet.numberAt(i - 1) * m_expectedAlphabet.size()];
+    const quint16 *pairs = &m_pairs[m_givenAlphabet.numberAt(i - 1) * m_expectedAlphabet.size()];
     for (size_t j = 1; j <= m_expected; ++j) {
-        int most = std::max(above[j], row[j - 1]);
-        if (sameAs[m_expectedAlphabet.numberAt(j - 1)])
-            most = std::max(most, above[j - 1] + 2);
-        if (const size_t length = spelling(i, j))
-            most = std::max(most, best(i - length, j - 1) + int(length) + 1);
+        const int paired = above[j - 1] + pairs[m_expectedAlphabet.numberAt(j - 1)];
+        int most = std::max({int(above[j]), int(row[j - 1]), paired});
+        if (m_spelled[j - 1] != 0) {
+            if (const size_t length = spelling(i, j))
+                most = std::max(most, best(i - length, j - 1) + int(length) + 1);
+        }
         row[j] = quint16(most);
     }
 }

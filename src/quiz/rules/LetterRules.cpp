@@ -60,6 +60,12 @@ bool isAsciiLetters(const QString &text)
     return std::all_of(text.begin(), text.end(), [](QChar unit) { return unit.unicode() < 128 && unit.isLetter(); });
 }
 
+/// Such a letter joins no other one, but for the two of a line's end.
+bool standsAlone(const QString &text, qsizetype place)
+{
+    return place == text.size() || (text[place].unicode() < LetterRules::LettersAlone && text[place] != u'\n');
+}
+
 } // namespace
 
 struct LetterRules::Tables
@@ -102,8 +108,10 @@ void LetterRules::prepare()
 
 void LetterRules::tidy()
 {
-    if (m_forms.size() > MostForms)
-        m_forms.clear();
+    if (m_forms.size() <= MostForms)
+        return;
+    m_forms.clear();
+    m_alone = {};
 }
 
 Letters LetterRules::letters(const QString &text)
@@ -114,11 +122,20 @@ Letters LetterRules::letters(const QString &text)
     const icu::UnicodeString shared = toIcu(text);
     m_tables->graphemes->setText(shared);
     for (qsizetype start = 0; start < text.size();) {
-        const qsizetype end = m_tables->graphemes->next();
-        all.push_back({&forms(text.mid(start, end - start)), start, end - start});
+        const bool alone = standsAlone(text, start) && standsAlone(text, start + 1);
+        const qsizetype end = alone ? start + 1 : m_tables->graphemes->following(int32_t(start));
+        all.push_back({alone ? &formsAlone(text[start]) : &forms(text.mid(start, end - start)), start, end - start});
         start = end;
     }
     return all;
+}
+
+const LetterForms &LetterRules::formsAlone(QChar letter)
+{
+    const LetterForms *&known = m_alone[letter.unicode()];
+    if (!known)
+        known = &forms(QString(letter));
+    return *known;
 }
 
 const LetterForms &LetterRules::forms(const QString &letter)

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <array>
 #include <memory>
 #include <unordered_map>
 #include <vector>
@@ -41,6 +42,9 @@ using Letters = std::vector<Letter>;
 class LetterRules
 {
 public:
+    /// The letters of Unicode before this one, where the combining marks begin, stand alone.
+    static constexpr char16_t LettersAlone = 0x300;
+
     LetterRules();
     ~LetterRules();
 
@@ -59,9 +63,11 @@ private:
     struct Tables;
 
     const LetterForms &forms(const QString &letter);
+    const LetterForms &formsAlone(QChar letter);
     void takeAccentsOff(LetterForms &letter);
     void addSpellings(LetterForms &letter);
 
     std::unique_ptr<Tables> m_tables;
     std::unordered_map<QString, LetterForms> m_forms;
+    std::array<const LetterForms *, LettersAlone> m_alone{}; ///< those met so far
 };
