@@ -187,6 +187,7 @@ void frmOva::showTurned(bool correct)
     if (m_session->done())
         showScore();
     speak(QuizSpeech::state(*m_session));
+    focusAnswer();
 }
 
 /// Offers to turn the last verdict. At the end of the round the letter R repeats the errors.
