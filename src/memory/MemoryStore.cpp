@@ -272,7 +272,7 @@ QString MemoryStore::setAside(const QString &path)
         if (error.trouble != MemoryTrouble::Damaged)
             return {};
     }
-    const QString name = freeName(path);
+    QString name = freeName(path);
     if (!QFile::rename(path, name))
         return {};
     for (const char *part : {"-wal", "-shm"})
