@@ -38,7 +38,7 @@ const std::vector<Menu> &menus()
               "-mnuToolbar(3) mnuVocabularyFont mnuVocabularySort - mnuVocabularyCheck")},
         {QStringLiteral("mnuMode"), 439, 1060, keys("mnuMode1 mnuMode2 mnuMode3 mnuMode4 mnuMode5")},
         {QStringLiteral("mnuQuiz"), 445, 1070,
-         keys("mnuQuizStudy mnuQuizMultiple mnuQuizQA - >mnuQuizWords mnuQuizOptions")},
+         keys("mnuQuizStudy mnuQuizMultiple mnuQuizQA - mnuQuizContinue - >mnuQuizWords mnuQuizOptions")},
         {QStringLiteral("mnuWindow"), 449, 1080, keys("mnuWindow(0) mnuWindow(1) mnuWindow(2) mnuWindow(3)")},
         {QStringLiteral("mnuHelp"), 454, 1090, keys("mnuHelpTopic -mnuHelp(4) mnuHelpAbout")},
     };

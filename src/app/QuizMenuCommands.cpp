@@ -38,6 +38,13 @@ void startQuiz(const AppContext &context, QuizKind kind)
     context.quizzes.start(kind);
 }
 
+void continueQuiz(const AppContext &context)
+{
+    if (const std::optional<QuizKind> kind = context.quizzes.leftKind())
+        context.window.setButtonPicture(QStringLiteral("Quiz"), PicturePractice + int(*kind));
+    context.quizzes.goOn();
+}
+
 void showOptions(const AppContext &context)
 {
     context.status.ShowStatus(modSBFunc::DialogOpen);
@@ -97,6 +104,12 @@ void AppCommands::addQuizCommands(CommandTable &table, const AppContext &context
                [&context] { startQuiz(context, QuizKind::QuestionAndAnswer); }});
     table.add({"Quiz", 1016, "", 222, PicturePractice, Document,
                [&context, &table] { table.run(quizKey(context.window.buttonPicture(QStringLiteral("Quiz")))); }});
+    table.add({"mnuQuizContinue", 14314, "", 14315, 0, Document, [&context] { continueQuiz(context); }});
+    const auto offerToContinue = [&context, &table] {
+        table.setAvailable(QStringLiteral("mnuQuizContinue"), context.quizzes.leftKind().has_value());
+    };
+    offerToContinue();
+    QObject::connect(&context.quizzes, &QuizCommands::leftKindChanged, &table, offerToContinue);
     addWordsToAsk(table, context);
     table.add({"mnuQuizOptions", 14312, "", 14313, 0, Document, [&context] { showOptions(context); }});
 }

@@ -118,7 +118,8 @@ void frmApp::createParts(const Needs &needs)
                                    needs.codePage, this);
     m_editCommands = std::make_unique<EditCommands>(needs.undo, *QGuiApplication::clipboard());
     auto *quizzes = new QuizCommands(
-        {*documents, needs.settings, needs.alert, *status, needs.random, needs.errorSound, *this, needs.memory}, this);
+        {*documents, *files, needs.settings, needs.alert, *status, needs.random, needs.errorSound, *this, needs.memory},
+        this);
     m_context = std::make_unique<AppContext>(AppContext{
         *this, needs.flags, needs.undo, needs.settings, needs.alert, *status, *documents, *files, *m_editCommands,
         needs.pasteGuard, m_recentFiles, *m_print, *m_help, needs.random, *quizzes, needs.canSpeak});

@@ -93,6 +93,17 @@ void FileCommands::newDocument()
     Q_EMIT opened(document);
 }
 
+frmDoc &FileCommands::openUntitled(Vocabulary &&vocabulary)
+{
+    newDocument(); // whoever keeps copies sees the words come
+    frmDoc &document = *m_needs.documents.open().back();
+    GridContent::fill(*document.Rutor(), std::move(vocabulary));
+    document.Rutor()->growCutRows();
+    document.setDirty(true);
+    document.refreshQuizMode();
+    return document;
+}
+
 void FileCommands::open()
 {
     const frmDoc *active = m_needs.documents.active();

@@ -37,6 +37,8 @@ public:
     FileCommands(const Needs &needs, const CodePage &codePage, QObject *parent = nullptr);
 
     void newDocument();
+    /// Opens words as a document that has no file yet and is changed.
+    frmDoc &openUntitled(Vocabulary &&vocabulary);
     void open();
     void save();
     void saveAs();

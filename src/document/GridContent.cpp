@@ -3,22 +3,18 @@
 #include "document/ctlGrid.h"
 #include "document/rules/Vocabulary.h"
 
-namespace {
-
-VocabularyFont fontOf(const ctlGrid &grid)
-{
-    const QFont font = grid.Font();
-    return {font.family(), font.pointSizeF(), font.bold(), font.italic(), grid.ForeColor()};
-}
-
-} // namespace
-
 namespace GridContent {
+
+VocabularyFont font(const ctlGrid &grid)
+{
+    const QFont used = grid.Font();
+    return {used.family(), used.pointSizeF(), used.bold(), used.italic(), grid.ForeColor()};
+}
 
 Vocabulary read(const ctlGrid &grid)
 {
     Vocabulary vocabulary;
-    vocabulary.font = fontOf(grid);
+    vocabulary.font = font(grid);
     vocabulary.columnWidths = {grid.ColWidth(0), grid.ColWidth(1), grid.ColWidth(2)};
     const int rows = grid.Rows();
     vocabulary.first.reserve(size_t(rows));
@@ -29,10 +25,10 @@ Vocabulary read(const ctlGrid &grid)
     return vocabulary;
 }
 
-void applyFont(ctlGrid &grid, const VocabularyFont &font)
+void applyFont(ctlGrid &grid, const VocabularyFont &wanted)
 {
-    grid.setGridFont(font.toFont());
-    grid.setForeColor(font.color);
+    grid.setGridFont(wanted.toFont());
+    grid.setForeColor(wanted.color);
 }
 
 void fill(ctlGrid &grid, Vocabulary &&vocabulary)

@@ -10,6 +10,8 @@ namespace GridContent {
 /// Everything that is stored of a grid: font, colour, column widths, and every row with its height.
 Vocabulary read(const ctlGrid &grid);
 
+VocabularyFont font(const ctlGrid &grid);
+
 /// Gives a grid font and text colour.
 void applyFont(ctlGrid &grid, const VocabularyFont &font);
 

@@ -1,6 +1,9 @@
 #include "quiz/QuizCommands.h"
 
 #include "document/DocumentList.h"
+#include "document/FileCommands.h"
+#include "document/GridContent.h"
+#include "document/rules/Vocabulary.h"
 #include "quiz/GridWords.h"
 #include "quiz/frmOva.h"
 #include "resources/StringTable.h"
@@ -34,6 +37,7 @@ QuizCommands::QuizCommands(const Needs &needs, QObject *parent)
     , m_needs(needs)
 {
     connect(&m_needs.documents, &DocumentList::activeChanged, this, &QuizCommands::refreshMode);
+    connect(&m_needs.documents, &DocumentList::activeChanged, this, &QuizCommands::leftKindChanged);
     connect(&m_needs.documents, &DocumentList::created, this, &QuizCommands::watch);
     connect(&m_needs.documents, &DocumentList::removed, this, [this](frmDoc *document) { m_traces.erase(document); });
 }
@@ -117,7 +121,62 @@ void QuizCommands::start(QuizKind kind)
     quiz.setWordFamily(document->Rutor()->Font().family());
     quiz.Form_Load(GridWords(*document->Rutor()), *document->frame(), document->Caption());
     if (quiz.Tag() == u"1")
-        quiz.exec();
+        run(quiz, *document);
     else
         m_needs.status.ShowStatus(NoQuiz);
+}
+
+std::optional<QuizKind> QuizCommands::leftKind() const
+{
+    const auto traces = m_traces.find(m_needs.documents.active());
+    if (traces == m_traces.end() || !traces->second.left.session)
+        return std::nullopt;
+    return traces->second.left.session->kind();
+}
+
+void QuizCommands::goOn()
+{
+    if (!leftKind())
+        return;
+    frmDoc &document = *m_needs.documents.active();
+    frmOva quiz(m_needs.settings, m_needs.random, m_needs.errorSound, &m_needs.window);
+    quiz.setWordFamily(document.Rutor()->Font().family());
+    quiz.resume(std::move(m_traces.at(&document).left), *document.frame(), document.Caption());
+    run(quiz, document);
+}
+
+/// Who has answered nothing has left no quiz, and the one left before stays.
+void QuizCommands::run(frmOva &quiz, frmDoc &document)
+{
+    quiz.exec();
+    const std::vector<frmDoc *> &open = m_needs.documents.open();
+    if (std::find(open.begin(), open.end(), &document) == open.end())
+        return;
+    LeftQuiz left = quiz.takeQuiz();
+    if (left.missed->hasBegun()) {
+        Traces &traces = m_traces[&document];
+        traces.missed = left.missed->words();
+        if (quiz.isToKeepMissed())
+            keep(left.missed->ofRound(), document);
+        if (!left.session->done())
+            traces.left = std::move(left);
+    }
+    refreshMode();
+    Q_EMIT leftKindChanged();
+}
+
+/// A word that was missed both ways is kept once.
+void QuizCommands::keep(const std::vector<MissedAnswer> &answers, const frmDoc &document)
+{
+    Vocabulary kept;
+    kept.font = GridContent::font(*document.Rutor());
+    kept.append(document.language(1), document.language(2));
+    QSet<WordPair> known;
+    for (const MissedAnswer &each : answers) {
+        const WordPair words = each.words();
+        if (!known.contains(words))
+            kept.append(words.first, words.second);
+        known.insert(words);
+    }
+    m_needs.files.openUntitled(std::move(kept));
 }

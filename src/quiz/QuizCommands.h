@@ -1,6 +1,6 @@
 #pragma once
 
-#include "quiz/rules/QuizKinds.h"
+#include "quiz/rules/LeftQuiz.h"
 #include "quiz/rules/WordsToAsk.h"
 
 #include <QObject>
@@ -11,10 +11,12 @@
 class AlertBox;
 class AnswerMemory;
 class DocumentList;
+class FileCommands;
 class RandomSource;
 class SoundPlayer;
 class clsAppProperties;
 class frmDoc;
+class frmOva;
 class modSBFunc;
 
 /// The commands of the Quiz menu. Owns what is chosen for quizzes but not stored, and what quizzes leave behind about
@@ -28,6 +30,7 @@ public:
     struct Needs
     {
         DocumentList &documents;
+        FileCommands &files;
         clsAppProperties &settings;
         AlertBox &alert;
         modSBFunc &status;
@@ -42,6 +45,10 @@ public:
     /// Asks the words of the active document. When the user wants only some of them and there are none, a box offers
     /// all.
     void start(QuizKind kind);
+    /// Takes up the quiz about the active document that was left last before its end.
+    void goOn();
+    /// The kind of that quiz; nothing when there is none.
+    std::optional<QuizKind> leftKind() const;
 
     /// All words when the program starts.
     WordsToAsk wordsToAsk() const { return m_choice; }
@@ -52,16 +59,23 @@ public:
     /// To be called when the quiz mode has changed: brings the status bar up to date.
     void refreshMode();
 
+Q_SIGNALS:
+    /// Another quiz, or none, can be taken up now.
+    void leftKindChanged();
+
 private:
     /// What quizzes have left behind about a document.
     struct Traces
     {
         QSet<WordPair> missed; ///< in the last quiz
+        LeftQuiz left;         ///< before its end; without a session when there is none
     };
 
     void watch(frmDoc *document);
     std::vector<int> rowsToAsk(const frmDoc &document, WordsToAsk choice) const;
     std::optional<AskedRows> askedRows(const frmDoc &document, QuizKind kind);
+    void run(frmOva &quiz, frmDoc &document);
+    void keep(const std::vector<MissedAnswer> &answers, const frmDoc &document);
     QString modeNote(const frmDoc &document) const;
 
     Needs m_needs;

@@ -1,6 +1,7 @@
 #include "quiz/frmOva.h"
 
 #include "platform/SoundPlayer.h"
+#include "quiz/MissedList.h"
 #include "quiz/OnePress.h"
 #include "quiz/QuizLook.h"
 #include "quiz/QuizSpeech.h"
@@ -27,6 +28,9 @@ frmOva::frmOva(clsAppProperties &settings, RandomSource &random, SoundPlayer &er
 {
     m_ui->setupUi(this);
     EnterKey::leaveToDialog(*this);
+    m_lstMissed = new MissedList(m_ui->picQuestion);
+    m_ui->layoutQuestion->insertWidget(m_ui->layoutQuestion->indexOf(m_ui->lblScore) + 1, m_lstMissed, 1);
+    connect(m_lstMissed, &MissedList::keepRequested, this, &frmOva::keepMissed);
     m_optAnswer =
         std::make_unique<AnswerOptions>(std::array{m_ui->optAnswer0, m_ui->optAnswer1, m_ui->optAnswer2}, nullptr);
 }
@@ -38,14 +42,31 @@ frmOva::~frmOva()
 
 void frmOva::Form_Load(const WordSource &words, QWidget &document, const QString &documentTitle)
 {
-    m_session = std::make_unique<QuizSession>(QuizKind(m_quizType), m_settings);
+    auto session = std::make_unique<QuizSession>(QuizKind(m_quizType), m_settings);
     {
         const Hourglass hourglass;
-        if (!m_session->fByggMatriser(words, m_random, m_askedRows)) {
-            m_session.reset();
+        if (!session->fByggMatriser(words, m_random, m_askedRows))
             return;
-        }
     }
+    auto missed = std::make_unique<MissedAnswers>(*session);
+    m_quiz = {std::move(session), std::move(missed)};
+    begin(document, documentTitle);
+    m_session->fShowQuestion();
+    takeRoom();
+}
+
+void frmOva::resume(LeftQuiz &&quiz, QWidget &document, const QString &documentTitle)
+{
+    m_quiz = std::move(quiz);
+    m_quizType = qint16(m_quiz.session->kind());
+    begin(document, documentTitle);
+    m_session->resume();
+    takeRoom();
+}
+
+void frmOva::begin(QWidget &document, const QString &documentTitle)
+{
+    m_session = m_quiz.session.get();
     m_document = &document;
     m_documentState = document.windowState();
     document.setWindowState(m_documentState | Qt::WindowMinimized);
@@ -54,8 +75,6 @@ void frmOva::Form_Load(const WordSource &words, QWidget &document, const QString
     setWindowTitle(windowTitle() + QStringLiteral(" - ") + documentTitle);
     connectControls();
     connectSession();
-    m_session->fShowQuestion();
-    takeRoom();
 }
 
 void frmOva::connectControls()
@@ -63,7 +82,7 @@ void frmOva::connectControls()
     connect(m_ui->btnCheck, &QPushButton::clicked, this, &frmOva::btnCheck_Click);
     connect(m_ui->btnHint, &QPushButton::clicked, this, &frmOva::btnHint_Click);
     connect(m_ui->btnRep, &QPushButton::clicked, this, &frmOva::btnRep_Click);
-    connect(m_ui->btnRight, &QPushButton::clicked, m_session.get(), &QuizSession::turnVerdict);
+    connect(m_ui->btnRight, &QPushButton::clicked, m_session, &QuizSession::turnVerdict);
     for (const auto &[key, turned] : {std::pair(QKeySequence::Undo, false), std::pair(QKeySequence::Redo, true)}) {
         auto *shortcut = new QShortcut(key, this);
         shortcut->setAutoRepeat(false);
@@ -74,27 +93,27 @@ void frmOva::connectControls()
     }
     connect(m_ui->btnCancel, &QPushButton::clicked, this, &frmOva::reject);
     connect(m_ui->chkAuto, &QCheckBox::clicked, this, &frmOva::chkAuto_Click);
-    connect(m_ui->chkError, &QCheckBox::clicked, m_session.get(), &QuizSession::setHintIsError);
-    connect(m_ui->chkBeep, &QCheckBox::clicked, m_session.get(), &QuizSession::setBeepOnError);
-    connect(m_optAnswer.get(), &AnswerOptions::chosen, m_session.get(), &QuizSession::choose);
-    connect(m_ui->txtTime, &QLineEdit::textChanged, m_session.get(), &QuizSession::setAutoSeconds);
-    connect(m_ui->txtSvar, &QLineEdit::textChanged, m_session.get(), &QuizSession::setAnswerText);
-    connect(&m_tmrSvar, &clsTimer::ThatTime, m_session.get(), &QuizSession::revealTick);
-    connect(&m_tmrAutoSvar, &clsTimer::ThatTime, m_session.get(), &QuizSession::autoTick);
+    connect(m_ui->chkError, &QCheckBox::clicked, m_session, &QuizSession::setHintIsError);
+    connect(m_ui->chkBeep, &QCheckBox::clicked, m_session, &QuizSession::setBeepOnError);
+    connect(m_optAnswer.get(), &AnswerOptions::chosen, m_session, &QuizSession::choose);
+    connect(m_ui->txtTime, &QLineEdit::textChanged, m_session, &QuizSession::setAutoSeconds);
+    connect(m_ui->txtSvar, &QLineEdit::textChanged, m_session, &QuizSession::setAnswerText);
+    connect(&m_tmrSvar, &clsTimer::ThatTime, m_session, &QuizSession::revealTick);
+    connect(&m_tmrAutoSvar, &clsTimer::ThatTime, m_session, &QuizSession::autoTick);
     m_ui->txtTime->installEventFilter(this);
     new OnePress(*this, {m_ui->btnCheck, m_ui->btnRight, m_ui->optAnswer0, m_ui->optAnswer1, m_ui->optAnswer2});
 }
 
 void frmOva::connectSession()
 {
-    connect(m_session.get(), &QuizSession::revealIntervalChanged, &m_tmrSvar, &clsTimer::setInterval);
-    connect(m_session.get(), &QuizSession::autoIntervalChanged, &m_tmrAutoSvar, &clsTimer::setInterval);
-    connect(m_session.get(), &QuizSession::roundStarted, this, &frmOva::showRoundStart);
-    connect(m_session.get(), &QuizSession::questionShown, this, &frmOva::showQuestion);
-    connect(m_session.get(), &QuizSession::answerRevealed, this, &frmOva::showAnswer);
-    connect(m_session.get(), &QuizSession::judged, this, &frmOva::showVerdict);
-    connect(m_session.get(), &QuizSession::verdictTurned, this, &frmOva::showTurned);
-    connect(m_session.get(), &QuizSession::roundEnded, this, &frmOva::showRoundEnd);
+    connect(m_session, &QuizSession::revealIntervalChanged, &m_tmrSvar, &clsTimer::setInterval);
+    connect(m_session, &QuizSession::autoIntervalChanged, &m_tmrAutoSvar, &clsTimer::setInterval);
+    connect(m_session, &QuizSession::roundStarted, this, &frmOva::showRoundStart);
+    connect(m_session, &QuizSession::questionShown, this, &frmOva::showQuestion);
+    connect(m_session, &QuizSession::answerRevealed, this, &frmOva::showAnswer);
+    connect(m_session, &QuizSession::judged, this, &frmOva::showVerdict);
+    connect(m_session, &QuizSession::verdictTurned, this, &frmOva::showTurned);
+    connect(m_session, &QuizSession::roundEnded, this, &frmOva::showRoundEnd);
 }
 
 void frmOva::btnCheck_Click()
@@ -184,8 +203,10 @@ void frmOva::showTurned(bool correct)
     m_ui->picResult->showTurned(correct, m_spokenVerdict);
     showCounters();
     showTurning();
-    if (m_session->done())
+    if (m_session->done()) {
         showScore();
+        showMissed();
+    }
     speak(QuizSpeech::state(*m_session));
     focusAnswer();
 }
@@ -225,6 +246,7 @@ void frmOva::showRoundEnd()
     m_ui->lblSum->show();
     m_ui->lblScore->show();
     showScore();
+    showMissed();
     showCounters();
     showTurning();
     m_ui->btnHint->setEnabled(false);
@@ -238,6 +260,21 @@ void frmOva::showScore()
 {
     m_ui->lblScore->setText(resText(12006).arg(m_session->correctCount()).arg(m_session->questionCount()));
     m_ui->btnRep->setEnabled(m_session->canRepeat());
+}
+
+/// The list takes the free area below the score.
+void frmOva::showMissed()
+{
+    m_lstMissed->setAnswers(m_quiz.missed->ofRound(), m_session->kind() != QuizKind::Practice);
+    m_lstMissed->setVisible(!m_quiz.missed->ofRound().empty());
+    m_ui->picQuestion->setSizePolicy(QSizePolicy::Preferred,
+                                     m_lstMissed->isHidden() ? QSizePolicy::Fixed : QSizePolicy::Expanding);
+}
+
+void frmOva::keepMissed()
+{
+    m_keepMissed = true;
+    accept();
 }
 
 QWidget *frmOva::answerControl() const

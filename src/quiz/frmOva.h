@@ -2,7 +2,7 @@
 
 #include "quiz/AnswerOptions.h"
 #include "quiz/QuizPlace.h"
-#include "quiz/rules/QuizSession.h"
+#include "quiz/rules/LeftQuiz.h"
 #include "widgets/clsTimer.h"
 
 #include <QDialog>
@@ -11,6 +11,7 @@
 #include <memory>
 
 class clsAppProperties;
+class MissedList;
 class SoundPlayer;
 
 namespace Ui {
@@ -42,8 +43,19 @@ public:
     /// Builds the quiz from the words of a document and minimises the document's window.
     void Form_Load(const WordSource &words, QWidget &document, const QString &documentTitle);
 
+    /// Goes on with a quiz that was left, in place of Form_Load.
+    void resume(LeftQuiz &&quiz, QWidget &document, const QString &documentTitle);
+    /// Hands the quiz over once the window has closed.
+    LeftQuiz takeQuiz()
+    {
+        m_session = nullptr;
+        return std::move(m_quiz);
+    }
+    /// The user wants to keep the words that were missed in the last round.
+    bool isToKeepMissed() const { return m_keepMissed; }
+
     /// The quiz that is running; null until it is ready.
-    QuizSession *session() const { return m_session.get(); }
+    QuizSession *session() const { return m_quiz.session.get(); }
 
 public Q_SLOTS:
     void done(int result) override;
@@ -59,6 +71,7 @@ private:
     static const Sizes Roomy;
     static const Sizes Tight; ///< for small screens
 
+    void begin(QWidget &document, const QString &documentTitle);
     void layOut();
     void takeRoom();
     /// Gives the words their types, scale times as large as at the window's first size.
@@ -91,9 +104,12 @@ private:
     void showTurning();
     void showScore();
     void showRoundEnd();
+    void showMissed();
+    void keepMissed();
 
     std::unique_ptr<Ui::frmOva> m_ui;
     std::unique_ptr<AnswerOptions> m_optAnswer;
+    MissedList *m_lstMissed;
     clsTimer m_tmrSvar;
     clsTimer m_tmrAutoSvar;
     clsAppProperties &m_settings;
@@ -105,11 +121,13 @@ private:
     int m_resultHeight = 0; ///< of the result panel at that size
     double m_scale = 1;
     QString m_wordFamily;
-    std::unique_ptr<QuizSession> m_session;
-    QPointer<QWidget> m_document; ///< may close while the quiz is open, when the program is told to end
+    LeftQuiz m_quiz;
+    QuizSession *m_session = nullptr; ///< that of the quiz
+    QPointer<QWidget> m_document;     ///< may close while the quiz is open, when the program is told to end
     Qt::WindowStates m_documentState;
     qint16 m_quizType = 0;
     AskedRows m_askedRows;
+    bool m_keepMissed = false;
     QString m_tag = QStringLiteral("0");
     QWidget *m_speaker = nullptr; ///< the control whose description a screen reader hears
     QString m_spokenVerdict;

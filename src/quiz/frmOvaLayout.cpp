@@ -1,5 +1,6 @@
 #include "quiz/frmOva.h"
 
+#include "quiz/MissedList.h"
 #include "quiz/QuizColours.h"
 #include "quiz/QuizLook.h"
 #include "quiz/rules/Seconds.h"
@@ -150,6 +151,8 @@ void frmOva::showForKind()
 {
     m_ui->lblSum->hide();
     m_ui->lblScore->hide();
+    m_lstMissed->hide();
+    m_ui->picQuestion->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_ui->lblLang1->show();
     m_ui->lblLang2->show();
     m_ui->lblFraga->show();

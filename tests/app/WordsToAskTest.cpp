@@ -1,5 +1,7 @@
 #include "MainWindowFixture.h"
 
+#include "document/GridContent.h"
+#include "document/rules/Vocabulary.h"
 #include "quiz/frmOva.h"
 
 struct WordsToAskTest : MainWindowFixture
@@ -88,4 +90,89 @@ TEST_F(WordsToAskTest, WhereNoChosenWordIsLeftAllAreOffered)
     EXPECT_EQ(asked("mnuQuizMultiple"), 0);
     EXPECT_TRUE(alert.shown.empty()) << "all of them are too few too";
     EXPECT_EQ(status(0), resText(12013));
+}
+
+struct LeftQuizTest : WordsToAskTest
+{
+    /// Types answers into a quiz; "!" is the right one.
+    static void answer(QDialog &dialog, const QStringList &answers)
+    {
+        const QuizSession &session = *dynamic_cast<frmOva &>(dialog).session();
+        auto *box = dialog.findChild<QLineEdit *>("txtSvar");
+        for (const QString &each : answers) {
+            box->setText(each == "!" ? session.question().correctAnswer() : each);
+            QTest::keyClick(box, Qt::Key_Return);
+        }
+    }
+    bool canContinue() { return window->commands().action("mnuQuizContinue")->isEnabled(); }
+};
+
+TEST_F(LeftQuizTest, AQuizThatWasLeftGoesOnAsItWas)
+{
+    EXPECT_FALSE(canContinue());
+    inDialog("mnuQuizQA", [](QDialog &) {});
+    EXPECT_FALSE(canContinue()) << "nothing was answered";
+    inDialog("mnuQuizQA", [](QDialog &dialog) {
+        answer(dialog, {"!", "wrong", "!"});
+        dialog.findChild<QLineEdit *>("txtSvar")->setText("half");
+    });
+    EXPECT_TRUE(canContinue());
+    inDialog("mnuQuizStudy", [](QDialog &) {});
+    frmDoc *other = newDocument();
+    EXPECT_FALSE(canContinue());
+    other->frame()->close();
+    document->Rutor()->setWords({"", "new"}, {"", "new"}, {});
+    document->setCaption("renamed");
+    EXPECT_TRUE(inDialog("mnuQuizContinue", [](QDialog &dialog) {
+        const QuizSession &session = *dynamic_cast<frmOva &>(dialog).session();
+        EXPECT_EQ(session.currentQuestion(), 4);
+        EXPECT_EQ(session.question().askedWord(), "4");
+        EXPECT_EQ(std::pair(session.correctCount(), session.errorCount()), std::pair(2, 1));
+        EXPECT_EQ(dialog.findChild<QLineEdit *>("txtSvar")->text(), "half");
+        EXPECT_TRUE(dialog.windowTitle().endsWith("renamed"));
+        answer(dialog, QStringList(27, "!"));
+        EXPECT_TRUE(session.done());
+    }));
+    EXPECT_FALSE(canContinue()) << "it has come to its end";
+}
+
+TEST_F(LeftQuizTest, MissedWordsAreListedCopiedAskedAgainAndKept)
+{
+    document->Rutor()->setTextMatrix(2, 2, "zwei");
+    document->Rutor()->setTextMatrix(0, 2, "German");
+    document->Rutor()->setGridFont(QFont("Arial", 20));
+    settings.setQuizMode(5);
+    QStringList expected;
+    for (const bool keep : {false, true}) {
+        document->select({1, 1, 3, 2});
+        window->DoMenuClick("mnuWordsSelected");
+        inDialog("mnuQuizQA", [&](QDialog &dialog) {
+            const QuizSession &session = *dynamic_cast<frmOva &>(dialog).session();
+            expected.clear();
+            while (!session.done()) {
+                const bool second = session.question().askedWord() == "2" || session.question().askedWord() == "zwei";
+                if (second)
+                    expected += session.question().askedWord() + "\tx\t" + session.question().correctAnswer();
+                answer(dialog, {second ? "x" : "!"});
+            }
+            dialog.findChild<QTableWidget *>("lstMissed")->setFocus();
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_C, Qt::ControlModifier);
+            if (keep)
+                QTest::mouseClick(dialog.findChild<QWidget *>("btnKeepMissed"), Qt::LeftButton);
+        });
+        EXPECT_EQ(expected.size(), 2) << "both ways";
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), expected.join(u'\n'));
+        window->DoMenuClick("mnuWordsMissed");
+        EXPECT_EQ(note(), keep ? "missed: 0" : "missed: 1");
+    }
+    frmDoc *kept = documents().active();
+    ASSERT_NE(kept, document);
+    const Vocabulary words = GridContent::read(*kept->Rutor());
+    EXPECT_EQ(words.first, (std::vector<QString>{"English", "2", ""}));
+    EXPECT_EQ(words.second, (std::vector<QString>{"German", "zwei", ""}));
+    EXPECT_EQ(kept->Rutor()->Font().pointSize(), 20);
+    EXPECT_TRUE(kept->Dirty() && kept->DocName().isEmpty() && kept->Caption().startsWith(resText(500)));
+    window->documentArea()->activate(*document);
+    EXPECT_EQ(note(), "missed: 1");
+    EXPECT_EQ(asked("mnuQuizStudy"), 2);
 }

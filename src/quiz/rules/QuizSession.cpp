@@ -254,6 +254,14 @@ void QuizSession::fRepeatErrors()
     fShowQuestion();
 }
 
+void QuizSession::resume()
+{
+    m_revealReason = Verdict::Undecided;
+    m_pauseTicks = 0;
+    --m_current;
+    fShowQuestion();
+}
+
 void QuizSession::startReveal(Verdict reason)
 {
     m_revealReason = reason;

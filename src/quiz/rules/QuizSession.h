@@ -74,6 +74,8 @@ public:
 
     /// Asks the next question, or ends the round.
     void fShowQuestion();
+    /// Asks the question on view again, as at the beginning but for what has been typed: the quiz was left and goes on.
+    void resume();
     /// Judges the question on view, by the input if the verdict is not decided yet, and goes on to the next.
     Verdict fCheckAnswer(Verdict verdict);
     /// Keeps what stands in its right place and adds one letter of the answer.

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QWidget>
+
+class QTableWidget;
+struct MissedAnswer;
+
+/// The list of the answers that were wrong, for the end of a quiz: the words asked, the answers given and the right
+/// ones. It can be copied, and what it holds can be asked to be kept.
+class MissedList : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit MissedList(QWidget *parent = nullptr);
+
+    /// Without the answers given when withGiven is false, as in Practice, where there are none.
+    void setAnswers(const std::vector<MissedAnswer> &answers, bool withGiven);
+
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    void keepRequested();
+
+private:
+    void copy();
+
+    QTableWidget *m_table;
+};
