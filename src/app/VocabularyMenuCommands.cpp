@@ -6,6 +6,7 @@
 #include "document/DocumentList.h"
 #include "quiz/frmLang.h"
 #include "resources/Pictures.h"
+#include "services/settings/clsAppProperties.h"
 #include "services/status/modSBFunc.h"
 #include "tools/frmCheck.h"
 #include "tools/frmColRow.h"
@@ -15,6 +16,7 @@
 namespace {
 
 constexpr StateSet Document(AppState::StateDocument);
+constexpr StateSet DocumentOrEditing(AppState::StateDocument, AppState::StateEditing);
 
 /// A command that shows a modal dialog about the active document.
 std::function<void()> withDialog(const AppContext &context, const std::function<void(frmDoc &)> &show)
@@ -47,6 +49,13 @@ void showCheck(const AppContext &context)
     }
 }
 
+void showLetters(const AppContext &context, bool shown)
+{
+    context.settings.setShowLetters(shown);
+    for (frmDoc *document : context.documents.open())
+        document->showLetters(shown);
+}
+
 } // namespace
 
 void AppCommands::addVocabularyCommands(CommandTable &table, const AppContext &context)
@@ -66,4 +75,7 @@ void AppCommands::addVocabularyCommands(CommandTable &table, const AppContext &c
              modSorting::SortVocabulary(document, context.undo, QLocale(), &context.window);
          })});
     table.add({"mnuVocabularyCheck", 14130, "", 14131, 0, Document, [&context] { showCheck(context); }});
+    table.add({"mnuVocabularyLetters", 14372, "", 14373, 0, DocumentOrEditing,
+               [&context] { showLetters(context, !context.settings.ShowLetters()); },
+               [&context] { return context.settings.ShowLetters(); }});
 }

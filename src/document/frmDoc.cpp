@@ -2,6 +2,7 @@
 
 #include "document/DocumentCloser.h"
 #include "document/GridContent.h"
+#include "document/GridLetters.h"
 #include "document/ctlGrid.h"
 #include "document/ctlGridEdit.h"
 #include "document/rules/GridRules.h"
@@ -76,6 +77,15 @@ void frmDoc::connectGrid()
     connect(m_grid, &ctlGrid::Scroll, m_grid, &ctlGrid::RefreshTextPos);
 }
 
+void frmDoc::showLetters(bool shown)
+{
+    if (shown == (m_letters != nullptr))
+        return;
+    delete std::exchange(m_letters, shown ? new GridLetters(*m_grid, this) : nullptr);
+    if (m_letters)
+        layout()->addWidget(m_letters);
+}
+
 QString frmDoc::folder() const
 {
     return m_docName.isEmpty() ? QString() : QFileInfo(m_docName).path();
@@ -110,6 +120,7 @@ void frmDoc::setUpGrid(const QSize &innerSize)
     m_grid->setRows(FirstRows);
     m_grid->setCol(1);
     m_grid->setRow(1);
+    showLetters(m_shared.settings.ShowLetters());
     refreshQuizMode();
 }
 

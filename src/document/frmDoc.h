@@ -7,6 +7,7 @@
 #include <QWidget>
 
 class DocumentCloser;
+class GridLetters;
 class clsAppProperties;
 class ctlGrid;
 class modSBFunc;
@@ -59,6 +60,9 @@ public:
     /// Where the window stood before the print preview hid it, in twips.
     int WindowLeft = 0;
     int WindowTop = 0;
+
+    /// Shows the letters that the keyboard may lack below the grid, or not.
+    void showLetters(bool shown);
 
     /// Gives the grid its columns, fonts and 100 empty rows, for an inner area of that many pixels. Drawing is held
     /// back until showDocument.
@@ -125,6 +129,7 @@ private:
     QString m_docName;
     QString m_caption;
     QString m_quizModeNote;
+    GridLetters *m_letters = nullptr; ///< null: not shown
     int m_tag = 0;
     bool m_shiftAlone = false;
 };

@@ -5,10 +5,12 @@
 #include "quiz/OnePress.h"
 #include "quiz/QuizLook.h"
 #include "quiz/QuizSpeech.h"
+#include "quiz/rules/AnswerLetters.h"
 #include "resources/StringTable.h"
 #include "services/Hourglass.h"
 #include "services/desktop/EnterKey.h"
 #include "services/settings/clsAppProperties.h"
+#include "widgets/LetterRow.h"
 
 #include "ui_frmOva.h"
 
@@ -31,6 +33,10 @@ frmOva::frmOva(clsAppProperties &settings, RandomSource &random, SoundPlayer &er
     m_lstMissed = new MissedList(m_ui->picQuestion);
     m_ui->layoutQuestion->insertWidget(m_ui->layoutQuestion->indexOf(m_ui->lblScore) + 1, m_lstMissed, 1);
     connect(m_lstMissed, &MissedList::keepRequested, this, &frmOva::keepMissed);
+    m_letters = new LetterRow(m_ui->picQuestion);
+    m_ui->layoutQuestion->insertWidget(m_ui->layoutQuestion->indexOf(m_ui->txtSvar) + 1, m_letters);
+    setTabOrder(m_ui->txtSvar, m_letters);
+    connect(m_letters, &LetterRow::typed, m_ui->txtSvar, &QLineEdit::insert);
     m_optAnswer =
         std::make_unique<AnswerOptions>(std::array{m_ui->optAnswer0, m_ui->optAnswer1, m_ui->optAnswer2}, nullptr);
 }
@@ -50,6 +56,8 @@ void frmOva::Form_Load(const WordSource &words, QWidget &document, const QString
     }
     auto missed = std::make_unique<MissedAnswers>(*session);
     m_quiz = {std::move(session), std::move(missed)};
+    if (QuizKind(m_quizType) == QuizKind::QuestionAndAnswer)
+        m_quiz.letters = answerLetters(words, m_settings.QuizMode(), LetterRow::MostLetters, QLocale());
     begin(document, documentTitle);
     m_session->fShowQuestion();
     takeRoom();
@@ -168,6 +176,7 @@ void frmOva::showQuestion()
     case QuizKind::QuestionAndAnswer:
         m_ui->txtSvar->setText(m_session->answerText());
         m_ui->txtSvar->setAccessibleName(resText(12012).arg(question.answerLanguage()));
+        m_letters->setLetters(m_quiz.letters[size_t(question.answerColumn() - 1)]);
         break;
     }
     showTurning();
@@ -243,6 +252,7 @@ void frmOva::showRoundEnd()
          std::initializer_list<QWidget *>{m_ui->lblFraga, m_ui->txtSvar, m_ui->lblLang1, m_ui->lblLang2, m_ui->lblNote})
         control->hide();
     m_optAnswer->setVisible(false);
+    m_letters->setLetters({});
     m_ui->lblSum->show();
     m_ui->lblScore->show();
     showScore();

@@ -11,6 +11,7 @@
 #include <memory>
 
 class clsAppProperties;
+class LetterRow;
 class MissedList;
 class SoundPlayer;
 
@@ -110,6 +111,7 @@ private:
     std::unique_ptr<Ui::frmOva> m_ui;
     std::unique_ptr<AnswerOptions> m_optAnswer;
     MissedList *m_lstMissed;
+    LetterRow *m_letters;
     clsTimer m_tmrSvar;
     clsTimer m_tmrAutoSvar;
     clsAppProperties &m_settings;

@@ -3,6 +3,7 @@
 #include "document/GridContent.h"
 #include "document/rules/Vocabulary.h"
 #include "quiz/frmOva.h"
+#include "widgets/LetterRow.h"
 
 struct WordsToAskTest : MainWindowFixture
 {
@@ -175,4 +176,43 @@ TEST_F(LeftQuizTest, MissedWordsAreListedCopiedAskedAgainAndKept)
     window->documentArea()->activate(*document);
     EXPECT_EQ(note(), "missed: 1");
     EXPECT_EQ(asked("mnuQuizStudy"), 2);
+}
+
+using LettersTest = LeftQuizTest;
+
+TEST_F(LettersTest, LettersOfTheAnswersColumnStandBelowTheAnswerAndOnWishBelowTheGrid)
+{
+    document->Rutor()->setTextMatrix(1, 1, "ñ");
+    document->Rutor()->setTextMatrix(2, 2, "é");
+    const auto shown = [](const QWidget &place) {
+        QString letters;
+        for (const LetterRow *row : place.findChildren<LetterRow *>()) {
+            for (const QToolButton *button : row->findChildren<QToolButton *>())
+                letters += row->isVisible() ? button->text() : QString();
+        }
+        return letters;
+    };
+    settings.setQuizMode(2);
+    inDialog("mnuQuizQA", [&](QDialog &dialog) {
+        EXPECT_EQ(shown(dialog), "ñ");
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_1, Qt::ControlModifier);
+        EXPECT_EQ(dialog.findChild<QLineEdit *>("txtSvar")->text(), "ñ") << "in place of the prompt";
+    });
+    EXPECT_EQ(shown(*document), "");
+    window->DoMenuClick("mnuVocabularyLetters");
+    EXPECT_TRUE(settings.ShowLetters());
+    QCoreApplication::processEvents();
+    document->select({3, 1, 3, 1});
+    EXPECT_EQ(shown(*document), "ñ");
+    document->select({3, 2, 3, 2});
+    EXPECT_EQ(shown(*document), "é");
+    for (int i = 0; i < 2; ++i)
+        QTest::mouseClick(document->findChild<LetterRow *>()->findChild<QToolButton *>(), Qt::LeftButton);
+    EXPECT_EQ(document->Rutor()->EditText(), "éé");
+    document->endEdit();
+    EXPECT_EQ(document->Rutor()->TextMatrix(3, 2), "éé");
+    EXPECT_TRUE(document->Dirty());
+    EXPECT_EQ(undo.kind(), UndoKind::Typing);
+    window->DoMenuClick("mnuVocabularyLetters");
+    EXPECT_EQ(shown(*document), "");
 }

@@ -36,6 +36,7 @@ constexpr Switch Switches[] = {
     {"QuizRememberAnswers", [](QuizOptions &options) -> bool & { return options.rememberAnswers; }},
 };
 constexpr char MostWordsName[] = "QuizMostWords";
+constexpr char ShowLettersName[] = "ShowLetters";
 
 /// A stored number; the default where there is none, or something else.
 int storedNumber(clsRegistry &registry, const char *name, int byDefault)
@@ -148,6 +149,7 @@ void clsAppProperties::ReadProperties()
     m_values = SettingsRecord();
     m_fontName = defaultFontName();
     m_quizOptions = {};
+    m_showLetters = false;
     if (m_firstRun) {
         registry.CreateEXEAssociation(m_programPath, QStringLiteral("Glosaria.Document"),
                                       QStringLiteral("Glosaria Document"), QStringLiteral("gla"), 1);
@@ -161,6 +163,7 @@ void clsAppProperties::ReadProperties()
     registry.setValueKey(QStringLiteral("FontName"));
     setFontName(registry.Value().toString());
     setQuizOptions(readOptions(registry));
+    setShowLetters(storedNumber(registry, ShowLettersName, 0) == 1);
     setQuizWindow(readPlace(registry));
 }
 
@@ -176,5 +179,6 @@ void clsAppProperties::SaveProperties() const
     registry.setValueType(RegistryType::String);
     registry.setValue(m_fontName);
     saveOptions(registry, m_quizOptions);
+    storeNumber(registry, ShowLettersName, m_showLetters, 0);
     savePlace(registry, m_quizWindow);
 }

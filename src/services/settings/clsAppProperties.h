@@ -66,6 +66,10 @@ public:
     QRect QuizWindow() const { return m_quizWindow; }
     void setQuizWindow(const QRect &place);
 
+    /// Below each grid stand the letters that the keyboard may lack.
+    bool ShowLetters() const { return m_showLetters; }
+    void setShowLetters(bool show) { m_showLetters = show; }
+
     static constexpr int LargestFontSize = 2048;
 
     /// Takes the stored settings. Without any, which is a first run, it takes the defaults and registers the file type.
@@ -85,6 +89,7 @@ private:
     SettingsRecord m_values;
     QString m_fontName;
     QuizOptions m_quizOptions;
+    bool m_showLetters = false;
     QRect m_quizWindow;
     bool m_firstRun = false;
 };

@@ -1,0 +1,39 @@
+#include "widgets/LetterRow.h"
+
+TEST(LetterRowTest, ClicksAndKeysTypeLettersAndTheirCapitals)
+{
+    QDialog window;
+    auto *box = new QLineEdit(&window);
+    auto *row = new LetterRow(&window);
+    auto *layout = new QVBoxLayout(&window);
+    layout->addWidget(box);
+    layout->addWidget(row);
+    QObject::connect(row, &LetterRow::typed, box, &QLineEdit::insert);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    EXPECT_FALSE(row->isVisible());
+    row->setLetters({"ä", "ß", "ж"});
+    EXPECT_TRUE(row->isVisible());
+    const QList<QToolButton *> buttons = row->findChildren<QToolButton *>();
+    ASSERT_EQ(buttons.size(), 3);
+    box->setFocus();
+    for (QToolButton *button : buttons)
+        QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_TRUE(box->hasFocus());
+    QTest::keyPress(box, Qt::Key_Shift, Qt::ShiftModifier);
+    EXPECT_EQ(buttons[0]->accessibleName(), "Ä");
+    QTest::mouseClick(buttons[1], Qt::LeftButton, Qt::ShiftModifier);
+    QTest::mouseClick(buttons[2], Qt::LeftButton, Qt::ShiftModifier);
+    QTest::keyRelease(box, Qt::Key_Shift);
+    QTest::keyClick(box, Qt::Key_1, Qt::ControlModifier);
+    QTest::keyClick(box, Qt::Key_1, Qt::ControlModifier | Qt::ShiftModifier);
+    QTest::keyClick(box, Qt::Key_4, Qt::ControlModifier); // there is none
+    EXPECT_EQ(box->text(), "äßжßЖäÄ");
+    QTest::keyClick(box, Qt::Key_Tab);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(box->text(), "äßжßЖäÄж");
+    row->setLetters({});
+    EXPECT_FALSE(row->isVisible());
+}
