@@ -154,6 +154,16 @@ class Tour:
 
     def leg_quizzes(self):
         self._start_on("long words.gla", LONG_PAIRS)
+        self._dialog(14330, "quiz options", "alt+445", 14312)
+        self._press("alt+445", 14300)
+        self._visit("main, menu of the words to ask")
+        for keys in ((14304,), ("alt+431", 14372), ("Right",)):
+            self._press(*keys)
+            self._desktop.wait_until_idle()
+        self._visit("main, letters below the grid")
+        for keys in (("alt+445", 14300), (14302,), ("alt+431", 14372)):
+            self._press(*keys)
+            self._desktop.wait_until_idle()
         answered = 914
         self._quiz(446, 12003, "Practice", [("answer", "alt+11000", LONG_PAIRS[0][1]), ("known", None, answered)], "alt+11001")
         self._quiz(447, 12004, "Multiple Choice", [("chosen", "1", None), ("answered", "Return", answered)], "1", "Return")
