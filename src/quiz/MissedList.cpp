@@ -16,15 +16,16 @@ namespace {
 
 enum Column { Asked, Given, Right, Columns };
 
-constexpr int ShownRows = 4; ///< what there is room for at least
+constexpr int ShownRows = 3; ///< what there is room for at least
+constexpr int RowMargin = 6; ///< pixels
 
-QPushButton *addButton(QBoxLayout &row, const char *name, int textId, int whatsThisId)
+QPushButton *addButton(QBoxLayout &column, const char *name, int textId, int whatsThisId)
 {
     auto *button = new QPushButton(resText(textId));
     button->setObjectName(QString::fromLatin1(name));
     button->setAutoDefault(false);
     FormTexts::setWhatsThis(button, whatsThisId);
-    row.addWidget(button);
+    column.addWidget(button);
     return button;
 }
 
@@ -45,15 +46,20 @@ MissedList::MissedList(QWidget *parent)
     m_table->setTabKeyNavigation(false);
     m_table->setWordWrap(false);
     FormTexts::setWhatsThis(m_table, 21320);
-    auto *layout = new QVBoxLayout(this);
+    const int rowHeight = fontMetrics().height() + RowMargin;
+    m_table->verticalHeader()->setDefaultSectionSize(rowHeight);
+    m_table->setMinimumHeight(m_table->horizontalHeader()->sizeHint().height() + rowHeight * ShownRows +
+                              2 * m_table->frameWidth());
+    auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_table);
-    auto *buttons = new QHBoxLayout;
+    layout->addWidget(m_table, 1);
+    auto *buttons = new QVBoxLayout;
     layout->addLayout(buttons);
-    connect(addButton(*buttons, "btnCopyMissed", 14362, 21321), &QPushButton::clicked, this, &MissedList::copy);
-    connect(addButton(*buttons, "btnKeepMissed", 14363, 21322), &QPushButton::clicked, this,
-            &MissedList::keepRequested);
+    m_buttons = {addButton(*buttons, "btnCopyMissed", 14362, 21321),
+                 addButton(*buttons, "btnKeepMissed", 14363, 21322)};
     buttons->addStretch();
+    connect(m_buttons[0], &QPushButton::clicked, this, &MissedList::copy);
+    connect(m_buttons[1], &QPushButton::clicked, this, &MissedList::keepRequested);
     auto *copyKey = new QShortcut(QKeySequence::Copy, m_table);
     copyKey->setContext(Qt::WidgetShortcut);
     connect(copyKey, &QShortcut::activated, this, &MissedList::copy);
@@ -73,15 +79,15 @@ void MissedList::setAnswers(const std::vector<MissedAnswer> &answers, bool withG
         }
         ++row;
     }
+    setTabOrder(this, m_table);
+    setTabOrder(m_table, m_buttons[0]);
+    setTabOrder(m_buttons[0], m_buttons[1]);
     m_table->setCurrentCell(answers.empty() ? -1 : 0, Asked, QItemSelectionModel::NoUpdate);
 }
 
 QSize MissedList::sizeHint() const
 {
-    const QSize hint = QWidget::sizeHint();
-    const int rows = m_table->verticalHeader()->defaultSectionSize() * ShownRows;
-    const int table = m_table->horizontalHeader()->sizeHint().height() + rows + 2 * m_table->frameWidth();
-    return {hint.width(), hint.height() - m_table->sizeHint().height() + table};
+    return minimumSizeHint();
 }
 
 /// The selected rows, or all when none is.

@@ -2,6 +2,9 @@
 
 #include <QWidget>
 
+#include <array>
+
+class QPushButton;
 class QTableWidget;
 struct MissedAnswer;
 
@@ -26,4 +29,5 @@ private:
     void copy();
 
     QTableWidget *m_table;
+    std::array<QPushButton *, 2> m_buttons;
 };

@@ -36,6 +36,7 @@ frmOva::frmOva(clsAppProperties &settings, RandomSource &random, SoundPlayer &er
     m_letters = new LetterRow(m_ui->picQuestion);
     m_ui->layoutQuestion->insertWidget(m_ui->layoutQuestion->indexOf(m_ui->txtSvar) + 1, m_letters);
     setTabOrder(m_ui->txtSvar, m_letters);
+    setTabOrder(m_letters, m_lstMissed);
     connect(m_letters, &LetterRow::typed, m_ui->txtSvar, &QLineEdit::insert);
     m_optAnswer =
         std::make_unique<AnswerOptions>(std::array{m_ui->optAnswer0, m_ui->optAnswer1, m_ui->optAnswer2}, nullptr);

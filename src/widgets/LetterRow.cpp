@@ -69,6 +69,10 @@ void LetterRow::setLetters(const QStringList &letters)
         m_buttons += addButton(int(m_buttons.size()));
     while (m_buttons.size() > m_letters.size())
         delete m_buttons.takeLast();
+    for (QWidget *before = this; QToolButton * button : m_buttons) {
+        setTabOrder(before, button);
+        before = button;
+    }
     showCapitals(m_capitals);
     setVisible(!m_letters.isEmpty());
 }
