@@ -31,8 +31,9 @@ QPushButton *addButton(QBoxLayout &column, const char *name, int textId, int wha
 
 } // namespace
 
-MissedList::MissedList(QWidget *parent)
+MissedList::MissedList(QWidget &before, QWidget *parent)
     : QWidget(parent)
+    , m_before(before)
     , m_table(new QTableWidget(0, Columns))
 {
     m_table->setObjectName(QStringLiteral("lstMissed"));
@@ -79,7 +80,7 @@ void MissedList::setAnswers(const std::vector<MissedAnswer> &answers, bool withG
         }
         ++row;
     }
-    setTabOrder(this, m_table);
+    setTabOrder(&m_before, m_table);
     setTabOrder(m_table, m_buttons[0]);
     setTabOrder(m_buttons[0], m_buttons[1]);
     m_table->setCurrentCell(answers.empty() ? -1 : 0, Asked, QItemSelectionModel::NoUpdate);

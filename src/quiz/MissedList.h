@@ -15,7 +15,8 @@ class MissedList : public QWidget
     Q_OBJECT
 
 public:
-    explicit MissedList(QWidget *parent = nullptr);
+    /// Tab leads from the widget before it to the list.
+    explicit MissedList(QWidget &before, QWidget *parent = nullptr);
 
     /// Without the answers given when withGiven is false, as in Practice, where there are none.
     void setAnswers(const std::vector<MissedAnswer> &answers, bool withGiven);
@@ -28,6 +29,7 @@ Q_SIGNALS:
 private:
     void copy();
 
+    QWidget &m_before;
     QTableWidget *m_table;
     std::array<QPushButton *, 2> m_buttons;
 };

@@ -30,13 +30,12 @@ frmOva::frmOva(clsAppProperties &settings, RandomSource &random, SoundPlayer &er
 {
     m_ui->setupUi(this);
     EnterKey::leaveToDialog(*this);
-    m_lstMissed = new MissedList(m_ui->picQuestion);
+    m_lstMissed = new MissedList(*m_ui->txtSvar, m_ui->picQuestion);
     m_ui->layoutQuestion->insertWidget(m_ui->layoutQuestion->indexOf(m_ui->lblScore) + 1, m_lstMissed, 1);
     connect(m_lstMissed, &MissedList::keepRequested, this, &frmOva::keepMissed);
     m_letters = new LetterRow(m_ui->picQuestion);
     m_ui->layoutQuestion->insertWidget(m_ui->layoutQuestion->indexOf(m_ui->txtSvar) + 1, m_letters);
-    setTabOrder(m_ui->txtSvar, m_letters);
-    setTabOrder(m_letters, m_lstMissed);
+    m_letters->setTabOrderAfter(m_ui->txtSvar);
     connect(m_letters, &LetterRow::typed, m_ui->txtSvar, &QLineEdit::insert);
     m_optAnswer =
         std::make_unique<AnswerOptions>(std::array{m_ui->optAnswer0, m_ui->optAnswer1, m_ui->optAnswer2}, nullptr);

@@ -32,6 +32,7 @@ LetterRow::LetterRow(QWidget *parent)
     layout->setSpacing(0);
     layout->addStretch();
     setAccessibleName(resText(14370));
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     for (int place = 0; place < LettersWithKey; ++place)
         addKeys(place);
     QCoreApplication::instance()->installEventFilter(this); // Shift may be pressed wherever the focus is
@@ -51,7 +52,6 @@ QToolButton *LetterRow::addButton(int place)
 {
     auto *button = new QToolButton;
     button->setAutoRaise(true);
-    button->setFocusPolicy(place == 0 ? Qt::TabFocus : Qt::NoFocus);
     FormTexts::setWhatsThis(button, WhatsThisId);
     if (place < LettersWithKey)
         button->setToolTip(resText(14371).arg(place + 1));
@@ -69,12 +69,23 @@ void LetterRow::setLetters(const QStringList &letters)
         m_buttons += addButton(int(m_buttons.size()));
     while (m_buttons.size() > m_letters.size())
         delete m_buttons.takeLast();
-    for (QWidget *before = this; QToolButton * button : m_buttons) {
-        setTabOrder(before, button);
-        before = button;
-    }
+    orderTabs();
     showCapitals(m_capitals);
     setVisible(!m_letters.isEmpty());
+}
+
+/// The toolkit orders only what takes the focus; Tab is to stop at the row once.
+void LetterRow::orderTabs()
+{
+    QWidget *before = m_before;
+    for (QToolButton *button : m_buttons) {
+        button->setFocusPolicy(Qt::TabFocus);
+        if (before)
+            setTabOrder(before, button);
+        before = button;
+    }
+    for (QToolButton *button : m_buttons.mid(1))
+        button->setFocusPolicy(Qt::NoFocus);
 }
 
 QString LetterRow::letter(int place, bool capital) const

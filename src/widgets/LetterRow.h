@@ -19,6 +19,9 @@ public:
     /// Small letters, in the order in which they are shown.
     void setLetters(const QStringList &letters);
 
+    /// The widget from which Tab leads to the row; without one it is that made before the row.
+    void setTabOrderAfter(QWidget *before) { m_before = before; }
+
 Q_SIGNALS:
     void typed(const QString &letter);
 
@@ -28,11 +31,13 @@ protected:
 private:
     QToolButton *addButton(int place);
     void addKeys(int place);
+    void orderTabs();
     void type(int place, bool capital);
     bool moveFocus(QObject *from, int step);
     void showCapitals(bool capitals);
     QString letter(int place, bool capital) const;
 
+    QWidget *m_before = nullptr;
     QStringList m_letters;
     QList<QToolButton *> m_buttons;
     bool m_capitals = false;
