@@ -101,7 +101,8 @@ TEST_F(frmOvaTest, EveryStateOfEveryKindShowsItsWordsItsCountersAndWhatCanBeDone
           {hint, "Practice - Animals | English | cow | German | >I &know | I d&ont know | ? | Previous Word | cat | "
                  "Your Answer | Correct Answer | K | Number Of Questions | Answered Questions | Correct Answers | "
                  "Incorrect Answers | *3* | *2* | *1* | *1*"},
-          {check, "Practice - Animals | Summary | 2 of 3 answered correctly | >Done | (I d&ont know) | ? | Previous "
+          {check, "Practice - Animals | Summary | 2 of 3 answered correctly | Cop&y | Keep as &Vocabulary | >Done | (I "
+                  "d&ont know) | ? | Previous "
                   "Word | cow | Your Answer | R | Number Of Questions | Answered Questions | Correct Answers | "
                   "Incorrect Answers | *3* | *3* | *2* | *1* | [ ] Show answer &automatically after | (<0>) | &seconds "
                   "| ([x] &Count as error) | [x] &Beep On Error | &Repeat Errors | Cancel"},
