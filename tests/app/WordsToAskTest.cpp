@@ -156,6 +156,7 @@ TEST_F(LeftQuizTest, MissedWordsAreListedCopiedAskedAgainAndKept)
                     expected += session.question().askedWord() + "\tx\t" + session.question().correctAnswer();
                 answer(dialog, {second ? "x" : "!"});
             }
+            QApplication::setActiveWindow(&dialog);
             dialog.findChild<QTableWidget *>("lstMissed")->setFocus();
             QTest::keyClick(dialog.focusWidget(), Qt::Key_C, Qt::ControlModifier);
             if (keep)
@@ -195,6 +196,7 @@ TEST_F(LettersTest, LettersOfTheAnswersColumnStandBelowTheAnswerAndOnWishBelowTh
     settings.setQuizMode(2);
     inDialog("mnuQuizQA", [&](QDialog &dialog) {
         EXPECT_EQ(shown(dialog), "ñ");
+        QApplication::setActiveWindow(&dialog);
         QTest::keyClick(dialog.focusWidget(), Qt::Key_1, Qt::ControlModifier);
         EXPECT_EQ(dialog.findChild<QLineEdit *>("txtSvar")->text(), "ñ") << "in place of the prompt";
     });
@@ -212,7 +214,7 @@ TEST_F(LettersTest, LettersOfTheAnswersColumnStandBelowTheAnswerAndOnWishBelowTh
     document->endEdit();
     EXPECT_EQ(document->Rutor()->TextMatrix(3, 2), "éé");
     EXPECT_TRUE(document->Dirty());
-    EXPECT_EQ(undo.kind(), UndoKind::Typing);
+    EXPECT_EQ(undo.kind(), UndoKind::Entry);
     window->DoMenuClick("mnuVocabularyLetters");
     EXPECT_EQ(shown(*document), "");
 }
