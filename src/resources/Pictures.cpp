@@ -23,6 +23,7 @@ constexpr std::array Files = {
     "weblink", "maillink", "home", "navigation", "zoomin", "zoomout", "zoomnormal", "right", "wrong", "gridcursor",
     "glosaria", "document", "more", "minimize", "maximize", "restore",
     "checked",
+    "choices",
 };
 // clang-format on
 

@@ -64,6 +64,7 @@ enum PictureNumber {
     PictureMaximize,
     PictureRestore,
     PictureChecked, ///< check mark of a menu entry
+    PictureChoices, ///< arrow that offers choices
 };
 
 /// The icon with this number, crisp at every size: it is drawn anew for the size, the screen and the palette's colours

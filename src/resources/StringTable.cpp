@@ -42,12 +42,25 @@ QHash<int, QString> &texts()
     return table;
 }
 
+/// Whose table lies over the English one.
+QString &languageInUse()
+{
+    static QString language;
+    return language;
+}
+
 } // namespace
+
+const QString &TextLanguage::inUse()
+{
+    return languageInUse();
+}
 
 void TextLanguage::use(const QString &language)
 {
     if (language.isEmpty())
         return;
+    languageInUse() = language;
     const QByteArray name = "strings." + language.toLatin1() + ".txt";
     texts().insert(parseStringTable(ResourceFiles::contents(QLatin1String(name))));
 }

@@ -20,4 +20,7 @@ bool isKnown(const QString &name);
 /// is looked up.
 void use(const QString &language);
 
+/// The language of the table in use; empty: English.
+const QString &inUse();
+
 } // namespace TextLanguage

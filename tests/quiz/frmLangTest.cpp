@@ -39,6 +39,31 @@ TEST_F(frmLangTest, NamesAreWrittenAsTypedAndAnEmptyBoxKeepsItsName)
     EXPECT_EQ(u"Old English  -> Language 2 In Order", status.text(2));
 }
 
+TEST_F(frmLangTest, TheListOfNamesIsForTheTakingAndLeavesWhatIsTyped)
+{
+    const struct
+    {
+        const char *typed;
+        QList<Qt::Key> keys;
+        const char *name;
+    } cases[] = {{"germ", {Qt::Key_Down, Qt::Key_Return}, "German"},
+                 {"fren", {Qt::Key_Escape}, "fren"},
+                 {"Meaning", {Qt::Key_Escape}, "Meaning"}}; // all names, since none begins so
+    for (const auto &[typed, keys, name] : cases) {
+        type([typed = typed, keys = keys](frmLang &dialog) {
+            QWidget *box = dialog.focusWidget();
+            QTest::keyClicks(box, typed);
+            QTest::keyClick(box, Qt::Key_Down);
+            ASSERT_TRUE(QApplication::activePopupWidget());
+            for (const Qt::Key key : keys)
+                QTest::keyClick(QApplication::activePopupWidget(), key);
+            EXPECT_FALSE(QApplication::activePopupWidget());
+            QTest::keyClick(box, Qt::Key_Return);
+        });
+        EXPECT_EQ(QString(name), document.language(1));
+    }
+}
+
 TEST_F(frmLangTest, EscapeWritesNothingAndOkMarksTheDocumentChanged)
 {
     type([](frmLang &dialog) {

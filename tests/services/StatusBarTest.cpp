@@ -26,6 +26,15 @@ TEST_F(StatusBarTest, PanelsStandAtTheirEdgesAlsoWhenTheWindowGrows)
     }
 }
 
+TEST_F(StatusBarTest, PanelsStandTheOtherWayRoundWhereLinesBeginAtTheRight)
+{
+    bar.setLayoutDirection(Qt::RightToLeft);
+    bar.resize(901, 20);
+    EXPECT_EQ(bar.panelRect(0).right(), bar.rect().right());
+    EXPECT_EQ(bar.panelRect(1).right(), bar.rect().right() - 300);
+    EXPECT_EQ(bar.findChild<QSizeGrip *>()->geometry().bottomLeft(), bar.rect().bottomLeft());
+}
+
 TEST_F(StatusBarTest, ALongTextShowsWholeAsFarAsTheModeLeavesRoom)
 {
     const QString mode = "Language 1 -> Language 2 In Order";

@@ -1,0 +1,13 @@
+#include "quiz/rules/LanguageNames.h"
+
+TEST(LanguageNames, AreThoseOfTheProgramsLanguageInItsOrder)
+{
+    const char *const cases[][3] = {{"", "Albanian", "German"},           {"de", "Arabisch", "Deutsch"},
+                                    {"fr", "Albanais", "Allemand"},       {"ru", "Албанский", "Немецкий"},
+                                    {"ja", "アイスランド語", "ドイツ語"}, {"zh_CN", "阿尔巴尼亚语", "德语"}};
+    for (const auto &[language, first, later] : cases) {
+        const QStringList names = languageNames(language);
+        EXPECT_LT(names.indexOf(QString(first)), names.indexOf(QString(later))) << language;
+        EXPECT_GE(names.indexOf(QString(first)), 0) << language;
+    }
+}
