@@ -1,6 +1,7 @@
 #pragma once
 
 class AlertBox;
+class CommonDialogs;
 class DocumentList;
 class EditCommands;
 class FileCommands;
@@ -9,6 +10,7 @@ class PasteGuard;
 class PrintCommands;
 class QuizCommands;
 class RandomSource;
+class StoredMemory;
 class UndoRecord;
 class clsAppProperties;
 class clsMRUFileList;
@@ -35,4 +37,6 @@ struct AppContext
     RandomSource &random;
     QuizCommands &quizzes;
     bool canSpeak; ///< words can be read aloud
+    CommonDialogs &dialogs;
+    StoredMemory *memory; ///< null: nothing is remembered of quizzes
 };

@@ -35,7 +35,8 @@ const std::vector<Menu> &menus()
               "mnuEditDelete -mnuEdit(5) mnuEditFind mnuEditReplace")},
         {QStringLiteral("mnuVocabulary"), 431, 1050,
          keys("mnuVocabularyLanguage -mnuToolbar(0) mnuVocabularyRowHeight mnuVocabularyColumnWidth "
-              "-mnuToolbar(3) mnuVocabularyFont mnuVocabularySort - mnuVocabularyCheck - mnuVocabularyLetters")},
+              "-mnuToolbar(3) mnuVocabularyFont mnuVocabularySort - mnuVocabularyCheck mnuVocabularyProgress - "
+              "mnuVocabularyLetters")},
         {QStringLiteral("mnuMode"), 439, 1060, keys("mnuMode1 mnuMode2 mnuMode3 mnuMode4 mnuMode5")},
         {QStringLiteral("mnuQuiz"), 445, 1070,
          keys("mnuQuizStudy mnuQuizMultiple mnuQuizQA - mnuQuizContinue - >mnuQuizWords mnuQuizOptions")},

@@ -4,8 +4,13 @@
 #include "app/DocumentDialogs.h"
 #include "app/frmApp.h"
 #include "document/DocumentList.h"
+#include "document/ctlGrid.h"
+#include "document/frmDoc.h"
+#include "print/dialogs/clsCommDlg.h"
+#include "progress/frmProgress.h"
 #include "quiz/frmLang.h"
 #include "resources/Pictures.h"
+#include "resources/StringTable.h"
 #include "services/settings/clsAppProperties.h"
 #include "services/status/modSBFunc.h"
 #include "tools/frmCheck.h"
@@ -49,6 +54,37 @@ void showCheck(const AppContext &context)
     }
 }
 
+/// The file that a table is to be exported to; empty when the user does not want to.
+QString askTableFile(const AppContext &context, QWidget *owner, const QString &proposed)
+{
+    clsCommDlg dialog(context.dialogs, context.alert);
+    dialog.DialogTitle = resText(14438);
+    dialog.Owner = owner;
+    dialog.FileName = proposed;
+    dialog.Filter = resText(14437);
+    dialog.DefaultExt = QStringLiteral("csv");
+    dialog.flags = clsCommDlg::Explorer | clsCommDlg::OverwritePrompt | clsCommDlg::HideReadOnly;
+    try {
+        dialog.setAction(clsCommDlg::ActionSaveAs);
+    } catch (const CommDlgError &) {
+        return {};
+    }
+    return dialog.FileName;
+}
+
+void showProgress(const AppContext &context, frmDoc &document)
+{
+    const auto askFile = [&context](QWidget *owner, const QString &proposed) {
+        return askTableFile(context, owner, proposed);
+    };
+    document.endEdit();
+    frmProgress dialog(document, context.settings.QuizMode(), {*context.memory, context.alert, askFile},
+                       &context.window);
+    dialog.exec();
+    if (const std::optional<int> row = dialog.chosenRow())
+        document.select({*row, 1, *row, 2});
+}
+
 void showLetters(const AppContext &context, bool shown)
 {
     context.settings.setShowLetters(shown);
@@ -75,6 +111,9 @@ void AppCommands::addVocabularyCommands(CommandTable &table, const AppContext &c
              modSorting::SortVocabulary(document, context.undo, QLocale(), &context.window);
          })});
     table.add({"mnuVocabularyCheck", 14130, "", 14131, 0, Document, [&context] { showCheck(context); }});
+    table.add({"mnuVocabularyProgress", 14400, "", 14401, 0, Document,
+               withDialog(context, [&context](frmDoc &document) { showProgress(context, document); })});
+    table.setAvailable(QStringLiteral("mnuVocabularyProgress"), context.memory);
     table.add({"mnuVocabularyLetters", 14372, "", 14373, 0, DocumentOrEditing,
                [&context] { showLetters(context, !context.settings.ShowLetters()); },
                [&context] { return context.settings.ShowLetters(); }});

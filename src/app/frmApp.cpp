@@ -122,7 +122,8 @@ void frmApp::createParts(const Needs &needs)
         this);
     m_context = std::make_unique<AppContext>(AppContext{
         *this, needs.flags, needs.undo, needs.settings, needs.alert, *status, *documents, *files, *m_editCommands,
-        needs.pasteGuard, m_recentFiles, *m_print, *m_help, needs.random, *quizzes, needs.canSpeak});
+        needs.pasteGuard, m_recentFiles, *m_print, *m_help, needs.random, *quizzes, needs.canSpeak,
+        needs.dialogs, needs.memory});
     setCentralWidget(createCentre());
 
     connect(documents, &DocumentList::aboutToCreate, this, [this] { m_print->preview().close(); });

@@ -10,7 +10,7 @@
 
 #include <memory>
 
-class AnswerMemory;
+class StoredMemory;
 class AppMenus;
 class AppToolbars;
 class CodePage;
@@ -58,7 +58,7 @@ public:
         HelpDisplay &help;
         const PasteGuard &pasteGuard;
         QString lessonFolder;           ///< with the vocabularies that come with the program
-        AnswerMemory *memory = nullptr; ///< null: nothing is remembered of quizzes
+        StoredMemory *memory = nullptr; ///< null: nothing is remembered of quizzes
         bool canSpeak = false;          ///< words can be read aloud
     };
 

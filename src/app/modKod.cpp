@@ -8,6 +8,7 @@
 #include "document/RecoveryKeeper.h"
 #include "document/ctlGrid.h"
 #include "document/rules/file/CodePage.h"
+#include "memory/StoredMemory.h"
 #include "platform/ClipboardOwner.h"
 #include "platform/CupsServer.h"
 #include "platform/DetachedProcess.h"
@@ -37,8 +38,10 @@
 #include "services/rules/ProgramFlags.h"
 #include "services/settings/clsAppProperties.h"
 #include "services/settings/clsRegistry.h"
+#include "services/status/modSBFunc.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QSessionManager>
@@ -69,6 +72,8 @@ struct Program
     CodePage codePage{CodePage::nameFor(QLocale())};
     SeededRandom random;
     DesktopSoundPlayer errorSound{ResourceFiles::contents(ResourceFiles::ErrorSound)};
+    StoredMemory memory{UserFolders::sharedData() + QStringLiteral("/glosaria/memory.sqlite"),
+                        [] { return QDateTime::currentDateTime(); }};
 };
 
 void showAlert(AlertBox &alertBox, const QString &prompt)
@@ -165,6 +170,17 @@ void tellOfMissingCopies(RecoveryKeeper &keeper, frmApp &window, AlertBox &alert
     });
 }
 
+/// Says, once for each trouble, that answers are not remembered. The quiz goes on.
+void tellOfMemory(const StoredMemory &memory, const frmApp &window)
+{
+    QObject::connect(&memory, &StoredMemory::troubled, &window, [&window](MemoryTrouble trouble, const QString &kept) {
+        modSBFunc &status = window.context().status;
+        status.ShowStatus(0);
+        status.showText(kept.isEmpty() ? resText(14440 + int(trouble))
+                                       : resText(14445).arg(QFileInfo(kept).fileName()));
+    });
+}
+
 /// The splash in its start-up role, or null if the user wants none.
 std::unique_ptr<frmSplash> makeSplash(const CommandLine &commandLine)
 {
@@ -248,7 +264,8 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     RecoveryKeeper keeper(program.codePage, recoveryFolder());
     frmApp window({program.flags, program.undo, program.settings, program.store, program.alert, program.prompts, keeper,
                    program.printer, program.dialogs, program.codePage, program.random, program.errorSound, program.help,
-                   pasteGuard, ProgramFiles::path(QStringLiteral("samples"))});
+                   pasteGuard, ProgramFiles::path(QStringLiteral("samples")), &program.memory});
+    tellOfMemory(program.memory, window);
     DialogHelp dialogHelp(program.help, program.alert, HelpTarget::ofProgram());
     program.alert.setMainWindow(&window);
     program.prompts.setOwner(&window);
