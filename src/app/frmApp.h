@@ -10,7 +10,6 @@
 
 #include <memory>
 
-class StoredMemory;
 class AppMenus;
 class AppToolbars;
 class CodePage;
@@ -29,6 +28,7 @@ class RandomSource;
 class RegistryStore;
 class SoundPlayer;
 class StartPage;
+class StoredMemory;
 class WindowPosition;
 class frmDoc;
 class modSBMenuHelp;

@@ -71,6 +71,7 @@ TEST_F(HelpTest, EveryControlOfEveryDialogHasATopicATextANameAndAKey)
         {"mnuVocabularyColumnWidth", 1200, "C"},
         {"mnuVocabularySort", 1210, "12ADS"},
         {"mnuVocabularyCheck", 3040, "LNTARC"},
+        {"mnuVocabularyProgress", 3020, "KNSFEC"},
         {"mnuFilePrintTest", 3042, "SF12BOUNETAKPV"},
         {"mnuQuizStudy", 1220, "KOASCBR"},
         {"mnuQuizMultiple", 1230, "123ABR"},

@@ -7,6 +7,7 @@
 #include "document/DocumentList.h"
 #include "document/ctlGrid.h"
 #include "document/rules/file/CodePage.h"
+#include "memory/StoredMemory.h"
 #include "platform/ClipboardOwner.h"
 #include "platform/SoundPlayer.h"
 #include "platform/registry/RegistryTree.h"
@@ -40,13 +41,15 @@ struct MainWindowFixture : ::testing::Test, DocumentCopies
     RecordingHelp help;
     ClipboardOwner clipboardOwner;
     PasteGuard pasteGuard{*qApp, clipboardOwner};
+    StoredMemory memory{folder.filePath("memory.sqlite"), [] { return QDateTime::currentDateTime(); }};
+    StoredMemory *given = &memory; ///< what the window gets of it
     std::unique_ptr<frmApp> window;
 
     void SetUp() override
     {
         window = std::make_unique<frmApp>(frmApp::Needs{flags, undo, settings, store, alert, prompts, *this, printer,
                                                         dialogs, codePage, random, silence, help, pasteGuard,
-                                                        SOURCE_FOLDER "/samples"});
+                                                        SOURCE_FOLDER "/samples", given});
         window->show();
         QApplication::setActiveWindow(window.get());
     }

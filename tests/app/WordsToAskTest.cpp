@@ -11,6 +11,7 @@ struct WordsToAskTest : MainWindowFixture
 
     void SetUp() override
     {
+        given = nullptr;
         MainWindowFixture::SetUp();
         document = newDocument();
         std::vector<QString> words{"English"};
