@@ -125,6 +125,8 @@ void frmApp::createParts(const Needs &needs)
         needs.pasteGuard, m_recentFiles, *m_print, *m_help, needs.random, *quizzes, needs.canSpeak,
         needs.dialogs, needs.memory});
     setCentralWidget(createCentre());
+    if (needs.memory)
+        connect(needs.memory, &StoredMemory::changed, quizzes, &QuizCommands::refreshMode);
 
     connect(documents, &DocumentList::aboutToCreate, this, [this] { m_print->preview().close(); });
     connect(documents, &DocumentList::created, this, &frmApp::placeDocument);

@@ -24,6 +24,15 @@ QSet<qint64> setOf(const std::vector<WordKey> &keys)
     return {numbers.begin(), numbers.end()};
 }
 
+/// What is in it is nobody else's business.
+void makeFolder(const QString &folder)
+{
+    if (QFile::exists(folder))
+        return;
+    QDir().mkpath(QFileInfo(folder).path());
+    QDir().mkdir(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
 } // namespace
 
 StoredMemory::StoredMemory(const QString &path, Clock clock, QObject *parent)
@@ -212,7 +221,7 @@ int StoredMemory::lockPatience() const
 MemoryStore &StoredMemory::store()
 {
     if (!m_store) {
-        QDir().mkpath(QFileInfo(m_path).path());
+        makeFolder(QFileInfo(m_path).path());
         m_store = std::make_unique<MemoryStore>(m_path);
     }
     return *m_store;

@@ -23,7 +23,7 @@ public:
     using Clock = std::function<QDateTime()>;
 
     /// Milliseconds that a question to the memory waits for an answer before it goes without.
-    static constexpr int Patience = 1000;
+    static constexpr int Patience = 500;
     /// Milliseconds for which another program may hold the store, and for which the end of this one waits then.
     static constexpr int LockPatience = 30000;
     static constexpr int EndPatience = 2000;

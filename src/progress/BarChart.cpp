@@ -35,7 +35,7 @@ void BarChart::setBars(const QString &title, std::vector<Bar> bars)
 {
     m_title = title;
     m_bars = std::move(bars);
-    m_highest = 1;
+    m_highest = 0;
     for (const Bar &bar : m_bars)
         m_highest = std::max(m_highest, bar.value);
     m_current = hasFocus() ? std::min(m_current, int(m_bars.size()) - 1) : None;
@@ -174,7 +174,7 @@ void BarChart::paintBars(QPainter &painter) const
     for (int i = 0; i < int(m_bars.size()); ++i) {
         const Bar &bar = m_bars[size_t(i)];
         const QRectF room = place(i);
-        const double height = room.height() * bar.value / m_highest;
+        const double height = room.height() * bar.value / std::max(1, m_highest);
         QRectF shape(room.left() + room.width() * Gap / 2, area.bottom() - height, room.width() * (1 - Gap), height);
         if (bar.value > 0 && shape.height() < 1)
             shape.setTop(shape.bottom() - 1); // one word among thousands shows too

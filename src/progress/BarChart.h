@@ -49,6 +49,6 @@ private:
 
     QString m_title;
     std::vector<Bar> m_bars;
-    int m_highest = 1;
+    int m_highest = 0;
     int m_current = None;
 };

@@ -76,15 +76,17 @@ frmProgress::~frmProgress() = default;
 /// All columns have room at once; the words share what the numbers leave.
 void frmProgress::dressTable()
 {
-    constexpr int Letters = 11; ///< of a date, with a little room
+    constexpr int Margin = 16; ///< pixels
+    const QFontMetrics metrics = m_ui->tblWords->fontMetrics();
+    const QString date = QLocale().toString(QDate(2028, 12, 28), QLocale::ShortFormat);
     QHeaderView *header = m_ui->tblWords->header();
     header->setStretchLastSection(false);
-    const int room = fontMetrics().averageCharWidth() * Letters;
     for (int column = 0; column < ProgressModel::Columns; ++column) {
         const bool isWord = column <= ProgressModel::Answer;
         const bool isCount = column == ProgressModel::Asked || column == ProgressModel::Right;
+        const QString widest = isCount ? ProgressModel::headings().at(column) : date;
         header->setSectionResizeMode(column, isWord ? QHeaderView::Stretch : QHeaderView::Interactive);
-        header->resizeSection(column, isCount ? room * 3 / 5 : room);
+        header->resizeSection(column, metrics.horizontalAdvance(widest) + Margin);
     }
     m_ui->tblWords->sortByColumn(-1, Qt::AscendingOrder); // as in the vocabulary
 }

@@ -6,6 +6,7 @@
 #include "document/rules/Vocabulary.h"
 #include "quiz/GridWords.h"
 #include "quiz/frmOva.h"
+#include "quiz/rules/QuizMemory.h"
 #include "resources/StringTable.h"
 #include "services/AlertBox.h"
 #include "services/settings/clsAppProperties.h"
@@ -145,9 +146,21 @@ void QuizCommands::goOn()
     run(quiz, document);
 }
 
+/// Has the answers of a quiz remembered, if the user wants that.
+std::unique_ptr<QuizMemory> QuizCommands::remember(frmOva &quiz, const frmDoc &document) const
+{
+    if (!m_needs.memory || !m_needs.settings.quizOptions().rememberAnswers)
+        return {};
+    auto memory = std::make_unique<QuizMemory>(
+        *quiz.session(), *m_needs.memory, AskedWords::keys(GridWords(*document.Rutor()), m_needs.settings.QuizMode()));
+    quiz.setRoundNote([&memory = *memory] { return memory.nextDue(); });
+    return memory;
+}
+
 /// Who has answered nothing has left no quiz, and the one left before stays.
 void QuizCommands::run(frmOva &quiz, frmDoc &document)
 {
+    const std::unique_ptr<QuizMemory> memory = remember(quiz, document);
     quiz.exec();
     const std::vector<frmDoc *> &open = m_needs.documents.open();
     if (std::find(open.begin(), open.end(), &document) == open.end())

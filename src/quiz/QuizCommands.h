@@ -6,12 +6,14 @@
 #include <QObject>
 
 #include <map>
+#include <memory>
 #include <optional>
 
 class AlertBox;
 class AnswerMemory;
 class DocumentList;
 class FileCommands;
+class QuizMemory;
 class RandomSource;
 class SoundPlayer;
 class clsAppProperties;
@@ -74,6 +76,7 @@ private:
     void watch(frmDoc *document);
     std::vector<int> rowsToAsk(const frmDoc &document, WordsToAsk choice) const;
     std::optional<AskedRows> askedRows(const frmDoc &document, QuizKind kind);
+    std::unique_ptr<QuizMemory> remember(frmOva &quiz, const frmDoc &document) const;
     void run(frmOva &quiz, frmDoc &document);
     void keep(const std::vector<MissedAnswer> &answers, const frmDoc &document);
     QString modeNote(const frmDoc &document) const;

@@ -30,8 +30,12 @@ frmOva::frmOva(clsAppProperties &settings, RandomSource &random, SoundPlayer &er
 {
     m_ui->setupUi(this);
     EnterKey::leaveToDialog(*this);
+    const int belowScore = m_ui->layoutQuestion->indexOf(m_ui->lblScore) + 1;
     m_lstMissed = new MissedList(*m_ui->txtSvar, m_ui->picQuestion);
-    m_ui->layoutQuestion->insertWidget(m_ui->layoutQuestion->indexOf(m_ui->lblScore) + 1, m_lstMissed, 1);
+    m_ui->layoutQuestion->insertWidget(belowScore, m_lstMissed, 1);
+    m_lblNext = new QLabel(m_ui->picQuestion);
+    m_lblNext->setObjectName(QStringLiteral("lblNext"));
+    m_ui->layoutQuestion->insertWidget(belowScore, m_lblNext);
     connect(m_lstMissed, &MissedList::keepRequested, this, &frmOva::keepMissed);
     m_letters = new LetterRow(m_ui->picQuestion);
     m_ui->layoutQuestion->insertWidget(m_ui->layoutQuestion->indexOf(m_ui->txtSvar) + 1, m_letters);
@@ -261,7 +265,7 @@ void frmOva::showRoundEnd()
     showTurning();
     m_ui->btnHint->setEnabled(false);
     m_ui->btnCheck->setText(resText(921));
-    speak(QuizSpeech::state(*m_session));
+    speak((QuizSpeech::state(*m_session) + u' ' + m_lblNext->text()).trimmed());
     m_ui->btnCheck->setFocus(Qt::OtherFocusReason);
     setUpdatesEnabled(true);
 }
@@ -269,6 +273,8 @@ void frmOva::showRoundEnd()
 void frmOva::showScore()
 {
     m_ui->lblScore->setText(resText(12006).arg(m_session->correctCount()).arg(m_session->questionCount()));
+    m_lblNext->setText(m_roundNote ? m_roundNote() : QString());
+    m_lblNext->setHidden(m_lblNext->text().isEmpty());
     m_ui->btnRep->setEnabled(m_session->canRepeat());
 }
 

@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QPointer>
 
+#include <functional>
 #include <memory>
 
 class clsAppProperties;
@@ -37,6 +38,9 @@ public:
     void setAskedRows(const AskedRows &rows) { m_askedRows = rows; }
     /// The family of the vocabulary's words, the window's own if it is empty; set before Form_Load.
     void setWordFamily(const QString &family) { m_wordFamily = family; }
+
+    /// Makes what the summary says below the score; an empty text shows nothing.
+    void setRoundNote(std::function<QString()> note) { m_roundNote = std::move(note); }
 
     /// "1" once the quiz is ready, "0" when it could not be built.
     QString Tag() const { return m_tag; }
@@ -123,6 +127,8 @@ private:
     int m_resultHeight = 0; ///< of the result panel at that size
     double m_scale = 1;
     QString m_wordFamily;
+    std::function<QString()> m_roundNote;
+    QLabel *m_lblNext; ///< the note of the summary
     LeftQuiz m_quiz;
     QuizSession *m_session = nullptr; ///< that of the quiz
     QPointer<QWidget> m_document;     ///< may close while the quiz is open, when the program is told to end

@@ -151,6 +151,7 @@ void frmOva::showForKind()
 {
     m_ui->lblSum->hide();
     m_ui->lblScore->hide();
+    m_lblNext->hide();
     m_lstMissed->hide();
     m_ui->picQuestion->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_ui->lblLang1->show();

@@ -85,6 +85,8 @@ public:
 
     /// A typed answer that was judged wrong can be turned until the next answer, a repeat, or settle().
     bool canTurn() const { return m_open.has_value(); }
+    /// The question whose verdict can be turned, or null.
+    const Question *openQuestion() const { return m_open ? &m_open->question : nullptr; }
     /// The verdict that can be turned has been: the answer counts as right.
     bool turned() const { return m_open && m_open->right; }
     /// Makes the last verdict right, or wrong again; counters and errors follow.

@@ -109,6 +109,11 @@ std::vector<int> rows(WordsToAsk choice, const WordSource &words, const Facts &f
     return facts.memory ? hardestRows(words, facts) : std::vector<int>();
 }
 
+std::vector<WordKey> keys(const WordSource &words, int mode)
+{
+    return Keys(words, mode).keys;
+}
+
 AskedRows only(const std::vector<int> &rows)
 {
     std::vector<bool> asked(rows.empty() ? 0 : size_t(*std::max_element(rows.begin(), rows.end())) + 1);

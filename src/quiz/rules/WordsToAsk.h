@@ -1,5 +1,6 @@
 #pragma once
 
+#include "memory/WordKey.h"
 #include "quiz/rules/AskedRows.h"
 #include "quiz/rules/WordPair.h"
 #include "quiz/rules/WordSource.h"
@@ -33,6 +34,9 @@ struct Facts
 
 /// The rows that hold the chosen words, in ascending order but for the hardest.
 std::vector<int> rows(WordsToAsk choice, const WordSource &words, const Facts &facts);
+
+/// By what the memory knows the words, row by row; in the mode that asks both ways there are two keys a row.
+std::vector<WordKey> keys(const WordSource &words, int mode);
 
 /// The rows in the form in which a quiz takes them.
 AskedRows only(const std::vector<int> &rows);

@@ -1,0 +1,145 @@
+#!/usr/bin/env python3
+"""What is remembered of quizzes, over days and in bad weather: memory_test.py <program> [unittest arguments]."""
+
+import contextlib
+import pathlib
+import sqlite3
+import time
+import unittest
+
+from cases import ProgramCase, run, vocabulary
+
+WORDS = [("one", "eins"), ("two", "zwei"), ("three", "drei"), ("four", "vier"), ("five", "sechs")]
+QUIZ = "Question and Answer - list"
+CLOCK = next(pathlib.Path("/usr/lib").glob("*/faketime/libfaketimeMT.so.1"), None)  # of the package faketime
+MODE = "English -> German In Order"
+
+
+class MemoryCase(ProgramCase):
+    """Each case has a list of five words."""
+
+    def setUp(self):
+        super().setUp()
+        self.file = self.home / "list.gla"
+        self.file.write_bytes(vocabulary(WORDS))
+        self.store = self.home / "data" / "glosaria" / "memory.sqlite"
+
+    @unittest.skipUnless(CLOCK, "not installed: faketime")
+    def test_words_are_due_when_their_days_have_come(self):
+        days = [  # day, due in the morning, asked that day, missed of them, what the quiz says at its end
+            ("2026-03-02", 0, WORDS, {"two", "five"}, "Words of this list are due tomorrow (2)."),
+            ("2026-03-03", 2, [WORDS[1], WORDS[4]], set(), "Words of this list are due tomorrow (3)."),
+            ("2026-03-04", 3, [WORDS[0], WORDS[2], WORDS[3]], {"one"}, "Words of this list are due tomorrow (3)."),
+            ("2026-03-05", 3, [], set(), None),
+            ("2025-03-05", 5, [], set(), None),  # a clock that was set back: what was asked later is asked now
+            ("2036-03-05", 5, [], set(), None),
+        ]
+        for day, due, asked, missed, told in days:
+            with self.subTest(day=day):
+                program = self.begin(day)
+                self.assertNotIn("qsqlite", open(f"/proc/{program.pid}/maps", encoding="utf-8").read(), "not needed yet")
+                self.desktop.key("alt+q", "w", "d")
+                self.desktop.wait_for("frame", f"{MODE} (due: {due})")
+                if due == 0:
+                    self.desktop.key("alt+q", "w", "a")
+                if asked:
+                    self.answer(asked, missed)
+                    self.desktop.wait_for("label", told)
+                    self.close_dialog(QUIZ, "Escape")
+                    self.desktop.key("alt+q", "w", "d")
+                    self.desktop.wait_for("frame", f"{MODE} (due: 0)")
+                self.assertEqual(self.desktop.quit(program), 0)
+        self.assertEqual(self.answers(), 10)
+
+    def test_a_store_that_cannot_be_used_stops_no_quiz(self):
+        full = 'mount -t tmpfs -o size=16k tmpfs "$0"'
+        read_only = 'mount --bind "$0" "$0" && mount -o remount,ro,bind "$0"'
+        not_remembered = "Answers are not remembered: the memory "
+        sound = self.sound_store()
+        newer = self.sound_store("PRAGMA user_version = 7")
+        cases = [
+            (b"", 'mkdir "$0/memory.sqlite"', not_remembered + "cannot be opened."),
+            (b"", full, not_remembered + "cannot be written."),
+            (sound, read_only, not_remembered + "cannot be opened."),
+            (newer, "true", not_remembered + "is of a newer version."),
+            (sound[:5000], "true", "The memory was damaged and is kept as memory.sqlite.damaged-"),
+            (b"no database" * 1000, "true", "The memory was damaged and is kept as memory.sqlite.damaged-"),
+        ]
+        for content, command, told in cases:
+            with self.subTest(told, command=command):
+                self.store.unlink(missing_ok=True)
+                if content:
+                    self.store.write_bytes(content)
+                self.desktop.start("--no-splash", self.file, through=self.mounting(command, str(self.store.parent)))
+                self.answer(WORDS, {"two"})
+                self.desktop.wait(
+                    lambda: any(item.name.startswith(told) for item in self.desktop.find_all("frame")), told
+                )
+                self.close_dialog(QUIZ, "Escape")
+                self.desktop.end_programs()
+                if content == newer or command == read_only:
+                    self.assertEqual(self.store.read_bytes(), content)
+                if self.store.is_dir():
+                    self.store.rmdir()
+        damaged = sorted(self.store.parent.glob("*damaged*"), key=lambda path: path.stat().st_size)
+        self.assertEqual([path.read_bytes()[:6] for path in damaged], [b"SQLite", b"no dat"])
+        self.assertEqual(self.answers(), 5, "a new store has begun")
+
+    def test_another_program_holds_the_store_for_a_while(self):
+        self.begin()
+        self.answer(WORDS[:1])
+        with contextlib.closing(sqlite3.connect(self.store)) as other:
+            other.execute("BEGIN EXCLUSIVE")
+            begun = time.monotonic()
+            self.answer(WORDS[1:], running=1)  # nothing waits for it
+            time.sleep(max(0, begun + 10 - time.monotonic()))
+            other.rollback()
+        self.desktop.wait(lambda: self.answers() == 5, "the answers to be stored")
+
+    def test_a_killed_program_loses_one_answer_at_most(self):
+        program = self.begin()
+        self.answer(WORDS[:4])
+        self.desktop.kill(program)
+        self.assertGreaterEqual(self.answers(), 3)
+        self.begin()
+        self.answer(WORDS)
+        self.close_dialog(QUIZ, "Escape")
+        self.desktop.wait(lambda: self.answers() >= 8, "the next answers")
+
+    # Ways to go
+
+    def begin(self, day=None):
+        clock = ["env", f"LD_PRELOAD={CLOCK}", f"FAKETIME=@{day} 12:00:00", "FAKETIME_DONT_FAKE_MONOTONIC=1"]
+        return self.open(self.file, through=clock if day else [])
+
+    def answer(self, words, missed=(), running=0):
+        """Answers the questions, which are asked in this order, after so many others of the same quiz."""
+        if not running:
+            self.desktop.wait_for("table")
+            self.desktop.key("alt+q", "q")
+            self.expect_active("dialog", QUIZ)
+        for count, (asked, answer) in enumerate(words, running + 1):
+            self.desktop.wait_for("label", asked)
+            self.desktop.type(("wrong" if asked in missed else answer) + "\r")
+            self.desktop.wait_for("label", f"Answered Questions: {count}")
+
+    def answers(self):
+        with contextlib.closing(sqlite3.connect(self.store)) as store:
+            return store.execute("SELECT count(*) FROM answer").fetchone()[0]
+
+    def sound_store(self, change="SELECT 1"):
+        """The bytes of a store with answers, after a change."""
+        if not self.store.exists():
+            program = self.begin()
+            self.answer(WORDS)
+            self.close_dialog(QUIZ, "Escape")
+            self.desktop.quit(program)
+        with contextlib.closing(sqlite3.connect(self.store)) as store:
+            store.execute(change)
+            store.execute("PRAGMA wal_checkpoint(TRUNCATE)")
+            store.commit()
+        return self.store.read_bytes()
+
+
+if __name__ == "__main__":
+    run()
