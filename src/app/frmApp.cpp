@@ -120,10 +120,10 @@ void frmApp::createParts(const Needs &needs)
     auto *quizzes = new QuizCommands(
         {*documents, *files, needs.settings, needs.alert, *status, needs.random, needs.errorSound, *this, needs.memory},
         this);
-    m_context = std::make_unique<AppContext>(AppContext{
-        *this, needs.flags, needs.undo, needs.settings, needs.alert, *status, *documents, *files, *m_editCommands,
-        needs.pasteGuard, m_recentFiles, *m_print, *m_help, needs.random, *quizzes, needs.canSpeak,
-        needs.dialogs, needs.memory});
+    m_context = std::make_unique<AppContext>(AppContext{*this, needs.flags, needs.undo, needs.settings, needs.alert,
+                                                        *status, *documents, *files, *m_editCommands, needs.pasteGuard,
+                                                        m_recentFiles, *m_print, *m_help, needs.random, *quizzes,
+                                                        needs.canSpeak, needs.dialogs, needs.memory});
     setCentralWidget(createCentre());
     if (needs.memory)
         connect(needs.memory, &StoredMemory::changed, quizzes, &QuizCommands::refreshMode);
