@@ -12,6 +12,7 @@
 #include "document/DocumentList.h"
 #include "document/FileCommands.h"
 #include "document/ctlGrid.h"
+#include "memory/StoredMemory.h"
 #include "print/PrintCommands.h"
 #include "quiz/QuizCommands.h"
 #include "resources/Pictures.h"
