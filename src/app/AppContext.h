@@ -11,6 +11,7 @@ class PrintCommands;
 class QuizCommands;
 class RandomSource;
 class StoredMemory;
+class Speaker;
 class UndoRecord;
 class clsAppProperties;
 class clsMRUFileList;
@@ -36,7 +37,7 @@ struct AppContext
     MainHelp &help;
     RandomSource &random;
     QuizCommands &quizzes;
-    bool canSpeak; ///< words can be read aloud
     CommonDialogs &dialogs;
     StoredMemory *memory; ///< null: nothing is remembered of quizzes
+    Speaker *speaker;     ///< null: no words can be read aloud
 };

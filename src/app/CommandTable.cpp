@@ -19,7 +19,7 @@ void CommandTable::add(const Command &command)
     Q_ASSERT(!m_entries.contains(command.key));
     auto *action = new QAction(resText(command.captionId), this);
     action->setObjectName(command.key);
-    action->setShortcut(QKeySequence(command.shortcut));
+    action->setShortcuts(QKeySequence::listFromString(command.shortcut));
     action->setMenuRole(QAction::NoRole);
     action->setProperty("textId", command.captionId);
     action->setCheckable(bool(command.checked));

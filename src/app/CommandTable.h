@@ -32,7 +32,7 @@ struct Command
 {
     QString key;        ///< the command's name, for example "mnuFileNew"
     int captionId;      ///< string id of the menu caption
-    QString shortcut;   ///< for example "Ctrl+N", or empty
+    QString shortcut;   ///< for example "Ctrl+N", or several: "Ctrl++; Ctrl+="; may be empty
     int helpId;         ///< string id of the text shown while the entry is highlighted, 0: none
     int picture;        ///< picture number, 0: none
     StateSet enabledIn; ///< the states in which it can be given

@@ -36,7 +36,7 @@ const std::vector<Menu> &menus()
         {QStringLiteral("mnuVocabulary"), 431, 1050,
          keys("mnuVocabularyLanguage -mnuToolbar(0) mnuVocabularyRowHeight mnuVocabularyColumnWidth "
               "-mnuToolbar(3) mnuVocabularyFont mnuVocabularySort - mnuVocabularyCheck mnuVocabularyProgress - "
-              "mnuVocabularyLetters")},
+              "mnuVocabularyLetters >mnuVocabularyZoom")},
         {QStringLiteral("mnuMode"), 439, 1060, keys("mnuMode1 mnuMode2 mnuMode3 mnuMode4 mnuMode5")},
         {QStringLiteral("mnuQuiz"), 445, 1070,
          keys("mnuQuizStudy mnuQuizMultiple mnuQuizQA - mnuQuizContinue - >mnuQuizWords mnuQuizOptions")},
@@ -52,6 +52,8 @@ const Submenu &submenu(const QString &key)
         {QStringLiteral("mnuQuizWords"),
          {QStringLiteral("mnuQuizWords"), 14300, 14301,
           keys("mnuWordsAll mnuWordsSelected mnuWordsDue mnuWordsMissed mnuWordsHardest")}},
+        {QStringLiteral("mnuVocabularyZoom"),
+         {QStringLiteral("mnuVocabularyZoom"), 14950, 14951, keys("mnuZoomIn mnuZoomOut mnuZoomNormal")}},
     };
     return all.at(key);
 }

@@ -2,6 +2,7 @@
 #include "app/AppContext.h"
 #include "app/CommandTable.h"
 #include "app/frmApp.h"
+#include "platform/Speaker.h"
 #include "quiz/QuizCommands.h"
 #include "quiz/frmQuizOptions.h"
 #include "resources/Pictures.h"
@@ -48,7 +49,8 @@ void continueQuiz(const AppContext &context)
 void showOptions(const AppContext &context)
 {
     context.status.ShowStatus(modSBFunc::DialogOpen);
-    frmQuizOptions(context.settings, context.canSpeak, &context.window).exec();
+    const bool canSpeak = context.speaker && context.speaker->isThere();
+    frmQuizOptions(context.settings, canSpeak, &context.window).exec();
     context.status.ShowStatus(modSBFunc::Ready);
 }
 

@@ -17,6 +17,7 @@
 #include "tools/frmColRow.h"
 #include "tools/frmFont.h"
 #include "tools/modSorting.h"
+#include "widgets/grid/FlexGridZoom.h"
 
 namespace {
 
@@ -92,6 +93,22 @@ void showLetters(const AppContext &context, bool shown)
         document->showLetters(shown);
 }
 
+void addZoomCommands(CommandTable &table, const AppContext &context)
+{
+    const auto zoom = [&context](const std::function<void(frmDoc &)> &change) {
+        return [&context, change] {
+            if (frmDoc *document = context.documents.active())
+                change(*document);
+        };
+    };
+    table.add({"mnuZoomIn", 14952, "Ctrl++; Ctrl+=", 14953, PictureZoomIn, DocumentOrEditing,
+               zoom([](frmDoc &document) { document.zoomBy(1); })});
+    table.add({"mnuZoomOut", 14954, "Ctrl+-", 14955, PictureZoomOut, DocumentOrEditing,
+               zoom([](frmDoc &document) { document.zoomBy(-1); })});
+    table.add({"mnuZoomNormal", 14956, "Ctrl+0", 14957, PictureZoomNormal, DocumentOrEditing,
+               zoom([](frmDoc &document) { document.zoomTo(FlexGridZoom::Normal); })});
+}
+
 } // namespace
 
 void AppCommands::addVocabularyCommands(CommandTable &table, const AppContext &context)
@@ -117,4 +134,5 @@ void AppCommands::addVocabularyCommands(CommandTable &table, const AppContext &c
     table.add({"mnuVocabularyLetters", 14372, "", 14373, 0, DocumentOrEditing,
                [&context] { showLetters(context, !context.settings.ShowLetters()); },
                [&context] { return context.settings.ShowLetters(); }});
+    addZoomCommands(table, context);
 }

@@ -118,13 +118,13 @@ void frmApp::createParts(const Needs &needs)
     auto *files = new FileCommands({*documents, m_recentFiles, *status, needs.alert, needs.prompts, needs.copies},
                                    needs.codePage, this);
     m_editCommands = std::make_unique<EditCommands>(needs.undo, *QGuiApplication::clipboard());
-    auto *quizzes = new QuizCommands(
-        {*documents, *files, needs.settings, needs.alert, *status, needs.random, needs.errorSound, *this, needs.memory},
-        this);
+    auto *quizzes = new QuizCommands({*documents, *files, needs.settings, needs.alert, *status, needs.random,
+                                      needs.errorSound, *this, needs.memory, needs.speaker},
+                                     this);
     m_context = std::make_unique<AppContext>(AppContext{*this, needs.flags, needs.undo, needs.settings, needs.alert,
                                                         *status, *documents, *files, *m_editCommands, needs.pasteGuard,
                                                         m_recentFiles, *m_print, *m_help, needs.random, *quizzes,
-                                                        needs.canSpeak, needs.dialogs, needs.memory});
+                                                        needs.dialogs, needs.memory, needs.speaker});
     setCentralWidget(createCentre());
     if (needs.memory)
         connect(needs.memory, &StoredMemory::changed, quizzes, &QuizCommands::refreshMode);

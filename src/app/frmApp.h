@@ -28,6 +28,7 @@ class RandomSource;
 class RegistryStore;
 class SoundPlayer;
 class StartPage;
+class Speaker;
 class StoredMemory;
 class WindowPosition;
 class frmDoc;
@@ -59,7 +60,7 @@ public:
         const PasteGuard &pasteGuard;
         QString lessonFolder;           ///< with the vocabularies that come with the program
         StoredMemory *memory = nullptr; ///< null: nothing is remembered of quizzes
-        bool canSpeak = false;          ///< words can be read aloud
+        Speaker *speaker = nullptr;     ///< null: no words can be read aloud
     };
 
     explicit frmApp(const Needs &needs);

@@ -15,6 +15,7 @@
 #include "platform/FileAssociation.h"
 #include "platform/SignalWatcher.h"
 #include "platform/SoundPlayer.h"
+#include "platform/SpeechModule.h"
 #include "platform/files/ProgramFiles.h"
 #include "platform/files/UserFolders.h"
 #include "platform/instance/InstancePlace.h"
@@ -74,6 +75,7 @@ struct Program
     DesktopSoundPlayer errorSound{ResourceFiles::contents(ResourceFiles::ErrorSound)};
     StoredMemory memory{UserFolders::sharedData() + QStringLiteral("/glosaria/memory.sqlite"),
                         [] { return QDateTime::currentDateTime(); }};
+    SpeechModule speaker{ProgramFiles::module(QStringLiteral("glosaria-speech.so"))};
 };
 
 void showAlert(AlertBox &alertBox, const QString &prompt)
@@ -264,7 +266,7 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     RecoveryKeeper keeper(program.codePage, recoveryFolder());
     frmApp window({program.flags, program.undo, program.settings, program.store, program.alert, program.prompts, keeper,
                    program.printer, program.dialogs, program.codePage, program.random, program.errorSound, program.help,
-                   pasteGuard, ProgramFiles::path(QStringLiteral("samples")), &program.memory});
+                   pasteGuard, ProgramFiles::path(QStringLiteral("samples")), &program.memory, &program.speaker});
     tellOfMemory(program.memory, window);
     DialogHelp dialogHelp(program.help, program.alert, HelpTarget::ofProgram());
     program.alert.setMainWindow(&window);

@@ -104,7 +104,7 @@ bool ctlGrid::beginEdit(const QString &text)
 
 void ctlGrid::dressEditBox()
 {
-    m_text1->setFont(Font());
+    m_text1->setFont(shownFont());
     QPalette colours = palette();
     const QColor cell = FlexGridColours::ground(BackColor(), colours);
     const QColor ground = Contrast::mixed(cell, colours.highlight().color(), EditBoxTint);
@@ -198,10 +198,18 @@ void ctlGrid::AutoSetup(const QString &fontName, double fontSize, int rows, int 
 void ctlGrid::setGridFont(const QFont &font)
 {
     FlexGrid::setGridFont(font);
-    m_text1->setFont(font);
+    m_text1->setFont(shownFont());
     m_letterWidths = letterWidthsIn(font);
     const int lineHeight = Twips::fromPixelsY(int(std::ceil(QFontMetricsF(font).height())));
     setDefaultRowHeight(GridRules::defaultRowHeight(lineHeight));
+}
+
+void ctlGrid::setZoom(int percent)
+{
+    FlexGrid::setZoom(percent);
+    m_text1->setFont(shownFont());
+    m_text1->setZoom(state().zoom.factor());
+    RefreshTextPos();
 }
 
 void ctlGrid::makeRoom()

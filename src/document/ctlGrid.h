@@ -47,6 +47,8 @@ public:
                    const QString &formatString);
     /// Also sets the edit box's font and the height of rows whose own was never set.
     void setGridFont(const QFont &font) override;
+    /// Also sets that of the edit box.
+    void setZoom(int percent) override;
     /// Makes rows that are too low for their words higher and the column of row numbers wide enough for the last one;
     /// nothing becomes smaller.
     void makeRoom();

@@ -15,6 +15,7 @@
 #include <QPainter>
 #include <QValidator>
 
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -48,8 +49,8 @@ ctlGridEdit::ctlGridEdit(QWidget *parent)
     : QLineEdit(parent)
 {
     setFrame(false);
-    setTextMargins(FlexGridCellText::Margin - OwnMargin, 0, 0, 1); // the letters stay where the cell has them
-    setMaxLength(std::numeric_limits<int>::max());                 // a longer cell would be cut when it is edited
+    setZoom(1);
+    setMaxLength(std::numeric_limits<int>::max()); // a longer cell would be cut when it is edited
     setValidator(new OneLine(this));
     connect(this, &QLineEdit::textEdited, this, [this] { m_undone = false; });
 }
@@ -60,6 +61,11 @@ void ctlGridEdit::begin(const QString &text)
     const bool betweenHalves = text.size() > FarthestCaret && text.at(FarthestCaret).isLowSurrogate();
     setCursorPosition(int(std::min(text.size(), FarthestCaret + (betweenHalves ? 1 : 0))));
     m_undone = false;
+}
+
+void ctlGridEdit::setZoom(double factor)
+{
+    setTextMargins(int(std::lround(FlexGridCellText::Margin * factor)) - OwnMargin, 0, 0, 1);
 }
 
 void ctlGridEdit::cutText()

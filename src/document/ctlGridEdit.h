@@ -13,6 +13,8 @@ public:
 
     /// Begins with a text and the caret at its end, in a long text at position 1000; there is nothing to undo yet.
     void begin(const QString &text);
+    /// Keeps the letters where the cell has them when it is shown so many times as large.
+    void setZoom(double factor);
     void cutText();
     void pasteText();
     /// Undoes the last typing, or redoes it when the last thing done was to undo it.

@@ -38,6 +38,8 @@ constexpr int OwnCursor = 99;
 constexpr int AlignLeftCenter = 1;
 constexpr int AlignRightCenter = 7;
 constexpr int ResizeRowsAndColumns = 3;
+constexpr int ZoomText = 14958;
+constexpr int ZoomNoteTime = 2000; // milliseconds
 
 VocabularyFont fontOf(const clsAppProperties &settings)
 {
@@ -59,6 +61,8 @@ frmDoc::frmDoc(const Shared &shared, QWidget *parent)
     setFocusProxy(m_grid);
     m_grid->loadProperties(ctlGrid::documentDesign());
     connectGrid();
+    m_zoomNote.setSingleShot(true);
+    connect(&m_zoomNote, &QTimer::timeout, this, &frmDoc::forgetZoom);
 }
 
 void frmDoc::connectGrid()
@@ -75,6 +79,7 @@ void frmDoc::connectGrid()
     connect(m_grid, &ctlGrid::MouseUp, this, [this](int button, int, float x, float y) { onMouseUp(button, x, y); });
     connect(m_grid->hwndText(), &ctlGridEdit::menuRequested, this, &frmDoc::menuRequested);
     connect(m_grid, &ctlGrid::Scroll, m_grid, &ctlGrid::RefreshTextPos);
+    connect(m_grid, &ctlGrid::ZoomWanted, this, &frmDoc::zoomBy);
 }
 
 void frmDoc::showLetters(bool shown)
@@ -121,6 +126,7 @@ void frmDoc::setUpGrid(const QSize &innerSize)
     m_grid->setCol(1);
     m_grid->setRow(1);
     showLetters(m_shared.settings.ShowLetters());
+    m_grid->setZoom(m_shared.settings.GridZoom());
     refreshQuizMode();
 }
 
@@ -303,9 +309,36 @@ void frmDoc::showEditStatus()
     m_shared.status.ShowStatus(m_grid->EditMode() ? modSBFunc::Edit : modSBFunc::Ready);
 }
 
+void frmDoc::zoomBy(int steps)
+{
+    zoomTo(FlexGridZoom::stepped(m_grid->Zoom(), steps));
+}
+
+void frmDoc::zoomTo(int percent)
+{
+    m_grid->setZoom(percent);
+    m_shared.settings.setGridZoom(m_grid->Zoom());
+    showZoom();
+}
+
+void frmDoc::showZoom()
+{
+    if (m_shared.status.isHeldBack())
+        return;
+    m_shared.status.showText(resText(ZoomText).arg(m_grid->Zoom()));
+    m_zoomNote.start(ZoomNoteTime);
+}
+
+void frmDoc::forgetZoom()
+{
+    if (m_shared.status.text(0) == resText(ZoomText).arg(m_grid->Zoom()))
+        showEditStatus();
+}
+
 void frmDoc::onMouseMove()
 {
-    showEditStatus();
+    if (!m_zoomNote.isActive()) // a wheel that is turned moves the mouse
+        showEditStatus();
     m_grid->setMousePointer(OwnCursor);
 }
 

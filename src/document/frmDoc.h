@@ -4,6 +4,7 @@
 #include "document/rules/UndoRecord.h"
 #include "document/rules/file/FileStamp.h"
 
+#include <QTimer>
 #include <QWidget>
 
 class DocumentCloser;
@@ -82,6 +83,11 @@ public:
     /// The first half of it, for whole lists.
     void growRow(int row, int col);
 
+    /// Shows the words larger or smaller by so many steps, or at a percentage of their size, and says so in the status
+    /// bar for a moment. New documents begin at the size chosen last.
+    void zoomBy(int steps);
+    void zoomTo(int percent);
+
     QString language(int column) const;
     /// The selected rectangle of cells.
     GridSelection selection() const;
@@ -121,6 +127,8 @@ private:
     void finishEdit(RunningEdit::End how, int row, int col);
     void walk(bool backwards);
     void showEditStatus();
+    void showZoom();
+    void forgetZoom();
 
     Shared m_shared;
     DocumentCloser *m_closer = nullptr;
@@ -132,4 +140,5 @@ private:
     GridLetters *m_letters = nullptr; ///< null: not shown
     int m_tag = 0;
     bool m_shiftAlone = false;
+    QTimer m_zoomNote; ///< runs while the status bar tells the zoom
 };

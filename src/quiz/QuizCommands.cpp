@@ -120,6 +120,7 @@ void QuizCommands::start(QuizKind kind)
     quiz.setQuizType(qint16(kind));
     quiz.setAskedRows(*rows);
     quiz.setWordFamily(document->Rutor()->Font().family());
+    quiz.setSpeaker(m_needs.speaker);
     quiz.Form_Load(GridWords(*document->Rutor()), *document->frame(), document->Caption());
     if (quiz.Tag() == u"1")
         run(quiz, *document);
@@ -142,6 +143,7 @@ void QuizCommands::goOn()
     frmDoc &document = *m_needs.documents.active();
     frmOva quiz(m_needs.settings, m_needs.random, m_needs.errorSound, &m_needs.window);
     quiz.setWordFamily(document.Rutor()->Font().family());
+    quiz.setSpeaker(m_needs.speaker);
     quiz.resume(std::move(m_traces.at(&document).left), *document.frame(), document.Caption());
     run(quiz, document);
 }

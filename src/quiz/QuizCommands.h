@@ -16,6 +16,7 @@ class FileCommands;
 class QuizMemory;
 class RandomSource;
 class SoundPlayer;
+class Speaker;
 class clsAppProperties;
 class frmDoc;
 class frmOva;
@@ -40,6 +41,7 @@ public:
         SoundPlayer &errorSound;
         QWidget &window;                ///< parent of the quiz windows
         AnswerMemory *memory = nullptr; ///< null: there is none
+        Speaker *speaker = nullptr;     ///< the same
     };
 
     explicit QuizCommands(const Needs &needs, QObject *parent = nullptr);

@@ -4,8 +4,10 @@
 #include "quiz/MissedList.h"
 #include "quiz/OnePress.h"
 #include "quiz/QuizLook.h"
+#include "quiz/QuizReader.h"
 #include "quiz/QuizSpeech.h"
 #include "quiz/rules/AnswerLetters.h"
+#include "resources/Pictures.h"
 #include "resources/StringTable.h"
 #include "services/Hourglass.h"
 #include "services/desktop/EnterKey.h"
@@ -87,6 +89,7 @@ void frmOva::begin(QWidget &document, const QString &documentTitle)
     setWindowTitle(windowTitle() + QStringLiteral(" - ") + documentTitle);
     connectControls();
     connectSession();
+    connectSpeaker();
 }
 
 void frmOva::connectControls()
@@ -126,6 +129,15 @@ void frmOva::connectSession()
     connect(m_session, &QuizSession::judged, this, &frmOva::showVerdict);
     connect(m_session, &QuizSession::verdictTurned, this, &frmOva::showTurned);
     connect(m_session, &QuizSession::roundEnded, this, &frmOva::showRoundEnd);
+}
+
+void frmOva::connectSpeaker()
+{
+    if (!m_voice)
+        return;
+    m_ui->btnSpeak->setIcon(picture(PictureSpeak));
+    m_ui->btnSpeak->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
+    m_reader = std::make_unique<QuizReader>(*m_voice, *m_session, m_settings.quizOptions(), *m_ui->btnSpeak);
 }
 
 void frmOva::btnCheck_Click()
@@ -372,6 +384,7 @@ void frmOva::Form_Terminate()
 {
     if (m_session)
         m_session->settle();
+    m_reader.reset();
     QWidget *document = m_document;
     m_document = nullptr;
     if (!document)

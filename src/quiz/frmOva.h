@@ -14,7 +14,9 @@
 class clsAppProperties;
 class LetterRow;
 class MissedList;
+class QuizReader;
 class SoundPlayer;
+class Speaker;
 
 namespace Ui {
 class frmOva;
@@ -36,11 +38,16 @@ public:
 
     /// Which words are asked; set before Form_Load, else all are.
     void setAskedRows(const AskedRows &rows) { m_askedRows = rows; }
+
     /// The family of the vocabulary's words, the window's own if it is empty; set before Form_Load.
     void setWordFamily(const QString &family) { m_wordFamily = family; }
 
     /// Makes what the summary says below the score; an empty text shows nothing.
     void setRoundNote(std::function<QString()> note) { m_roundNote = std::move(note); }
+
+    /// What reads the words aloud; without one, which is the start, nothing does. Set before Form_Load; it outlives the
+    /// window.
+    void setSpeaker(Speaker *speaker) { m_voice = speaker; }
 
     /// "1" once the quiz is ready, "0" when it could not be built.
     QString Tag() const { return m_tag; }
@@ -87,6 +94,7 @@ private:
     void dressKind();
     void connectControls();
     void connectSession();
+    void connectSpeaker();
     void showForKind();
     void showCounters();
     void hideResults();
@@ -129,9 +137,11 @@ private:
     QString m_wordFamily;
     std::function<QString()> m_roundNote;
     QLabel *m_lblNext; ///< the note of the summary
+    Speaker *m_voice = nullptr;
     LeftQuiz m_quiz;
-    QuizSession *m_session = nullptr; ///< that of the quiz
-    QPointer<QWidget> m_document;     ///< may close while the quiz is open, when the program is told to end
+    QuizSession *m_session = nullptr;     ///< that of the quiz
+    std::unique_ptr<QuizReader> m_reader; ///< null without a speaker
+    QPointer<QWidget> m_document;         ///< may close while the quiz is open, when the program is told to end
     Qt::WindowStates m_documentState;
     qint16 m_quizType = 0;
     AskedRows m_askedRows;

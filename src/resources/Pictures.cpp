@@ -24,6 +24,7 @@ constexpr std::array Files = {
     "glosaria", "document", "more", "minimize", "maximize", "restore",
     "checked",
     "choices",
+    "speak",
 };
 // clang-format on
 

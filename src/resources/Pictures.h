@@ -65,6 +65,7 @@ enum PictureNumber {
     PictureRestore,
     PictureChecked, ///< check mark of a menu entry
     PictureChoices, ///< arrow that offers choices
+    PictureSpeak,   ///< reads aloud
 };
 
 /// The icon with this number, crisp at every size: it is drawn anew for the size, the screen and the palette's colours

@@ -2,8 +2,8 @@
 
 #include "document/ctlGrid.h"
 #include "document/frmDoc.h"
-#include "platform/Twips.h"
 #include "tools/rules/DialogPlace.h"
+#include "widgets/grid/FlexGridView.h"
 
 #include <QScreen>
 #include <QStyle>
@@ -51,10 +51,9 @@ QRect ToolDialog::shownSelection() const
     const ctlGrid &grid = *document().Rutor();
     const GridSelection selection = document().selection();
     const int top = std::clamp(grid.TopRow(), selection.top(), selection.bottom());
-    const QPoint topLeft(Twips::toPixelsX(grid.ColPos(selection.left())), Twips::toPixelsY(grid.RowPos(top)));
-    const QPoint bottomRight(Twips::toPixelsX(grid.ColPos(selection.right()) + grid.ColWidth(selection.right())),
-                             Twips::toPixelsY(grid.RowPos(selection.bottom()) + grid.RowHeight(selection.bottom())));
-    const QRect shown = QRect(topLeft, bottomRight - QPoint(1, 1)) & grid.rect();
+    const FlexGridView &view = *grid.hwndGrid();
+    const QRect cells = view.cellRect(top, selection.left()) | view.cellRect(selection.bottom(), selection.right());
+    const QRect shown = cells.translated(view.viewport()->pos()) & grid.rect();
     return shown.translated(grid.mapToGlobal(QPoint()));
 }
 

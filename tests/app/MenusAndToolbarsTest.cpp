@@ -3,6 +3,7 @@
 #include "app/MenuLayout.h"
 #include "document/ctlGridEdit.h"
 #include "tools/frmFindReplace.h"
+#include "widgets/grid/FlexGridView.h"
 
 using MenusAndToolbarsTest = MainWindowFixture;
 
@@ -311,4 +312,22 @@ TEST_F(MenusAndToolbarsTest, EveryButtonHasItsToolTipAndHelpText)
             EXPECT_FALSE(action->icon().isNull()) << i;
         }
     }
+}
+
+TEST_F(MenusAndToolbarsTest, KeysZoomTheActiveVocabulary)
+{
+    const ctlGrid &grid = *newDocument()->Rutor();
+    const std::tuple<Qt::Key, Qt::KeyboardModifiers, int> cases[] = {
+        {Qt::Key_Plus, Qt::ControlModifier, 110},
+        {Qt::Key_Equal, Qt::ControlModifier, 125},
+        {Qt::Key_Plus, Qt::ControlModifier | Qt::KeypadModifier, 150},
+        {Qt::Key_Minus, Qt::ControlModifier, 125},
+        {Qt::Key_Minus, Qt::ControlModifier | Qt::KeypadModifier, 110},
+        {Qt::Key_0, Qt::ControlModifier, 100},
+        {Qt::Key_Minus, Qt::NoModifier, 100}};
+    for (const auto &[key, modifiers, percent] : cases) {
+        QTest::keyClick(grid.hwndGrid(), key, modifiers);
+        EXPECT_EQ(grid.Zoom(), percent) << key;
+    }
+    EXPECT_TRUE(grid.EditMode()) << "a minus alone is typed";
 }

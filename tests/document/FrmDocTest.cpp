@@ -1,5 +1,8 @@
 #include "support/OpenFiles.h"
 
+#include "document/ctlGridEdit.h"
+#include "widgets/grid/FlexGridView.h"
+
 /// One document, shown, with the focus in its grid and a word in the first row.
 struct FrmDocTest : ::testing::Test, OpenFiles
 {
@@ -125,4 +128,33 @@ TEST_F(FrmDocTest, ActivationEndsTheUndoRecordAndShowsTheStatusTexts)
     EXPECT_FALSE(undo.belongsTo(&document));
     EXPECT_EQ(status.text(1), " A2:B3");
     EXPECT_TRUE(status.text(2).startsWith("English -> "));
+}
+
+TEST_F(FrmDocTest, ZoomIsAViewThatTellsItsSizeForAMoment)
+{
+    grid.resize(600, 400);
+    const std::pair<int, int> sizes(grid.ColWidth(1), grid.RowHeight(1));
+    const auto grow = [this](int zoom) {
+        document.zoomTo(zoom);
+        grid.setRowHeight(2, -1);
+        grid.Select(2, 1, 2, 1);
+        press(Qt::Key_F2);
+        EXPECT_EQ(grid.hwndText()->height(), grid.hwndGrid()->cellRect(2, 1).height() - 1);
+        EXPECT_EQ(grid.hwndText()->font(), grid.shownFont());
+        grid.hwndText()->setText(QString("long word ").repeated(20));
+        press(Qt::Key_Return);
+        return grid.RowHeight(2);
+    };
+    const int grown = grow(300);
+    EXPECT_EQ(grow(100), grown) << "the row takes the same height";
+    document.setDirty(false);
+    document.zoomBy(1);
+    EXPECT_FALSE(document.Dirty());
+    type("barn");
+    document.zoomBy(1);
+    EXPECT_EQ(grid.EditText(), "barn");
+    EXPECT_EQ(status.text(0), resText(14958).arg(125));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return status.text(0) == resText(503); }));
+    EXPECT_EQ(std::pair(grid.ColWidth(1), grid.RowHeight(1)), sizes);
+    EXPECT_EQ(newDocument()->Rutor()->Zoom(), 125) << "new documents begin with it";
 }

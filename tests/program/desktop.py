@@ -137,6 +137,14 @@ class Desktop:
             raise AssertionError(f"the program ended at once with {process.returncode}")
         return process
 
+    def start_other(self, *command):
+        """Starts another program, which ends with the desktop."""
+        self._launch(*command)
+
+    def succeeds(self, *command):
+        """Whether a command ends well on this desktop."""
+        return self._attempt(*command).returncode == 0
+
     def quit(self, process):
         """Closes the main window as the user does and waits for the process to end; returns its exit code."""
         self.tool("xdotool", "windowactivate", "--sync", self.main_window())

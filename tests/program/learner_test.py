@@ -4,6 +4,7 @@
 import re
 
 from cases import ProgramCase, run
+from speech import SpeechCase  # runs too  # pylint: disable=unused-import
 
 WORDS = [("house", "casa"), ("tree", "árbol"), ("dog", "perro"), ("cat", "gato"), ("bread", "pan")]
 ANSWERS = dict(WORDS)

@@ -18,7 +18,7 @@ TEST(Pictures, EveryNumberHasItsOwnInTheGivenColoursAndOthersHaveNone)
 {
     const QColor line(Qt::black), accent(Qt::red);
     QList<QImage> drawn;
-    for (int number = PictureNew; number <= PictureChoices; ++number) {
+    for (int number = PictureNew; number <= PictureSpeak; ++number) {
         drawn.append(drawPicture(number, 96, line, accent));
         EXPECT_EQ(drawn.indexOf(drawn.last()), number - 1);
         const QSet<QRgb> used = colours(drawn.last());
@@ -29,7 +29,7 @@ TEST(Pictures, EveryNumberHasItsOwnInTheGivenColoursAndOthersHaveNone)
         for (const QRgb colour : used)
             EXPECT_TRUE(qGreen(colour) == 0 && qBlue(colour) == 0) << "picture " << number;
     }
-    for (const int number : {0, -1, PictureChoices + 1})
+    for (const int number : {0, -1, PictureSpeak + 1})
         EXPECT_TRUE(colours(drawPicture(number, 24, line, accent)).isEmpty());
 }
 

@@ -9,4 +9,7 @@ namespace ProgramFiles {
 /// stands at neither place is expected beside the program.
 QString path(const QString &name);
 
+/// The same for a library that is loaded when it is needed, in the library folder of the installation.
+QString module(const QString &name);
+
 } // namespace ProgramFiles

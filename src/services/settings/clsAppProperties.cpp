@@ -37,6 +37,7 @@ constexpr Switch Switches[] = {
 };
 constexpr char MostWordsName[] = "QuizMostWords";
 constexpr char ShowLettersName[] = "ShowLetters";
+constexpr char GridZoomName[] = "GridZoom";
 
 /// A stored number; the default where there is none, or something else.
 int storedNumber(clsRegistry &registry, const char *name, int byDefault)
@@ -150,6 +151,7 @@ void clsAppProperties::ReadProperties()
     m_fontName = defaultFontName();
     m_quizOptions = {};
     m_showLetters = false;
+    m_gridZoom = NormalZoom;
     if (m_firstRun) {
         registry.CreateEXEAssociation(m_programPath, QStringLiteral("Glosaria.Document"),
                                       QStringLiteral("Glosaria Document"), QStringLiteral("gla"), 1);
@@ -165,6 +167,7 @@ void clsAppProperties::ReadProperties()
     setQuizOptions(readOptions(registry));
     setShowLetters(storedNumber(registry, ShowLettersName, 0) == 1);
     setQuizWindow(readPlace(registry));
+    setGridZoom(storedNumber(registry, GridZoomName, NormalZoom));
 }
 
 void clsAppProperties::SaveProperties() const
@@ -181,4 +184,5 @@ void clsAppProperties::SaveProperties() const
     saveOptions(registry, m_quizOptions);
     storeNumber(registry, ShowLettersName, m_showLetters, 0);
     savePlace(registry, m_quizWindow);
+    storeNumber(registry, GridZoomName, m_gridZoom, NormalZoom);
 }

@@ -70,7 +70,12 @@ public:
     bool ShowLetters() const { return m_showLetters; }
     void setShowLetters(bool show) { m_showLetters = show; }
 
+    /// How large vocabularies are shown, in percent, as stored: it may be anything.
+    int GridZoom() const { return m_gridZoom; }
+    void setGridZoom(int percent) { m_gridZoom = percent; }
+
     static constexpr int LargestFontSize = 2048;
+    static constexpr int NormalZoom = 100;
 
     /// Takes the stored settings. Without any, which is a first run, it takes the defaults and registers the file type.
     /// Throws RegistryError when that fails; the settings are usable all the same.
@@ -91,5 +96,6 @@ private:
     QuizOptions m_quizOptions;
     bool m_showLetters = false;
     QRect m_quizWindow;
+    int m_gridZoom = NormalZoom;
     bool m_firstRun = false;
 };

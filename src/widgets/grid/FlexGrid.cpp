@@ -5,6 +5,7 @@
 #include "widgets/grid/FlexGridView.h"
 
 #include <QMetaProperty>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -26,10 +27,8 @@ FlexGrid::~FlexGrid() = default;
 void FlexGrid::connectView()
 {
     connect(m_view, &FlexGridView::selectionWanted, this, &FlexGrid::select);
-    connect(m_view, &FlexGridView::rowHeightWanted, this,
-            [this](int row, int pixels) { setRowHeight(row, Twips::fromPixelsY(pixels)); });
-    connect(m_view, &FlexGridView::colWidthWanted, this,
-            [this](int col, int pixels) { setColWidth(col, Twips::fromPixelsX(pixels)); });
+    connect(m_view, &FlexGridView::rowHeightWanted, this, [this](int row, int twips) { setRowHeight(row, twips); });
+    connect(m_view, &FlexGridView::colWidthWanted, this, [this](int col, int twips) { setColWidth(col, twips); });
     connect(m_view, &FlexGridView::scrolled, this, &FlexGrid::Scroll);
     connect(m_view, &FlexGridView::laidOut, this, [this] { laidOut(); });
     connect(m_view, &FlexGridView::clicked, this, &FlexGrid::Click);
@@ -61,6 +60,20 @@ void FlexGrid::typeCharacter(int character)
 void FlexGrid::resizeEvent(QResizeEvent *)
 {
     m_view->setGeometry(rect());
+}
+
+void FlexGrid::wheelEvent(QWheelEvent *event)
+{
+    if (!(event->modifiers() & Qt::ControlModifier)) {
+        QWidget::wheelEvent(event);
+        return;
+    }
+    // fine wheels send parts of a step
+    m_wheelTurn += event->angleDelta().y();
+    const int steps = m_wheelTurn / QWheelEvent::DefaultDeltasPerStep;
+    m_wheelTurn -= steps * QWheelEvent::DefaultDeltasPerStep;
+    if (steps != 0)
+        Q_EMIT ZoomWanted(steps);
 }
 
 GridSelection FlexGrid::insideOf(GridSelection wanted) const

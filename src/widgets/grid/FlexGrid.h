@@ -177,6 +177,12 @@ public:
     void showCell(int row, int col);
     /// Makes the control as large as all rows and columns need with lines and border.
     void Autosize();
+    /// How large everything is shown, FlexGridZoom::Smallest to Largest percent. Sizes and fonts that are set or told
+    /// stay those of the normal size; places and the size of the current cell are those that are seen. The current
+    /// cell stays in view.
+    int Zoom() const { return m_state.zoom.percent(); }
+    virtual void setZoom(int percent);
+    QFont shownFont() const { return m_state.zoom.scaled(Font()); }
 
     // --- Columns and rows
     int ColAlignment(int col) const;
@@ -299,6 +305,7 @@ Q_SIGNALS:
     void MouseMove(int Button, int Shift, float X, float Y);
     void MouseUp(int Button, int Shift, float X, float Y);
     void Scroll();
+    void ZoomWanted(int steps); ///< the user asks for it: above 0 larger, below 0 smaller
     /// A persisted property was written.
     void PropertyChanged(const QString &name);
 
@@ -314,6 +321,7 @@ protected:
     virtual void laidOut() {}
 
     void resizeEvent(QResizeEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
     void typeCharacter(int character);
     void propertyChanged(const char *name);
     const FlexGridState &state() const { return m_state; }
@@ -343,4 +351,5 @@ private:
     QPointer<QAbstractItemModel> m_dataSource;
     bool m_redraw = true;
     bool m_rowNumbers = false;
+    int m_wheelTurn = 0; ///< of the next step of the zoom, in eighths of a degree
 };

@@ -9,6 +9,19 @@
 #include <algorithm>
 #include <cmath>
 
+namespace {
+
+/// What some rows or columns that stand together take at the normal size, in pixels.
+int normalSize(const std::vector<FlexGridBand> &bands, size_t first, size_t count)
+{
+    int size = 0;
+    for (size_t i = first; i < first + count; ++i)
+        size += bands[i].normalSize;
+    return size;
+}
+
+} // namespace
+
 FlexGridPainter::FlexGridPainter(const FlexGridState &state, const QPalette &palette, bool focused)
     : m_state(state)
     , m_palette(palette)
@@ -34,26 +47,43 @@ void FlexGridPainter::paint(QPainter &painter, const std::vector<FlexGridBand> &
             const FlexGridBand &lastRow = rows[i + span.rows - 1];
             const FlexGridBand &lastCol = cols[j + span.cols - 1];
             rect |= QRect(lastCol.start, lastRow.start, lastCol.size, lastRow.size);
-            paintCell(painter, rows[i].index, cols[j].index, rect);
+            const QSize normal(normalSize(cols, j, span.cols), normalSize(rows, i, span.rows));
+            paintCell(painter, rows[i].index, cols[j].index, rect, normal);
         }
     }
 }
 
-void FlexGridPainter::paintCell(QPainter &painter, int row, int col, const QRect &rect) const
+void FlexGridPainter::paintCell(QPainter &painter, int row, int col, const QRect &rect, const QSize &normal) const
 {
     const FlexGridCellFormat *format = m_state.cells.formats.find(row, col);
     const Colours colours = coloursOf(row, col, format);
     const bool fixed = m_state.isFixed(row, col);
     const int line = (fixed ? m_state.look.GridLinesFixed : m_state.look.GridLines) ? m_state.look.GridLineWidth : 0;
-    const QRect inside = m_state.rightToLeft ? rect.adjusted(line, 0, 0, -line) : rect.adjusted(0, 0, -line, -line);
+    const auto withoutLines = [this, line](const QRect &whole) {
+        return m_state.rightToLeft ? whole.adjusted(line, 0, 0, -line) : whole.adjusted(0, 0, -line, -line);
+    };
 
     painter.fillRect(rect, colours.ground);
     paintLines(painter, rect, fixed);
+    painter.save();
+    painter.setClipRect(withoutLines(rect), Qt::IntersectClip);
+    enlarge(painter, rect, normal);
+    const QRect inside = withoutLines(QRect(QPoint(), normal));
     if (format && !format->picture.isNull())
         paintPicture(painter, inside, *format);
     paintText(painter, row, col, inside, format, colours);
+    painter.restore();
     if (m_state.selection.isCurrent(row, col))
-        paintFocus(painter, inside);
+        paintFocus(painter, withoutLines(rect));
+}
+
+/// What is drawn next into a cell of the normal size at the origin appears enlarged in the middle of rect. So lines
+/// break and end at every size where they do at the normal one.
+void FlexGridPainter::enlarge(QPainter &painter, const QRect &rect, const QSize &normal) const
+{
+    painter.translate(rect.x() + rect.width() / 2.0, rect.y() + rect.height() / 2.0);
+    painter.scale(m_state.zoom.factor(), m_state.zoom.factor());
+    painter.translate(-normal.width() / 2.0, -normal.height() / 2.0);
 }
 
 bool FlexGridPainter::isHighlighted(int row, int col) const
@@ -142,10 +172,7 @@ void FlexGridPainter::paintPicture(QPainter &painter, const QRect &rect, const F
         at.ry() += (rect.height() - size.height()) / 2;
     if (alignment & Qt::AlignBottom)
         at.ry() += rect.height() - size.height();
-    painter.save();
-    painter.setClipRect(rect, Qt::IntersectClip);
     painter.drawPixmap(at, format.picture);
-    painter.restore();
 }
 
 void FlexGridPainter::paintText(QPainter &painter, int row, int col, const QRect &rect,
@@ -167,8 +194,6 @@ void FlexGridPainter::paintText(QPainter &painter, int row, int col, const QRect
         style = format->textStyle;
     setting.alignment = FlexGridCellText::alignmentOf(alignment, setting.text);
 
-    painter.save();
-    painter.setClipRect(rect, Qt::IntersectClip);
     if (style > 0) {
         // raised texts throw light to the upper left, inset ones to the lower right; the light styles less of it
         QColor light = m_palette.light().color();
@@ -179,7 +204,6 @@ void FlexGridPainter::paintText(QPainter &painter, int row, int col, const QRect
     }
     painter.setPen(colours.text);
     FlexGridCellText::draw(painter, space, setting);
-    painter.restore();
 }
 
 void FlexGridPainter::paintFocus(QPainter &painter, const QRect &rect) const

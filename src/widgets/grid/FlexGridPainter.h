@@ -26,7 +26,8 @@ private:
         QColor text;
     };
 
-    void paintCell(QPainter &painter, int row, int col, const QRect &rect) const;
+    void paintCell(QPainter &painter, int row, int col, const QRect &rect, const QSize &normal) const;
+    void enlarge(QPainter &painter, const QRect &rect, const QSize &normal) const;
     Colours coloursOf(int row, int col, const FlexGridCellFormat *format) const;
     void paintLines(QPainter &painter, const QRect &rect, bool fixed) const;
     void paintEdge(QPainter &painter, const QRect &rect, Qt::Edge edge, const QColor &colour) const;

@@ -104,6 +104,15 @@ void FlexGrid::Autosize()
     resize(m_view->wholeSize());
 }
 
+void FlexGrid::setZoom(int percent)
+{
+    const bool inView = RowIsVisible(Row()) && ColIsVisible(Col());
+    m_state.zoom.setPercent(percent);
+    layOutAgain();
+    if (inView)
+        showCell(Row(), Col());
+}
+
 QRect FlexGrid::currentRect() const
 {
     return m_view->cellRect(Row(), Col()).translated(m_view->viewport()->pos());

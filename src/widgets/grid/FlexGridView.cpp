@@ -198,14 +198,29 @@ bool FlexGridView::colIsVisible(int col) const
 
 int FlexGridView::rowPixels(int row) const
 {
+    return m_state.zoom.toPixelsY(m_state.cells.rowHeight(row));
+}
+
+int FlexGridView::normalRowPixels(int row) const
+{
     return Twips::toPixelsY(m_state.cells.rowHeight(row));
 }
 
 int FlexGridView::colPixels(int col) const
 {
+    const int pixels = m_state.zoom.toPixelsX(m_state.cells.column(col).width);
+    return showsNumbers(col) ? std::max(pixels, m_state.zoom.scaled(m_numberPixels)) : pixels;
+}
+
+int FlexGridView::normalColPixels(int col) const
+{
     const int pixels = Twips::toPixelsX(m_state.cells.column(col).width);
-    const bool numbers = col == 0 && pixels > 0 && m_state.cells.numbersRows();
-    return numbers ? std::max(pixels, m_numberPixels) : pixels;
+    return showsNumbers(col) ? std::max(pixels, m_numberPixels) : pixels;
+}
+
+bool FlexGridView::showsNumbers(int col) const
+{
+    return col == 0 && m_state.cells.numbersRows() && Twips::toPixelsX(m_state.cells.column(0).width) > 0;
 }
 
 void FlexGridView::measureNumbers()
@@ -281,7 +296,7 @@ FlexGridView::Bands FlexGridView::fixedRowBands() const
 {
     Bands bands;
     for (int row = 0, top = 0; row < m_state.fixedRows && top < viewport()->height(); top = bands.back().end(), ++row)
-        bands.push_back({row, top, rowPixels(row)});
+        bands.push_back({row, top, rowPixels(row), normalRowPixels(row)});
     return bands;
 }
 
@@ -292,7 +307,7 @@ FlexGridView::Bands FlexGridView::shownRowBands() const
     for (int row = m_topRow; row < m_state.cells.rows() && top < viewport()->height(); ++row) {
         const int height = rowPixels(row);
         if (height > 0)
-            bands.push_back({row, top, height});
+            bands.push_back({row, top, height, normalRowPixels(row)});
         top += height;
     }
     return bands;
@@ -303,7 +318,7 @@ FlexGridView::Bands FlexGridView::fixedColBands() const
     Bands bands;
     for (int col = 0, left = 0; col < m_state.fixedCols && left < viewport()->width(); ++col) {
         const int width = colPixels(col);
-        bands.push_back({col, mirrored(left, width), width});
+        bands.push_back({col, mirrored(left, width), width, normalColPixels(col)});
         left += width;
     }
     return bands;
@@ -316,7 +331,7 @@ FlexGridView::Bands FlexGridView::shownColBands() const
     for (int col = m_state.fixedCols; col < m_state.cells.cols() && left < viewport()->width(); ++col) {
         const int width = colPixels(col);
         if (width > 0 && left + width > fixedWidth())
-            bands.push_back({col, mirrored(bounded(left), width), width});
+            bands.push_back({col, mirrored(bounded(left), width), width, normalColPixels(col)});
         left += width;
     }
     return bands;

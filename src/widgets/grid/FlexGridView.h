@@ -39,6 +39,8 @@ public:
     bool colIsVisible(int col) const;
 
     int rowPixels(int row) const;
+    int normalRowPixels(int row) const; ///< without the zoom, as what follows
+    int normalColPixels(int col) const;
     /// Row numbers are always shown whole: their column is no narrower than the largest of them.
     int colPixels(int col) const;
     qint64 rowTop(int row) const;
@@ -51,7 +53,7 @@ public:
     int colAt(int x) const;
     /// The size at which every row and column is shown without scrolling.
     QSize wholeSize() const;
-    /// The height and width in pixels that the texts of a row or a column need.
+    /// The height and width in pixels of the normal size that the texts of a row or a column need.
     int fittingRowPixels(int row) const;
     int fittingColPixels(int col) const;
 
@@ -61,8 +63,8 @@ public:
 
 Q_SIGNALS:
     void selectionWanted(const GridSelection &selection);
-    void rowHeightWanted(int row, int pixels);
-    void colWidthWanted(int col, int pixels);
+    void rowHeightWanted(int row, int twips);
+    void colWidthWanted(int col, int twips);
     void scrolled();
     void laidOut();
     void focusArrived();
@@ -96,6 +98,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
     void timerEvent(QTimerEvent *event) override;
 
 private:
@@ -106,6 +109,7 @@ private:
     /// Sets the ranges of both scroll bars; whether that scrolled the cells.
     bool updateScrollBars();
     void measureNumbers();
+    bool showsNumbers(int col) const;
     void layOutIfNeeded();
     /// The viewport's size when only the scroll bars that are needed are shown.
     QSize roomBesideBars() const;

@@ -1,5 +1,6 @@
 #include "widgets/grid/FlexGridView.h"
 
+#include "platform/Twips.h"
 #include "widgets/grid/FlexGridCellText.h"
 #include "widgets/grid/FlexGridKeys.h"
 
@@ -9,6 +10,7 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QToolTip>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -22,10 +24,13 @@ constexpr int CustomPointer = 99;
 constexpr qsizetype LongestToolTip = 8192;
 
 /// Of tool tips only paragraphs have their lines broken; what a cell holds is no markup.
-QString inParagraph(const QString &text)
+QString inParagraph(const QString &text, const FlexGridZoom &zoom)
 {
     const QString direction = text.isRightToLeft() ? QStringLiteral("rtl") : QStringLiteral("ltr");
-    return QStringLiteral("<p dir='%1'>%2</p>").arg(direction, text.left(LongestToolTip).toHtmlEscaped());
+    const double points = QFontInfo(QToolTip::font()).pointSizeF() * zoom.factor();
+    const QString size =
+        zoom.percent() == FlexGridZoom::Normal ? QString() : QStringLiteral(" style='font-size:%1pt'").arg(points);
+    return QStringLiteral("<p dir='%1'%2>%3</p>").arg(direction, size, text.left(LongestToolTip).toHtmlEscaped());
 }
 
 } // namespace
@@ -68,7 +73,7 @@ bool FlexGridView::viewportEvent(QEvent *event)
     const auto *asked = static_cast<QHelpEvent *>(event);
     const QString text = cutTextAt(asked->pos());
     const QRect cell = cellRect(rowAt(asked->pos().y()), colAt(asked->pos().x()));
-    QToolTip::showText(asked->globalPos(), text.isEmpty() ? text : inParagraph(text), viewport(), cell);
+    QToolTip::showText(asked->globalPos(), text.isEmpty() ? text : inParagraph(text, m_state.zoom), viewport(), cell);
     return true;
 }
 
@@ -76,12 +81,22 @@ QString FlexGridView::cutTextAt(const QPoint &position) const
 {
     const int row = rowAt(position.y());
     const int col = colAt(position.x());
-    if (m_state.cells.isNumber(row, col))
+    if (!m_state.cells.hasCell(row, col) || m_state.cells.isNumber(row, col))
         return {};
     const FlexGridCellText::Setting setting{m_state.cells.word(row, col), m_state.look.Font, {}, m_state.look.WordWrap};
     const int line = m_state.look.GridLineWidth;
-    const QSize inside = cellRect(row, col).size() - QSize(line + 2 * FlexGridCellText::Margin, line);
+    const QSize inside =
+        QSize(normalColPixels(col), normalRowPixels(row)) - QSize(line + 2 * FlexGridCellText::Margin, line);
     return !setting.text.isEmpty() && FlexGridCellText::isCut(inside, setting) ? setting.text : QString();
+}
+
+/// With Ctrl it zooms, which the grid does.
+void FlexGridView::wheelEvent(QWheelEvent *event)
+{
+    if (event->modifiers() & Qt::ControlModifier)
+        event->ignore();
+    else
+        QAbstractScrollArea::wheelEvent(event);
 }
 
 void FlexGridView::mousePressEvent(QMouseEvent *event)
@@ -173,10 +188,12 @@ void FlexGridView::dragTo(const QPoint &position)
 void FlexGridView::dragBorderTo(const QPoint &position)
 {
     if (m_drag == Drag::RowBorder && m_dragged < m_state.cells.rows()) {
-        Q_EMIT rowHeightWanted(m_dragged, int(std::max<qint64>(SmallestDragged, position.y() - rowTop(m_dragged))));
+        const auto height = std::max<qint64>(SmallestDragged, position.y() - rowTop(m_dragged));
+        Q_EMIT rowHeightWanted(m_dragged, m_state.zoom.fromPixelsY(int(height)));
     } else if (m_drag == Drag::ColBorder && m_dragged < m_state.cells.cols()) {
         const int x = m_state.rightToLeft ? viewport()->width() - position.x() : position.x();
-        Q_EMIT colWidthWanted(m_dragged, int(std::max<qint64>(SmallestDragged, x - colLeft(m_dragged))));
+        const auto width = std::max<qint64>(SmallestDragged, x - colLeft(m_dragged));
+        Q_EMIT colWidthWanted(m_dragged, m_state.zoom.fromPixelsX(int(width)));
     }
 }
 
@@ -242,9 +259,9 @@ void FlexGridView::mouseDoubleClickEvent(QMouseEvent *event)
     const int row = rowAt(position.y());
     const int col = colAt(position.x());
     if (borderCol >= 0)
-        Q_EMIT colWidthWanted(borderCol, fittingColPixels(borderCol));
+        Q_EMIT colWidthWanted(borderCol, Twips::fromPixelsX(fittingColPixels(borderCol)));
     else if (borderRow >= 0)
-        Q_EMIT rowHeightWanted(borderRow, fittingRowPixels(borderRow));
+        Q_EMIT rowHeightWanted(borderRow, Twips::fromPixelsY(fittingRowPixels(borderRow)));
     else if (row >= m_state.fixedRows && col >= m_state.fixedCols)
         Q_EMIT cellDoubleClicked();
 }
@@ -308,7 +325,7 @@ int FlexGridView::fittingRowPixels(int row) const
             continue;
         const FlexGridCellText::Setting setting{
             m_state.cells.word(row, col), m_state.look.Font, {}, m_state.look.WordWrap};
-        const int width = colPixels(col) - m_state.look.GridLineWidth - 2 * FlexGridCellText::Margin;
+        const int width = normalColPixels(col) - m_state.look.GridLineWidth - 2 * FlexGridCellText::Margin;
         highest = std::max(highest, FlexGridCellText::heightFor(width, setting));
     }
     return int(std::ceil(highest)) + m_state.look.GridLineWidth + 1;

@@ -1,0 +1,95 @@
+"""A learner listens: what the desktop's loudspeaker plays is recorded from a sound server that has no device."""
+
+import array
+import os
+import shutil
+import signal
+import time
+
+from cases import ProgramCase, vocabulary
+
+TOOLS = ("pulseaudio", "parec", "speech-dispatcher")
+RATE = 8000  # samples of two bytes in a second
+AUDIBLE = 500  # of 32768
+LONG = " and ".join(("the captain of a steamboat", "the bird in the hand", "a very long word") * 4)
+
+
+class SpeechCase(ProgramCase):
+    def setUp(self):
+        super().setUp()
+        missing = [tool for tool in TOOLS if not shutil.which(tool)]
+        if missing:
+            self.skipTest("not installed: " + ", ".join(missing))
+        self._record = self.home / "loudspeaker.raw"
+        self._service = self.home.parent / "run" / "speech-dispatcher" / "pid" / "speech-dispatcher.pid"
+        self.addCleanup(self._end_service)
+
+    def _start_loudspeaker(self):
+        self.desktop.start_other("pulseaudio", "--exit-idle-time=-1", "-n", "--load=module-native-protocol-unix",
+                                 "--load=module-null-sink sink_name=silent")
+        record = ("parec", "--device=silent.monitor", "--format=s16le", f"--rate={RATE}", "--channels=1")
+        self.desktop.wait(lambda: self.desktop.succeeds("pactl", "info"), "the sound server")
+        self.desktop.start_other(*record, "--raw", str(self._record))
+        self.desktop.wait(lambda: self._length() > 0, "the recording")
+
+    def _end_service(self):
+        if self._service.exists():
+            os.kill(int(self._service.read_text()), signal.SIGTERM)
+
+    def _length(self):
+        return self._record.stat().st_size // 2 * 2 if self._record.exists() else 0
+
+    def _loudest(self, start):
+        samples = array.array("h", self._record.read_bytes()[start:self._length()])
+        return max(map(abs, samples), default=0)
+
+    def _open_options(self, **how):
+        file = self.home / "long.gla"
+        file.write_bytes(vocabulary([(LONG, "der Vogel"), ("dog", "Hund")]))
+        self.open(file, **how)
+        self.open_dialog("Quiz Options", "alt+q", "o")
+
+    def test_words_are_read_until_the_quiz_ends(self):
+        self._start_loudspeaker()
+        self._open_options()
+        self._switch_reading(True)
+        self.assertEqual(self._loudest(0), 0, "nothing is heard before the quiz")
+        self.desktop.key("alt+q", "q")
+        self.desktop.wait(lambda: self._loudest(0) > AUDIBLE, "the question to be heard")
+        self.assertTrue(self.desktop.find("push button", "Read the question aloud"))
+        self._expect_quiet_after("Escape")
+        self.open_dialog("Quiz Options", "alt+q", "o")
+        self._switch_reading(False)
+        start = self._length()
+        self.desktop.key("alt+q", "q")
+        self.desktop.wait_for("push button", "Read the question aloud")
+        time.sleep(1)
+        self.assertLess(self._loudest(start), AUDIBLE, "not asked to read")
+        self.desktop.key("ctrl+r")
+        self.desktop.wait(lambda: self._loudest(start) > AUDIBLE, "the question to be heard")
+        self._expect_quiet_after("Escape")
+
+    def _switch_reading(self, on):
+        for key, box in (("alt+q", "Read the question aloud"), ("alt+l", "Read the answer aloud")):
+            self.desktop.key(key)
+            found = self.desktop.wait_for("check box", box)
+            self.desktop.wait(lambda found=found: self.desktop.is_checked(found) == on, f"a change of {box}")
+        self.close_dialog("Quiz Options", "Return")
+
+    def _expect_quiet_after(self, key):
+        """The question would be read for half a minute."""
+        self.desktop.key(key)
+        self.expect_active("frame")
+        time.sleep(1)  # what the sound server still holds
+        start = self._length()
+        self.desktop.wait(lambda: self._length() > start + 4 * RATE, "two more seconds to be recorded")
+        self.assertLess(self._loudest(start), AUDIBLE, "still reading")
+
+    def test_without_the_service_nothing_offers_to_read(self):
+        self._open_options(through=("env", "PATH=/nowhere"))
+        self.assertFalse(self.desktop.find("check box", "Read the question aloud"))
+        self.assertTrue(self.desktop.find("check box", "Remember my answers"))
+        self.close_dialog("Quiz Options", "Escape")
+        self.desktop.key("alt+q", "q")
+        self.desktop.wait_for("push button", "Check")
+        self.assertFalse(self.desktop.find("push button", "Read the question aloud"))

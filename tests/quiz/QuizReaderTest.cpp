@@ -1,0 +1,121 @@
+#include "quiz/QuizReader.h"
+
+#include "platform/registry/RegistryTree.h"
+#include "quiz/rules/QuizSession.h"
+#include "services/settings/clsAppProperties.h"
+#include "support/ListWords.h"
+
+/// Writes down what it is to read, with the codes of the languages; "." ends what was read before.
+struct RecordingSpeaker : Speaker
+{
+    bool there = true;
+    Languages languages{QLocale::English, QLocale::German};
+    std::function<void(const Languages &)> waiting; ///< for the languages
+    QStringList said;
+
+    bool isThere() override { return there; }
+    void askLanguages(QObject *, const std::function<void(const Languages &)> &tell) override { waiting = tell; }
+    void say(const std::vector<Utterance> &texts) override
+    {
+        QStringList line;
+        for (const Utterance &each : texts)
+            line += QLocale::languageToCode(each.language) + u':' + each.text;
+        said += line.join(u' ');
+    }
+    void stop() override { said += "."; }
+};
+
+struct QuizReaderTest : ::testing::Test
+{
+    /// A quiz of two words that are asked in their order, read with these options.
+    void start(QuizKind kind, bool question, bool answer)
+    {
+        reader.reset();
+        speaker.said.clear();
+        session = std::make_unique<QuizSession>(kind, settings);
+        reader = std::make_unique<QuizReader>(speaker, *session,
+                                              QuizOptions{.readQuestion = question, .readAnswer = answer}, button);
+        SeededRandom random(1);
+        ASSERT_TRUE(session->fByggMatriser(words, random));
+        session->fShowQuestion();
+    }
+    void answer(const QString &text)
+    {
+        if (session->kind() == QuizKind::Practice) {
+            session->check();
+            for (int i = 0; i < 20 && session->revealing(); ++i)
+                session->revealTick();
+        } else if (session->kind() == QuizKind::MultipleChoice) {
+            session->choose(0);
+            session->check();
+        } else {
+            session->setAnswerText(text);
+            session->check();
+        }
+    }
+
+    RegistryTree store;
+    clsAppProperties settings{store, "glosaria"};
+    struct Words : ListWords
+    {
+        using ListWords::ListWords;
+        QString heading = "English";
+        QString TextMatrix(int row, int col) const override
+        {
+            return row == 0 && col == 1 ? heading : ListWords::TextMatrix(row, col);
+        }
+    };
+    Words words{{"dog", "Hund"}, {"cat", "Katze"}, {"cow", "Kuh"}};
+    RecordingSpeaker speaker;
+    QToolButton button;
+    std::unique_ptr<QuizSession> session;
+    std::unique_ptr<QuizReader> reader;
+};
+
+TEST_F(QuizReaderTest, WhatTheOptionsWantIsReadInItsLanguage)
+{
+    settings.setQuizMode(1);
+    const std::tuple<QuizKind, bool, bool, QString> cases[] = {
+        {QuizKind::QuestionAndAnswer, false, false, ""},
+        {QuizKind::QuestionAndAnswer, true, false, "en:dog|en:cat|en:cow"},
+        {QuizKind::QuestionAndAnswer, false, true, "de:Hund|de:Katze|de:Kuh"},
+        {QuizKind::QuestionAndAnswer, true, true, "en:dog|de:Hund en:cat|de:Katze en:cow|de:Kuh"},
+        {QuizKind::MultipleChoice, true, true, "en:dog|de:Hund en:cat|de:Katze en:cow|de:Kuh"},
+        {QuizKind::Practice, true, true, "en:dog|de:Hund|en:cat|de:Katze|en:cow|de:Kuh"}};
+    for (const auto &[kind, question, answers, said] : cases) {
+        start(kind, question, answers);
+        for (const char *given : {"Hund", "wrong", "Kuh"})
+            answer(given);
+        EXPECT_TRUE(session->done());
+        EXPECT_EQ(speaker.said.join(u'|'), said);
+        EXPECT_TRUE(button.isHidden()) << "there is no question any more";
+    }
+    reader.reset();
+    EXPECT_EQ(speaker.said.last(), ".") << "reading ends with the quiz";
+}
+
+TEST_F(QuizReaderTest, TheButtonReadsTheQuestionWhereThereIsAVoice)
+{
+    settings.setQuizMode(1);
+    start(QuizKind::QuestionAndAnswer, false, false);
+    EXPECT_FALSE(button.isHidden());
+    EXPECT_TRUE(speaker.said.isEmpty() && !speaker.waiting) << "nothing starts before it is needed";
+    button.click();
+    button.click();
+    EXPECT_EQ(speaker.said.join(u'|'), "en:dog|en:dog");
+    ASSERT_TRUE(speaker.waiting);
+    speaker.waiting({QLocale::English});
+    EXPECT_FALSE(button.isHidden());
+    speaker.waiting({QLocale::German});
+    EXPECT_TRUE(button.isHidden());
+
+    words.heading = "Words";
+    start(QuizKind::QuestionAndAnswer, true, false);
+    EXPECT_EQ(speaker.said.join(u'|'), QLocale::languageToCode(QLocale().language()) + ":dog") << "the user's own";
+
+    speaker.there = false;
+    start(QuizKind::QuestionAndAnswer, true, true);
+    answer("Hund");
+    EXPECT_TRUE(button.isHidden());
+    EXPECT_TRUE(speaker.said.isEmpty());
+}
