@@ -1,0 +1,157 @@
+#include "exchange/rules/Pairs.h"
+
+#include "exchange/rules/cards/MarkupText.h"
+#include "resources/StringTable.h"
+#include "services/rules/CellText.h"
+
+#include <QLocale>
+#include <QSet>
+
+#include <unicode/uloc.h>
+
+#include <array>
+
+namespace {
+
+constexpr int FirstLanguageId = 501;
+constexpr int ColumnId = 14530;
+constexpr qsizetype SampleRows = 1000;
+
+/// What a language calls itself.
+QString ownName(const QByteArray &code)
+{
+    std::array<UChar, 100> name{};
+    UErrorCode status = U_ZERO_ERROR;
+    const int size = uloc_getDisplayLanguage(code.constData(), code.constData(), name.data(), int(name.size()), &status);
+    return U_SUCCESS(status) ? QString::fromUtf16(name.data(), size) : QString();
+}
+
+/// The names of languages in English, in themselves and as the program has them, small.
+const QSet<QString> &languages()
+{
+    static const QSet<QString> all = [] {
+        QSet<QString> names{resText(FirstLanguageId).toLower(), resText(FirstLanguageId + 1).toLower()};
+        for (int language = QLocale::Abkhazian; language <= QLocale::LastLanguage; ++language) {
+            names += QLocale::languageToString(QLocale::Language(language)).toLower();
+            names += ownName(QLocale::languageToCode(QLocale::Language(language)).toLatin1()).toLower();
+        }
+        return names;
+    }();
+    return all;
+}
+
+qsizetype firstRowWithWords(const TextTable &table)
+{
+    qsizetype row = 0;
+    while (row < table.rows() && table.isBlank(row))
+        ++row;
+    return row;
+}
+
+bool isLanguage(QStringView text)
+{
+    return languages().contains(text.trimmed().toString().toLower());
+}
+
+bool hasWord(const TextTable &table, qsizetype row, const PairChoice &choice)
+{
+    return !table.isBlank(row, choice.first) || !table.isBlank(row, choice.second);
+}
+
+QString word(const TextTable &table, qsizetype row, int column, bool markup)
+{
+    const QStringView cell = table.cell(row, column);
+    QString text = markup && (cell.contains(u'<') || cell.contains(u'&') || cell.contains(u'[') || cell.contains(u'{'))
+                       ? MarkupText::plain(cell)
+                       : cell.toString();
+    if (text.contains(QChar()))
+        text.remove(QChar());
+    return CellText::cleaned(text);
+}
+
+/// The first row below the names.
+qsizetype firstRow(const TextTable &table, const PairChoice &choice)
+{
+    const qsizetype first = choice.names ? firstRowWithWords(table) + 1 : 0;
+    return std::min(first, table.rows());
+}
+
+/// Columns of a sample that hold words, and no others than words.
+std::vector<int> wordColumns(const TextTable &table)
+{
+    std::vector<int> columns;
+    for (int column = 0; column < int(table.keptColumns()); ++column) {
+        const auto &others = table.otherColumns;
+        if (std::find(others.begin(), others.end(), column) != others.end())
+            continue;
+        bool any = false;
+        for (qsizetype row = 0; row < std::min(table.rows(), SampleRows) && !any; ++row)
+            any = !table.isBlank(row, column);
+        if (any)
+            columns.push_back(column);
+    }
+    return columns;
+}
+
+} // namespace
+
+PairChoice Pairs::proposal(const TextTable &table, bool markup)
+{
+    PairChoice choice;
+    const std::vector<int> columns = wordColumns(table);
+    if (!columns.empty())
+        choice.first = columns[0];
+    choice.second = columns.size() > 1 ? columns[1] : choice.first + 1;
+    choice.markup = markup;
+    const qsizetype row = firstRowWithWords(table);
+    choice.names = table.columnNames.isEmpty() && row < table.rows() && isLanguage(table.cell(row, choice.first)) &&
+                   isLanguage(table.cell(row, choice.second));
+    return choice;
+}
+
+Pairs::Count Pairs::count(const TextTable &table, const PairChoice &choice, qsizetype most)
+{
+    Count count;
+    for (qsizetype row = firstRow(table, choice); row < table.rows(); ++row)
+        ++(!hasWord(table, row, choice) ? count.dropped.blankRows
+           : count.rows < most          ? count.rows
+                                        : count.dropped.rowsBeyond);
+    const std::vector<int> columns = wordColumns(table);
+    count.dropped.columns =
+        table.columns() - table.keptColumns() + std::count_if(columns.begin(), columns.end(), [&choice](int column) {
+            return column != choice.first && column != choice.second;
+        });
+    count.dropped.missingResults = table.missingResults;
+    return count;
+}
+
+Vocabulary Pairs::take(const TextTable &table, const PairChoice &choice, qsizetype most)
+{
+    Vocabulary vocabulary;
+    const qsizetype first = firstRow(table, choice);
+    if (choice.names && first > 0)
+        vocabulary.append(word(table, first - 1, choice.first, choice.markup),
+                          word(table, first - 1, choice.second, choice.markup));
+    else
+        vocabulary.append(table.columnNames.value(choice.first), table.columnNames.value(choice.second));
+    for (qsizetype row = first; row < table.rows() && vocabulary.rows() <= most; ++row) {
+        if (hasWord(table, row, choice))
+            vocabulary.append(word(table, row, choice.first, choice.markup),
+                              word(table, row, choice.second, choice.markup));
+    }
+    return vocabulary;
+}
+
+QStringList Pairs::columnNames(const TextTable &table, bool names)
+{
+    QStringList all;
+    const qsizetype row = firstRowWithWords(table);
+    for (int column = 0; column < std::max<int>(2, int(table.keptColumns())); ++column) {
+        QString name = table.columnNames.value(column);
+        if (names && row < table.rows())
+            name = table.cell(row, column).trimmed().toString();
+        const QString number = resText(ColumnId).arg(column + 1);
+        all += name.isEmpty() ? number : number + QStringLiteral(": ") + CellText::cleaned(name).left(40);
+    }
+    return all;
+}
