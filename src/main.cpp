@@ -32,6 +32,10 @@ int main(int argc, char **argv)
     int exitCode = 0;
     if (modKod::answer(commandLine, exitCode))
         return exitCode;
+    if (commandLine.convert) {
+        const QCoreApplication application(argc, argv);
+        return modKod::convert(commandLine.convertFiles);
+    }
 
     std::optional<FontReader> fontReader(std::in_place);
     QApplication application(argc, argv);

@@ -8,6 +8,7 @@
 #include "document/RecoveryKeeper.h"
 #include "document/ctlGrid.h"
 #include "document/rules/file/CodePage.h"
+#include "exchange/rules/Conversion.h"
 #include "memory/StoredMemory.h"
 #include "platform/ClipboardOwner.h"
 #include "platform/CupsServer.h"
@@ -220,6 +221,17 @@ QString modKod::textLanguage(const CommandLine &commandLine)
 {
     const QString &wanted = commandLine.language;
     return TextLanguage::bestOf(wanted.isNull() ? QLocale::system().uiLanguages() : QStringList(wanted));
+}
+
+int modKod::convert(const QStringList &files)
+{
+    QTextStream complaints(stderr);
+    if (files.size() != 2) {
+        complaints << resText(14566) << '\n' << resText(12601) << '\n';
+        return UsageError;
+    }
+    const QLocale locale = QLocale::system();
+    return Conversion::run(files[0], files[1], {CodePage::nameFor(locale), locale}, complaints);
 }
 
 bool modKod::answer(const CommandLine &commandLine, int &exitCode)

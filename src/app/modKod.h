@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 struct CommandLine;
 class QApplication;
@@ -14,6 +14,9 @@ QString textLanguage(const CommandLine &commandLine);
 /// What can be answered without a display: the help text, the version, or that an option or a language is unknown. True
 /// when it was; exitCode is that of the process then.
 bool answer(const CommandLine &commandLine, int &exitCode);
+
+/// Turns the first of two files into the second, without a display. Returns the exit code of the process.
+int convert(const QStringList &files);
 
 /// Runs as the only copy on the user's desktop, or hands the command line to the copy that runs already and returns.
 /// Returns the exit code of the process.

@@ -51,7 +51,9 @@ CommandLine CommandLine::parse(const QStringList &arguments, const QString &fold
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         const QString &argument = arguments.at(i);
         const int toolkits = options && isOption(argument) ? toolkitArguments(argument) : 0;
-        if (toolkits > 0)
+        if (line.convert)
+            line.convertFiles += localPath(argument);
+        else if (toolkits > 0)
             i += toolkits - 1;
         else if (!options || !isOption(argument))
             words += localPath(argument);
@@ -61,6 +63,8 @@ CommandLine CommandLine::parse(const QStringList &arguments, const QString &fold
             line.help = true;
         else if (argument == QStringLiteral("--version"))
             line.version = true;
+        else if (argument == QStringLiteral("--convert"))
+            line.convert = true;
         else if (argument == QStringLiteral("--no-splash"))
             line.splash = false;
         else if (argument.startsWith(QStringLiteral("--language=")))

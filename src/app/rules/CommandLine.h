@@ -12,6 +12,9 @@ struct CommandLine
     bool splash = true;
     /// The language that the texts are wanted in, as a locale's name; null: the desktop's.
     QString language;
+    /// A file is to be turned into another one, without a window: their paths, or fewer where they were not given.
+    bool convert = false;
+    QStringList convertFiles;
     /// The first option that the program does not have; empty: none.
     QString unknownOption;
     /// All that is no option, joined by blanks: the path of one file, absolute, and in quotes if it was given so.
