@@ -5,6 +5,7 @@ class CommonDialogs;
 class DocumentList;
 class EditCommands;
 class FileCommands;
+class ListCommands;
 class MainHelp;
 class PasteGuard;
 class PrintCommands;
@@ -31,6 +32,7 @@ struct AppContext
     DocumentList &documents;
     FileCommands &files;
     EditCommands &edit;
+    ListCommands &lists;
     const PasteGuard &pasteGuard;
     clsMRUFileList &recentFiles;
     PrintCommands &print;

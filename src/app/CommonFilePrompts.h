@@ -7,7 +7,7 @@ class CommonDialogs;
 class QWidget;
 class clsCommDlg;
 
-/// Asks for vocabulary files with the common dialogs, owned by the main window.
+/// Asks for files with the common dialogs, owned by the main window.
 class CommonFilePrompts : public FilePrompts
 {
 public:
@@ -17,6 +17,8 @@ public:
 
     QString askOpen(const QString &folder) override;
     QString askSave(const QString &proposed, const QString &folder) override;
+    QString askImport(const QString &folder) override;
+    QString askExport(const QString &proposed, const QString &folder) override;
 
 private:
     QString ask(clsCommDlg &dialog, int action) const;

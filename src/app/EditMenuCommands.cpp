@@ -5,6 +5,7 @@
 #include "app/frmApp.h"
 #include "document/DocumentList.h"
 #include "document/EditCommands.h"
+#include "exchange/ListCommands.h"
 #include "resources/Pictures.h"
 #include "resources/StringTable.h"
 #include "services/AlertBox.h"
@@ -31,10 +32,10 @@ std::function<void()> onActive(const AppContext &context, void (EditCommands::*c
     };
 }
 
-void paste(const AppContext &context)
+void pasteIfItAnswers(const AppContext &context, const std::function<void()> &paste)
 {
     if (context.pasteGuard.mayPaste())
-        return onActive(context, &EditCommands::Paste)();
+        return paste();
     context.alert.show(nullptr, {.prompt = resText(14077), .sound = true, .exclamation = true});
 }
 
@@ -90,9 +91,12 @@ void AppCommands::addEditCommands(CommandTable &table, const AppContext &context
     table.add({"mnuEditCut", 421, "Ctrl+X", 22, PictureCut, DocumentOrEditing, onActive(context, &EditCommands::Cut)});
     table.add(
         {"mnuEditCopy", 422, "Ctrl+C", 23, PictureCopy, DocumentOrEditing, onActive(context, &EditCommands::Copy)});
-    table.add({"mnuEditPaste", 423, "Ctrl+V", 24, PicturePaste, DocumentOrEditing, [&context] { paste(context); }});
+    table.add({"mnuEditPaste", 423, "Ctrl+V", 24, PicturePaste, DocumentOrEditing,
+               [&context] { pasteIfItAnswers(context, onActive(context, &EditCommands::Paste)); }});
     table.add({"mnuEditClear", 424, "", 25, PictureClear, Document, onActive(context, &EditCommands::Clear)});
     table.add({"mnuEditInsert", 426, "Ctrl+I", 27, PictureInsert, Document, onActive(context, &EditCommands::Insert)});
     table.add({"mnuEditDelete", 427, "Ctrl+K", 28, PictureDelete, Document, onActive(context, &EditCommands::Delete)});
     addFindCommands(table, context);
+    table.add({"mnuEditPasteList", 14502, "", 14505, 0, Document,
+               [&context] { pasteIfItAnswers(context, [&context] { context.lists.pasteList(&context.window); }); }});
 }

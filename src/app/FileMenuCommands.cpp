@@ -3,6 +3,7 @@
 #include "app/CommandTable.h"
 #include "app/frmApp.h"
 #include "document/FileCommands.h"
+#include "exchange/ListCommands.h"
 #include "resources/Pictures.h"
 #include "services/settings/clsMRUFileList.h"
 #include "services/status/modSBFunc.h"
@@ -12,6 +13,7 @@ namespace {
 using enum AppState;
 
 constexpr StateSet NotBusy(StateDocument, StateNoDocument);
+constexpr StateSet Document(StateDocument);
 constexpr StateSet DocumentOrEditing(StateDocument, StateEditing);
 constexpr StateSet Always(StateDocument, StateNoDocument, StateEditing, StatePreview);
 
@@ -34,6 +36,10 @@ void AppCommands::addFileCommands(CommandTable &table, const AppContext &context
     table.add({"mnuFileClose", 403, "Ctrl+W", 4, PictureClose, DocumentOrEditing, [&files] { files.closeActive(); }});
     table.add({"mnuFileSave", 405, "Ctrl+S", 6, PictureSave, DocumentOrEditing, [&files] { files.save(); }});
     table.add({"mnuFileSaveAs", 406, "", 7, PictureSaveAs, DocumentOrEditing, [&files] { files.saveAs(); }});
+    ListCommands &lists = context.lists;
+    table.add(
+        {"mnuFileImport", 14500, "", 14503, 0, NotBusy, [&context] { context.lists.importFile(&context.window); }});
+    table.add({"mnuFileExport", 14501, "", 14504, 0, Document, [&lists] { lists.exportActive(); }});
     for (int n = 1; n <= clsMRUFileList::Capacity; ++n)
         addRecentFile(table, context, n);
     table.add({"mnuFileExit", 417, "", 18, PictureExit, Always, [&context] { context.window.close(); }});

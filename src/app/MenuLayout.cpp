@@ -28,11 +28,11 @@ const std::vector<Menu> &menus()
 {
     static const std::vector<Menu> all{
         {QStringLiteral("mnuFile"), 400, 1030,
-         keys("mnuFileNew mnuFileOpen mnuFileClose -mnuFile(3) mnuFileSave mnuFileSaveAs -mnuFile(8) mnuFilePageSetup "
-              "mnuFilePrintPreview mnuFilePrint mnuFilePrintTest")},
+         keys("mnuFileNew mnuFileOpen mnuFileClose -mnuFile(3) mnuFileSave mnuFileSaveAs mnuFileImport mnuFileExport "
+              "-mnuFile(8) mnuFilePageSetup mnuFilePrintPreview mnuFilePrint mnuFilePrintTest")},
         {QStringLiteral("mnuEdit"), 418, 1040,
          keys("mnuEditUndo -mnuEdit(1) mnuEditCut mnuEditCopy mnuEditPaste mnuEditClear -mnuEdit(5) mnuEditInsert "
-              "mnuEditDelete -mnuEdit(5) mnuEditFind mnuEditReplace")},
+              "mnuEditDelete -mnuEdit(5) mnuEditFind mnuEditReplace - mnuEditPasteList")},
         {QStringLiteral("mnuVocabulary"), 431, 1050,
          keys("mnuVocabularyLanguage -mnuToolbar(0) mnuVocabularyRowHeight mnuVocabularyColumnWidth "
               "-mnuToolbar(3) mnuVocabularyFont mnuVocabularySort - mnuVocabularyCheck mnuVocabularyProgress - "

@@ -12,6 +12,7 @@
 #include "document/DocumentList.h"
 #include "document/FileCommands.h"
 #include "document/ctlGrid.h"
+#include "exchange/ListCommands.h"
 #include "memory/StoredMemory.h"
 #include "print/PrintCommands.h"
 #include "quiz/QuizCommands.h"
@@ -52,6 +53,8 @@ void acceptAsCopy(QDropEvent &event)
 
 UndoKind undoKindOf(const QString &caption)
 {
+    if (caption == resText(int(UndoKind::Import)))
+        return UndoKind::Import;
     for (int id = int(UndoKind::Insert); id <= int(UndoKind::Replace); ++id) {
         if (caption == resText(id))
             return UndoKind(id);
@@ -118,13 +121,18 @@ void frmApp::createParts(const Needs &needs)
     auto *files = new FileCommands({*documents, m_recentFiles, *status, needs.alert, needs.prompts, needs.copies},
                                    needs.codePage, this);
     m_editCommands = std::make_unique<EditCommands>(needs.undo, *QGuiApplication::clipboard());
+    m_listCommands =
+        std::make_unique<ListCommands>(ListCommands::Needs{*documents, *files, *m_editCommands, needs.prompts,
+                                                           needs.alert, *status, *QGuiApplication::clipboard()},
+                                       needs.codePage.name());
     auto *quizzes = new QuizCommands({*documents, *files, needs.settings, needs.alert, *status, needs.random,
                                       needs.errorSound, *this, needs.memory, needs.speaker},
                                      this);
     m_context = std::make_unique<AppContext>(AppContext{*this, needs.flags, needs.undo, needs.settings, needs.alert,
-                                                        *status, *documents, *files, *m_editCommands, needs.pasteGuard,
-                                                        m_recentFiles, *m_print, *m_help, needs.random, *quizzes,
-                                                        needs.dialogs, needs.memory, needs.speaker});
+                                                        *status, *documents, *files, *m_editCommands, *m_listCommands,
+                                                        needs.pasteGuard, m_recentFiles, *m_print, *m_help,
+                                                        needs.random, *quizzes, needs.dialogs, needs.memory,
+                                                        needs.speaker});
     setCentralWidget(createCentre());
     if (needs.memory)
         connect(needs.memory, &StoredMemory::changed, quizzes, &QuizCommands::refreshMode);

@@ -18,6 +18,7 @@ class DocumentArea;
 class DocumentCopies;
 class FilePrompts;
 class HelpDisplay;
+class ListCommands;
 class MainHelp;
 class PasteGuard;
 class PrintCommands;
@@ -128,6 +129,7 @@ private:
     RegistryStore &m_store;
     clsMRUFileList m_recentFiles;
     std::unique_ptr<EditCommands> m_editCommands;
+    std::unique_ptr<ListCommands> m_listCommands;
     DocumentArea *m_area;
     QStackedWidget *m_views; ///< the document area, and the print preview in its place
     std::unique_ptr<PrintHost> m_printHost;

@@ -150,6 +150,31 @@ void EditCommands::Insert(frmDoc &document)
     m_record.setKind(UndoKind::Insert, &document);
 }
 
+void EditCommands::Import(frmDoc &document, const Vocabulary &words, const QString &note)
+{
+    ctlGrid &grid = *document.Rutor();
+    document.endEdit();
+    const int rows = int(words.rows()) - 1;
+    const int top = document.selection().top();
+    if (rows <= 0 || grid.Rows() + rows > Vocabulary::MostRows)
+        return;
+    m_record.selection = document.selection();
+    m_record.overwritten = {{top, 1, top + rows - 1, Columns}, {}};
+    grid.setRedraw(false);
+    grid.insertRows(top, rows);
+    for (int row = 0; row < rows; ++row) {
+        grid.setTextMatrix(top + row, 1, words.first[size_t(row) + 1]);
+        grid.setTextMatrix(top + row, 2, words.second[size_t(row) + 1]);
+        document.growRow(top + row, 1);
+        document.growRow(top + row, 2);
+    }
+    document.select({top, 1, top, 1});
+    grid.setRedraw(true);
+    grid.setFocus();
+    document.setDirty(true);
+    m_record.setKind(UndoKind::Import, &document, note);
+}
+
 void EditCommands::Delete(frmDoc &document)
 {
     ctlGrid &grid = *document.Rutor();
@@ -215,6 +240,10 @@ bool EditCommands::reverse(frmDoc &document)
     case UndoKind::Insert:
         document.select(m_record.selection);
         document.Rutor()->removeRows(m_record.selection.top(), m_record.selection.rowCount());
+        break;
+    case UndoKind::Import:
+        document.Rutor()->removeRows(m_record.overwritten.cells.top(), m_record.overwritten.cells.rowCount());
+        document.select(m_record.selection);
         break;
     case UndoKind::Delete:
         undoDelete(document);

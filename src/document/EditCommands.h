@@ -6,6 +6,7 @@
 class QClipboard;
 class ctlGrid;
 class frmDoc;
+struct Vocabulary;
 
 /// The commands of the Edit menu that change a document, and their undo. While the grid is browsing they act on its
 /// selection, while a cell is being edited on the edit box. Each leaves a record of what it did, Copy excepted.
@@ -25,6 +26,9 @@ public:
     void Clear(frmDoc &document);
     /// Inserts as many empty rows as are selected above them.
     void Insert(frmDoc &document);
+    /// Inserts the rows of a list but its first, the names of the languages, above the current row. note is what the
+    /// user is told of it. Nothing happens where a file could not hold them.
+    void Import(frmDoc &document, const Vocabulary &words, const QString &note);
     /// Deletes the selected rows. When they are all rows, the last of them stays, emptied.
     void Delete(frmDoc &document);
     /// Gives a cell another text, as one that is edited there.

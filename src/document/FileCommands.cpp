@@ -97,6 +97,10 @@ frmDoc &FileCommands::openUntitled(Vocabulary &&vocabulary)
 {
     newDocument(); // whoever keeps copies sees the words come
     frmDoc &document = *m_needs.documents.open().back();
+    for (std::vector<QString> *column : {&vocabulary.first, &vocabulary.second}) {
+        if (vocabulary.rows() > 0 && column->front().isEmpty())
+            column->front() = document.language(column == &vocabulary.first ? 1 : 2);
+    }
     GridContent::fill(*document.Rutor(), std::move(vocabulary));
     document.Rutor()->growCutRows();
     document.setDirty(true);

@@ -21,4 +21,6 @@ struct ScriptedPrompts : FilePrompts
         proposed.append(name);
         return savePath;
     }
+    QString askImport(const QString &place) override { return askOpen(place); }
+    QString askExport(const QString &name, const QString &place) override { return askSave(name, place); }
 };

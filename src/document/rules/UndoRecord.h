@@ -18,7 +18,8 @@ enum class UndoKind {
     Entry = 805,
     Typing = 806,
     Sort = 807,
-    Replace = 808
+    Replace = 808,
+    Import = 14510
 };
 
 /// The program's one level of undo. Every recording command replaces the fields that it uses and names its kind; the
