@@ -62,9 +62,11 @@ QString mnemonics(const QWidget &window)
 TEST_F(HelpTest, EveryControlOfEveryDialogHasATopicATextANameAndAKey)
 {
     newDocument()->Rutor()->setWords({"", "1", "2", "3", "4", ""}, {"", "5", "6", "7", "8", ""}, {});
+    QGuiApplication::clipboard()->setText("a - b");
     const std::tuple<const char *, int, const char *> commands[] = {
         {"mnuEditFind", 1160, "FD12MWNRC"},
         {"mnuEditReplace", 1170, "FED12MWNRAC"},
+        {"mnuEditPasteList", 3030, "S12WFMNT"},
         {"mnuVocabularyLanguage", 1180, "12"},
         {"mnuVocabularyFont", 1204, "FSOBIU"},
         {"mnuVocabularyRowHeight", 1200, "R"},

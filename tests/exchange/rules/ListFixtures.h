@@ -1,0 +1,48 @@
+#pragma once
+
+#include "exchange/rules/ListReader.h"
+#include "exchange/rules/Pairs.h"
+
+#include <zip.h>
+
+/// "a|b" for every row that arrives, the names first; the error as a number when nothing can be read.
+inline QStringList pairsOf(const ListReader::Result &opened, int list = -1)
+{
+    if (!opened.source)
+        return {QString::number(int(opened.error))};
+    ReadChoices choices = opened.source->proposal();
+    choices.list = list < 0 ? choices.list : list;
+    const ListReader::Table read = ListReader::read(*opened.source, choices);
+    const Vocabulary words = Pairs::take(read.table, Pairs::proposal(read.table, opened.source->hasMarkup()));
+    QStringList rows;
+    for (qsizetype row = 0; row < words.rows(); ++row)
+        rows += words.first[size_t(row)] + u'|' + words.second[size_t(row)];
+    return rows;
+}
+
+inline ListReader::Result openBytes(const QByteArray &bytes)
+{
+    return ListReader::open(bytes, {"windows-1252", QLocale::c()});
+}
+
+inline QStringList pairsOf(const QByteArray &bytes)
+{
+    return pairsOf(openBytes(bytes));
+}
+
+inline QByteArray zipOf(const std::vector<std::pair<QByteArray, QByteArray>> &entries)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("a.zip");
+    zip_t *archive = zip_open(path.toUtf8().constData(), ZIP_CREATE, nullptr);
+    for (const auto &[name, bytes] : entries)
+        zip_file_add(archive, name.constData(),
+                     zip_source_buffer(archive, bytes.constData(), zip_uint64_t(bytes.size()), 0), 0);
+    EXPECT_EQ(zip_close(archive), 0);
+    return readFile(path);
+}
+
+inline QByteArray ods(const QByteArray &content)
+{
+    return zipOf({{"mimetype", "application/vnd.oasis.opendocument.spreadsheet"}, {"content.xml", content}});
+}
