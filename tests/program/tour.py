@@ -153,6 +153,23 @@ class Tour:
         self._dialog(904, "languages", "shift+F10", 474)
         self._dialog(ALERT, "alert, save changes", "ctrl+w")
 
+    def leg_lists(self):
+        file = self._home / "words.csv"
+        file.write_text("English;German;Note\nhouse;Haus;n\n;;\nto run;laufen;\n")
+        self._start(LESSON)
+        self._press("alt+f", "i")
+        self._expect("Import List")
+        self._visit("dialog import, file")
+        self._desktop.type(f"{file}\r")
+        self._expect("Import - words.csv")
+        self._visit("dialog import, text")
+        self._press("alt+w")
+        self._visit("dialog import, swapped")
+        self._press("Return")
+        self._expect("Glosaria")
+        self._visit("main, imported list")
+        self._dialog("Export List", "export, file", "alt+f", "e")
+
     def leg_files(self):
         damaged = self._home / "damaged.gla"
         damaged.write_bytes(b"Glosaria\r\n3.1.0\r\nnothing more")

@@ -105,12 +105,12 @@ void appendHtmlRow(QString &text, const QString &first, const QString &second, c
 
 QString html(const Vocabulary &vocabulary, const QString &title)
 {
-    QString text = QStringLiteral("<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<title>") +
-                   title.toHtmlEscaped() +
-                   QStringLiteral("</title>\n<style>\ntable { border-collapse: collapse; width: 100%; }\n"
-                                  "th, td { border: 1px solid #888; padding: 0.2em 0.5em; text-align: start; "
-                                  "vertical-align: top; width: 50%; }\ntr { break-inside: avoid; }\n"
-                                  "thead { display: table-header-group; }\n</style>\n</head>\n<body>\n<table>\n");
+    QString text =
+        QStringLiteral("<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<title>") + title.toHtmlEscaped() +
+        QStringLiteral("</title>\n<style>\ntable { border-collapse: collapse; width: 100%; }\n"
+                       "th, td { border: 1px solid #888; padding: 0.2em 0.5em; text-align: start; "
+                       "vertical-align: top; white-space: pre-wrap; width: 50%; }\ntr { break-inside: avoid; }\n"
+                       "thead { display: table-header-group; }\n</style>\n</head>\n<body>\n<table>\n");
     if (hasNames(vocabulary)) {
         text += QStringLiteral("<thead>\n");
         appendHtmlRow(text, vocabulary.first.front(), vocabulary.second.front(), "th");

@@ -22,7 +22,8 @@ QString ownName(const QByteArray &code)
 {
     std::array<UChar, 100> name{};
     UErrorCode status = U_ZERO_ERROR;
-    const int size = uloc_getDisplayLanguage(code.constData(), code.constData(), name.data(), int(name.size()), &status);
+    const int size =
+        uloc_getDisplayLanguage(code.constData(), code.constData(), name.data(), int(name.size()), &status);
     return U_SUCCESS(status) ? QString::fromUtf16(name.data(), size) : QString();
 }
 

@@ -7,7 +7,7 @@ class Limits
 {
 public:
     explicit Limits(qsizetype fileSize)
-        : m_unpacked(64 * MB + 20 * fileSize)
+        : m_unpacked(32 * MB + 20 * fileSize)
         , m_kept(64 * MB + 5 * fileSize)
     {
     }
