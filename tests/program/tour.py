@@ -165,7 +165,7 @@ class Tour:
         self._visit("dialog import, text")
         self._press("alt+w")
         self._visit("dialog import, swapped")
-        self._press("Return")
+        self._press("alt+n", "Return")
         self._expect("Glosaria")
         self._visit("main, imported list")
         self._dialog("Export List", "export, file", "alt+f", "e")
