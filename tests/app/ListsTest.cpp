@@ -9,12 +9,14 @@ struct ListsTest : MainWindowFixture
     /// Runs a command, changes its preview and accepts it.
     void accept(const QString &command, const std::function<void(QDialog &)> &change = {})
     {
-        inDialog(command, [&](QDialog &dialog) {
+        QTimer::singleShot(0, window.get(), [&] {
+            auto &dialog = dynamic_cast<QDialog &>(*QApplication::activeModalWidget());
             if (change)
                 change(dialog);
             EXPECT_TRUE(child<QPushButton>(dialog, "btnOK")->isEnabled());
             child<QPushButton>(dialog, "btnOK")->click();
         });
+        window->DoMenuClick(command);
     }
     template <typename Control> static Control *child(QDialog &dialog, const char *name)
     {

@@ -59,15 +59,20 @@ bool hasWord(const TextTable &table, qsizetype row, const PairChoice &choice)
     return !table.isBlank(row, choice.first) || !table.isBlank(row, choice.second);
 }
 
+QString asWord(QString text)
+{
+    if (text.contains(QChar()))
+        text.remove(QChar());
+    return CellText::cleaned(text);
+}
+
 QString word(const TextTable &table, qsizetype row, int column, bool markup)
 {
     const QStringView cell = table.cell(row, column);
     QString text = markup && (cell.contains(u'<') || cell.contains(u'&') || cell.contains(u'[') || cell.contains(u'{'))
                        ? MarkupText::plain(cell)
                        : cell.toString();
-    if (text.contains(QChar()))
-        text.remove(QChar());
-    return CellText::cleaned(text);
+    return asWord(std::move(text));
 }
 
 /// The first row below the names.
@@ -134,7 +139,8 @@ Vocabulary Pairs::take(const TextTable &table, const PairChoice &choice, qsizety
         vocabulary.append(word(table, first - 1, choice.first, choice.markup),
                           word(table, first - 1, choice.second, choice.markup));
     else
-        vocabulary.append(table.columnNames.value(choice.first), table.columnNames.value(choice.second));
+        vocabulary.append(asWord(table.columnNames.value(choice.first)),
+                          asWord(table.columnNames.value(choice.second)));
     for (qsizetype row = first; row < table.rows() && vocabulary.rows() <= most; ++row) {
         if (hasWord(table, row, choice))
             vocabulary.append(word(table, row, choice.first, choice.markup),

@@ -11,6 +11,8 @@ VocabularyLists::VocabularyLists(const QByteArray &bytes, const QByteArray &code
         throw ReadFailure(ReadError::NewerKind);
     if (result.outcome != Outcome::Ok)
         throw ReadFailure(ReadError::Damaged);
+    if (result.vocabulary.rows() == 0)
+        throw ReadFailure(ReadError::Empty);
     m_vocabulary = std::move(result.vocabulary);
 }
 
