@@ -37,8 +37,8 @@ public:
     FileCommands(const Needs &needs, const CodePage &codePage, QObject *parent = nullptr);
 
     void newDocument();
-    /// Opens words as a document that has no file yet and is changed. Names of the languages that they lack are those of
-    /// a new document.
+    /// Opens words as a document that has no file yet and is changed. Names of the languages that they lack are those
+    /// of a new document.
     frmDoc &openUntitled(Vocabulary &&vocabulary);
     void open();
     void save();

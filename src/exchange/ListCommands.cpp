@@ -68,7 +68,7 @@ void ListCommands::import(const ListReader::Result &opened, const QString &name,
     const QString note = withNumber(Imported, words.rows() - 1);
     if (!dialog.intoNew())
         return m_needs.edit.Import(*document, words, note);
-    m_needs.files.newDocument(std::move(words));
+    m_needs.files.openUntitled(std::move(words));
     m_needs.status.SBSetText(0, modSBFunc::SBT_SUNKEN, note);
 }
 
