@@ -55,6 +55,7 @@ TEST_F(ListsTest, AListIsReadAsThePreviewShowsIt)
         child<QComboBox>(dialog, "cboSeparator")->setCurrentText("Comma");
         child<QComboBox>(dialog, "cboSeparator")->setCurrentText(";");
         EXPECT_EQ(child<QComboBox>(dialog, "cboFirst")->currentIndex(), 0) << "other columns, another proposal";
+        child<QCheckBox>(dialog, "chkNames")->setChecked(true);
         child<QComboBox>(dialog, "cboFirst")->setCurrentIndex(2);
         child<QComboBox>(dialog, "cboSecond")->setCurrentIndex(1);
     });
