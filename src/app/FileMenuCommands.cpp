@@ -38,7 +38,7 @@ void AppCommands::addFileCommands(CommandTable &table, const AppContext &context
     table.add({"mnuFileSaveAs", 406, "", 7, PictureSaveAs, DocumentOrEditing, [&files] { files.saveAs(); }});
     ListCommands &lists = context.lists;
     table.add(
-        {"mnuFileImport", 14500, "", 14503, 0, NotBusy, [&context] { context.lists.importFile(&context.window); }});
+        {"mnuFileImport", 14500, "", 14503, 0, Document, [&context] { context.lists.importFile(&context.window); }});
     table.add({"mnuFileExport", 14501, "", 14504, 0, Document, [&lists] { lists.exportActive(); }});
     for (int n = 1; n <= clsMRUFileList::Capacity; ++n)
         addRecentFile(table, context, n);

@@ -18,6 +18,7 @@ constexpr int NewText = 21130;    // What's This
 constexpr int OpenText = NewText + 1;
 constexpr int RecentText = NewText + 2;
 constexpr int LessonText = NewText + 3;
+constexpr int ImportText = NewText + 4;
 
 } // namespace
 
@@ -46,7 +47,9 @@ void StartPage::build()
     auto *left = new QVBoxLayout;
     left->setSpacing(Margin);
     auto *start = new LinkList(resText(14701), page);
-    start->setLinks({{resText(14702), {}, NewText, m_needs.newDocument}, {resText(14703), {}, OpenText, m_needs.open}});
+    start->setLinks({{resText(14702), {}, NewText, m_needs.newDocument},
+                     {resText(14703), {}, OpenText, m_needs.open},
+                     {resText(14706), {}, ImportText, m_needs.importList}});
     m_recentFiles = new LinkList(resText(14704), page);
     left->addWidget(start);
     left->addWidget(m_recentFiles);

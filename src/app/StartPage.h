@@ -21,6 +21,7 @@ public:
     {
         std::function<void()> newDocument;
         std::function<void()> open;
+        std::function<void()> importList;
         std::function<void(const QString &path)> openFile;
         std::function<void(const QString &path)> openLesson;
         const clsMRUFileList &recentFiles;

@@ -128,11 +128,10 @@ void frmApp::createParts(const Needs &needs)
     auto *quizzes = new QuizCommands({*documents, *files, needs.settings, needs.alert, *status, needs.random,
                                       needs.errorSound, *this, needs.memory, needs.speaker},
                                      this);
-    m_context = std::make_unique<AppContext>(AppContext{*this, needs.flags, needs.undo, needs.settings, needs.alert,
-                                                        *status, *documents, *files, *m_editCommands, *m_listCommands,
-                                                        needs.pasteGuard, m_recentFiles, *m_print, *m_help,
-                                                        needs.random, *quizzes, needs.dialogs, needs.memory,
-                                                        needs.speaker});
+    m_context = std::make_unique<AppContext>(
+        AppContext{*this, needs.flags, needs.undo, needs.settings, needs.alert, *status, *documents, *files,
+                   *m_editCommands, *m_listCommands, needs.pasteGuard, m_recentFiles, *m_print, *m_help, needs.random,
+                   *quizzes, needs.dialogs, needs.memory, needs.speaker});
     setCentralWidget(createCentre());
     if (needs.memory)
         connect(needs.memory, &StoredMemory::changed, quizzes, &QuizCommands::refreshMode);
@@ -154,10 +153,12 @@ void frmApp::createStartPage(const QString &lessonFolder)
 {
     const auto command = [this](const char *key) { return [this, key] { DoMenuClick(QLatin1String(key)); }; };
     FileCommands &files = m_context->files;
-    m_startPage = new StartPage(*centralWidget(), *m_area,
-                                {command("mnuFileNew"), command("mnuFileOpen"),
-                                 [&files](const QString &path) { files.LoadVocabulary(path); },
-                                 [&files](const QString &path) { files.openCopy(path); }, m_recentFiles, lessonFolder});
+    ListCommands &lists = *m_listCommands;
+    m_startPage =
+        new StartPage(*centralWidget(), *m_area,
+                      {command("mnuFileNew"), command("mnuFileOpen"), [this, &lists] { lists.importFile(this); },
+                       [&files](const QString &path) { files.LoadVocabulary(path); },
+                       [&files](const QString &path) { files.openCopy(path); }, m_recentFiles, lessonFolder});
 }
 
 void frmApp::updateStartPage()

@@ -62,15 +62,12 @@ struct MainWindowFixture : ::testing::Test, DocumentCopies
         return documents().active();
     }
     QMenu *menu(const QString &key) { return window->menuBar()->findChild<QMenu *>(key); }
-    /// The captions of a menu as it drops down, without mnemonics and without what Import adds; "-" for a separator,
-    /// "(x)" for a disabled entry.
+    /// The captions of a menu as it drops down, without mnemonics; "-" for a separator, "(x)" for a disabled entry.
     QStringList entries(const QString &key)
     {
         Q_EMIT menu(key)->aboutToShow();
         QStringList list;
         for (const QAction *action : menu(key)->actions()) {
-            if (action->objectName() == "mnuFileImport")
-                continue;
             const QString text = action->isSeparator() ? "-" : action->text().remove(QLatin1Char('&'));
             list.append(action->isEnabled() || action->isSeparator() ? text : QStringLiteral("(%1)").arg(text));
         }

@@ -157,18 +157,17 @@ class Tour:
         file = self._home / "words.csv"
         file.write_text("English;German;Note\nhouse;Haus;n\n;;\nto run;laufen;\n")
         self._start(LESSON)
-        self._press("alt+f", "i")
-        self._expect("Import List")
-        self._visit("dialog import, file")
+        self._press("alt+400", 14500)
+        self._expect(14570)
         self._desktop.type(f"{file}\r")
-        self._expect("Import - words.csv")
+        self._expect(f"{self._texts.of(14511)} - words.csv")
         self._visit("dialog import, text")
-        self._press("alt+w")
+        self._press("alt+14519")
         self._visit("dialog import, swapped")
-        self._press("alt+n", "Return")
+        self._press("alt+14522", "Return")
         self._expect("Glosaria")
         self._visit("main, imported list")
-        self._dialog("Export List", "export, file", "alt+f", "e")
+        self._dialog(14571, "export, file", "alt+400", 14501)
 
     def leg_files(self):
         damaged = self._home / "damaged.gla"
