@@ -1,14 +1,26 @@
 #include "MainWindowFixture.h"
 
+#include "widgets/LinkList.h"
+
 #include <QClipboard>
 
 namespace {
 
 struct ListsTest : MainWindowFixture
 {
-    /// Runs a command, changes its preview and accepts it.
+    /// Runs a command, or follows the link of the start page with that text.
+    void begin(const QString &command)
+    {
+        for (LinkButton *link : window->findChildren<LinkButton *>()) {
+            if (link->text() == command)
+                return QTest::mouseClick(link, Qt::LeftButton);
+        }
+        window->DoMenuClick(command);
+    }
+    /// Begins, changes the preview and accepts it.
     void accept(const QString &command, const std::function<void(QDialog &)> &change = {})
     {
+        QCoreApplication::processEvents(); // the page shows
         QTimer::singleShot(0, window.get(), [&] {
             auto &dialog = dynamic_cast<QDialog &>(*QApplication::activeModalWidget());
             if (change)
@@ -16,7 +28,7 @@ struct ListsTest : MainWindowFixture
             EXPECT_TRUE(child<QPushButton>(dialog, "btnOK")->isEnabled());
             child<QPushButton>(dialog, "btnOK")->click();
         });
-        window->DoMenuClick(command);
+        begin(command);
     }
     template <typename Control> static Control *child(QDialog &dialog, const char *name)
     {
@@ -40,7 +52,7 @@ struct ListsTest : MainWindowFixture
 TEST_F(ListsTest, AListIsReadAsThePreviewShowsIt)
 {
     offer("x;English;German;note\n1;house;Haus;\n2;;;n\n3;a,b;c,d;\n");
-    accept("mnuFileImport", [](QDialog &dialog) {
+    accept("Import a list...", [](QDialog &dialog) {
         EXPECT_EQ(dialog.windowTitle(), "Import - list");
         EXPECT_EQ(previewed(dialog), "x");
         EXPECT_FALSE(child<QRadioButton>(dialog, "optThis")->isEnabled());
@@ -86,7 +98,8 @@ TEST_F(ListsTest, RowsGoInAboveTheCurrentOneAndOutAgain)
 TEST_F(ListsTest, WhatCannotBeReadOrWrittenIsTold)
 {
     offer("PK\x03\x04");
-    window->DoMenuClick("mnuFileImport");
+    QCoreApplication::processEvents();
+    begin("Import a list...");
     EXPECT_EQ(alert.onlyPrompt(), "The file list is damaged.");
     EXPECT_TRUE(documents().open().empty());
     newDocument()->Rutor()->setWords({"A", "1,2", ""}, {"B", "3", ""}, {});
