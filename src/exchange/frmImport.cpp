@@ -39,6 +39,7 @@ frmImport::frmImport(const ListSource &source, const QString &name, bool intoAct
     FormTexts::apply(this);
     EnterKey::leaveToDialog(*this);
     setWindowTitle(FormTexts::withoutMnemonic(windowTitle()) + QStringLiteral(" - ") + name);
+    m_ui->cboSeparator->lineEdit()->setAccessibleName(FormTexts::withoutMnemonic(m_ui->lblSeparator->text()));
     m_ui->optThis->setEnabled(intoActive);
     offerChoices();
     m_ui->chkMarkup->setChecked(source.hasMarkup());

@@ -167,7 +167,6 @@ class Tour:
         self._press("alt+14522", "Return")
         self._expect("Glosaria")
         self._visit("main, imported list")
-        self._dialog(14571, "export, file", "alt+400", 14501)
 
     def leg_files(self):
         damaged = self._home / "damaged.gla"
