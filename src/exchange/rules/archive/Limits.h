@@ -26,7 +26,7 @@ public:
     }
 
 private:
-    static constexpr qsizetype MB = 1024 * 1024;
+    static constexpr qsizetype MB = qsizetype(1024) * 1024;
 
     qsizetype m_unpacked;
     qsizetype m_kept;

@@ -65,7 +65,7 @@ public:
 private:
     bool refill()
     {
-        static constexpr qint64 PartSize = 128 * 1024;
+        static constexpr qint64 PartSize = qint64(128) * 1024;
         m_part = m_packed->read(PartSize);
         m_next = {m_part.constData(), size_t(m_part.size()), 0};
         return !m_part.isEmpty();

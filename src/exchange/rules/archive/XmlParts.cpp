@@ -3,7 +3,7 @@
 namespace {
 
 constexpr int MostDepth = 100;
-constexpr qsizetype LongestToken = 1024 * 1024; ///< bytes without a "<"; a cell has 32,767 letters at most
+constexpr qsizetype LongestToken = qsizetype(1024) * 1024; ///< bytes without a "<"; a cell has 32,767 letters at most
 
 } // namespace
 

@@ -23,7 +23,7 @@ QString collectionIn(const ZipPackage &package)
 /// A database can only be read from a file.
 void writeTo(QTemporaryFile &file, PackedStream &stream)
 {
-    static constexpr qint64 PartSize = 256 * 1024;
+    static constexpr qint64 PartSize = qint64(256) * 1024;
     if (!file.open())
         throw ReadFailure(ReadError::CannotOpen);
     for (QByteArray part = stream.read(PartSize); !part.isEmpty(); part = stream.read(PartSize)) {

@@ -117,7 +117,7 @@ void CollectionReader::readNamesAsText()
     const QJsonObject models = QJsonDocument::fromJson(query.value(1).toByteArray()).object();
     for (auto model = models.begin(); model != models.end(); ++model) {
         const QJsonArray fields = model.value()[u"flds"].toArray();
-        for (const QJsonValue &field : fields)
+        for (const auto &field : fields)
             m_fieldNames[model.key().toLongLong()] += field[u"name"].toString();
     }
 }

@@ -8,7 +8,7 @@ const QString DelimitedText::Equals = QStringLiteral("=");
 namespace {
 
 constexpr qsizetype SampleLines = 200;
-constexpr qsizetype SampleLetters = 128 * 1024;
+constexpr qsizetype SampleLetters = qsizetype(128) * 1024;
 
 bool isBreak(QChar c)
 {

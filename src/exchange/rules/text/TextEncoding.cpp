@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr qsizetype SampleSize = 64 * 1024;
+constexpr qsizetype SampleSize = qsizetype(64) * 1024;
 constexpr int LeastConfidence = 15; ///< of 100; below it the detector guesses
 
 /// What the detector says, and the larger character set by which texts of that kind are really written.

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr qsizetype SampleSize = 256 * 1024;
+constexpr qsizetype SampleSize = qsizetype(256) * 1024;
 
 /// Pictures, documents and programs are no texts in any character set.
 bool isNoText(QByteArrayView bytes, const QByteArray &encoding)

@@ -132,7 +132,7 @@ private:
 
 bool isLocked(const ZipPackage &package)
 {
-    static constexpr qsizetype Most = 64 * 1024;
+    static constexpr qsizetype Most = qsizetype(64) * 1024;
     return package.start(QStringLiteral("META-INF/manifest.xml"), Most).contains("encryption-data");
 }
 
