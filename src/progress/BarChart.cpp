@@ -107,11 +107,10 @@ void BarChart::keyPressEvent(QKeyEvent *event)
 {
     const int last = int(m_bars.size()) - 1;
     const int onward = isRightToLeft() ? -1 : 1;
-    if (m_bars.empty())
-        QWidget::keyPressEvent(event);
-    else if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right)
+    const bool any = !m_bars.empty();
+    if (any && (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right))
         goTo(std::clamp(m_current + (event->key() == Qt::Key_Right ? onward : -onward), 0, last));
-    else if (event->key() == Qt::Key_Home || event->key() == Qt::Key_End)
+    else if (any && (event->key() == Qt::Key_Home || event->key() == Qt::Key_End))
         goTo(event->key() == Qt::Key_Home ? 0 : last);
     else
         QWidget::keyPressEvent(event);

@@ -129,6 +129,7 @@ void frmProgress::refresh()
     const Hourglass hourglass;
     std::vector<ProgressWord> words = wordsOf(*m_document.Rutor(), m_ui->cboDirection->currentIndex() == 0);
     std::vector<WordKey> asked;
+    asked.reserve(words.size());
     for (const ProgressWord &word : words)
         asked.push_back(word.word);
     const std::vector<Card> cards = m_needs.memory.cards(asked);
@@ -165,6 +166,7 @@ void frmProgress::enableButtons()
 std::vector<WordKey> frmProgress::keys() const
 {
     std::vector<WordKey> keys;
+    keys.reserve(size_t(m_model.list().count()));
     for (int i = 0; i < m_model.list().count(); ++i)
         keys.push_back(m_model.list().at(i).word);
     return keys;

@@ -26,7 +26,7 @@ QtSpeaker::~QtSpeaker()
         delete m_thread;
         return;
     }
-    stop();
+    QtSpeaker::stop();
     QMetaObject::invokeMethod(m_worker, [thread = m_thread] { thread->quit(); });
     if (m_thread->wait(LongestWait))
         delete m_thread;

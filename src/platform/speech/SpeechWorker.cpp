@@ -27,7 +27,7 @@ QString SpeechWorker::engine()
 {
     QStringList engines = QTextToSpeech::availableEngines();
     engines.removeAll(QStringLiteral("mock")); // for tests of the toolkit, silent
-    const QString usual = QStringLiteral("speechd");
+    QString usual = QStringLiteral("speechd");
     const bool isService = engines.removeAll(usual) > 0;
     if (isService && !QStandardPaths::findExecutable(QStringLiteral("speech-dispatcher")).isEmpty())
         return usual;
