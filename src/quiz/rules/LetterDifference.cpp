@@ -112,7 +112,7 @@ void LetterDifference::Table::fillRow(size_t i)
 {
     const quint16 *above = &best(i - 1, 0);
     quint16 *row = &best(i, 0);
-    const quint16 *pairs = &m_pairs[m_givenAlphabet.numberAt(i - 1) * m_expectedAlphabet.size()];
+    const quint16 *pairs = m_pairs.data() + m_givenAlphabet.numberAt(i - 1) * m_expectedAlphabet.size();
     for (size_t j = 1; j <= m_expected; ++j) {
         const int paired = above[j - 1] + pairs[m_expectedAlphabet.numberAt(j - 1)];
         int most = std::max({int(above[j]), int(row[j - 1]), paired});
