@@ -50,6 +50,8 @@ class SpeechCase(ProgramCase):
         self.open_dialog("Quiz Options", "alt+q", "o")
 
     def test_words_are_read_until_the_quiz_ends(self):
+        if "ASAN_OPTIONS" in os.environ:
+            self.skipTest("taking in ten thousand voices takes minutes under the sanitizers")
         self._start_loudspeaker()
         self._open_options()
         self._switch_reading(True)
