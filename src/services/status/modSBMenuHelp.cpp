@@ -41,9 +41,8 @@ bool modSBMenuHelp::eventFilter(QObject *, QEvent *event)
 void modSBMenuHelp::onTip(const QString &tip)
 {
     const QAction *entry = highlightedEntry();
-    if (entry && entry->isEnabled())
-        show(tip);
-    else if (!entry && !tip.isEmpty() && !m_status.isHeldBack())
+    const bool isTold = entry ? entry->isEnabled() : !tip.isEmpty() && !m_status.isHeldBack();
+    if (isTold)
         show(tip);
     else
         leave();
