@@ -10,6 +10,8 @@
 #include <QGridLayout>
 #include <QResizeEvent>
 
+#include <utility>
+
 namespace {
 
 constexpr int Margin = 24;        // pixels
@@ -98,6 +100,8 @@ void StartPage::placeLessons()
     const int left = std::max(m_recentFiles->sizeHint().width(), m_recentFiles->parentWidget()->x());
     const int room = m_area.width() - left - 4 * Margin;
     const int count = std::clamp(room / (width + Margin), 1, std::max(1, int(m_lessons.size())));
+    if (std::exchange(m_listsBeside, count) == count)
+        return;
     for (size_t i = 0; i < m_lessons.size(); ++i)
         m_lessonLayout->addWidget(m_lessons[i], int(i) / count, int(i) % count, Qt::AlignTop);
     m_lessonLayout->setRowStretch(int(m_lessons.size()), 1);

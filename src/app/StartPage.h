@@ -49,4 +49,5 @@ private:
     LinkList *m_recentFiles = nullptr;
     QGridLayout *m_lessonLayout = nullptr;
     std::vector<LinkList *> m_lessons; ///< a list a language
+    int m_listsBeside = 0;             ///< how many of them stand in a row
 };

@@ -78,7 +78,15 @@ LinkButton::LinkButton(const QString &text, QWidget *parent)
 
 QSize LinkButton::sizeHint() const
 {
-    return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(2 * Margin, 2 * Margin);
+    if (!m_size.isValid())
+        m_size = fontMetrics().size(Qt::TextSingleLine, text()) + QSize(2 * Margin, 2 * Margin);
+    return m_size;
+}
+
+void LinkButton::changeEvent(QEvent *event)
+{
+    m_size = {};
+    QPushButton::changeEvent(event);
 }
 
 void LinkButton::paintEvent(QPaintEvent *)

@@ -22,8 +22,12 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    mutable QSize m_size; ///< invalid until it is asked for; layouts ask often
 };
 
 /// Links one below the other under a heading. The Tab key stops at the list once, the arrow keys, Home and End go
