@@ -32,7 +32,7 @@ QString ImportTexts::arriving(const Pairs::Count &count, int mostShown)
     if (count.rows > mostShown)
         text += u' ' + resText(14539).arg(mostShown);
     if (!missing.isEmpty())
-        text += u'\n' + resText(14534).arg(missing.join(QStringLiteral(", ")));
+        text += u'\n' + resText(14534).arg(missing.join(resText(14909)));
     return text;
 }
 

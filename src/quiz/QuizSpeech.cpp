@@ -75,7 +75,7 @@ QString remark(const Judgement &judgement, bool correct)
         if (used)
             all << resText(id);
     }
-    return all.isEmpty() ? QString() : resText(14210).arg(all.join(QStringLiteral(", ")));
+    return all.isEmpty() ? QString() : resText(14210).arg(all.join(resText(14909)));
 }
 
 QString state(const QuizSession &session)

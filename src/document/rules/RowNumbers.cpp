@@ -27,7 +27,7 @@ QString rowNumbersText(const std::vector<qsizetype> &numbers)
             ++last;
         ranges.append(rangeText(first, last));
     }
-    QString text = ranges.join(QStringLiteral(", "));
+    QString text = ranges.join(resText(14909));
     if (told < numbers.size())
         text = resText(14062).arg(text).arg(numbers.size() - told);
     return resText(numbers.size() == 1 ? 14060 : 14061).arg(text);
