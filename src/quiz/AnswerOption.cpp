@@ -80,8 +80,8 @@ void AnswerOption::fit()
     const QString shown = fittedText(m_fullText, font(), roomForText());
     setToolTip(shown == m_fullText ? QString() : FormTexts::plainToolTip(m_fullText));
     QString caption = FormTexts::escapeMnemonic(shown);
-    // Keeps the punctuation of a right-to-left text on its own side of the number.
-    if (m_fullText.isRightToLeft())
+    // Keeps the punctuation of a text that runs against the window on its own side of the number.
+    if (m_fullText.isRightToLeft() != isRightToLeft())
         caption = FirstStrongIsolate + caption + PopDirectionalIsolate;
     setText(u'&' + QString::number(m_number) + u' ' + caption);
 }
