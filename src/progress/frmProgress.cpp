@@ -46,7 +46,7 @@ std::vector<BarChart::Bar> daily(const std::vector<int> &counts, int first)
         const QDate date = Day::date(first + i);
         const bool isMarked = i % (2 * DaysOfWeek) == 0;
         bars.push_back({locale.toString(date, QLocale::ShortFormat), counts[size_t(i)],
-                        isMarked ? locale.toString(date, QStringLiteral("d MMM")) : QString()});
+                        isMarked ? locale.toString(date, resText(14908)) : QString()});
     }
     return bars;
 }
