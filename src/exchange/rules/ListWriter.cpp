@@ -1,98 +1,60 @@
 #include "exchange/rules/ListWriter.h"
 
 #include "document/rules/Vocabulary.h"
+#include "services/rules/QuotedText.h"
 
 namespace {
 
-/// Rows with words; the names of the languages are the first where they have any.
-template <typename Row> void forEachRow(const Vocabulary &vocabulary, qsizetype from, Row row)
-{
-    for (qsizetype i = from; i < vocabulary.filledRows(); ++i)
-        row(vocabulary.first[size_t(i)], vocabulary.second[size_t(i)]);
-}
+using ListWriter::Format;
 
-bool hasNames(const Vocabulary &vocabulary)
-{
-    return vocabulary.rows() > 0 && !(vocabulary.first.front().isEmpty() && vocabulary.second.front().isEmpty());
-}
-
-qsizetype namesOrFirst(const Vocabulary &vocabulary)
-{
-    return hasNames(vocabulary) ? 0 : 1;
-}
+constexpr qsizetype PortionSize = qsizetype(64) * 1024; ///< letters that are encoded at once
 
 bool isAscii(const QString &text)
 {
     return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
 }
 
-/// In quotes where it has to be, with those within doubled.
-void appendQuoted(QString &text, const QString &word, QChar separator)
+bool isSpecialInCsv(QChar c)
 {
-    const auto isSpecial = [separator](QChar c) { return c == separator || c == u'"' || c == u'\r' || c == u'\n'; };
-    if (std::none_of(word.begin(), word.end(), isSpecial)) {
-        text += word;
-        return;
-    }
-    text += u'"';
-    for (const QChar c : word) {
-        text += c;
-        if (c == u'"')
-            text += u'"';
-    }
-    text += u'"';
+    return c == u',' || c == u'"' || c == u'\r' || c == u'\n';
 }
 
-/// By RFC 4180. Spreadsheets need a mark to read letters beyond ASCII.
-QString csv(const Vocabulary &vocabulary)
+/// By RFC 4180.
+void appendCsv(QString &text, const QString &word)
 {
-    QString text;
-    forEachRow(vocabulary, namesOrFirst(vocabulary), [&text](const QString &first, const QString &second) {
-        appendQuoted(text, first, u',');
-        text += u',';
-        appendQuoted(text, second, u',');
-        text += u"\r\n";
-    });
-    return isAscii(text) ? text : QChar(QChar::ByteOrderMark) + text;
+    text += std::any_of(word.begin(), word.end(), isSpecialInCsv) ? quoted(word) : word;
+}
+
+void appendCsvRow(QString &text, const QString &first, const QString &second)
+{
+    appendCsv(text, first);
+    text += u',';
+    appendCsv(text, second);
+    text += u"\r\n";
 }
 
 /// Words hold no tabs and no line breaks. One that begins with a quote would be taken for a quoted one.
 void appendTabbed(QString &text, const QString &word)
 {
-    if (word.startsWith(u'"'))
-        appendQuoted(text, word, u'\t');
-    else
-        text += word;
+    text += word.startsWith(u'"') ? quoted(word) : word;
 }
 
-QString tabs(const Vocabulary &vocabulary, qsizetype from)
+void appendTabbedRow(QString &text, const QString &first, const QString &second)
 {
-    QString text;
-    forEachRow(vocabulary, from, [&text](const QString &first, const QString &second) {
-        appendTabbed(text, first);
-        text += u'\t';
-        appendTabbed(text, second);
-        text += u'\n';
-    });
-    return text;
+    appendTabbed(text, first);
+    text += u'\t';
+    appendTabbed(text, second);
+    text += u'\n';
 }
 
 /// A line that begins with "#" would be passed over by its reader.
-QString ankiText(const Vocabulary &vocabulary)
+void appendAnkiRow(QString &text, const QString &first, const QString &second)
 {
-    QString text = QStringLiteral("#separator:tab\n#html:false\n");
-    if (hasNames(vocabulary))
-        text += QStringLiteral("#columns:") + vocabulary.first.front() + u'\t' + vocabulary.second.front() + u'\n';
-    forEachRow(vocabulary, 1, [&text](const QString &first, const QString &second) {
-        if (first.startsWith(u'#'))
-            text += u'"' + QString(first).replace(QStringLiteral("\""), QStringLiteral("\"\"")) + u'"';
-        else
-            appendTabbed(text, first);
-        text += u'\t';
-        appendTabbed(text, second);
-        text += u'\n';
-    });
-    return text;
+    if (!first.startsWith(u'#'))
+        return appendTabbedRow(text, first, second);
+    text += quoted(first) + u'\t';
+    appendTabbed(text, second);
+    text += u'\n';
 }
 
 void appendHtmlRow(QString &text, const QString &first, const QString &second, const char *cell)
@@ -103,23 +65,45 @@ void appendHtmlRow(QString &text, const QString &first, const QString &second, c
             second.toHtmlEscaped() + QStringLiteral("</") + tag + QStringLiteral("></tr>\n");
 }
 
-QString html(const Vocabulary &vocabulary, const QString &title)
+void appendRow(QString &text, Format format, const QString &first, const QString &second)
 {
-    QString text =
-        QStringLiteral("<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<title>") + title.toHtmlEscaped() +
-        QStringLiteral("</title>\n<style>\ntable { border-collapse: collapse; width: 100%; }\n"
-                       "th, td { border: 1px solid #888; padding: 0.2em 0.5em; text-align: start; "
-                       "vertical-align: top; white-space: pre-wrap; width: 50%; }\ntr { break-inside: avoid; }\n"
-                       "thead { display: table-header-group; }\n</style>\n</head>\n<body>\n<table>\n");
-    if (hasNames(vocabulary)) {
-        text += QStringLiteral("<thead>\n");
-        appendHtmlRow(text, vocabulary.first.front(), vocabulary.second.front(), "th");
-        text += QStringLiteral("</thead>\n");
+    switch (format) {
+    case Format::Csv:
+        return appendCsvRow(text, first, second);
+    case Format::Tabs:
+        return appendTabbedRow(text, first, second);
+    case Format::Html:
+        return appendHtmlRow(text, first, second, "td");
+    case Format::AnkiText:
+        return appendAnkiRow(text, first, second);
     }
-    text += QStringLiteral("<tbody>\n");
-    forEachRow(vocabulary, 1,
-               [&text](const QString &first, const QString &second) { appendHtmlRow(text, first, second, "td"); });
-    return text + QStringLiteral("</tbody>\n</table>\n</body>\n</html>\n");
+}
+
+QString htmlStart(const QString &title)
+{
+    return QStringLiteral("<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<title>") +
+           title.toHtmlEscaped() +
+           QStringLiteral("</title>\n<style>\ntable { border-collapse: collapse; width: 100%; }\n"
+                          "th, td { border: 1px solid #888; padding: 0.2em 0.5em; text-align: start; "
+                          "vertical-align: top; white-space: pre-wrap; width: 50%; }\ntr { break-inside: avoid; }\n"
+                          "thead { display: table-header-group; }\n</style>\n</head>\n<body>\n<table>\n");
+}
+
+void appendNames(QString &text, Format format, const QString &first, const QString &second)
+{
+    switch (format) {
+    case Format::Csv:
+    case Format::Tabs:
+        return appendRow(text, format, first, second);
+    case Format::Html:
+        text += QStringLiteral("<thead>\n");
+        appendHtmlRow(text, first, second, "th");
+        text += QStringLiteral("</thead>\n");
+        return;
+    case Format::AnkiText:
+        text += QStringLiteral("#columns:") + first + u'\t' + second + u'\n';
+        return;
+    }
 }
 
 } // namespace
@@ -138,19 +122,63 @@ std::optional<Format> formatOf(const QString &path)
     return std::nullopt;
 }
 
+Output::Output(Format format, const QString &firstName, const QString &secondName, const QString &title)
+    : m_format(format)
+{
+    if (format == Format::Html)
+        m_text = htmlStart(title);
+    else if (format == Format::AnkiText)
+        m_text = QStringLiteral("#separator:tab\n#html:false\n");
+    if (!firstName.isEmpty() || !secondName.isEmpty())
+        appendNames(m_text, format, firstName, secondName);
+    if (format == Format::Html)
+        m_text += QStringLiteral("<tbody>\n");
+}
+
+void Output::add(const QString &first, const QString &second)
+{
+    if (first.isEmpty() && second.isEmpty()) {
+        ++m_withoutWords;
+        return;
+    }
+    for (; m_withoutWords > 0; --m_withoutWords)
+        addRow({}, {});
+    addRow(first, second);
+}
+
+void Output::addRow(const QString &first, const QString &second)
+{
+    appendRow(m_text, m_format, first, second);
+    if (m_text.size() >= PortionSize)
+        flush();
+}
+
+void Output::flush()
+{
+    m_ascii = m_ascii && isAscii(m_text);
+    m_bytes += m_text.toUtf8();
+    m_text.resize(0);
+}
+
+/// Spreadsheets need a mark to read letters beyond ASCII.
+QByteArray Output::bytes()
+{
+    if (m_format == Format::Html)
+        m_text += QStringLiteral("</tbody>\n</table>\n</body>\n</html>\n");
+    flush();
+    if (m_format == Format::Csv && !m_ascii)
+        m_bytes.prepend("\xEF\xBB\xBF");
+    return std::move(m_bytes);
+}
+
 QByteArray write(const Vocabulary &vocabulary, Format format, const QString &title)
 {
-    switch (format) {
-    case Format::Csv:
-        return csv(vocabulary).toUtf8();
-    case Format::Tabs:
-        return tabs(vocabulary, namesOrFirst(vocabulary)).toUtf8();
-    case Format::Html:
-        return html(vocabulary, title).toUtf8();
-    case Format::AnkiText:
-        return ankiText(vocabulary).toUtf8();
-    }
-    return {};
+    const bool any = vocabulary.rows() > 0;
+    Output output(format, any ? vocabulary.first.front() : QString(), any ? vocabulary.second.front() : QString(),
+                  title);
+    for (size_t row = 1; row < vocabulary.first.size(); ++row)
+        output.add(vocabulary.first[row], vocabulary.second[row]);
+    return output.bytes();
 }
 
 bool losesLetters(const Vocabulary &vocabulary)

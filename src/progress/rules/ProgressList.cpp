@@ -1,6 +1,7 @@
 #include "progress/rules/ProgressList.h"
 
 #include "memory/Day.h"
+#include "services/rules/QuotedText.h"
 #include "services/rules/SortOrder.h"
 
 #include <cmath>
@@ -17,10 +18,10 @@ int strengthOf(const Card &card)
 /// One line by RFC 4180.
 QString csvLine(const QStringList &fields)
 {
-    QStringList quoted;
-    for (QString field : fields)
-        quoted += u'"' + field.replace(u'"', QStringLiteral("\"\"")) + u'"';
-    return quoted.join(u',') + QStringLiteral("\r\n");
+    QStringList line;
+    for (const QString &field : fields)
+        line += quoted(field);
+    return line.join(u',') + QStringLiteral("\r\n");
 }
 
 QString isoDate(int day)
