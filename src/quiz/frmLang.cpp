@@ -1,13 +1,12 @@
 #include "quiz/frmLang.h"
 
-#include "quiz/rules/LanguageNames.h"
-
 #include "document/ctlGrid.h"
 #include "document/frmDoc.h"
 #include "resources/Pictures.h"
 #include "resources/StringTable.h"
 #include "resources/TextLanguage.h"
 #include "services/FormTexts.h"
+#include "services/rules/LanguageNames.h"
 
 #include "ui_frmLang.h"
 
@@ -78,7 +77,7 @@ void frmLang::addArrow(QLineEdit *box)
 void frmLang::offerNames(QLineEdit *box)
 {
     if (!m_names) {
-        m_names = new QCompleter(languageNames(TextLanguage::inUse()), this);
+        m_names = new QCompleter(LanguageNames(TextLanguage::inUse(), LanguageNames::InList).all(), this);
         m_names->setCaseSensitivity(Qt::CaseInsensitive);
         connect(m_names, qOverload<const QString &>(&QCompleter::activated), this,
                 [this](const QString &name) { static_cast<QLineEdit *>(m_names->widget())->setText(name); });

@@ -3,11 +3,10 @@
 #include "exchange/rules/cards/MarkupText.h"
 #include "resources/StringTable.h"
 #include "services/rules/CellText.h"
+#include "services/rules/LanguageNames.h"
 
 #include <QLocale>
 #include <QSet>
-
-#include <unicode/uloc.h>
 
 #include <array>
 
@@ -17,25 +16,18 @@ constexpr int FirstLanguageId = 501;
 constexpr int ColumnId = 14530;
 constexpr qsizetype SampleRows = 1000;
 
-/// What a language calls itself.
-QString ownName(const QByteArray &code)
-{
-    std::array<UChar, 100> name{};
-    UErrorCode status = U_ZERO_ERROR;
-    const int size =
-        uloc_getDisplayLanguage(code.constData(), code.constData(), name.data(), int(name.size()), &status);
-    return U_SUCCESS(status) ? QString::fromUtf16(name.data(), size) : QString();
-}
-
 /// The names of languages in English, in themselves and as the program has them, small.
 const QSet<QString> &languages()
 {
     static const QSet<QString> all = [] {
         QSet<QString> names{resText(FirstLanguageId).toLower(), resText(FirstLanguageId + 1).toLower()};
+        const LanguageNames english(QStringLiteral("en"));
         for (int language = QLocale::Abkhazian; language <= QLocale::LastLanguage; ++language) {
-            names += QLocale::languageToString(QLocale::Language(language)).toLower();
-            names += ownName(QLocale::languageToCode(QLocale::Language(language)).toLatin1()).toLower();
+            const QString code = QLocale::languageToCode(QLocale::Language(language));
+            names += english.of(code.toLatin1()).toLower();
+            names += LanguageNames(code).of(code.toLatin1()).toLower();
         }
+        names -= QString();
         return names;
     }();
     return all;

@@ -1,26 +1,16 @@
 #include "quiz/rules/HeadingLanguages.h"
 
+#include "services/rules/LanguageNames.h"
+
 #include <QRegularExpression>
 
-#include <unicode/uloc.h>
-
-#include <array>
+#include <vector>
 
 namespace {
 
 /// In whose words a language can be named, besides its own.
 constexpr const char *ProgramLanguages[] = {"en", "de", "fr", "es", "it", "ru", "pl", "pt", "ja", "zh", "ar"};
 constexpr qsizetype ShortestWord = 4; ///< of Latin letters that is looked for within a heading
-
-QString nameIn(const QByteArray &code, const char *language)
-{
-    std::array<UChar, 128> name{};
-    UErrorCode error = U_ZERO_ERROR;
-    const int32_t length =
-        uloc_getDisplayLanguage(code.constData(), language, name.data(), int32_t(name.size()), &error);
-    // a language without a name there is called by its code, which is no name
-    return error == U_ZERO_ERROR ? QString::fromUtf16(name.data(), length) : QString();
-}
 
 /// A name without what does not count.
 QString essential(const QString &name)
@@ -55,20 +45,26 @@ bool canStandAmongOthers(const QString &word)
 
 HeadingLanguages::HeadingLanguages()
 {
+    std::vector<std::pair<QByteArray, QLocale::Language>> languages;
     for (int number = QLocale::C + 1; number <= QLocale::LastLanguage; ++number) {
-        const auto language = QLocale::Language(number);
-        const QByteArray code = QLocale::languageToCode(language).toLatin1();
-        if (code.isEmpty())
-            continue;
-        const auto add = [this, &code, language](const char *in) {
-            const QString name = essential(nameIn(code, in));
-            if (!name.isEmpty() && !m_names.contains(name))
-                m_names.insert(name, language);
-        };
-        add(code.constData());
-        for (const char *other : ProgramLanguages)
-            add(other);
+        const QString code = QLocale::languageToCode(QLocale::Language(number));
+        if (!code.isEmpty())
+            languages.emplace_back(code.toLatin1(), QLocale::Language(number));
     }
+    for (const auto &[code, language] : languages)
+        add(LanguageNames(QString::fromLatin1(code)).of(code), language);
+    for (const char *other : ProgramLanguages) {
+        const LanguageNames names(QString::fromLatin1(other));
+        for (const auto &[code, language] : languages)
+            add(names.of(code), language);
+    }
+}
+
+void HeadingLanguages::add(const QString &name, QLocale::Language language)
+{
+    const QString known = essential(name);
+    if (!known.isEmpty() && !m_names.contains(known))
+        m_names.insert(known, language);
 }
 
 std::optional<QLocale::Language> HeadingLanguages::languageOf(const QString &heading) const

@@ -18,5 +18,7 @@ public:
     std::optional<QLocale::Language> languageOf(const QString &heading) const;
 
 private:
+    void add(const QString &name, QLocale::Language language);
+
     QHash<QString, QLocale::Language> m_names;
 };

@@ -1,4 +1,4 @@
-#include "quiz/rules/LanguageNames.h"
+#include "services/rules/LanguageNames.h"
 
 TEST(LanguageNames, AreThoseOfTheProgramsLanguageInItsOrder)
 {
@@ -6,7 +6,7 @@ TEST(LanguageNames, AreThoseOfTheProgramsLanguageInItsOrder)
                                     {"fr", "Albanais", "Allemand"},       {"ru", "Албанский", "Немецкий"},
                                     {"ja", "アイスランド語", "ドイツ語"}, {"zh_CN", "阿尔巴尼亚语", "德语"}};
     for (const auto &[language, first, later] : cases) {
-        const QStringList names = languageNames(language);
+        const QStringList names = LanguageNames(language, LanguageNames::InList).all();
         EXPECT_LT(names.indexOf(QString(first)), names.indexOf(QString(later))) << language;
         EXPECT_GE(names.indexOf(QString(first)), 0) << language;
     }

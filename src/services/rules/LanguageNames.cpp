@@ -1,0 +1,61 @@
+#include "services/rules/LanguageNames.h"
+
+#include <QCollator>
+
+#include <unicode/uldnames.h>
+#include <unicode/uloc.h>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+ULocaleDisplayNames *namesIn(const QString &language, LanguageNames::Form form)
+{
+    UErrorCode error = U_ZERO_ERROR;
+    UDisplayContext context[]{form == LanguageNames::InList ? UDISPCTX_CAPITALIZATION_FOR_UI_LIST_OR_MENU
+                                                            : UDISPCTX_CAPITALIZATION_NONE};
+    return uldn_openForContext(language.toLatin1().constData(), context, int(std::size(context)), &error);
+}
+
+/// Those of the desktop's locales, and those that are learned though nobody's desktop speaks them.
+QList<QByteArray> spokenOrLearned()
+{
+    QList<QByteArray> codes{"la", "grc", "sa"};
+    for (int32_t i = 0; i < uloc_countAvailable(); ++i)
+        codes += QByteArray(uloc_getAvailable(i)).split('_').front();
+    return codes;
+}
+
+} // namespace
+
+LanguageNames::LanguageNames(const QString &language, Form form)
+    : m_language(language.isEmpty() ? QStringLiteral("en") : language)
+    , m_names(namesIn(m_language, form))
+{
+}
+
+LanguageNames::~LanguageNames()
+{
+    uldn_close(m_names);
+}
+
+QString LanguageNames::of(const QByteArray &code) const
+{
+    std::array<UChar, 128> name{};
+    UErrorCode error = m_names ? U_ZERO_ERROR : U_ILLEGAL_ARGUMENT_ERROR;
+    const int32_t size = uldn_languageDisplayName(m_names, code.constData(), name.data(), int32_t(name.size()), &error);
+    const QString text = U_SUCCESS(error) ? QString::fromUtf16(name.data(), size) : QString();
+    return text == QLatin1String(code) ? QString() : text; // one without a name is called by its code
+}
+
+QStringList LanguageNames::all() const
+{
+    QStringList names;
+    for (const QByteArray &code : spokenOrLearned())
+        names += of(code);
+    names.removeAll(QString());
+    names.removeDuplicates();
+    std::sort(names.begin(), names.end(), QCollator(QLocale(m_language)));
+    return names;
+}
