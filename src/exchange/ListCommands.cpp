@@ -18,11 +18,19 @@
 
 namespace {
 
-enum TextId { ClipboardName = 14560, CannotWrite = 14562, Imported = 14567, Exported = 14568, LosesLetters = 14569 };
+enum TextId {
+    OneImported = 14374,
+    OneExported,
+    ClipboardName = 14560,
+    CannotWrite = 14562,
+    Imported = 14567,
+    Exported,
+    LosesLetters
+};
 
-QString withNumber(int id, qsizetype number)
+QString withNumber(int one, int many, qsizetype number)
 {
-    return resText(id).arg(QLocale().toString(qlonglong(number)));
+    return number == 1 ? resText(one) : resText(many).arg(QLocale().toString(qlonglong(number)));
 }
 
 } // namespace
@@ -65,7 +73,7 @@ void ListCommands::import(const ListReader::Result &opened, const QString &name,
         return;
     const Hourglass hourglass;
     Vocabulary words = dialog.words();
-    const QString note = withNumber(Imported, words.rows() - 1);
+    const QString note = withNumber(OneImported, Imported, words.rows() - 1);
     if (!dialog.intoNew())
         return m_needs.edit.Import(*document, words, note);
     m_needs.files.openUntitled(std::move(words));
@@ -92,7 +100,7 @@ void ListCommands::exportActive()
         return warn(resText(CannotWrite).arg(path, error));
     if (ListWriter::losesLetters(words))
         warn(resText(LosesLetters).arg(path));
-    m_needs.status.SBSetText(0, modSBFunc::SBT_SUNKEN, withNumber(Exported, words.filledRows() - 1));
+    m_needs.status.SBSetText(0, modSBFunc::SBT_SUNKEN, withNumber(OneExported, Exported, words.filledRows() - 1));
 }
 
 void ListCommands::warn(const QString &text)

@@ -109,6 +109,6 @@ TEST_F(ListsTest, WhatCannotBeReadOrWrittenIsTold)
     prompts.savePath = folder.filePath("a.csv");
     window->DoMenuClick("mnuFileExport");
     EXPECT_EQ(readFile(prompts.savePath), "A,B\r\n\"1,2\",3\r\n");
-    EXPECT_EQ(status(0), "1 rows exported; font, row heights and column widths stay in the vocabulary");
+    EXPECT_EQ(status(0), "1 row exported; font, row heights and column widths stay in the vocabulary");
     EXPECT_TRUE(documents().active()->DocName().isEmpty());
 }
