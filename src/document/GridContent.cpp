@@ -17,9 +17,7 @@ Vocabulary read(const ctlGrid &grid)
     vocabulary.font = font(grid);
     vocabulary.columnWidths = {grid.ColWidth(0), grid.ColWidth(1), grid.ColWidth(2)};
     const int rows = grid.Rows();
-    vocabulary.first.reserve(size_t(rows));
-    vocabulary.second.reserve(size_t(rows));
-    vocabulary.heights.reserve(size_t(rows));
+    vocabulary.reserve(rows);
     for (int row = 0; row < rows; ++row)
         vocabulary.append(grid.word(row, 1), grid.word(row, 2), grid.RowHeight(row));
     return vocabulary;

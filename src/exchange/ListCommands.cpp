@@ -72,7 +72,7 @@ void ListCommands::import(const ListReader::Result &opened, const QString &name,
     if (!accepted || (!dialog.intoNew() && !document))
         return;
     const Hourglass hourglass;
-    Vocabulary words = dialog.words();
+    Vocabulary words = dialog.takeWords();
     const QString note = withNumber(OneImported, Imported, words.rows() - 1);
     if (!dialog.intoNew())
         return m_needs.edit.Import(*document, words, note);

@@ -196,9 +196,9 @@ void frmImport::swapColumns()
     showPairs();
 }
 
-Vocabulary frmImport::words() const
+Vocabulary frmImport::takeWords()
 {
-    return Pairs::take(m_table, pairChoice());
+    return Pairs::takeAll(std::move(m_table), pairChoice());
 }
 
 bool frmImport::intoNew() const

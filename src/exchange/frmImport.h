@@ -21,8 +21,8 @@ public:
     frmImport(const ListSource &source, const QString &name, bool intoActive, QWidget *owner);
     ~frmImport() override;
 
-    /// All words that arrive, below the names of the languages.
-    Vocabulary words() const;
+    /// All words that arrive, below the names of the languages. To be called once, when the dialog has been closed.
+    Vocabulary takeWords();
     bool intoNew() const;
 
 private:

@@ -41,6 +41,13 @@ struct Vocabulary
     std::vector<int> heights; ///< twips, 0 to Twips::LargestSize
 
     qsizetype rows() const { return qsizetype(first.size()); }
+    /// Makes room for as many rows.
+    void reserve(qsizetype count)
+    {
+        first.reserve(size_t(count));
+        second.reserve(size_t(count));
+        heights.reserve(size_t(count));
+    }
     void append(QString firstWord, QString secondWord, int height = DefaultRowHeight)
     {
         first.push_back(std::move(firstWord));

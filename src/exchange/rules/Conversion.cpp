@@ -26,12 +26,17 @@ void complain(QTextStream &complaints, const QString &text)
     complaints << resText(ComplaintId).arg(text) << '\n';
 }
 
-QByteArray bytesFor(const Vocabulary &vocabulary, const QString &out, const QByteArray &codePage)
+/// A file with texts is made pair by pair: an open vocabulary would take many times their memory.
+QByteArray bytesFor(TextTable &&table, const PairChoice &choice, const QString &out, const QByteArray &codePage)
 {
     if (isVocabulary(out))
-        return VocabularyCodec::encode(vocabulary, CodePage(codePage));
-    const ListWriter::Format format = ListWriter::formatOf(out).value_or(ListWriter::Format::Tabs);
-    return ListWriter::write(vocabulary, format, QFileInfo(out).completeBaseName());
+        return VocabularyCodec::encode(Pairs::takeAll(std::move(table), choice), CodePage(codePage));
+    const auto [first, second] = Pairs::names(table, choice);
+    ListWriter::Output output(ListWriter::formatOf(out).value_or(ListWriter::Format::Tabs), first, second,
+                              QFileInfo(out).completeBaseName());
+    Pairs::each(table, choice, Vocabulary::MostRows - 1,
+                [&output](const Pairs::Pair &pair) { output.add(pair.first, pair.second); });
+    return output.bytes();
 }
 
 bool writeTo(const QString &out, const QByteArray &bytes, QString &error)
@@ -53,16 +58,17 @@ int Conversion::run(const QString &in, const QString &out, const ListReader::Sur
         complain(complaints, resText(UnknownFormatId).arg(out));
         return WrongUse;
     }
-    const ListReader::Result opened = ListReader::openFile(in, surroundings);
-    const ListReader::Table read = opened.source ? ListReader::read(*opened.source, opened.source->proposal())
-                                                 : ListReader::Table{{}, opened.error};
+    ListReader::Result opened = ListReader::openFile(in, surroundings);
+    ListReader::Table read = opened.source ? ListReader::read(*opened.source, opened.source->proposal())
+                                           : ListReader::Table{{}, opened.error};
     if (read.error != ReadError::None) {
         complain(complaints, ListReader::message(read.error).arg(in));
         return Failed;
     }
     const PairChoice choice = Pairs::proposal(read.table, opened.source->hasMarkup());
+    opened.source.reset();
     QString error;
-    if (writeTo(out, bytesFor(Pairs::take(read.table, choice), out, surroundings.codePage), error))
+    if (writeTo(out, bytesFor(std::move(read.table), choice, out, surroundings.codePage), error))
         return Done;
     complain(complaints, resText(CannotWriteId).arg(out, error));
     return Failed;

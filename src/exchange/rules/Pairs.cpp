@@ -67,11 +67,53 @@ QString word(const TextTable &table, qsizetype row, int column, bool markup)
     return asWord(std::move(text));
 }
 
+Pairs::Pair pair(const TextTable &table, qsizetype row, const PairChoice &choice)
+{
+    return {word(table, row, choice.first, choice.markup), word(table, row, choice.second, choice.markup)};
+}
+
+void append(Vocabulary &vocabulary, Pairs::Pair &&pair)
+{
+    vocabulary.append(std::move(pair.first), std::move(pair.second));
+}
+
+/// Words of few letters come again and again, and each takes more memory for itself than for its letters: those that
+/// are alike are kept once.
+class ShortWords
+{
+public:
+    QString shared(QString word)
+    {
+        if (word.size() > LongestWord)
+            return word;
+        QString &known = m_words[qHash(word) % m_words.size()];
+        if (known != word)
+            known = std::move(word);
+        return known;
+    }
+
+private:
+    static constexpr qsizetype LongestWord = 4;
+
+    std::array<QString, 4096> m_words;
+};
+
 /// The first row below the names.
 qsizetype firstRow(const TextTable &table, const PairChoice &choice)
 {
     const qsizetype first = choice.names ? firstRowWithWords(table) + 1 : 0;
     return std::min(first, table.rows());
+}
+
+/// The rows that arrive.
+template <typename Taker> void eachRow(const TextTable &table, const PairChoice &choice, qsizetype most, Taker taker)
+{
+    for (qsizetype row = firstRow(table, choice); row < table.rows() && most > 0; ++row) {
+        if (hasWord(table, row, choice)) {
+            taker(row);
+            --most;
+        }
+    }
 }
 
 /// Columns of a sample that hold words, and no others than words.
@@ -123,21 +165,40 @@ Pairs::Count Pairs::count(const TextTable &table, const PairChoice &choice, qsiz
     return count;
 }
 
+Pairs::Pair Pairs::names(const TextTable &table, const PairChoice &choice)
+{
+    const qsizetype first = firstRow(table, choice);
+    if (choice.names && first > 0)
+        return pair(table, first - 1, choice);
+    return {asWord(table.columnNames.value(choice.first)), asWord(table.columnNames.value(choice.second))};
+}
+
+void Pairs::each(const TextTable &table, const PairChoice &choice, qsizetype most,
+                 const std::function<void(Pair &&)> &taker)
+{
+    eachRow(table, choice, most, [&](qsizetype row) { taker(pair(table, row, choice)); });
+}
+
 Vocabulary Pairs::take(const TextTable &table, const PairChoice &choice, qsizetype most)
 {
     Vocabulary vocabulary;
-    const qsizetype first = firstRow(table, choice);
-    if (choice.names && first > 0)
-        vocabulary.append(word(table, first - 1, choice.first, choice.markup),
-                          word(table, first - 1, choice.second, choice.markup));
-    else
-        vocabulary.append(asWord(table.columnNames.value(choice.first)),
-                          asWord(table.columnNames.value(choice.second)));
-    for (qsizetype row = first; row < table.rows() && vocabulary.rows() <= most; ++row) {
-        if (hasWord(table, row, choice))
-            vocabulary.append(word(table, row, choice.first, choice.markup),
-                              word(table, row, choice.second, choice.markup));
-    }
+    append(vocabulary, names(table, choice));
+    each(table, choice, most, [&vocabulary](Pair &&pair) { append(vocabulary, std::move(pair)); });
+    return vocabulary;
+}
+
+Vocabulary Pairs::takeAll(TextTable &&table, const PairChoice &choice)
+{
+    static constexpr qsizetype Most = Vocabulary::MostRows - 1;
+    Vocabulary vocabulary;
+    vocabulary.reserve(count(table, choice, Most).rows + 1);
+    append(vocabulary, names(table, choice));
+    ShortWords known;
+    eachRow(table, choice, Most, [&](qsizetype row) {
+        auto [first, second] = pair(table, row, choice);
+        append(vocabulary, {known.shared(std::move(first)), known.shared(std::move(second))});
+        table.forgetBefore(row);
+    });
     return vocabulary;
 }
 

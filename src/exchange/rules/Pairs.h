@@ -3,6 +3,9 @@
 #include "document/rules/Vocabulary.h"
 #include "exchange/rules/TextTable.h"
 
+#include <functional>
+#include <utility>
+
 /// Which cells of a table become the two words of a row.
 struct PairChoice
 {
@@ -36,8 +39,16 @@ struct Count
 };
 Count count(const TextTable &table, const PairChoice &choice, qsizetype most = Vocabulary::MostRows - 1);
 
-/// The names of the languages, empty where nothing says them, and the first pairs that arrive.
+using Pair = std::pair<QString, QString>;
+
+/// The names of the languages, empty where nothing says them.
+Pair names(const TextTable &table, const PairChoice &choice);
+/// Hands over the first pairs that arrive, one after the other.
+void each(const TextTable &table, const PairChoice &choice, qsizetype most, const std::function<void(Pair &&)> &taker);
+/// The names and the first pairs.
 Vocabulary take(const TextTable &table, const PairChoice &choice, qsizetype most = Vocabulary::MostRows - 1);
+/// The names and all pairs; the table goes meanwhile, since both may be large.
+Vocabulary takeAll(TextTable &&table, const PairChoice &choice);
 
 /// Names of columns for a choice: those that the file has or its first row, else "Column 3".
 QStringList columnNames(const TextTable &table, bool names);

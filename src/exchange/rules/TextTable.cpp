@@ -1,34 +1,47 @@
 #include "exchange/rules/TextTable.h"
 
-void TextTable::reserve(qsizetype letters, qsizetype cells, qsizetype rows)
+/// A full one keeps no room to grow.
+TextTable::Block &TextTable::blockForMore()
 {
-    m_letters.reserve(letters);
-    m_cellEnds.reserve(size_t(cells));
-    m_rowStarts.reserve(size_t(rows) + 1);
+    if (m_blocks.size() * RowsOfBlock == size_t(m_rows) && m_cellsInRow == 0) {
+        if (!m_blocks.empty()) {
+            m_blocks.back().letters.squeeze();
+            m_blocks.back().cellEnds.shrink_to_fit();
+        }
+        m_blocks.emplace_back();
+    }
+    return m_blocks.back();
 }
 
 void TextTable::addCell(QStringView text)
 {
+    Block &block = blockForMore();
     if (++m_cellsInRow > MostColumns)
         return;
-    m_letters.append(text);
-    m_cellEnds.push_back(quint32(m_letters.size()));
+    block.letters.append(text);
+    block.cellEnds.push_back(quint32(block.letters.size()));
+    m_letters += text.size();
+    ++m_cells;
 }
 
 void TextTable::endRow()
 {
+    Block &block = blockForMore();
+    block.rowEnds.push_back(quint32(block.cellEnds.size()));
     m_columns = std::max(m_columns, m_cellsInRow);
     m_cellsInRow = 0;
-    m_rowStarts.push_back(quint32(m_cellEnds.size()));
+    ++m_rows;
 }
 
 QStringView TextTable::cell(qsizetype row, qsizetype column) const
 {
-    const size_t at = m_rowStarts[size_t(row)] + size_t(column);
-    if (at >= m_rowStarts[size_t(row) + 1])
+    const Block &block = m_blocks[size_t(row / RowsOfBlock)];
+    const size_t rowInBlock = size_t(row % RowsOfBlock);
+    const size_t at = (rowInBlock == 0 ? 0 : block.rowEnds[rowInBlock - 1]) + size_t(column);
+    if (at >= block.rowEnds[rowInBlock])
         return {};
-    const quint32 start = at == 0 ? 0 : m_cellEnds[at - 1];
-    return QStringView(m_letters).mid(start, m_cellEnds[at] - start);
+    const quint32 start = at == 0 ? 0 : block.cellEnds[at - 1];
+    return QStringView(block.letters).mid(start, block.cellEnds[at] - start);
 }
 
 bool TextTable::isBlank(qsizetype row) const
@@ -48,6 +61,11 @@ bool TextTable::isBlank(qsizetype row, qsizetype column) const
 
 qsizetype TextTable::bytes() const
 {
-    return m_letters.size() * qsizetype(sizeof(QChar)) +
-           qsizetype(m_cellEnds.size() + m_rowStarts.size()) * qsizetype(sizeof(quint32));
+    return m_letters * qsizetype(sizeof(QChar)) + (m_cells + m_rows) * qsizetype(sizeof(quint32));
+}
+
+void TextTable::forgetBefore(qsizetype row)
+{
+    for (; m_forgotten < row / RowsOfBlock; ++m_forgotten)
+        m_blocks[size_t(m_forgotten)] = {};
 }

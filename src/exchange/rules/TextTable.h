@@ -5,8 +5,8 @@
 
 #include <vector>
 
-/// A list as it was read: rows of texts, of any number a row. The letters stand in one block and a cell costs four
-/// bytes beyond them, so that a file of millions of short words fits.
+/// A list as it was read: rows of texts, of any number a row. The letters of many rows stand together; a cell and a row
+/// cost four bytes each beyond them, so that a file of millions of short words fits.
 class TextTable
 {
 public:
@@ -15,10 +15,8 @@ public:
 
     void addCell(QStringView text);
     void endRow();
-    /// For as many as there will be at most.
-    void reserve(qsizetype letters, qsizetype cells, qsizetype rows);
 
-    qsizetype rows() const { return qsizetype(m_rowStarts.size()) - 1; }
+    qsizetype rows() const { return m_rows; }
     /// The widest row; what was not kept counts.
     qsizetype columns() const { return m_columns; }
     /// Of the widest row, what can be asked for.
@@ -29,6 +27,8 @@ public:
     bool isBlank(qsizetype row, qsizetype column) const;
     /// What it takes in memory.
     qsizetype bytes() const;
+    /// Gives up the memory of the rows before this one, which must not be asked for again.
+    void forgetBefore(qsizetype row);
 
     /// What the file itself calls its columns; empty: nothing.
     QStringList columnNames;
@@ -38,9 +38,22 @@ public:
     qsizetype missingResults = 0;
 
 private:
-    QString m_letters;
-    std::vector<quint32> m_cellEnds;
-    std::vector<quint32> m_rowStarts{0}; ///< the first cell of each row; the end of the last
+    static constexpr qsizetype RowsOfBlock = 4096;
+
+    struct Block
+    {
+        QString letters;
+        std::vector<quint32> cellEnds;
+        std::vector<quint32> rowEnds; ///< the cell behind the last of each row
+    };
+
+    Block &blockForMore();
+
+    std::vector<Block> m_blocks; ///< all but the last are full
+    qsizetype m_rows = 0;
+    qsizetype m_letters = 0;
+    qsizetype m_cells = 0;
     qsizetype m_columns = 0;
     qsizetype m_cellsInRow = 0;
+    qsizetype m_forgotten = 0; ///< blocks
 };

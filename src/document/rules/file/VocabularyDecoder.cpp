@@ -202,9 +202,7 @@ private:
 
     bool readRows(Vocabulary &vocabulary, size_t expected)
     {
-        vocabulary.first.reserve(expected);
-        vocabulary.second.reserve(expected);
-        vocabulary.heights.reserve(expected);
+        vocabulary.reserve(expected);
         while (!m_lines.atEnd()) {
             if (!readRow(vocabulary))
                 return false;

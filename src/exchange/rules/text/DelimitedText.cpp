@@ -184,9 +184,6 @@ QString DelimitedText::separatorOf(QStringView text)
 TextTable DelimitedText::split(QStringView text, const QString &separator)
 {
     TextTable table;
-    const qsizetype lines = text.count(u'\n') + text.count(u'\r') + 1;
-    const qsizetype parted = separator.isEmpty() ? 0 : text.count(separator.front());
-    table.reserve(text.size(), lines + (separator == Dash ? lines : parted), lines);
     Splitter splitter(text, separator);
     while (!splitter.atEnd())
         splitter.takeRow(table);

@@ -25,7 +25,6 @@ TextTable SheetCells::take()
         std::stable_sort(m_cells.begin(), m_cells.end());
     TextTable table;
     const qsizetype rows = m_cells.empty() ? 0 : m_cells.back().row + 1;
-    table.reserve(m_letters.size(), 0, rows);
     table.missingResults = m_missing;
     qsizetype column = 0;
     for (size_t i = 0; i < m_cells.size(); ++i) {
