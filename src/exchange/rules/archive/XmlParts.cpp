@@ -4,10 +4,11 @@ namespace {
 
 constexpr int MostDepth = 100;
 constexpr qsizetype LongestToken = qsizetype(1024) * 1024; ///< bytes without a "<"; a cell has 32,767 letters at most
+constexpr int MostAttributes = 200;                        ///< of an element; the parser compares each with all others
 
 } // namespace
 
-/// Lets no token grow without end: the parser would keep it whole.
+/// Lets no token grow without end, nor the attributes of an element: the parser would keep them all.
 class XmlParts::Guard : public QIODevice
 {
 public:
@@ -21,7 +22,7 @@ public:
     void require() const
     {
         m_stream.require();
-        if (m_longest > LongestToken)
+        if (isTooMuch())
             throw ReadFailure(ReadError::TooLarge);
     }
 
@@ -33,15 +34,18 @@ protected:
         const qint64 size = m_stream.read(out, most);
         for (qint64 i = 0; i < size; ++i)
             look(out[i]);
-        return size <= 0 || m_longest > LongestToken ? -1 : size;
+        return size <= 0 || isTooMuch() ? -1 : size;
     }
     qint64 writeData(const char *, qint64) override { return -1; }
 
 private:
+    bool isTooMuch() const { return m_longest > LongestToken || m_most > MostAttributes; }
+
     /// Comments and the like may hold a "<" and are tokens all the same.
     void look(char c)
     {
         m_longest = std::max(m_longest, ++m_token);
+        lookForAttribute(c);
         if (c == '<' && !m_special)
             m_token = 0;
         else if (m_last == '<' && (c == '!' || c == '?'))
@@ -51,9 +55,29 @@ private:
         m_last = c;
     }
 
+    /// A value stands in quotes; equals signs within it, of a formula say, mean nothing.
+    void lookForAttribute(char c)
+    {
+        if (m_quote != 0 && c != '<') {
+            m_quote = c == m_quote ? char(0) : m_quote;
+        } else if (c == '<' || c == '>' || m_special) {
+            m_inTag = c == '<' && !m_special;
+            m_quote = 0;
+            m_attributes = 0;
+        } else if (m_inTag && (c == '"' || c == '\'')) {
+            m_quote = c;
+        } else if (m_inTag && c == '=') {
+            m_most = std::max(m_most, ++m_attributes);
+        }
+    }
+
     PackedStream &m_stream;
     qsizetype m_token = 0;
     qsizetype m_longest = 0;
+    int m_attributes = 0;
+    int m_most = 0;
+    bool m_inTag = false;
+    char m_quote = 0;
     bool m_special = false;
     char m_last = 0;
 };

@@ -29,7 +29,7 @@ public:
             if (m_xml.isStart() && m_xml.name() == u"DateConvention")
                 m_from1904 = m_xml.text().contains(u"1904");
             else if (m_xml.isStart() && m_xml.name() == u"Sheet")
-                all.push_back(sheet());
+                WorkbookReader::addSheet(all, sheet());
         }
         return all;
     }

@@ -23,7 +23,7 @@ public:
             if (!m_xml.isStart())
                 continue;
             if (m_xml.name() == u"table")
-                all.push_back(sheet());
+                WorkbookReader::addSheet(all, sheet());
             else if (m_xml.name() == u"style")
                 m_style = m_xml.attribute(u"name").toString();
             else if (m_xml.name() == u"table-properties" && m_xml.attribute(u"display") == u"false")

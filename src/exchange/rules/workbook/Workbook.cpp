@@ -32,3 +32,11 @@ QStringList Workbook::lists() const
         names += sheet.name;
     return names;
 }
+
+void WorkbookReader::addSheet(std::vector<Workbook::Sheet> &sheets, Workbook::Sheet &&sheet)
+{
+    static constexpr size_t MostSheets = 1000;
+    if (sheets.size() == MostSheets)
+        throw ReadFailure(ReadError::TooLarge);
+    sheets.push_back(std::move(sheet));
+}

@@ -35,6 +35,9 @@ private:
 /// ReadFailure.
 namespace WorkbookReader {
 
+/// Throws ReadFailure when there are more than anybody makes.
+void addSheet(std::vector<Workbook::Sheet> &sheets, Workbook::Sheet &&sheet);
+
 std::vector<Workbook::Sheet> xlsx(const QByteArray &bytes, const ZipPackage &package, const QLocale &locale);
 std::vector<Workbook::Sheet> ods(const QByteArray &bytes, const ZipPackage &package);
 /// Packed by gzip, or as it is.

@@ -94,7 +94,7 @@ private:
                 Workbook::Sheet sheet;
                 sheet.name = xml.attribute(u"name").toString();
                 sheet.hidden = xml.attribute(u"state").contains(u"idden");
-                m_sheets.push_back(std::move(sheet));
+                WorkbookReader::addSheet(m_sheets, std::move(sheet));
                 m_sheetParts += m_partsById.value(xml.attribute(u"id").toString());
             }
         }
