@@ -13,8 +13,6 @@ TEST(CommandLine, ArgumentsMakeOneAbsolutePath)
         {"\"my words.gla\"", "\"/cwd/my words.gla\""},
         {"\"/a/my words.gla\"", "\"/a/my words.gla\""},
         {"\"/a/my|words.gla\"", "\"/a/my words.gla\""},
-        {"\"", "\""},
-        {"--no-splash|b.gla", "/cwd/b.gla"},
         {"b.gla|--no-splash", "/cwd/b.gla"},
         {"-session|id_1|--style=fusion|b.gla|-platform", "/cwd/b.gla"},
         {"--|--help.gla", "/cwd/--help.gla"},
@@ -39,6 +37,22 @@ TEST(CommandLine, OptionsAreToldFromPaths)
     EXPECT_EQ(CommandLine::parse({"--language", "de", "a.gla"}, "/cwd").language, "de");
     EXPECT_EQ(CommandLine::parse({"--language=fr", "a.gla"}, "/cwd").language, "fr");
     EXPECT_EQ(CommandLine::parse({"--language"}, "/cwd").unknownOption, "--language");
+}
+
+TEST(CommandLine, EverythingBehindConvertIsAFile)
+{
+    // The arguments and the files, separated by |.
+    const char *const cases[][2] = {
+        {"--convert", ""},
+        {"--convert|in.csv", "in.csv"},
+        {"--no-splash|--convert|file:///a/my%20words.csv|-", "/a/my words.csv|-"},
+        {"--convert|--help|--|-x", "--help|--|-x"},
+    };
+    for (const auto &[given, files] : cases) {
+        const CommandLine line = CommandLine::parse(QString::fromUtf8(given).split(QLatin1Char('|')), "/cwd");
+        EXPECT_TRUE(line.convert && !line.help && line.unknownOption.isEmpty()) << given;
+        EXPECT_EQ(line.convertFiles.join(QLatin1Char('|')).toStdString(), files);
+    }
 }
 
 TEST(RequestedFile, TextsFromOutside)
