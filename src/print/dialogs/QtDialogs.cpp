@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QIdentityProxyModel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QStandardPaths>
@@ -18,6 +19,21 @@ namespace {
 constexpr int FileTopic = 1110;
 constexpr int PrintTopic = 1120;
 constexpr int TopicByNumber = 1; ///< the one command of a help call that names a topic
+
+/// The files of a dialog. A folder has no size: its empty cell tells a screen reader what it is instead.
+class NamedFiles : public QIdentityProxyModel
+{
+public:
+    using QIdentityProxyModel::QIdentityProxyModel;
+
+    QVariant data(const QModelIndex &index, int role) const override
+    {
+        static constexpr int TypeColumn = 2;
+        const bool empty = role == Qt::AccessibleTextRole && index.column() != TypeColumn &&
+                           index.data(Qt::DisplayRole).toString().isEmpty();
+        return empty ? index.siblingAtColumn(TypeColumn).data() : QIdentityProxyModel::data(index, role);
+    }
+};
 
 void setTopic(QDialog &dialog, int helpContextId)
 {
@@ -52,6 +68,7 @@ QString QtDialogs::startFolder(const QString &folder) const
 std::optional<FileChoice> QtDialogs::show(QFileDialog &dialog, const FileRequest &request)
 {
     setTopic(dialog, FileTopic);
+    dialog.setProxyModel(new NamedFiles(&dialog));
     dialog.setNameFilters(request.nameFilters);
     dialog.selectNameFilter(request.nameFilters.value(request.filterIndex));
     dialog.selectFile(QFileInfo(request.fileName).fileName());
