@@ -5,7 +5,6 @@ import contextlib
 import os
 import pathlib
 import sqlite3
-import time
 import unittest
 
 from cases import ProgramCase, run, vocabulary
@@ -54,22 +53,20 @@ class MemoryCase(ProgramCase):
         self.assertEqual(self.answers(), 10)
 
     def test_a_store_that_cannot_be_used_stops_no_quiz(self):
-        full = 'mount -t tmpfs -o size=16k tmpfs "$0"'
-        read_only = 'mount --bind "$0" "$0" && mount -o remount,ro,bind "$0"'
         not_remembered = "Answers are not remembered: the memory "
-        sound = self.sound_store()
-        newer = self.sound_store("PRAGMA user_version = 7")
+        self.store.parent.mkdir(parents=True)
+        with contextlib.closing(sqlite3.connect(self.store)) as store:
+            store.execute("PRAGMA user_version = 7")
+        newer = self.store.read_bytes()
+        self.store.unlink()
         cases = [
             (b"", 'mkdir "$0/memory.sqlite"', not_remembered + "cannot be opened."),
-            (b"", full, not_remembered + "cannot be written."),
-            (sound, read_only, not_remembered + "cannot be opened."),
+            (b"", 'mount -t tmpfs -o size=16k tmpfs "$0"', not_remembered + "cannot be written."),
             (newer, "true", not_remembered + "is of a newer version."),
-            (sound[:5000], "true", "The memory was damaged and is kept as memory.sqlite.damaged-"),
             (b"no database" * 1000, "true", "The memory was damaged and is kept as memory.sqlite.damaged-"),
         ]
         for content, command, told in cases:
-            with self.subTest(told, command=command):
-                self.store.unlink(missing_ok=True)
+            with self.subTest(told):
                 if content:
                     self.store.write_bytes(content)
                 self.desktop.start("--no-splash", self.file, through=self.mounting(command, str(self.store.parent)))
@@ -79,24 +76,9 @@ class MemoryCase(ProgramCase):
                 )
                 self.close_dialog(QUIZ, "Escape")
                 self.desktop.end_programs()
-                if content == newer or command == read_only:
-                    self.assertEqual(self.store.read_bytes(), content)
                 if self.store.is_dir():
                     self.store.rmdir()
-        damaged = sorted(self.store.parent.glob("*damaged*"), key=lambda path: path.stat().st_size)
-        self.assertEqual([path.read_bytes()[:6] for path in damaged], [b"SQLite", b"no dat"])
         self.assertEqual(self.answers(), 5, "a new store has begun")
-
-    def test_another_program_holds_the_store_for_a_while(self):
-        self.begin()
-        self.answer(WORDS[:1])
-        with contextlib.closing(sqlite3.connect(self.store)) as other:
-            other.execute("BEGIN EXCLUSIVE")
-            begun = time.monotonic()
-            self.answer(WORDS[1:], running=1)  # nothing waits for it
-            time.sleep(max(0, begun + 10 - time.monotonic()))
-            other.rollback()
-        self.desktop.wait(lambda: self.answers() == 5, "the answers to be stored")
 
     def test_a_killed_program_loses_one_answer_at_most(self):
         program = self.begin()
@@ -114,13 +96,11 @@ class MemoryCase(ProgramCase):
         clock = ["env", f"LD_PRELOAD={CLOCK}", f"FAKETIME=@{day} 12:00:00", "FAKETIME_DONT_FAKE_MONOTONIC=1"]
         return self.open(self.file, through=clock if day else [])
 
-    def answer(self, words, missed=(), running=0):
-        """Answers the questions, which are asked in this order, after so many others of the same quiz."""
-        if not running:
-            self.desktop.wait_for("table")
-            self.desktop.key("alt+q", "q")
-            self.expect_active("dialog", QUIZ)
-        for count, (asked, answer) in enumerate(words, running + 1):
+    def answer(self, words, missed=()):
+        """Begins a quiz and answers the questions, which are asked in this order."""
+        self.desktop.wait_for("table")
+        self.open_dialog(QUIZ, "alt+q", "q")
+        for count, (asked, answer) in enumerate(words, 1):
             self.desktop.wait_for("label", asked)
             self.desktop.type(("wrong" if asked in missed else answer) + "\r")
             self.desktop.wait_for("label", f"Answered Questions: {count}")
@@ -128,19 +108,6 @@ class MemoryCase(ProgramCase):
     def answers(self):
         with contextlib.closing(sqlite3.connect(self.store)) as store:
             return store.execute("SELECT count(*) FROM answer").fetchone()[0]
-
-    def sound_store(self, change="SELECT 1"):
-        """The bytes of a store with answers, after a change."""
-        if not self.store.exists():
-            program = self.begin()
-            self.answer(WORDS)
-            self.close_dialog(QUIZ, "Escape")
-            self.desktop.quit(program)
-        with contextlib.closing(sqlite3.connect(self.store)) as store:
-            store.execute(change)
-            store.execute("PRAGMA wal_checkpoint(TRUNCATE)")
-            store.commit()
-        return self.store.read_bytes()
 
 
 if __name__ == "__main__":

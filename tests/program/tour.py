@@ -58,22 +58,16 @@ class Tour:
         self._menu(400, "main empty, File menu")
         self._dialog(717, "open", "ctrl+o")
         self._dialog(12002, "about", "alt+454", 457)
-        self._press("ctrl+n")
-        self._desktop.wait_for("table")
-        self._visit("main new document")
+        self._stop("main new document", "ctrl+n", role="table")
 
     def leg_document(self):
         self._start(LESSON)
         self._visit("main document")
         for title, menu in MENUS.items():
             self._menu(title, f"main, {menu} menu")
-        self._press("shift+F10")
-        self._visit("main, context menu of the grid")
-        self._press("Escape", "Down", "Down", "shift+Down", "shift+Down", "shift+Right")
-        self._visit("main, cells selected")
-        self._press("Down", "space")
-        self._desktop.wait_for("text")
-        self._visit("main, editing a cell")
+        self._stop("main, context menu of the grid", "shift+F10")
+        self._stop("main, cells selected", "Escape", "Down", "Down", "shift+Down", "shift+Down", "shift+Right")
+        self._stop("main, editing a cell", "Down", "space", role="text")
         self._press("Escape", "shift+F1")
         self._desktop.click(250, 250)
         self._visit("main, what's this")
@@ -83,21 +77,18 @@ class Tour:
     def leg_documents(self):
         self._start(LESSON)
         for name in ("japanese/07-food-and-drink.gla", "russian/05-time-and-days.gla"):
-            self._open(self._copy(name))
+            file = self._copy(name)
+            self._desktop.launch(file)  # hands it to the program that runs
+            self._desktop.wait_for(name=file.stem)
         self._visit("main, several documents")
         for entry, arrangement in ((450, "cascaded"), (451, "tiled horizontally"), (452, "tiled vertically")):
-            self._press("alt+449", entry)
-            self._visit(f"main, documents {arrangement}")
+            self._stop(f"main, documents {arrangement}", "alt+449", entry)
         self._menu(449, "main, Window menu with documents")
-        self._press("alt+minus")
-        self._visit("main, system menu of a document")
+        self._stop("main, system menu of a document", "alt+minus")
         if self._language:
             return  # in which the toolkit underlines other letters
-        self._press("n")
-        self._visit("main, a document minimized")
-        self._press("alt+minus", "x")
-        self._expect("Glosaria - [05-time-and-days]")
-        self._visit("main, a document maximized")
+        self._stop("main, a document minimized", "n")
+        self._stop("main, a document maximized", "alt+minus", "x", title="Glosaria - [05-time-and-days]")
 
     def leg_tools(self):
         self._start(LESSON)
@@ -105,48 +96,27 @@ class Tour:
         self._expect(7000)
         self._desktop.type("father")
         self._visit("dialog find")
-        self._press("alt+7008")
-        self._expect(7001)
-        self._visit("dialog replace")
+        self._stop("dialog replace", "alt+7008", title=7001)
         self._press("alt+7002")
         self._desktop.type("qqq")
-        self._press("Return")
-        self._expect(ALERT)
-        self._visit("dialog alert, not found")
-        self._press("Return")
-        self._expect(7001)
-        self._press("Escape")
-        self._expect("Glosaria")
+        self._stop("dialog alert, not found", "Return", title=ALERT)
+        self._leave(7001, "Return")
+        self._leave("Glosaria")
         self._dialog(6000, "sort", "alt+431", 438)
-        self._press("alt+431", 437)
-        self._expect(8000)
-        self._visit("dialog font")
-        self._press("alt+8003", "alt+Down")
-        self._visit("dialog font, list of colors")
-        self._press("Escape", "alt+8002", "BackSpace", "BackSpace")
-        self._expect(ALERT)
-        self._visit("dialog alert, font size")
-        self._press("Return")
-        self._expect(8000)
+        self._stop("dialog font", "alt+431", 437, title=8000)
+        self._stop("dialog font, list of colors", "alt+8003", "alt+Down")
+        self._stop("dialog alert, font size", "Escape", "alt+8002", "BackSpace", "BackSpace", title=ALERT)
+        self._leave(8000, "Return")
         self._desktop.type("24")
-        self._press("alt+8003", "Return")
-        self._expect("Glosaria")
-        self._visit("main, large font")
+        self._stop("main, large font", "alt+8003", "Return", title="Glosaria")
         self._dialog(14132, "check", "alt+431", 14130)
-        self._press("alt+431", 14400)
-        self._expect(self._texts.of(14402, "06-family-and-people"))
-        self._visit("dialog progress")
-        self._press("alt+14419")
-        self._visit("dialog progress, numbers")
-        self._press("alt+14421")
-        self._visit("dialog progress, forget")
-        self._press("Escape", "Escape")
-        self._expect("Glosaria")
-        self._press("alt+431", 14950)
-        self._visit("main, Zoom menu")
-        self._press(14952, "ctrl+plus", "ctrl+plus", "ctrl+plus", "F2")
-        self._desktop.wait_for("text")
-        self._visit("main, zoomed in, editing a cell")
+        progress = self._texts.of(14402, "06-family-and-people")
+        self._stop("dialog progress", "alt+431", 14400, title=progress)
+        self._stop("dialog progress, numbers", "alt+14419")
+        self._stop("dialog progress, forget", "alt+14421")
+        self._leave("Glosaria", "Escape", "Escape")
+        self._stop("main, Zoom menu", "alt+431", 14950)
+        self._stop("main, zoomed in, editing a cell", 14952, "ctrl+plus", "ctrl+plus", "ctrl+plus", "F2", role="text")
         self._press("Escape", "ctrl+0")
         self._dialog(9001, "row height", "alt+431", 434)
         self._dialog(9000, "column width", "alt+431", 435)
@@ -160,96 +130,67 @@ class Tour:
         self._press("alt+400", 14500)
         self._expect(14570)
         self._desktop.type(f"{file}\r")
-        self._expect(f"{self._texts.of(14511)} - words.csv")
-        self._visit("dialog import, text")
-        self._press("alt+14519")
-        self._visit("dialog import, swapped")
-        self._press("alt+14522", "Return")
-        self._expect("Glosaria")
-        self._visit("main, imported list")
+        self._stop("dialog import, text", title=f"{self._texts.of(14511)} - words.csv")
+        self._stop("dialog import, swapped", "alt+14519")
+        self._stop("main, imported list", "alt+14522", "Return", title="Glosaria")
 
     def leg_files(self):
         damaged = self._home / "damaged.gla"
         damaged.write_bytes(b"Glosaria\r\n3.1.0\r\nnothing more")
         self._desktop.start("--no-splash", damaged)
-        self._expect(ALERT)
-        self._visit("dialog alert, damaged file")
-        self._press("Return")
-        self._expect("Glosaria")
+        self._stop("dialog alert, damaged file", title=ALERT)
+        self._leave("Glosaria", "Return")
         newer = self._home / "newer.gla"
         newer.write_bytes(vocabulary(LONG_PAIRS, "9.0.0"))
         self._desktop.launch(newer)
-        self._expect(ALERT)
-        self._visit("dialog alert, newer file")
+        self._stop("dialog alert, newer file", title=ALERT)
 
     def leg_quizzes(self):
         self._start_on("long words.gla", LONG_PAIRS)
         self._dialog(14330, "quiz options", "alt+445", 14312)
-        self._press("alt+445", 14300)
-        self._visit("main, menu of the words to ask")
-        for keys in ((14304,), ("alt+431", 14372), ("Right",)):
-            self._press(*keys)
-            self._desktop.wait_until_idle()
+        self._stop("main, menu of the words to ask", "alt+445", 14300)
+        self._press_in_turn((14304,), ("alt+431", 14372), ("Right",))
         self._visit("main, letters below the grid")
-        for keys in (("alt+445", 14300), (14302,), ("alt+431", 14372)):
-            self._press(*keys)
-            self._desktop.wait_until_idle()
+        self._press_in_turn(("alt+445", 14300), (14302,), ("alt+431", 14372))
         answered = 914
-        self._quiz(446, 12003, "Practice", [("answer", "alt+11000", LONG_PAIRS[0][1]), ("known", None, answered)], "alt+11001")
-        self._quiz(447, 12004, "Multiple Choice", [("chosen", "1", None), ("answered", "Return", answered)], "1", "Return")
-        self._quiz(448, 12005, "Question and Answer", [("hint", "alt+923", None), ("answered", "Return", answered), ("turned", "ctrl+z", None)], "Return")
+        spelled, chosen = ("answer", "alt+11000", LONG_PAIRS[0][1]), ("chosen", "1", None)
+        self._quiz(446, 12003, "Practice", [spelled, ("known", None, answered)], "alt+11001")
+        self._quiz(447, 12004, "Multiple Choice", [chosen, ("answered", "Return", answered)], "1", "Return")
+        typed = [("hint", "alt+923", None), ("answered", "Return", answered), ("turned", "ctrl+z", None)]
+        self._quiz(448, 12005, "Question and Answer", typed, "Return")
 
     def leg_printing(self):
         self._start_on("long list.gla", [(f"word {number}", f"Wort {number}") for number in range(351)])
-        self._press("ctrl+p")
-        self._desktop.wait_for("dialog")
-        self._visit("dialog print")
-        self._press("Escape")
-        self._expect("Glosaria")
+        self._stop("dialog print", "ctrl+p", role="dialog")
+        self._leave("Glosaria")
         self._dialog(14094, "page setup", "alt+400", 408)
         self._dialog(14762, "print test", "alt+400", 14760)
         self._press("alt+400", 409)
         self._desktop.wait_for(name=self._texts.of(12406, 1, 7))
         self._visit("main, preview of the whole page")
-        for zoom in ("half size", "full size"):
-            self._press("plus")
-            self._visit(f"main, preview at {zoom}")
-        self._press("Page_Down")
-        self._visit("main, preview scrolled")
+        self._stop("main, preview at half size", "plus")
+        self._stop("main, preview at full size", "plus")
+        self._stop("main, preview scrolled", "Page_Down")
         self._menu(400, "main, File menu of the preview")
 
     def leg_recovery(self):
         program = self._start(LESSON)
-        self._desktop.type("changed")
-        self._press("Return")
+        self._desktop.type("changed\r")
         state = self._home / "state"
         self._desktop.wait(lambda: any(path.is_file() for path in state.rglob("*.copy")), "the copy of the changes")
         self._desktop.kill(program)
         self._desktop.start("--no-splash")
-        self._expect(12611)
-        self._visit("dialog recovery")
-        self._press("alt+12617")
-        self._expect(ALERT)
-        self._visit("dialog alert, discard")
+        self._stop("dialog recovery", title=12611)
+        self._stop("dialog alert, discard", "alt+12617", title=ALERT)
 
     def leg_help(self):
         self._start(LESSON)
-        self._press("alt+454", 455)
-        self._expect(self._texts.of(13004, "Welcome to Glosaria"))
-        self._visit("dialog help, contents")
-        self._press("alt+13006")
-        self._desktop.type("sort")
-        self._visit("dialog help, index")
-        self._press("alt+13007")
-        self._desktop.type("letters")
-        self._press("Return")
-        self._visit("dialog help, search")
-        self._press("alt+13008", "alt+13023")
-        self._visit("dialog help, favorites")
-        self._press("ctrl+f")
-        self._desktop.type("the")
-        self._press("Return")
-        self._visit("dialog help, find on the page")
+        self._stop("dialog help, contents", "alt+454", 455, title=self._texts.of(13004, "Welcome to Glosaria"))
+        for name, text, *keys in (("index", "sort", "alt+13006"), ("search", "letters\r", "alt+13007"),
+                                  ("favorites", "", "alt+13008", "alt+13023"), ("find on the page", "the\r", "ctrl+f")):
+            self._press(*keys)
+            self._desktop.type(text)
+            self._visit("dialog help, " + name)
 
     # Ways to go
 
@@ -268,35 +209,45 @@ class Tour:
         self._desktop.start("--no-splash", file)
         self._desktop.wait_for("table")
 
-    def _open(self, file):
-        """Hands a file to the program that runs."""
-        self._desktop.launch(file)
-        self._desktop.wait_for(name=file.stem)
-
     def _press(self, *keys):
         self._desktop.key(*map(self._texts.key, keys))
+
+    def _press_in_turn(self, *groups):
+        """Keys of which the next need what those before them have done."""
+        for keys in groups:
+            self._press(*keys)
+            self._desktop.wait_until_idle()
 
     def _expect(self, text):
         title = self._texts.of(text)
         self._desktop.wait(lambda: self._desktop.active_title() == title, f"{title} instead of {self._desktop.active_title()}")
 
-    def _menu(self, title, name):
-        self._press(f"alt+{title}")
+    def _stop(self, name, *keys, title=None, role=None):
+        """Presses keys, waits for the title of the window that they open, or for what they show in it, and visits."""
+        if keys:
+            self._press(*keys)
+        if title:
+            self._expect(title)
+        if role:
+            self._desktop.wait_for(role)
         self._visit(name)
+
+    def _leave(self, title, *keys):
+        """Goes back to a window."""
+        self._press(*keys or ("Escape",))
+        self._expect(title)
+
+    def _menu(self, title, name):
+        self._stop(name, f"alt+{title}")
         self._press("Escape", "Escape")
 
     def _dialog(self, title, name, *keys):
-        self._press(*keys)
-        self._expect(title)
-        self._visit("dialog " + name)
-        self._press("Escape")
-        self._expect("Glosaria")
+        self._stop("dialog " + name, *keys, title=title)
+        self._leave("Glosaria")
 
     def _quiz(self, entry, title, kind, steps, *answer):
         """steps: what a stop is called, the key that leads there, and the label that shows that it is reached."""
-        self._press("alt+445", entry)
-        self._expect(f"{self._texts.of(title)} - long words")
-        self._visit(f"dialog {kind}")
+        self._stop(f"dialog {kind}", "alt+445", entry, title=f"{self._texts.of(title)} - long words")
         for name, step, text in steps:
             if step:
                 self._press(step)
@@ -307,8 +258,7 @@ class Tour:
             self._press(*answer)
             self._desktop.wait(lambda: self._labels() != labels, "the next question")
         self._visit(f"dialog {kind}, summary")
-        self._press("Escape")
-        self._expect("Glosaria")
+        self._leave("Glosaria")
 
     def _labels(self):
         return [label.name for label in self._desktop.find_all("label")]
