@@ -5,6 +5,7 @@
 #include "services/FormTexts.h"
 #include "services/help/DialogHelp.h"
 #include "services/help/rules/HelpBook.h"
+#include "support/TextLetters.h"
 
 namespace {
 
@@ -52,10 +53,14 @@ int textOf(const QWidget *widget)
 QString mnemonics(const QWidget &window)
 {
     QString letters;
+    QList<int> texts;
     for (const QWidget *control : window.findChildren<QWidget *>()) {
-        if (control->isVisible())
-            letters += QKeySequence::mnemonic(control->property("text").toString()).toString().right(1);
+        if (!control->isVisible())
+            continue;
+        letters += QKeySequence::mnemonic(control->property("text").toString()).toString().right(1);
+        texts += control->property("textId").toInt();
     }
+    expectDifferentLetters(texts, window.objectName());
     return letters;
 }
 

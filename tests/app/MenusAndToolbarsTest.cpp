@@ -2,6 +2,7 @@
 
 #include "app/MenuLayout.h"
 #include "document/ctlGridEdit.h"
+#include "support/TextLetters.h"
 #include "tools/frmFindReplace.h"
 #include "widgets/grid/FlexGridView.h"
 
@@ -330,4 +331,15 @@ TEST_F(MenusAndToolbarsTest, KeysZoomTheActiveVocabulary)
         EXPECT_EQ(grid.Zoom(), percent) << key;
     }
     EXPECT_TRUE(grid.EditMode()) << "a minus alone is typed";
+}
+
+TEST_F(MenusAndToolbarsTest, InNoLanguageDoTwoEntriesOfAMenuHaveTheSameLetter)
+{
+    newDocument();
+    for (const QMenu *menu : window->findChildren<QMenu *>()) {
+        QList<int> texts;
+        for (const QAction *entry : menu->actions())
+            texts += entry->property("textId").toInt();
+        expectDifferentLetters(texts, menu->objectName());
+    }
 }
