@@ -10,7 +10,8 @@ constexpr int Margin = 4;        // pixels
 constexpr int LeastHeight = 40;  // pixels, of the bars
 constexpr int UsualHeight = 90;  // pixels, of the bars
 constexpr int LeastBarWidth = 3; // pixels, with the gap
-constexpr int WidestBar = 60;    // pixels
+constexpr int WidestBar = 60;    // pixels, unless a text below is wider
+constexpr int TextGap = 6;       // pixels between the texts below
 constexpr double Gap = 0.2;      // of the room for a bar
 
 QAccessibleInterface *chartForScreenReaders(const QString &, QObject *object)
@@ -38,10 +39,18 @@ void BarChart::setBars(const QString &title, std::vector<Bar> bars)
     m_highest = 0;
     for (const Bar &bar : m_bars)
         m_highest = std::max(m_highest, bar.value);
+    measureTexts();
     m_current = hasFocus() ? std::min(m_current, int(m_bars.size()) - 1) : None;
     setAccessibleName(m_title);
     goTo(m_current);
     updateGeometry();
+}
+
+void BarChart::measureTexts()
+{
+    m_widestText = 0;
+    for (const Bar &bar : m_bars)
+        m_widestText = std::max(m_widestText, fontMetrics().horizontalAdvance(bar.below) + TextGap);
 }
 
 QString BarChart::asText() const
@@ -83,7 +92,7 @@ QRectF BarChart::barsArea() const
 QRectF BarChart::place(int bar) const
 {
     const QRectF area = barsArea();
-    const double room = std::min(area.width() / double(m_bars.size()), double(WidestBar));
+    const double room = std::min(area.width() / double(m_bars.size()), double(std::max(WidestBar, m_widestText)));
     const int position = isRightToLeft() ? int(m_bars.size()) - 1 - bar : bar;
     const double start = isRightToLeft() ? area.right() - room * double(m_bars.size()) : area.left();
     return {start + position * room, area.top(), room, area.height()};
@@ -98,6 +107,8 @@ void BarChart::goTo(int bar)
 
 bool BarChart::event(QEvent *event)
 {
+    if (event->type() == QEvent::FontChange)
+        measureTexts();
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
         updateGeometry();
     return QWidget::event(event);
@@ -185,11 +196,23 @@ void BarChart::paintBars(QPainter &painter) const
     }
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawLine(area.bottomLeft(), area.bottomRight());
+    paintTextsBelow(painter);
+}
+
+/// A text that would run into the one before is left out.
+void BarChart::paintTextsBelow(QPainter &painter) const
+{
+    const double baseline = barsArea().bottom() + fontMetrics().ascent() + 1;
+    QRectF before;
     for (int i = 0; i < int(m_bars.size()); ++i) {
         const QString &below = m_bars[size_t(i)].below;
         const double middle = place(i).center().x();
         const double width = fontMetrics().horizontalAdvance(below);
         const double start = std::clamp(middle - width / 2, 0.0, std::max(0.0, this->width() - width));
-        painter.drawText(QPointF(start, area.bottom() + fontMetrics().ascent() + 1), below);
+        const QRectF room(start, 0, width + TextGap - 1, 1);
+        if (below.isEmpty() || room.intersects(before))
+            continue;
+        before = room;
+        painter.drawText(QPointF(start, baseline), below);
     }
 }

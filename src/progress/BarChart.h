@@ -46,9 +46,12 @@ private:
     void goTo(int bar);
     void paintBars(QPainter &painter) const;
     void paintTexts(QPainter &painter) const;
+    void paintTextsBelow(QPainter &painter) const;
+    void measureTexts();
 
     QString m_title;
     std::vector<Bar> m_bars;
     int m_highest = 0;
+    int m_widestText = 0; ///< pixels, with a gap
     int m_current = None;
 };

@@ -84,9 +84,9 @@ void frmProgress::dressTable()
     for (int column = 0; column < ProgressModel::Columns; ++column) {
         const bool isWord = column <= ProgressModel::Answer;
         const bool isCount = column == ProgressModel::Asked || column == ProgressModel::Right;
-        const QString widest = isCount ? ProgressModel::headings().at(column) : date;
         header->setSectionResizeMode(column, isWord ? QHeaderView::Stretch : QHeaderView::Interactive);
-        header->resizeSection(column, metrics.horizontalAdvance(widest) + Margin);
+        const int heading = metrics.horizontalAdvance(ProgressModel::headings().at(column));
+        header->resizeSection(column, std::max(heading, isCount ? 0 : metrics.horizontalAdvance(date)) + Margin);
     }
     m_ui->tblWords->sortByColumn(-1, Qt::AscendingOrder); // as in the vocabulary
 }
