@@ -66,7 +66,7 @@ struct Program
     UndoRecord undo;
     modMsgBox alert{[this](int topic) { help.HtmlHelp(HelpTarget::ofAlertBoxes(), HH_HELP_CONTEXT, topic); },
                     QApplication::beep};
-    HelpViewers help{alert, UserFolders::state() + QStringLiteral("/help-favorites")};
+    HelpViewers help{alert, UserFolders::state() + QStringLiteral("/help-favorites"), TextLanguage::inUse()};
     CupsServer printServer;
     QtPrinter printer{printServer};
     QtDialogs dialogs{printer, help};

@@ -1,3 +1,4 @@
+#include "resources/TextLanguage.h"
 #include "services/help/HelpFile.h"
 #include "services/help/rules/HelpBook.h"
 
@@ -11,6 +12,16 @@ QStringList pagesOf(const HelpBook &book)
     for (const HelpChapter *chapter : book.pages())
         pages.append(chapter->page);
     return pages;
+}
+
+/// Every page, in every language.
+QStringList pageFiles()
+{
+    QStringList files;
+    for (QDirIterator file(HelpFolder + "html", QDir::Files, QDirIterator::Subdirectories); file.hasNext();)
+        files.append(QDir(HelpFolder).relativeFilePath(file.next()));
+    files.sort();
+    return files;
 }
 
 HelpBook book()
@@ -30,21 +41,25 @@ TEST(HelpContent, EveryTopicOfTheProgramHasAPage)
 TEST(HelpContent, EveryPageStandsInTheContentsOnceUnderItsTitleAndHasNoColours)
 {
     static const QRegularExpression colour("#[0-9a-f]{3}|color[:=]|bgcolor");
-    QStringList files;
-    for (const QString &name : QDir(HelpFolder + "html").entryList(QDir::Files))
-        files.append("html/" + name);
-    QStringList listed = pagesOf(book());
-    listed.sort();
-    EXPECT_EQ(listed, files);
-    const HelpBook all = book();
-    for (const HelpChapter *chapter : all.pages()) {
-        const QString page = readFile(HelpFolder + chapter->page);
-        for (const char *heading : {"<title>%1</title>", "<h1>%1</h1>"})
-            EXPECT_TRUE(page.contains(QString(heading).arg(chapter->title))) << chapter->page.toStdString();
-        EXPECT_FALSE(page.contains(colour)) << chapter->page.toStdString();
+    QStringList listed;
+    for (const QString &language : QStringList{""} + TextLanguage::available()) {
+        HelpFile file(HELP_FILE, language);
+        ASSERT_TRUE(file.open());
+        for (const HelpChapter *chapter : file.book().pages()) {
+            const QString name = file.shownFor(chapter->page);
+            if (!language.isEmpty() && name == chapter->page)
+                continue;
+            listed.append(name);
+            const QString page = readFile(HelpFolder + name);
+            for (const char *heading : {"<title>%1</title>", "<h1>%1</h1>"})
+                EXPECT_TRUE(page.contains(QString(heading).arg(chapter->title))) << name.toStdString();
+            EXPECT_FALSE(page.contains(colour)) << name.toStdString();
+        }
     }
-    for (const HelpKeyword &keyword : all.keywords)
-        EXPECT_TRUE(files.contains(keyword.page)) << keyword.word.toStdString();
+    listed.sort();
+    EXPECT_EQ(listed, pageFiles());
+    for (const HelpKeyword &keyword : book().keywords)
+        EXPECT_TRUE(listed.contains(keyword.page)) << keyword.word.toStdString();
 }
 
 TEST(HelpContent, NoLinkIsDead)
@@ -53,10 +68,10 @@ TEST(HelpContent, NoLinkIsDead)
     ASSERT_TRUE(file.open());
     static const QRegularExpression link(R"rx((?:href|src)="([^"#]*))rx");
     int links = 0;
-    for (const QString &page : pagesOf(book())) {
+    for (const QString &page : pageFiles()) {
         auto match = link.globalMatch(QString::fromUtf8(file.contents(page)));
         for (; match.hasNext(); ++links) {
-            const QString target = QDir::cleanPath("html/" + match.next().captured(1));
+            const QString target = QDir::cleanPath(QFileInfo(page).path() + '/' + match.next().captured(1));
             EXPECT_FALSE(file.contents(target).isEmpty()) << page.toStdString() << ": " << target.toStdString();
         }
     }

@@ -1,5 +1,7 @@
 #include "services/help/HelpViewer.h"
+#include "resources/TextLanguage.h"
 #include "services/help/HelpBrowser.h"
+#include "services/help/HelpFile.h"
 #include "services/help/HelpViewers.h"
 #include "support/ScriptedAlertBox.h"
 
@@ -145,10 +147,7 @@ TEST_F(HelpViewerTest, KeysDoWhatTheToolsDo)
 
 TEST_F(HelpViewerTest, EveryLinkLeadsToItsPageByMouseAndByKeyAndBackAndForward)
 {
-    ASSERT_TRUE(viewers.HtmlHelp(target, HH_DISPLAY_TOC));
-    QApplication::setActiveWindow(main());
-    auto *browser = part<HelpBrowser>("browser");
-    const auto links = [browser] {
+    const auto linksOf = [](const HelpBrowser *browser) {
         QList<QTextCursor> found;
         QString last;
         for (QTextCursor at(browser->document()); !at.atEnd();) {
@@ -161,32 +160,64 @@ TEST_F(HelpViewerTest, EveryLinkLeadsToItsPageByMouseAndByKeyAndBackAndForward)
         return found;
     };
     int followed = 0;
-    for (QTreeWidgetItemIterator item(part<QTreeWidget>("contents")); *item; ++item) {
-        const QString start = (*item)->data(0, Qt::UserRole).toString();
-        main()->showPage(start);
-        const int count = int(links().size());
-        for (int i = 0; i < count; ++i, ++followed) {
-            const QTextCursor link = links().at(i);
-            const QString to = "html/" + link.charFormat().anchorHref();
-            SCOPED_TRACE((start + " to " + to).toStdString());
-            browser->setTextCursor(link);
-            browser->ensureCursorVisible();
-            QTest::mouseClick(browser->viewport(), Qt::LeftButton, {}, browser->cursorRect().center());
-            EXPECT_EQ(main()->page(), to);
-            QTest::keyClick(browser, Qt::Key_Left, Qt::AltModifier);
-            EXPECT_EQ(main()->page(), start);
-            QTest::keyClick(browser, Qt::Key_Right, Qt::AltModifier);
-            EXPECT_EQ(main()->page(), to);
-            main()->showPage(start);
-            browser->moveCursor(QTextCursor::Start);
-            for (int tab = 0; tab <= i; ++tab)
-                QTest::keyClick(browser, Qt::Key_Tab);
-            QTest::keyClick(browser, Qt::Key_Return);
-            EXPECT_EQ(main()->page(), to);
-            main()->showPage(start);
+    for (const QString &language : QStringList{""} + TextLanguage::available()) {
+        HelpViewers translated{alert, folder.filePath("favorites"), language};
+        ASSERT_TRUE(translated.HtmlHelp(target, HH_DISPLAY_TOC));
+        HelpViewer &viewer = *translated.window("Main");
+        QApplication::setActiveWindow(&viewer);
+        auto *browser = viewer.findChild<HelpBrowser *>();
+        HelpFile file(HELP_FILE, language);
+        ASSERT_TRUE(file.open());
+        for (QTreeWidgetItemIterator item(viewer.findChild<QTreeWidget *>("contents")); *item; ++item) {
+            const QString start = (*item)->data(0, Qt::UserRole).toString();
+            if (!language.isEmpty() && file.shownFor(start) == start)
+                continue;
+            viewer.showPage(start);
+            EXPECT_EQ(browser->document()->firstBlock().textDirection(), QLocale(language).textDirection())
+                << start.toStdString();
+            const int count = int(linksOf(browser).size());
+            for (int i = 0; i < count; ++i, ++followed) {
+                const QTextCursor link = linksOf(browser).at(i);
+                const QString to = "html/" + QFileInfo(link.charFormat().anchorHref()).fileName();
+                SCOPED_TRACE((language + ' ' + start + " to " + to).toStdString());
+                browser->setTextCursor(link);
+                browser->ensureCursorVisible();
+                QTest::mouseClick(browser->viewport(), Qt::LeftButton, {}, browser->cursorRect().center());
+                EXPECT_EQ(viewer.page(), to);
+                QTest::keyClick(browser, Qt::Key_Left, Qt::AltModifier);
+                EXPECT_EQ(viewer.page(), start);
+                QTest::keyClick(browser, Qt::Key_Right, Qt::AltModifier);
+                EXPECT_EQ(viewer.page(), to);
+                viewer.showPage(start);
+                browser->moveCursor(QTextCursor::Start);
+                for (int tab = 0; tab <= i; ++tab)
+                    QTest::keyClick(browser, Qt::Key_Tab);
+                QTest::keyClick(browser, Qt::Key_Return);
+                EXPECT_EQ(viewer.page(), to);
+                viewer.showPage(start);
+            }
         }
     }
-    EXPECT_GT(followed, 60);
+    EXPECT_GT(followed, 80);
+}
+
+TEST_F(HelpViewerTest, PagesAreShownInTheLanguageThatTheyExistIn)
+{
+    // a language, a page, and its title in the contents
+    const std::array<const char *, 3> cases[] = {{"", "quizzes", "Quizzes"},
+                                                 {"de", "quizzes", "Abfragen"},
+                                                 {"de", "sort", "Sort"},
+                                                 {"xx", "quizzes", "Quizzes"}};
+    for (const auto &[language, page, title] : cases) {
+        HelpViewers translated{alert, folder.filePath("favorites"), language};
+        translated.HtmlHelp(target, HH_DISPLAY_TOPIC, QString("html\\%1.html").arg(page));
+        const HelpViewer &viewer = *translated.window("Main");
+        EXPECT_EQ(viewer.page(), QString("html/%1.html").arg(page));
+        EXPECT_EQ(viewer.findChild<HelpBrowser *>()->document()->firstBlock().textDirection(), Qt::LeftToRight);
+        EXPECT_EQ(viewer.windowTitle().section(" - ", 0, 0), title) << language;
+        EXPECT_EQ(viewer.findChild<QTreeWidget *>("contents")->currentItem()->text(0), title);
+        EXPECT_TRUE(viewer.findChild<HelpBrowser *>()->toPlainText().startsWith(title));
+    }
 }
 
 TEST_F(HelpViewerTest, StaysUsableWhileDialogsOpenAndClose)

@@ -1,6 +1,7 @@
 #include "services/help/HelpBrowser.h"
 
 #include "services/help/HelpFile.h"
+#include "services/help/rules/HelpSearch.h"
 
 #include <QDesktopServices>
 #include <QRegularExpression>
@@ -15,9 +16,14 @@ constexpr int PageMargin = 16; // pixels
 
 const QString Scheme = QStringLiteral("help");
 
-QUrl urlOf(const QString &page)
+QUrl urlOf(const QString &file)
 {
-    return QUrl(Scheme + QStringLiteral(":/") + page);
+    return QUrl(Scheme + QStringLiteral(":/") + file);
+}
+
+QString fileOf(const QUrl &url)
+{
+    return url.path().mid(1);
 }
 
 } // namespace
@@ -28,6 +34,7 @@ HelpBrowser::HelpBrowser(QWidget *parent)
     // The toolkit would take every address with a scheme for one outside.
     setOpenLinks(false);
     connect(this, &QTextBrowser::anchorClicked, this, &HelpBrowser::follow);
+    connect(this, &QTextBrowser::sourceChanged, this, &HelpBrowser::setDirection);
     document()->setDocumentMargin(PageMargin);
 }
 
@@ -49,14 +56,30 @@ QString HelpBrowser::page() const
     return pageOf(source());
 }
 
-QString HelpBrowser::pageOf(const QUrl &source)
+QString HelpBrowser::pageOf(const QUrl &source) const
 {
-    return source.path().mid(1);
+    return m_file->pageOf(fileOf(source));
+}
+
+void HelpBrowser::doSetSource(const QUrl &name, QTextDocument::ResourceType type)
+{
+    QUrl source = urlOf(m_file->shownFor(fileOf(name)));
+    source.setFragment(name.fragment());
+    QTextBrowser::doSetSource(source, type);
+}
+
+/// An English page is written from left to right in a window of any direction.
+void HelpBrowser::setDirection(const QUrl &source)
+{
+    const bool translated = pageOf(source) != fileOf(source);
+    QTextOption lines = document()->defaultTextOption();
+    lines.setTextDirection(translated ? QLocale(m_file->language()).textDirection() : Qt::LeftToRight);
+    document()->setDefaultTextOption(lines);
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl &name)
 {
-    const QByteArray bytes = m_file->contents(pageOf(source().resolved(name)));
+    const QByteArray bytes = m_file->contents(fileOf(source().resolved(name)));
     if (type == QTextDocument::ImageResource)
         return QImage::fromData(bytes);
     return QString::fromUtf8(bytes);
@@ -82,7 +105,8 @@ void HelpBrowser::markWords(const QStringList &words)
 {
     QList<QTextEdit::ExtraSelection> marks;
     for (const QString &word : words) {
-        const QRegularExpression beginning(QStringLiteral("\\b") + QRegularExpression::escape(word),
+        const QString before = HelpSearch::standsWithoutBlanks(word) ? QString() : QStringLiteral("\\b");
+        const QRegularExpression beginning(before + QRegularExpression::escape(word),
                                            QRegularExpression::CaseInsensitiveOption |
                                                QRegularExpression::UseUnicodePropertiesOption);
         for (QTextCursor at = document()->find(beginning); !at.isNull(); at = document()->find(beginning, at)) {

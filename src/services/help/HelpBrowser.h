@@ -4,8 +4,8 @@
 
 class HelpFile;
 
-/// Shows the pages of the help file. Links between pages are followed here, links to the web and to mail by the
-/// desktop.
+/// Shows the pages of the help file, in the help's language where they exist in it. Links between pages are followed
+/// here, links to the web and to mail by the desktop.
 class HelpBrowser : public QTextBrowser
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
     void showPage(const QString &page);
     /// The page shown; empty before the first.
     QString page() const;
-    static QString pageOf(const QUrl &source);
+    QString pageOf(const QUrl &source) const;
 
     /// Goes to the next place of a text, from the end on at the start; false when the page does not hold it.
     bool findText(const QString &text, bool backward);
@@ -32,11 +32,13 @@ public:
     QVariant loadResource(int type, const QUrl &name) override;
 
 protected:
+    void doSetSource(const QUrl &name, QTextDocument::ResourceType type) override;
     void changeEvent(QEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:
     void follow(const QUrl &link);
+    void setDirection(const QUrl &source);
 
     const HelpFile *m_file = nullptr;
     int m_zoom = 0; ///< steps above (or below) the normal size

@@ -12,8 +12,9 @@ const QString ProjectFile = QStringLiteral("glhelp.qhp");
 
 } // namespace
 
-HelpFile::HelpFile(const QString &path)
+HelpFile::HelpFile(const QString &path, const QString &language)
     : m_path(path)
+    , m_language(language)
 {
 }
 
@@ -33,7 +34,20 @@ bool HelpFile::open()
         return false;
     m_engine = std::move(engine);
     m_book = parseHelpBook(contents(ProjectFile));
+    if (!m_language.isEmpty())
+        findTranslated();
     return true;
+}
+
+void HelpFile::findTranslated()
+{
+    for (const HelpChapter *chapter : m_book.pages()) {
+        const QString file = translatedPage(chapter->page, m_language);
+        if (!contents(file).isEmpty())
+            m_translated.insert(chapter->page, file);
+    }
+    for (auto page = m_translated.cbegin(); page != m_translated.cend(); ++page)
+        m_book.setTitle(page.key(), titleOfPage(contents(page.value())));
 }
 
 QUrl HelpFile::urlOf(const QString &file) const

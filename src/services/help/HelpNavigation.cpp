@@ -125,7 +125,7 @@ void HelpNavigation::makeSearchable()
 {
     m_search = std::make_unique<HelpSearch>();
     for (const HelpChapter *chapter : m_file->book().pages()) {
-        const QString html = QString::fromUtf8(m_file->contents(chapter->page));
+        const QString html = QString::fromUtf8(m_file->contents(m_file->shownFor(chapter->page)));
         m_search->addPage(chapter->page, chapter->title, QTextDocumentFragment::fromHtml(html).toPlainText());
     }
 }

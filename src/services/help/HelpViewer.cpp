@@ -50,7 +50,7 @@ HelpViewer::HelpViewer(const HelpFile &file, HelpFavorites &favorites, Kind kind
         m_ui->browser->markWords(words);
     });
     connect(m_ui->browser, &QTextBrowser::sourceChanged, this,
-            [this](const QUrl &source) { onPageShown(HelpBrowser::pageOf(source)); });
+            [this](const QUrl &source) { onPageShown(m_ui->browser->pageOf(source)); });
     connect(m_ui->findText, &QLineEdit::textEdited, m_ui->findOutcome, &QLabel::clear);
     connect(m_ui->findText, &QLineEdit::returnPressed, this, [this] { find(false); });
     connect(m_ui->findNext, &QPushButton::clicked, this, [this] { find(false); });

@@ -15,9 +15,10 @@ const QString AlertWindow = QStringLiteral("MboxHelp");
 
 } // namespace
 
-HelpViewers::HelpViewers(AlertBox &alert, const QString &favoritesPath)
+HelpViewers::HelpViewers(AlertBox &alert, const QString &favoritesPath, const QString &language)
     : m_alert(alert)
     , m_favorites(favoritesPath)
+    , m_language(language)
 {
 }
 
@@ -67,7 +68,7 @@ bool HelpViewers::refuse(int textId, const QString &detail)
 
 HelpFile &HelpViewers::fileAt(const QString &path)
 {
-    return m_files.try_emplace(path, path).first->second;
+    return m_files.try_emplace(path, path, m_language).first->second;
 }
 
 HelpViewer &HelpViewers::windowFor(const HelpTarget &target)

@@ -14,8 +14,8 @@ class HelpViewer;
 class HelpViewers : public HelpDisplay
 {
 public:
-    /// The user's favorites are kept in the given file.
-    HelpViewers(AlertBox &alert, const QString &favoritesPath);
+    /// The user's favorites are kept in the given file. The language is that of the pages where they exist in it.
+    HelpViewers(AlertBox &alert, const QString &favoritesPath, const QString &language = {});
     ~HelpViewers() override;
 
     bool HtmlHelp(const HelpTarget &target, HelpCommand command, const QVariant &data = {}) override;
@@ -32,6 +32,7 @@ private:
 
     AlertBox &m_alert;
     HelpFavorites m_favorites;
+    QString m_language;
     std::map<QString, HelpFile> m_files;
     std::map<QString, std::unique_ptr<HelpViewer>> m_windows;
 };

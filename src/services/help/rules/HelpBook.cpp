@@ -1,5 +1,6 @@
 #include "services/help/rules/HelpBook.h"
 
+#include <QRegularExpression>
 #include <QXmlStreamReader>
 
 namespace {
@@ -9,6 +10,15 @@ void collect(const std::vector<HelpChapter> &chapters, std::vector<const HelpCha
     for (const HelpChapter &chapter : chapters) {
         pages.push_back(&chapter);
         collect(chapter.chapters, pages);
+    }
+}
+
+void retitle(std::vector<HelpChapter> &chapters, const QString &page, const QString &title)
+{
+    for (HelpChapter &chapter : chapters) {
+        if (chapter.page == page)
+            chapter.title = title;
+        retitle(chapter.chapters, page, title);
     }
 }
 
@@ -52,6 +62,11 @@ QString HelpBook::titleOf(const QString &page) const
     return found == all.end() ? QString() : (*found)->title;
 }
 
+void HelpBook::setTitle(const QString &page, const QString &title)
+{
+    retitle(chapters, page, title);
+}
+
 std::vector<const HelpChapter *> HelpBook::pages() const
 {
     std::vector<const HelpChapter *> all;
@@ -72,6 +87,18 @@ HelpBook parseHelpBook(const QByteArray &project)
             book.keywords = readKeywords(reader);
     }
     return book;
+}
+
+QString translatedPage(const QString &page, const QString &language)
+{
+    const qsizetype name = page.lastIndexOf(QLatin1Char('/')) + 1;
+    return page.left(name) + language + QLatin1Char('/') + page.mid(name);
+}
+
+QString titleOfPage(const QByteArray &html)
+{
+    static const QRegularExpression title(QStringLiteral("<title>(.*)</title>"));
+    return title.match(QString::fromUtf8(html)).captured(1);
 }
 
 QHash<int, QString> parseHelpContexts(const QByteArray &table)

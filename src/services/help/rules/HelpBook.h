@@ -29,12 +29,19 @@ struct HelpBook
 
     /// Title of a page in the contents; empty for a page that is not in them.
     QString titleOf(const QString &page) const;
+    void setTitle(const QString &page, const QString &title);
     /// Every page of the contents, in reading order.
     std::vector<const HelpChapter *> pages() const;
 };
 
 /// Reads the project file; one that is damaged gives what stands before the damage.
 HelpBook parseHelpBook(const QByteArray &project);
+
+/// Where a page stands in another language, if it does: "html/de/sort.html" for "html/sort.html".
+QString translatedPage(const QString &page, const QString &language);
+
+/// The title that a page tells of itself.
+QString titleOfPage(const QByteArray &html);
 
 /// Reads the table of context numbers: lines "id<TAB>page"; empty lines and lines that begin with # are skipped, and so
 /// are lines of any other form.

@@ -18,11 +18,21 @@ QStringList wordsOf(const QString &text)
 
 int countOf(const QString &beginning, const QStringList &words)
 {
-    return int(std::count_if(words.begin(), words.end(),
-                             [&beginning](const QString &word) { return word.startsWith(beginning); }));
+    const bool anywhere = HelpSearch::standsWithoutBlanks(beginning);
+    return int(std::count_if(words.begin(), words.end(), [&](const QString &word) {
+        return anywhere ? word.contains(beginning) : word.startsWith(beginning);
+    }));
 }
 
 } // namespace
+
+bool HelpSearch::standsWithoutBlanks(const QString &word)
+{
+    return std::any_of(word.begin(), word.end(), [](QChar letter) {
+        const QChar::Script script = letter.script();
+        return script == QChar::Script_Han || script == QChar::Script_Hiragana || script == QChar::Script_Katakana;
+    });
+}
 
 void HelpSearch::addPage(const QString &page, const QString &title, const QString &text)
 {

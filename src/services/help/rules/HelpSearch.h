@@ -6,7 +6,7 @@
 #include <vector>
 
 /// Finds the topics that speak of what is searched for. Case and accents do not count, and a word is found by its
-/// beginning: "practi" finds "Practice".
+/// beginning: "practi" finds "Practice". In Chinese and Japanese, where no blank shows it, a word may begin anywhere.
 class HelpSearch
 {
 public:
@@ -15,6 +15,9 @@ public:
         QString page;
         QString title;
     };
+
+    /// True for Chinese and Japanese.
+    static bool standsWithoutBlanks(const QString &word);
 
     void addPage(const QString &page, const QString &title, const QString &text);
 
