@@ -162,9 +162,10 @@ void ctlGrid::RefreshTextPos()
     if (!EditMode())
         return;
     const QPoint origin = view().viewport()->pos();
-    QRect box = view().cellRect(Row(), Col()).translated(origin);
-    box.setWidth(box.width() - Twips::toPixelsX(EditBoxInset));
-    box.setHeight(box.height() - Twips::toPixelsY(EditBoxInset));
+    const QRect cell = view().cellRect(Row(), Col()).translated(origin);
+    QRect box(cell.topLeft(), cell.size() - QSize(Twips::toPixelsX(EditBoxInset), Twips::toPixelsY(EditBoxInset)));
+    if (RightToLeft())
+        box.moveRight(cell.right());
     const QRect shown = box & view().cellArea().translated(origin);
     if (shown.isEmpty())
         box.moveBottomRight(QPoint(-1, -1)); // scrolled away, still editing

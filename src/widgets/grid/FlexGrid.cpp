@@ -4,6 +4,7 @@
 #include "widgets/grid/FlexGridAccessible.h"
 #include "widgets/grid/FlexGridView.h"
 
+#include <QGuiApplication>
 #include <QMetaProperty>
 #include <QWheelEvent>
 
@@ -14,6 +15,7 @@ FlexGrid::FlexGrid(QWidget *parent)
     , m_view(new FlexGridView(m_state, this))
 {
     m_state.look.Font = font();
+    m_state.rightToLeft = QGuiApplication::isRightToLeft();
     m_state.cells.setRows(2);
     m_state.cells.setCols(2);
     setFocusProxy(m_view);

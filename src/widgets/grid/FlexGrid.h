@@ -269,7 +269,7 @@ public:
     void setRedraw(bool redraw); ///< false holds drawing back until it is true again
     void Refresh();
     bool RightToLeft() const { return m_state.rightToLeft; }
-    void setRightToLeft(bool rightToLeft);
+    void setRightToLeft(bool rightToLeft); ///< the first column at the right; at first as the program's windows
     int ScrollBars() const { return m_state.look.ScrollBars; }
     void setScrollBars(int bars); ///< 0 none, 1 horizontal, 2 vertical, 3 both
     bool ScrollTrack() const { return m_state.look.ScrollTrack; }

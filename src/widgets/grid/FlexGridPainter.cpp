@@ -5,6 +5,7 @@
 #include "widgets/grid/FlexGridMerges.h"
 
 #include <QPainter>
+#include <QStyle>
 
 #include <algorithm>
 #include <cmath>
@@ -193,6 +194,8 @@ void FlexGridPainter::paintText(QPainter &painter, int row, int col, const QRect
     if (format && format->textStyle >= 0)
         style = format->textStyle;
     setting.alignment = FlexGridCellText::alignmentOf(alignment, setting.text);
+    if (number && m_state.rightToLeft) // beside the words, too
+        setting.alignment = QStyle::visualAlignment(Qt::RightToLeft, setting.alignment);
 
     if (style > 0) {
         // raised texts throw light to the upper left, inset ones to the lower right; the light styles less of it

@@ -40,7 +40,7 @@ int FlexGridView::borderColAt(const QPoint &position) const
     int found = -1;
     if (!(m_state.look.AllowUserResizing & FlexGridLook::ResizeCols) || position.y() >= fixedHeight())
         return found;
-    const int x = m_state.rightToLeft ? viewport()->width() - position.x() : position.x();
+    const int x = mirrored(position.x(), 1);
     for (int col = 0; col < m_state.cells.cols(); ++col) {
         const qint64 border = colLeft(col) + colPixels(col);
         const bool shown = col < m_state.fixedCols || border >= fixedWidth();
@@ -191,8 +191,7 @@ void FlexGridView::dragBorderTo(const QPoint &position)
         const auto height = std::max<qint64>(SmallestDragged, position.y() - rowTop(m_dragged));
         Q_EMIT rowHeightWanted(m_dragged, m_state.zoom.fromPixelsY(int(height)));
     } else if (m_drag == Drag::ColBorder && m_dragged < m_state.cells.cols()) {
-        const int x = m_state.rightToLeft ? viewport()->width() - position.x() : position.x();
-        const auto width = std::max<qint64>(SmallestDragged, x - colLeft(m_dragged));
+        const auto width = std::max<qint64>(SmallestDragged, mirrored(position.x(), 1) - colLeft(m_dragged));
         Q_EMIT colWidthWanted(m_dragged, m_state.zoom.fromPixelsX(int(width)));
     }
 }
