@@ -7,6 +7,7 @@
 #include "document/DocumentList.h"
 #include "document/rules/QuizModeText.h"
 #include "resources/StringTable.h"
+#include "resources/TextLanguage.h"
 #include "services/FormTexts.h"
 #include "services/rules/QuizModes.h"
 #include "services/settings/clsAppProperties.h"
@@ -201,7 +202,7 @@ void AppMenus::rebuildWindow(QMenu *menu, const QStringList &fixedEntries)
         if (caption.size() > LongestCaption)
             caption = caption.left(LongestCaption) + QStringLiteral("...");
         QAction *action = m_table.action(MenuLayout::documentKey(document->Tag()));
-        action->setText(FormTexts::escapeMnemonic(caption));
+        action->setText(FormTexts::escapeMnemonic(TextLanguage::isolated(caption)));
         action->setCheckable(true);
         action->setChecked(document == m_context.documents.active());
         menu->addAction(action);

@@ -8,6 +8,7 @@
 #include "document/rules/RowNumbers.h"
 #include "document/rules/file/VocabularyFile.h"
 #include "resources/StringTable.h"
+#include "resources/TextLanguage.h"
 #include "services/AlertBox.h"
 #include "services/Hourglass.h"
 #include "services/settings/clsMRUFileList.h"
@@ -36,7 +37,7 @@ public:
     BusyStatus(modSBFunc &status, int textId, const QString &path, qint64 maximum)
         : m_status(status)
     {
-        m_status.showText(resText(textId) + VocabularyFile::title(path));
+        m_status.showText(resText(textId) + TextLanguage::isolated(VocabularyFile::title(path)));
         m_status.createProgress(maximum);
     }
     ~BusyStatus()
@@ -194,8 +195,8 @@ bool FileCommands::confirmClose(frmDoc &document)
     document.commitRunningEdit();
     if (!document.Dirty())
         return true;
-    const QString prompt = resText(700) + QStringLiteral(" [") + document.Caption() + QStringLiteral("] ") +
-                           resText(701) + QStringLiteral("\r\n") + resText(702);
+    const QString prompt = resText(700) + QStringLiteral(" [") + TextLanguage::isolated(document.Caption()) +
+                           QStringLiteral("] ") + resText(701) + QStringLiteral("\r\n") + resText(702);
     const AlertBox::Answer answer =
         m_needs.alert.show(nullptr, {.prompt = prompt, .buttons = Alert::YesNoCancelHelp, .helpId = ClosingTopic});
     if (answer == AlertBox::AnswerNo)
@@ -258,7 +259,7 @@ void FileCommands::load(const QString &path, OpenAs how)
     VocabularyFile file(path);
     const VocabularyCodec::Header header = file.readHeader();
     if (header.outcome == Outcome::BadFormat)
-        return tell(Tone::Plain, resText(713) + path + resText(714), BadFormatTopic);
+        return tell(Tone::Plain, resText(713) + TextLanguage::isolated(path) + resText(714), BadFormatTopic);
     if (header.outcome == Outcome::NewerVersion)
         return tell(Tone::Plain, withTitle(722, path), NewerTopic);
     if (header.outcome == Outcome::Ok && header.olderVersion) {
@@ -268,16 +269,17 @@ void FileCommands::load(const QString &path, OpenAs how)
     }
     const Outcome outcome = header.outcome == Outcome::Ok ? readInto(file, path, how) : header.outcome;
     if (outcome == Outcome::TooManyRows)
-        tell(Tone::Plain, resText(712) + path + resText(14075).arg(QLocale().toString(Vocabulary::MostRows)));
+        tell(Tone::Plain, resText(712) + TextLanguage::isolated(path) +
+                              resText(14075).arg(QLocale().toString(Vocabulary::MostRows)));
     else if (outcome != Outcome::Ok)
-        tell(Tone::Plain, resText(712) + path);
+        tell(Tone::Plain, resText(712) + TextLanguage::isolated(path));
 }
 
 bool FileCommands::refuseOpenOne(const QString &path)
 {
     const bool isOpen = m_needs.documents.findByPath(path);
     if (isOpen)
-        tell(Tone::Plain, resText(710) + path + resText(711), AlreadyOpenTopic);
+        tell(Tone::Plain, resText(710) + TextLanguage::isolated(path) + resText(711), AlreadyOpenTopic);
     return isOpen;
 }
 

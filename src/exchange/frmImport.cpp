@@ -4,6 +4,7 @@
 #include "exchange/rules/text/DelimitedText.h"
 #include "exchange/rules/text/TextEncoding.h"
 #include "resources/StringTable.h"
+#include "resources/TextLanguage.h"
 #include "services/FormTexts.h"
 #include "services/Hourglass.h"
 #include "services/desktop/EnterKey.h"
@@ -38,7 +39,7 @@ frmImport::frmImport(const ListSource &source, const QString &name, bool intoAct
     m_ui->setupUi(this);
     FormTexts::apply(this);
     EnterKey::leaveToDialog(*this);
-    setWindowTitle(FormTexts::withoutMnemonic(windowTitle()) + QStringLiteral(" - ") + name);
+    setWindowTitle(FormTexts::withoutMnemonic(windowTitle()) + QStringLiteral(" - ") + TextLanguage::isolated(name));
     m_ui->cboSeparator->lineEdit()->setAccessibleName(FormTexts::withoutMnemonic(m_ui->lblSeparator->text()));
     m_ui->optThis->setEnabled(intoActive);
     offerChoices();

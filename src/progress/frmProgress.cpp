@@ -7,6 +7,7 @@
 #include "platform/files/AtomicFile.h"
 #include "progress/StrengthDelegate.h"
 #include "resources/StringTable.h"
+#include "resources/TextLanguage.h"
 #include "services/AlertBox.h"
 #include "services/FormTexts.h"
 #include "services/Hourglass.h"
@@ -61,12 +62,17 @@ frmProgress::frmProgress(const frmDoc &document, int quizMode, const Needs &need
 {
     m_ui->setupUi(this);
     FormTexts::apply(this);
-    setWindowTitle(resText(14402).arg(document.Caption()));
+    setWindowTitle(resText(14402).arg(TextLanguage::isolated(document.Caption())));
     m_ui->tblWords->setModel(&m_model);
     m_ui->tblWords->setItemDelegateForColumn(ProgressModel::Strength, new StrengthDelegate(this));
     dressTable();
     fillDirections(quizMode);
     fillForgetMenu();
+    if (isRightToLeft()) { // which the box would do for each line by itself
+        QTextOption lines = m_ui->txtNumbers->document()->defaultTextOption();
+        lines.setTextDirection(Qt::RightToLeft);
+        m_ui->txtNumbers->document()->setDefaultTextOption(lines);
+    }
     connectControls();
     refresh();
 }

@@ -9,6 +9,7 @@
 #include "quiz/rules/AnswerLetters.h"
 #include "resources/Pictures.h"
 #include "resources/StringTable.h"
+#include "resources/TextLanguage.h"
 #include "services/Hourglass.h"
 #include "services/desktop/EnterKey.h"
 #include "services/settings/clsAppProperties.h"
@@ -86,7 +87,7 @@ void frmOva::begin(QWidget &document, const QString &documentTitle)
     document.setWindowState(m_documentState | Qt::WindowMinimized);
     m_tag = QStringLiteral("1");
     layOut();
-    setWindowTitle(windowTitle() + QStringLiteral(" - ") + documentTitle);
+    setWindowTitle(windowTitle() + QStringLiteral(" - ") + TextLanguage::isolated(documentTitle));
     connectControls();
     connectSession();
     connectSpeaker();

@@ -3,6 +3,8 @@
 #include "resources/ResourceFiles.h"
 #include "resources/TextLanguage.h"
 
+#include <QLocale>
+
 #include <algorithm>
 
 namespace {
@@ -54,6 +56,13 @@ QString &languageInUse()
 const QString &TextLanguage::inUse()
 {
     return languageInUse();
+}
+
+QString TextLanguage::isolated(const QString &name)
+{
+    constexpr QChar FirstStrongIsolate(0x2068), PopIsolate(0x2069);
+    const bool mixes = QLocale(languageInUse()).textDirection() == Qt::RightToLeft;
+    return mixes ? FirstStrongIsolate + name + PopIsolate : name;
 }
 
 void TextLanguage::use(const QString &language)

@@ -23,4 +23,8 @@ void use(const QString &language);
 /// The language of the table in use; empty: English.
 const QString &inUse();
 
+/// A name or a path to stand within the program's texts. In a language that is written from right to left it is
+/// enclosed in marks without which its digits and signs would change places with what stands beside it.
+QString isolated(const QString &name);
+
 } // namespace TextLanguage

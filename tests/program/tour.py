@@ -110,7 +110,7 @@ class Tour:
         self._desktop.type("24")
         self._stop("main, large font", "alt+8003", "Return", title="Glosaria")
         self._dialog(14132, "check", "alt+431", 14130)
-        progress = self._texts.of(14402, "06-family-and-people")
+        progress = self._texts.of(14402, self._texts.name("06-family-and-people"))
         self._stop("dialog progress", "alt+431", 14400, title=progress)
         self._stop("dialog progress, numbers", "alt+14419")
         self._stop("dialog progress, forget", "alt+14421")
@@ -130,7 +130,7 @@ class Tour:
         self._press("alt+400", 14500)
         self._expect(14570)
         self._desktop.type(f"{file}\r")
-        self._stop("dialog import, text", title=f"{self._texts.of(14511)} - words.csv")
+        self._stop("dialog import, text", title=f"{self._texts.of(14511)} - {self._texts.name('words.csv')}")
         self._stop("dialog import, swapped", "alt+14519")
         self._stop("main, imported list", "alt+14522", "Return", title="Glosaria")
 
@@ -185,7 +185,7 @@ class Tour:
 
     def leg_help(self):
         self._start(LESSON)
-        self._stop("dialog help, contents", "alt+454", 455, title=self._texts.of(13004, "Welcome to Glosaria"))
+        self._stop("dialog help, contents", "alt+454", 455, title=self._texts.of(13004, self._texts.help_title("welcome.html")))
         for name, text, *keys in (("index", "sort", "alt+13006"), ("search", "letters\r", "alt+13007"),
                                   ("favorites", "", "alt+13008", "alt+13023"), ("find on the page", "the\r", "ctrl+f")):
             self._press(*keys)
@@ -247,7 +247,7 @@ class Tour:
 
     def _quiz(self, entry, title, kind, steps, *answer):
         """steps: what a stop is called, the key that leads there, and the label that shows that it is reached."""
-        self._stop(f"dialog {kind}", "alt+445", entry, title=f"{self._texts.of(title)} - long words")
+        self._stop(f"dialog {kind}", "alt+445", entry, title=f"{self._texts.of(title)} - {self._texts.name('long words')}")
         for name, step, text in steps:
             if step:
                 self._press(step)

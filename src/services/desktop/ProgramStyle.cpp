@@ -1,6 +1,7 @@
 #include "services/desktop/ProgramStyle.h"
 
 #include "resources/Pictures.h"
+#include "resources/TextLanguage.h"
 #include "services/desktop/Contrast.h"
 
 #include <QApplication>
@@ -99,6 +100,7 @@ QStyleOptionMenuItem withChosenPicture(const QStyleOptionMenuItem &entry, int si
 QStyleOptionTitleBar readableTitle(const QStyleOptionTitleBar &title, bool dark)
 {
     QStyleOptionTitleBar shown = title;
+    shown.text = TextLanguage::isolated(title.text);
     const bool active = title.titleBarState & QStyle::State_Active;
     const QColor ground = title.palette.color(active ? QPalette::Highlight : QPalette::Window);
     if (active || dark)
@@ -143,6 +145,13 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption *optio
     if (element == CE_MenuItem && entry && (entry->state & chosen) == chosen && !entry->icon.isNull()) {
         const int size = pixelMetric(PM_SmallIconSize, option, widget);
         const QStyleOptionMenuItem shown = withChosenPicture(*entry, size, widget);
+        QProxyStyle::drawControl(element, &shown, painter, widget);
+        return;
+    }
+    const auto *item = qstyleoption_cast<const QStyleOptionViewItem *>(option);
+    if (element == CE_ItemViewItem && item && item->direction == Qt::RightToLeft) {
+        QStyleOptionViewItem shown = *item;
+        shown.text = TextLanguage::isolated(item->text); // a word or a path, as it reads by itself
         QProxyStyle::drawControl(element, &shown, painter, widget);
         return;
     }

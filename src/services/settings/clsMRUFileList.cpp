@@ -1,5 +1,6 @@
 #include "services/settings/clsMRUFileList.h"
 
+#include "resources/TextLanguage.h"
 #include "services/settings/PathEllipsis.h"
 #include "services/settings/clsRegistry.h"
 
@@ -48,7 +49,8 @@ QString clsMRUFileList::MenuCaption(int i) const
     const QString path = File(i).section(QChar::Null, 0, 0);
     const QString shortPath = PathEllipsis::shortened(
         path, [&](const QString &candidate) { return m_textWidth(number + candidate) <= CaptionWidth; });
-    return QLatin1Char('&') + number + QString(shortPath).replace(QLatin1Char('&'), QLatin1String("&&"));
+    QString shown = TextLanguage::isolated(shortPath);
+    return QLatin1Char('&') + number + shown.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
 void clsMRUFileList::AddFile(const QString &path)
