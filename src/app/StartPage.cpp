@@ -2,6 +2,8 @@
 
 #include "app/rules/Lessons.h"
 #include "resources/StringTable.h"
+#include "resources/TextLanguage.h"
+#include "services/rules/LanguageNames.h"
 #include "services/settings/clsMRUFileList.h"
 #include "widgets/LinkList.h"
 
@@ -21,6 +23,13 @@ constexpr int OpenText = NewText + 1;
 constexpr int RecentText = NewText + 2;
 constexpr int LessonText = NewText + 3;
 constexpr int ImportText = NewText + 4;
+
+/// Most folders are named after languages.
+QString titleOf(const Lessons::Group &group)
+{
+    const QString &language = TextLanguage::inUse();
+    return language.isEmpty() ? group.title : LanguageNames(language, LanguageNames::InList).translated(group.title);
+}
 
 } // namespace
 
@@ -68,7 +77,7 @@ void StartPage::build()
 void StartPage::addLessons()
 {
     for (const Lessons::Group &group : Lessons::in(m_needs.lessonFolder)) {
-        auto *list = new LinkList(group.title.isEmpty() ? resText(14705) : group.title);
+        auto *list = new LinkList(group.title.isEmpty() ? resText(14705) : titleOf(group));
         std::vector<LinkList::Link> links;
         for (const Lessons::Lesson &lesson : group.lessons)
             links.push_back({lesson.title, {}, LessonText, [this, path = lesson.path] { m_needs.openLesson(path); }});

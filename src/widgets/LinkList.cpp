@@ -1,5 +1,6 @@
 #include "widgets/LinkList.h"
 
+#include "resources/TextLanguage.h"
 #include "services/FormTexts.h"
 #include "services/desktop/Contrast.h"
 
@@ -96,7 +97,8 @@ void LinkButton::paintEvent(QPaintEvent *)
     type.setUnderline(underMouse() || hasFocus());
     painter.setFont(type);
     painter.setPen(Contrast::readable(palette().color(QPalette::Link), palette()));
-    painter.drawText(rect().adjusted(Margin, 0, -Margin, 0), Qt::AlignVCenter | Qt::TextSingleLine, text());
+    painter.drawText(rect().adjusted(Margin, 0, -Margin, 0), Qt::AlignVCenter | Qt::TextSingleLine,
+                     TextLanguage::isolated(text()));
     if (!hasFocus())
         return;
     QStyleOptionFocusRect option;
@@ -119,7 +121,7 @@ LinkList::LinkList(const QString &heading, QWidget *parent)
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
-    m_layout->addWidget(headingLabel(heading));
+    m_layout->addWidget(headingLabel(heading), 0, Qt::AlignLeading);
     setAccessibleName(heading);
 }
 

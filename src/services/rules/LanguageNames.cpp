@@ -49,6 +49,18 @@ QString LanguageNames::of(const QByteArray &code) const
     return text == QLatin1String(code) ? QString() : text; // one without a name is called by its code
 }
 
+QString LanguageNames::translated(const QString &english) const
+{
+    for (int number = QLocale::C + 1; number <= QLocale::LastLanguage; ++number) {
+        const auto language = QLocale::Language(number);
+        if (QLocale::languageToString(language) != english)
+            continue;
+        const QString name = of(QLocale::languageToCode(language).toLatin1());
+        return name.isEmpty() ? english : name;
+    }
+    return english;
+}
+
 QStringList LanguageNames::all() const
 {
     QStringList names;

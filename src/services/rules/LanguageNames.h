@@ -22,6 +22,8 @@ public:
 
     /// The name of the language with this code; empty if it has none.
     QString of(const QByteArray &code) const;
+    /// The name of the language that English calls so; a text that is no such name stays as it is.
+    QString translated(const QString &english) const;
     /// All that are spoken or learned, in alphabetical order.
     QStringList all() const;
 

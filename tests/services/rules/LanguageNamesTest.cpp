@@ -6,8 +6,11 @@ TEST(LanguageNames, AreThoseOfTheProgramsLanguageInItsOrder)
                                     {"fr", "Albanais", "Allemand"},       {"ru", "Албанский", "Немецкий"},
                                     {"ja", "アイスランド語", "ドイツ語"}, {"zh_CN", "阿尔巴尼亚语", "德语"}};
     for (const auto &[language, first, later] : cases) {
-        const QStringList names = LanguageNames(language, LanguageNames::InList).all();
+        const LanguageNames called(language, LanguageNames::InList);
+        const QStringList names = called.all();
         EXPECT_LT(names.indexOf(QString(first)), names.indexOf(QString(later))) << language;
         EXPECT_GE(names.indexOf(QString(first)), 0) << language;
+        EXPECT_EQ(called.translated("German"), later) << language;
+        EXPECT_EQ(called.translated("Colours"), "Colours");
     }
 }
