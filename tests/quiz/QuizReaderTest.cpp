@@ -1,9 +1,8 @@
 #include "quiz/QuizReader.h"
 
-#include "platform/registry/RegistryTree.h"
 #include "quiz/rules/QuizSession.h"
-#include "services/settings/clsAppProperties.h"
 #include "support/ListWords.h"
+#include "support/StoredSettings.h"
 
 /// Writes down what it is to read, with the codes of the languages; "." ends what was read before.
 struct RecordingSpeaker : Speaker
@@ -25,7 +24,7 @@ struct RecordingSpeaker : Speaker
     void stop() override { said += "."; }
 };
 
-struct QuizReaderTest : ::testing::Test
+struct QuizReaderTest : ::testing::Test, StoredSettings
 {
     /// A quiz of two words that are asked in their order, read with these options.
     void start(QuizKind kind, bool question, bool answer)
@@ -54,18 +53,7 @@ struct QuizReaderTest : ::testing::Test
         }
     }
 
-    RegistryTree store;
-    clsAppProperties settings{store, "glosaria"};
-    struct Words : ListWords
-    {
-        using ListWords::ListWords;
-        QString heading = "English";
-        QString TextMatrix(int row, int col) const override
-        {
-            return row == 0 && col == 1 ? heading : ListWords::TextMatrix(row, col);
-        }
-    };
-    Words words{{"dog", "Hund"}, {"cat", "Katze"}, {"cow", "Kuh"}};
+    ListWords words{{"dog", "Hund"}, {"cat", "Katze"}, {"cow", "Kuh"}};
     RecordingSpeaker speaker;
     QToolButton button;
     std::unique_ptr<QuizSession> session;
@@ -109,7 +97,7 @@ TEST_F(QuizReaderTest, TheButtonReadsTheQuestionWhereThereIsAVoice)
     speaker.waiting({QLocale::German});
     EXPECT_TRUE(button.isHidden());
 
-    words.heading = "Words";
+    words.words[0].first = "Words";
     start(QuizKind::QuestionAndAnswer, true, false);
     EXPECT_EQ(speaker.said.join(u'|'), QLocale::languageToCode(QLocale().language()) + ":dog") << "the user's own";
 

@@ -1,15 +1,14 @@
 #include "quiz/frmOva.h"
 
 #include "platform/SoundPlayer.h"
-#include "platform/registry/RegistryTree.h"
 #include "quiz/AnswerOption.h"
 #include "quiz/MarkArea.h"
 #include "resources/Pictures.h"
 #include "resources/StringTable.h"
 #include "services/FormTexts.h"
-#include "services/settings/clsAppProperties.h"
 #include "support/ListWords.h"
 #include "support/Shown.h"
+#include "support/StoredSettings.h"
 
 enum Kind { Practice, MultipleChoice, QuestionAndAnswer };
 
@@ -19,7 +18,7 @@ struct CountingSound : SoundPlayer
     void play() override { ++plays; }
 };
 
-struct frmOvaTest : ::testing::Test
+struct frmOvaTest : ::testing::Test, StoredSettings
 {
     frmOvaTest()
     {
@@ -52,7 +51,6 @@ struct frmOvaTest : ::testing::Test
     {
         return window->findChild<AnswerOption *>(QStringLiteral("optAnswer%1").arg(index % 3));
     }
-    int correctOption() { return window->session()->question().correctPosition() - Question::FirstOption; }
     QLineEdit *answerBox() { return control<QLineEdit>("txtSvar"); }
     int mark() { return control<MarkArea>("picMark")->mark(); }
 
@@ -75,8 +73,6 @@ struct frmOvaTest : ::testing::Test
 
     QMdiArea m_area;
     QMdiSubWindow *m_document;
-    RegistryTree m_store;
-    clsAppProperties settings{m_store, "glosaria"};
     CountingSound sound;
     SeededRandom m_random{1};
     std::unique_ptr<frmOva> window;
@@ -137,27 +133,46 @@ TEST_F(frmOvaTest, EveryStateOfEveryKindShowsItsWordsItsCountersAndWhatCanBeDone
     }
 }
 
-TEST_F(frmOvaTest, AWrongAnswerIsMarkedAndBeepsUnlessThatIsSwitchedOff)
+TEST_F(frmOvaTest, EveryAnswerIsMarkedToldAndTurnedUntilTheNextOne)
 {
     open(QuestionAndAnswer);
-    EXPECT_EQ(resText(922), answerBox()->selectedText());
-    type("Hund");
-    EXPECT_EQ(PictureRight, mark());
-    type("katze");
-    EXPECT_EQ(PictureWrong, mark());
-    EXPECT_EQ(1, sound.plays);
-    click(control("chkBeep"));
+    auto *turn = control<QPushButton>("btnRight");
+    const auto undo = [this] { QTest::keyClick(answerBox(), Qt::Key_Z, Qt::ControlModifier); };
+    const auto redo = [this] { QTest::keyClick(answerBox(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); };
+    const auto letter = [this](Qt::Key key) { return [this, key] { mnemonic(key); }; };
+    const auto answer = [this](const char *text) { return [this, text] { type(text); }; };
+    // what is done; then the mark, the beeps so far, whether errors can be repeated, the button that turns the verdict,
+    // the answer, and what a screen reader hears
+    const std::pair<std::function<void()>, const char *> steps[] = {
+        {[] {}, "none 0 - <Type your answer here> English: dog. Question 1 of 3, 0 correct, 0 incorrect."},
+        {answer("Hund"), "right 0 - <> Correct. English: cat. Question 2 of 3, 1 correct, 0 incorrect."},
+        {answer("katze"),
+         "wrong 1 I was &right <> Incorrect. The correct answer is Katze. What differs: small k instead of "
+         "capital K. English: cow. Question 3 of 3, 1 correct, 1 incorrect."},
+        {undo, "right 1 I was w&rong <> Now correct. English: cow. Question 3 of 3, 2 correct, 0 incorrect."},
+        {undo, "right 1 I was w&rong <> Now correct. English: cow. Question 3 of 3, 2 correct, 0 incorrect."},
+        {redo, "wrong 1 I was &right <> Now incorrect. English: cow. Question 3 of 3, 1 correct, 1 incorrect."},
+        {[&] { QTest::keyClicks(answerBox(), "Kuhh"), undo(); },
+         "wrong 1 I was &right <> Now incorrect. English: cow. Question 3 of 3, 1 correct, 1 incorrect."},
+        {[&] { turn->setFocus(), key(Qt::Key_Return); },
+         "right 1 I was w&rong <> Now correct. English: cow. Question 3 of 3, 2 correct, 0 incorrect."},
+        {letter(Qt::Key_R),
+         "wrong 1 I was &right <> Now incorrect. English: cow. Question 3 of 3, 1 correct, 1 incorrect."},
+        {[&] { click(control("chkBeep")), type("?"); },
+         "wrong 1 repeat I &was right <> Incorrect. The correct answer is Kuh. Summary: 1 correct, 2 incorrect."},
+        {letter(Qt::Key_W), "right 1 repeat I &was wrong <> Now correct. Summary: 2 correct, 1 incorrect."},
+        {letter(Qt::Key_R), "none 1 - <> English: cat. Question 1 of 1, 0 correct, 0 incorrect."},
+    };
+    for (const auto &[step, expected] : steps) {
+        step();
+        const QString marked = mark() == PictureRight ? "right" : mark() == PictureWrong ? "wrong" : "none";
+        const QString repeat = control("btnRep")->isEnabled() ? "repeat " : "";
+        const QString parts = marked + " %1 " + repeat + (turn->isVisible() ? turn->text() : "-") + " <%2> %3";
+        const QString typed = answerBox()->isVisible() ? answerBox()->text() : QString();
+        const QString heard = window->focusWidget()->accessibleDescription();
+        EXPECT_EQ(parts.arg(sound.plays).arg(typed, heard).toStdString(), expected);
+    }
     EXPECT_FALSE(settings.ErrorBeep());
-    EXPECT_EQ(answerBox(), window->focusWidget());
-    type("?");
-    EXPECT_EQ(1, sound.plays);
-    EXPECT_FALSE(control("btnHint")->isEnabled());
-    EXPECT_EQ(control("btnCheck"), window->focusWidget());
-
-    mnemonic(Qt::Key_R);
-    EXPECT_EQ(0, mark());
-    EXPECT_EQ(answerBox(), window->focusWidget());
-    EXPECT_FALSE(control("btnRep")->isEnabled());
 }
 
 TEST_F(frmOvaTest, ThePromptGivesWayAsAWholeHoweverTheBoxIsTouched)
@@ -232,46 +247,45 @@ TEST_F(frmOvaTest, PracticeSpellsTheAnswersOutByItself)
     EXPECT_EQ(20, settings.AutoTimerInterval());
 }
 
-TEST_F(frmOvaTest, OptionsAreReachedByArrowsAndMouse)
+TEST_F(frmOvaTest, OptionsAreReachedByArrowsAndMouseAndOnWishCheckedAtOnce)
 {
-    open(MultipleChoice);
-    EXPECT_EQ(option(0), window->focusWidget());
-    key(Qt::Key_Up);
-    EXPECT_TRUE(option(2)->isChecked());
-    key(Qt::Key_Down);
-    EXPECT_TRUE(option(0)->isChecked());
-    click(option(correctOption() + 1));
-    EXPECT_TRUE(option(correctOption() + 1)->isChecked());
-    key(Qt::Key_Return);
-    EXPECT_EQ(PictureWrong, mark());
-    EXPECT_FALSE(option(0)->isChecked() || option(1)->isChecked() || option(2)->isChecked());
-    key(Qt::Key_Return);
-    EXPECT_EQ(QString(), control<QLabel>("lblAns")->text()) << "nothing was chosen";
-}
-
-TEST_F(frmOvaTest, MultipleChoiceChecksTheChosenOptionByItself)
-{
-    open(MultipleChoice);
-    const auto shown = [this](int index) { return option(index)->grab().toImage(); };
-    const QImage plain = shown(1);
-    mnemonic(Qt::Key_A);
-    EXPECT_TRUE(settings.AutoCheck());
-    // The arrow keys only look around: what they reach is not chosen yet, and Enter chooses nothing but that.
-    key(Qt::Key_Return);
-    key(Qt::Key_Down);
-    EXPECT_EQ(option(0), window->focusWidget());
-    key(Qt::Key_Down);
-    EXPECT_EQ(option(1), window->focusWidget());
-    EXPECT_NE(plain, shown(1));
-    EXPECT_EQ(1, window->session()->currentQuestion());
-    key(Qt::Key_Return);
-    EXPECT_EQ(2, window->session()->currentQuestion());
-    key(Qt::Key_Return);
-    EXPECT_EQ(2, window->session()->currentQuestion());
-    mnemonic(Qt::Key_1);
-    EXPECT_EQ(3, window->session()->currentQuestion());
-    click(option(1));
-    EXPECT_TRUE(window->session()->done());
+    open(MultipleChoice, ListWords::numbered(5));
+    const auto press = [this](Qt::Key each) { return [this, each] { key(each); }; };
+    const auto letter = [this](Qt::Key each) { return [this, each] { mnemonic(each); }; };
+    const auto second = [this] { click(option(1)); };
+    const auto showSecond = [this] {
+        const QImage plain = option(1)->grab().toImage();
+        key(Qt::Key_Down);
+        EXPECT_NE(plain, option(1)->grab().toImage()) << "where the arrows are shows";
+    };
+    // what is done; then the option that is checked, the one with the focus, and the question
+    const std::pair<std::function<void()>, const char *> steps[] = {
+        {[] {}, "0 1 1"},
+        {press(Qt::Key_Up), "3 3 1"},
+        {press(Qt::Key_Down), "1 1 1"},
+        {second, "2 2 1"},
+        {press(Qt::Key_Return), "0 1 2"},
+        {press(Qt::Key_Return), "0 1 3"}, // nothing was chosen
+        {letter(Qt::Key_A), "0 1 3"},     // from now on arrows only look around, and Enter chooses what they reach
+        {press(Qt::Key_Return), "0 1 3"},
+        {press(Qt::Key_Down), "0 1 3"},
+        {showSecond, "0 2 3"},
+        {press(Qt::Key_Return), "0 1 4"},
+        {press(Qt::Key_Return), "0 1 4"},
+        {letter(Qt::Key_1), "0 1 5"},
+        {second, "2 0 5"},
+    };
+    for (const auto &[step, expected] : steps) {
+        step();
+        int checked = 0, focused = 0;
+        for (const int number : {1, 2, 3}) {
+            checked += option(number - 1)->isChecked() ? number : 0;
+            focused += option(number - 1)->hasFocus() ? number : 0;
+        }
+        const int question = window->session()->currentQuestion();
+        EXPECT_EQ(QStringLiteral("%1 %2 %3").arg(checked).arg(focused).arg(question).toStdString(), expected);
+    }
+    EXPECT_TRUE(settings.AutoCheck() && window->session()->done());
 }
 
 TEST_F(frmOvaTest, LongOptionsAreFittedAndStandInTheTooltips)
@@ -279,7 +293,8 @@ TEST_F(frmOvaTest, LongOptionsAreFittedAndStandInTheTooltips)
     const QString phrase = QString("to show & tell ").repeated(12);
     open(MultipleChoice, {{phrase, phrase}, {"b", "b"}, {"c", "c"}});
     window->resize(500, window->height());
-    const AnswerOption *fitted = option(correctOption());
+    const Question &question = window->session()->question();
+    const AnswerOption *fitted = option(question.correctPosition() - Question::FirstOption);
     EXPECT_EQ(phrase, fitted->toolTip());
     const QString shownText = FormTexts::withoutMnemonic(fitted->text()).mid(2);
     EXPECT_EQ(phrase.left(shownText.size() - 1) + QChar(0x2026), shownText);
@@ -302,61 +317,6 @@ TEST_F(frmOvaTest, TheDocumentStepsAsideAndComesBack)
     delete m_document; // the program is told to end
     key(Qt::Key_Escape);
     EXPECT_FALSE(window->isVisible());
-}
-
-TEST_F(frmOvaTest, AScreenReaderHearsTheWordTheVerdictAndTheCounters)
-{
-    open(QuestionAndAnswer);
-    EXPECT_EQ(u"English: dog. Question 1 of 3, 0 correct, 0 incorrect.", answerBox()->accessibleDescription());
-    type("?");
-    EXPECT_EQ(u"Incorrect. The correct answer is Hund. English: cat. Question 2 of 3, 0 correct, 1 incorrect.",
-              answerBox()->accessibleDescription());
-    type("Katze");
-    type("Kuh");
-    EXPECT_EQ(u"Correct. Summary: 2 correct, 1 incorrect.", control("btnCheck")->accessibleDescription());
-    mnemonic(Qt::Key_R);
-    EXPECT_EQ(QString(), control("btnCheck")->accessibleDescription());
-}
-
-TEST_F(frmOvaTest, AWrongAnswerIsTurnedUntilTheNextOne)
-{
-    open(QuestionAndAnswer);
-    auto *turn = control<QPushButton>("btnRight");
-    const auto counts = [this] {
-        return std::pair(window->session()->correctCount(), window->session()->errorCount());
-    };
-    type("Hund");
-    EXPECT_FALSE(turn->isVisible());
-    type("Kaze");
-    EXPECT_TRUE(turn->isVisible());
-    QTest::keyClick(answerBox(), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(std::pair(2, 0), counts());
-    EXPECT_EQ(PictureRight, mark());
-    EXPECT_EQ(u"0", control<QLabel>("lblResult3")->text());
-    EXPECT_EQ(u"Now correct. English: cow. Question 3 of 3, 2 correct, 0 incorrect.",
-              answerBox()->accessibleDescription());
-    QTest::keyClick(answerBox(), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(std::pair(2, 0), counts()) << "once is enough";
-    QTest::keyClick(answerBox(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(std::pair(1, 1), counts());
-    QTest::keyClicks(answerBox(), "Kuhh");
-    QTest::keyClick(answerBox(), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(QString(), answerBox()->text());
-    EXPECT_EQ(std::pair(1, 1), counts()) << "what was typed is undone first";
-    turn->setFocus();
-    key(Qt::Key_Return);
-    mnemonic(Qt::Key_R);
-    mnemonic(Qt::Key_R);
-    EXPECT_EQ(std::pair(2, 0), counts());
-    type("?");
-    EXPECT_EQ(std::pair(2, 1), counts());
-    mnemonic(Qt::Key_W);
-    EXPECT_FALSE(control("btnRep")->isEnabled());
-    EXPECT_EQ(u"3 of 3 answered correctly", control<QLabel>("lblScore")->text());
-    click(turn);
-    mnemonic(Qt::Key_R);
-    EXPECT_EQ(std::pair(0, 0), counts()) << "the errors are repeated";
-    EXPECT_FALSE(turn->isVisible());
 }
 
 TEST_F(frmOvaTest, TheResultTellsWhatWasWrongAndWhatWasForgiven)

@@ -1,12 +1,11 @@
 #include "quiz/frmQuizOptions.h"
 
-#include "platform/registry/RegistryTree.h"
-#include "services/settings/clsAppProperties.h"
+#include "support/StoredSettings.h"
 
 TEST(frmQuizOptionsTest, EveryControlChangesItsOptionOnOKOnly)
 {
-    RegistryTree store;
-    clsAppProperties settings(store, {});
+    StoredSettings stored;
+    clsAppProperties &settings = stored.settings;
     const auto change = [&](const char *name, Qt::Key end) {
         frmQuizOptions dialog(settings, true);
         dialog.show();

@@ -14,10 +14,10 @@ struct ListWords : WordSource
     }
 
     explicit ListWords(Pairs pairs)
-        : m_pairs(std::move(pairs))
+        : words(std::move(pairs))
     {
-        m_pairs.insert(m_pairs.begin(), {"English", "German"});
-        m_pairs.emplace_back();
+        words.insert(words.begin(), {"English", "German"});
+        words.emplace_back();
     }
 
     /// The pairs ("e1", "g1") to ("e<count>", "g<count>").
@@ -29,13 +29,12 @@ struct ListWords : WordSource
         return ListWords(std::move(pairs));
     }
 
-    int Rows() const override { return int(m_pairs.size()); }
+    int Rows() const override { return int(words.size()); }
     QString TextMatrix(int row, int col) const override
     {
-        const auto &pair = m_pairs[size_t(row)];
+        const auto &pair = words[size_t(row)];
         return col == 1 ? pair.first : pair.second;
     }
 
-private:
-    Pairs m_pairs;
+    Pairs words; ///< below the names of the languages
 };

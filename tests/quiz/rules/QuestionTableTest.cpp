@@ -1,5 +1,4 @@
 #include "quiz/rules/QuestionTable.h"
-#include "quiz/rules/UsedPairs.h"
 #include "support/ListWords.h"
 
 namespace {
@@ -35,23 +34,6 @@ TEST(RandomSourceTest, NumbersReachBothEndsAndNothingElse)
     EXPECT_EQ(32767, fixed.iGenRndNumber(32767, 1));
     EXPECT_EQ(32767, fixed.iGenRndNumber(32767, -32768));
     EXPECT_NE(SeededRandom().draw(), SeededRandom().draw());
-}
-
-TEST(UsedPairsTest, AnswersLikeAScanOfAllColumns)
-{
-    constexpr int Words = 40;
-    UsedPairs pairs(Words);
-    std::vector<std::pair<int, int>> columns;
-    SeededRandom random(7);
-    for (int draws = 0; columns.size() < 2 * Words; ++draws) {
-        ASSERT_LT(draws, 100000);
-        const qint16 side = random.iGenRndNumber(2, 1);
-        const qint16 word = random.iGenRndNumber(Words, 1);
-        const bool unique = std::find(columns.begin(), columns.end(), std::pair<int, int>(side, word)) == columns.end();
-        ASSERT_EQ(unique, pairs.fUnique(qint32(columns.size()) + 1, side, word));
-        if (unique)
-            columns.emplace_back(side, word);
-    }
 }
 
 TEST(QuestionTableTest, NeedsEnoughWordsAndTakesOnlyAsManyAsItCanNumber)

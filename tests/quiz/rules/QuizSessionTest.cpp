@@ -1,12 +1,11 @@
 #include "quiz/rules/QuizSession.h"
 
-#include "platform/registry/RegistryTree.h"
 #include "quiz/rules/Seconds.h"
 #include "resources/StringTable.h"
-#include "services/settings/clsAppProperties.h"
 #include "support/ListWords.h"
+#include "support/StoredSettings.h"
 
-/// A quiz that has begun, with its two timers: they hold their interval and tick when told to.
+/// A quiz that has begun, with its clock and its two timers: they hold their interval and tick when told to.
 struct Quiz
 {
     Quiz(clsAppProperties &settings, QuizKind kind, const ListWords &words, quint64 seed = 1)
@@ -15,6 +14,10 @@ struct Quiz
         QObject::connect(&session, &QuizSession::revealIntervalChanged, [this](int ms) { reveal = ms; });
         QObject::connect(&session, &QuizSession::autoIntervalChanged, [this](int ms) { autoReveal = ms; });
         QObject::connect(&session, &QuizSession::judged, [this](bool correct) { verdicts.push_back(correct); });
+        session.setClock([this] { return now; });
+        QObject::connect(&session, &QuizSession::settled, [this](const auto &word, bool right, bool hint, int ms) {
+            told += word.askedWord() + (right ? " right" : " wrong") + (hint ? " hint " : " ") + QString::number(ms);
+        });
         SeededRandom random(seed);
         EXPECT_TRUE(session.fByggMatriser(words, random));
         session.fShowQuestion();
@@ -46,20 +49,28 @@ struct Quiz
 
     void type(const QString &text)
     {
+        now += 50;
         session.setAnswerText(text);
         session.check();
     }
 
+    /// What was told of final verdicts since the last time, and the counters.
+    std::string news()
+    {
+        const QString counters = QStringLiteral("; %1/%2").arg(session.correctCount()).arg(session.errorCount());
+        return (std::exchange(told, {}).join(", ") + counters).toStdString();
+    }
+
     QuizSession session;
+    qint64 now = 1000;
+    QStringList told;
     int reveal = 0;
     int autoReveal = 0;
     std::vector<bool> verdicts;
 };
 
-struct QuizSessionTest : ::testing::Test
+struct QuizSessionTest : ::testing::Test, StoredSettings
 {
-    RegistryTree m_store;
-    clsAppProperties settings{m_store, "glosaria"};
 };
 
 TEST_F(QuizSessionTest, WholeQuizzesOfEachKindInEachModeUntilNoErrorIsLeft)
@@ -215,4 +226,45 @@ TEST_F(QuizSessionTest, TheDelayIsReadInSecondsAndKeptInMilliseconds)
         EXPECT_EQ(QString(), Seconds::fromMilliseconds(12340).remove(Seconds::pattern())) << name;
     }
     QLocale::setDefault(before);
+}
+
+TEST_F(QuizSessionTest, AnAnswerIsToldOnceWhenItsVerdictIsFinal)
+{
+    Quiz quiz(settings, QuizKind::QuestionAndAnswer, {{"one", "1"}, {"two", "2"}, {"three", "3"}});
+    quiz.type("1");
+    EXPECT_EQ("one right 50; 1/0", quiz.news());
+    quiz.session.turnVerdict();
+    EXPECT_EQ("; 1/0", quiz.news()) << "only what was wrong can be turned";
+    quiz.session.hint();
+    quiz.type("x");
+    EXPECT_EQ("; 1/1", quiz.news());
+    quiz.session.turnVerdict();
+    EXPECT_EQ("; 2/0", quiz.news());
+    quiz.type("x");
+    EXPECT_EQ("two right hint 50; 2/1", quiz.news());
+    EXPECT_TRUE(quiz.session.canRepeat());
+    quiz.session.turnVerdict();
+    EXPECT_FALSE(quiz.session.canRepeat());
+    quiz.session.turnVerdict();
+    EXPECT_EQ("; 2/1", quiz.news());
+    quiz.session.fRepeatErrors();
+    EXPECT_EQ("three wrong 50; 0/0", quiz.news());
+    EXPECT_FALSE(quiz.session.canTurn());
+    quiz.type("x");
+    quiz.session.settle();
+    quiz.session.settle();
+    quiz.session.turnVerdict();
+    EXPECT_EQ("three wrong 50; 0/1", quiz.news());
+}
+
+TEST_F(QuizSessionTest, WhatIsNotTypedIsFinalAtOnce)
+{
+    Quiz chosen(settings, QuizKind::MultipleChoice, ListWords::numbered(3));
+    chosen.session.check();
+    EXPECT_EQ("e1 wrong 0; 0/1", chosen.news());
+    Quiz spelled(settings, QuizKind::Practice, ListWords::numbered(1));
+    spelled.session.hint();
+    spelled.runReveal();
+    spelled.session.turnVerdict();
+    EXPECT_EQ("e1 wrong 0; 0/1", spelled.news());
 }
