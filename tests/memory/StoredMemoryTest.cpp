@@ -3,11 +3,7 @@
 #include "support/FileSizeLimit.h"
 #include "support/OrdinaryUser.h"
 
-#include <QDir>
-#include <QElapsedTimer>
 #include <QSqlQuery>
-#include <QTemporaryDir>
-#include <QThread>
 
 namespace {
 
@@ -20,9 +16,8 @@ Answer answer(const WordKey &word, bool right)
     return {word, Answer::Kind::QuestionAndAnswer, right, false, 1500};
 }
 
-class StoredMemoryTest : public testing::Test
+struct StoredMemoryTest : testing::Test
 {
-protected:
     std::unique_ptr<StoredMemory> open()
     {
         auto memory = std::make_unique<StoredMemory>(m_path, [this] { return m_now; });
@@ -53,17 +48,6 @@ protected:
         QSqlDatabase::removeDatabase(QStringLiteral("test"));
         return result;
     }
-    QByteArray bytes()
-    {
-        QFile file(m_path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    void replaceBytes(const QByteArray &content)
-    {
-        QFile file(m_path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
 
     QTemporaryDir m_home;
     QString m_path = m_home.path() + QStringLiteral("/glosaria/memory.sqlite");
@@ -74,16 +58,11 @@ protected:
 
 } // namespace
 
-TEST_F(StoredMemoryTest, MakesNoStoreBeforeTheFirstAnswer)
+TEST_F(StoredMemoryTest, KeepsAnswersFromTheFirstOneOnAndForgetsThem)
 {
     EXPECT_EQ(std::vector<Card>(3), stored());
     open()->forgetAll();
     EXPECT_FALSE(QFile::exists(m_path));
-    EXPECT_TRUE(m_troubles.empty());
-}
-
-TEST_F(StoredMemoryTest, KeepsAnswersAndForgetsThem)
-{
     fill();
     const int today = open()->today();
     std::vector<Card> cards = stored();
@@ -101,7 +80,7 @@ TEST_F(StoredMemoryTest, KeepsAnswersAndForgetsThem)
     EXPECT_TRUE(cards[0].isNew());
     EXPECT_EQ(1, cards[1].asked);
     memory->finish();
-    EXPECT_FALSE(bytes().contains("Hund"));
+    EXPECT_FALSE(readFile(m_path).contains("Hund"));
     memory->forgetAll();
     EXPECT_EQ(std::vector<Card>(2), memory->cards({Dog, Cat}));
     EXPECT_TRUE(m_troubles.empty());
@@ -125,23 +104,23 @@ TEST_F(StoredMemoryTest, MakesCardsAnewWhenInDoubt)
 TEST_F(StoredMemoryTest, SetsADamagedStoreAsideAndBeginsAnew)
 {
     fill();
-    const QByteArray sound = bytes();
+    const QByteArray sound = readFile(m_path);
     QByteArray scribbled = sound;
     for (qsizetype i = 4096; i < scribbled.size(); i += 7)
         scribbled[i] = 'x';
     sql(QStringLiteral("DROP TABLE card"));
-    const std::vector<QByteArray> damaged = {bytes(), "no database", sound.left(5000), sound.left(100), scribbled};
+    const std::vector<QByteArray> damaged = {readFile(m_path), "no database", sound.left(5000), sound.left(100),
+                                             scribbled};
     for (const QByteArray &content : damaged) {
         m_troubles.clear();
-        replaceBytes(content);
+        writeFile(m_path, content);
         {
             const auto memory = open();
             memory->remember(answer(Bird, true));
             EXPECT_EQ(1, memory->cards({Bird})[0].asked) << content.size();
         }
         EXPECT_EQ(std::vector{MemoryTrouble::Damaged}, m_troubles) << content.size();
-        QFile kept(m_setAside);
-        ASSERT_TRUE(kept.open(QIODevice::ReadOnly)) << content.size();
+        EXPECT_FALSE(readFile(m_setAside).isEmpty()) << content.size();
         EXPECT_EQ(1, stored()[2].asked) << content.size();
     }
     EXPECT_EQ(qsizetype(damaged.size()),
@@ -150,36 +129,26 @@ TEST_F(StoredMemoryTest, SetsADamagedStoreAsideAndBeginsAnew)
 
 TEST_F(StoredMemoryTest, GoesOnWithoutAStoreThatItCannotUse)
 {
-    struct Case
-    {
-        const char *name;
-        std::function<void()> prepare;
-        MemoryTrouble trouble;
-    };
-    const std::vector<Case> cases = {
-        {"newer", [this] { sql(QStringLiteral("PRAGMA user_version = 99")); }, MemoryTrouble::Newer},
-        {"a folder",
-         [this] {
-             QFile::remove(m_path);
-             QDir().mkdir(m_path);
-         },
-         MemoryTrouble::Unavailable},
-        {"no folder", [this] { m_path = QStringLiteral("/proc/glosaria/memory.sqlite"); }, MemoryTrouble::Unavailable},
-    };
-    for (const Case &each : cases) {
-        SCOPED_TRACE(each.name);
+    const auto makeNewer = [this] { sql("PRAGMA user_version = 99"); };
+    const auto makeFolder = [this] { QFile::remove(m_path), QDir().mkdir(m_path); };
+    const auto goWhereNoneCanBe = [this] { m_path = "/proc/glosaria/memory.sqlite"; };
+    const std::pair<std::function<void()>, MemoryTrouble> cases[] = {{makeNewer, MemoryTrouble::Newer},
+                                                                     {makeFolder, MemoryTrouble::Unavailable},
+                                                                     {goWhereNoneCanBe, MemoryTrouble::Unavailable}};
+    const auto content = [this] { return QFileInfo(m_path).isFile() ? readFile(m_path) : QByteArray(); };
+    for (const auto &[prepare, trouble] : cases) {
         fill();
         m_troubles.clear();
-        each.prepare();
-        const QByteArray before = bytes();
+        prepare();
+        const QByteArray before = content();
         {
             const auto memory = open();
             memory->remember(answer(Bird, true));
             memory->remember(answer(Bird, false));
             EXPECT_EQ(2, memory->cards({Bird})[0].asked) << "until the end it counts";
         }
-        EXPECT_EQ(std::vector{each.trouble}, m_troubles) << "told once";
-        EXPECT_EQ(before, bytes());
+        EXPECT_EQ(std::vector{trouble}, m_troubles) << "told once";
+        EXPECT_EQ(before, content());
     }
 }
 
