@@ -1,8 +1,6 @@
 #!/usr/bin/env python3
 """A learner's evening with the program, with menus, keys and mouse: learner_test.py <program> [unittest arguments]."""
 
-import re
-
 from cases import ProgramCase, run
 from speech import SpeechCase  # runs too  # pylint: disable=unused-import
 
@@ -130,47 +128,6 @@ class LearnerCase(ProgramCase):
             [line.split() for line in text.splitlines() if line.strip()],
             [["Glosaria", "-", "holiday"], ["English", "Spanish"], *numbered, ["1"]],
         )
-
-
-class TeacherCase(ProgramCase):
-    """From the start page to paper."""
-
-    def test_a_list_is_printed_as_test_and_as_cards(self):
-        self.desktop.start("--no-splash")
-        self.desktop.click_on(self.desktop.wait_for("link", "New vocabulary"))
-        self.desktop.wait_for("frame", "Untitled 1")
-        for first, second in WORDS:
-            self.desktop.type(f"{first}\r{second}\r")
-        self.expect_column(0, [*ANSWERS, ""])
-        self.print_test("Test sheet", "alt+s")
-        pages = self.printed("test")
-        self.assertEqual(len(pages), 2, "a sheet and its key")
-        self.assertFalse(pages[0].keys() & ANSWERS.values())
-        self.assertTrue(pages[1].keys() >= ANSWERS.keys() | ANSWERS.values())
-        self.print_test("Flash cards", "alt+f")
-        (fronts, backs) = self.printed("flash cards")
-        for first, second in WORDS:
-            front, back = fronts[first], backs[second]
-            self.assertAlmostEqual(front[0] + back[0], 595, delta=1)
-            self.assertAlmostEqual(front[1], back[1], delta=1)
-
-    def print_test(self, kind, key):
-        self.open_dialog("Print Test", "alt+f", "t")
-        self.desktop.key(key)
-        option = self.desktop.wait_for("radio button", kind)
-        self.desktop.wait(lambda: self.desktop.is_checked(option), f"the choice of {kind}")
-        self.desktop.key("Return")
-        self.expect_active(name="Print")
-        self.close_dialog("Print", "Return")
-
-    def printed(self, kind):
-        """The middle of every word on each page, in points."""
-        pdf = self.home / f"Glosaria - Untitled 1 - {kind}.pdf"
-        self.desktop.wait(pdf.exists, "the PDF file")
-        pages = self.desktop.tool("pdftotext", "-bbox", pdf, "-").split("<page ")[1:]
-        word = re.compile(r'<word xMin="(.*)" yMin="(.*)" xMax="(.*)" yMax="(.*)">(.*)</word>')
-        return [{text: ((float(left) + float(right)) / 2, (float(top) + float(bottom)) / 2)
-                 for left, top, right, bottom, text in word.findall(page)} for page in pages]
 
 
 if __name__ == "__main__":

@@ -43,8 +43,7 @@ class RandomUser:
         desktop.copy_elsewhere("".join(f"{first}\t{second}\r\n" for first, second in PASTED))
 
     def act(self):
-        self.random.choice([self.overwrite, self.overwrite, self.clear, self.insert, self.delete, self.paste,
-                            self.undo])()
+        self.random.choice([self.overwrite, self.overwrite, self.clear, self.paste, self.undo])()
 
     def overwrite(self, leave_open=False):
         row, column = self._go()
@@ -61,19 +60,6 @@ class RandomUser:
         self._begin(row)
         self._set(row, column, "")
         self._press("alt+e", "l")
-
-    def insert(self):
-        row, _ = self._go()
-        self._begin(row)
-        self.rows.insert(row, ("", ""))
-        self._press("ctrl+i")
-
-    def delete(self):
-        row, column = self._go()
-        self._begin(row)
-        words = self.rows.pop(row)
-        self._before = self.rows[:row] + [("", words[1]) if column else (words[0], "")] + self.rows[row:]
-        self._press("ctrl+k")
 
     def paste(self):
         row, _ = self._go(column=0)
