@@ -2,8 +2,6 @@
 
 #include "widgets/LinkList.h"
 
-#include <QClipboard>
-
 namespace {
 
 struct ListsTest : MainWindowFixture

@@ -21,20 +21,3 @@ TEST_F(QuizCommandsTest, TheButtonRepeatsTheLastKindOfQuizOnceThereAreWords)
         EXPECT_EQ(PicturePractice + kind, window->buttonPicture("Quiz"));
     }
 }
-
-TEST_F(QuizCommandsTest, TheDialogsTellTheStatusBar)
-{
-    newDocument();
-    // Away from the menu bar, which restores "Ready" when the pointer leaves it for a dialog.
-    QTest::mouseMove(window.get(), window->rect().center());
-    EXPECT_TRUE(inDialog("mnuVocabularyLanguage", [this](QDialog &) { EXPECT_EQ(resText(504), status(0)); }));
-    EXPECT_EQ(resText(506), status(0));
-    EXPECT_TRUE(inDialog("mnuHelpAbout", [this](QDialog &about) {
-        EXPECT_EQ(resText(504), status(0));
-        QApplication::setActiveWindow(&about);
-        about.findChild<QToolButton *>("imgLink1")->setFocus();
-        EXPECT_EQ(resText(2002), status(0));
-        about.findChild<QPushButton *>("btnOK")->setFocus();
-        EXPECT_EQ(resText(506), status(0));
-    }));
-}

@@ -66,20 +66,25 @@ TEST(Start, ShowsSplashWindowAndFileInTurnAndASignalEndsItAmidADialog)
 
 TEST(Start, AnswersQuestionsWithoutADisplay)
 {
-    // options, what is printed begins with, and the exit code
-    const std::tuple<const char *, const char *, int> cases[] = {
-        {"--help", "Usage: glosaria", 0}, {"--version", "Glosaria 3.1.0\n", 0}, {"--nonsense", "", 2}};
-    for (const auto &[option, text, code] : cases) {
+    // an option, what is printed begins with, what is complained of, and the exit code
+    const std::tuple<const char *, const char *, const char *, int> cases[] = {{"--help", "Usage: glosaria", "", 0},
+                                                                               {"--version", "Glosaria 3.1.0\n", "", 0},
+                                                                               {"--nonsense", "", "--nonsense", 2},
+                                                                               {"--language=xx", "", "xx", 2}};
+    for (const auto &[option, text, complaint, code] : cases) {
         int exitCode = 99;
         testing::internal::CaptureStdout();
         testing::internal::CaptureStderr();
         EXPECT_TRUE(modKod::answer(CommandLine::parse({option}, "/"), exitCode));
         EXPECT_EQ(exitCode, code);
         EXPECT_EQ(testing::internal::GetCapturedStdout().substr(0, strlen(text)), text);
-        EXPECT_EQ(testing::internal::GetCapturedStderr().find(option) != std::string::npos, code == 2);
+        const std::string complained = testing::internal::GetCapturedStderr();
+        EXPECT_TRUE(code ? complained.find(complaint) != std::string::npos : complained.empty()) << option;
     }
     int exitCode = 0;
     EXPECT_FALSE(modKod::answer(CommandLine::parse({"words.gla"}, "/"), exitCode));
+    EXPECT_EQ(modKod::textLanguage(CommandLine::parse({"--language", "fr"}, "/")), "fr");
+    EXPECT_EQ(modKod::convert({"one file"}), 2);
 }
 
 } // namespace
