@@ -3,9 +3,6 @@
 #include "document/EditCommands.h"
 #include "support/OpenDocument.h"
 
-#include <QLabel>
-#include <QListView>
-
 using Words = OpenDocument::Words;
 
 struct Checking : ::testing::Test, OpenDocument
