@@ -47,6 +47,7 @@ SWAPS = {"<": "<=", "<=": "<", ">": ">=", ">=": ">", "==": "!=", "!=": "==", "&&
          "+": "-", "-": "+", "*": "/", "/": "*", "%": "*"}
 ARITHMETIC = set("+-*/%")
 NUMBERS = set(range(TypeKind.BOOL.value, TypeKind.LONGDOUBLE.value + 1))
+SWITCH_FILE = "src/mutants.h"
 FUNCTIONS = {Kind.FUNCTION_DECL, Kind.CXX_METHOD, Kind.CONSTRUCTOR, Kind.DESTRUCTOR, Kind.LAMBDA_EXPR}
 SKIPPED = {Kind.CALL_EXPR, Kind.BINARY_OPERATOR, Kind.COMPOUND_ASSIGNMENT_OPERATOR, Kind.UNARY_OPERATOR}
 ERROR = re.compile(r"/(src/[^:\s]+):(\d+):\d+: error")
@@ -149,13 +150,13 @@ class Places:
             parent.get_children())
 
 
-def candidates():
-    """The places by folder."""
+def candidates(wanted):
+    """The places by folder; what is not below a wanted one, if there are any, is left out."""
     folders, jobs = collections.defaultdict(list), []
     with concurrent.futures.ProcessPoolExecutor(2) as pool:
         for entry in json.loads((ROOT / "build" / "dev" / "compile_commands.json").read_text()):
             path = pathlib.Path(entry["file"])
-            if path.is_relative_to(ROOT / "src") and path.name != "main.cpp":
+            if path.name != "main.cpp" and any(path.is_relative_to(ROOT / "src" / name) for name in wanted or [""]):
                 jobs.append((path, pool.submit(places, path, entry["command"].split())))
         for path, job in sorted(jobs, key=lambda pair: pair[0]):
             folders[str(path.parent.relative_to(ROOT / "src"))] += job.result()
@@ -185,9 +186,7 @@ def read_sources():
     """The files of the repository as they stand, with the switch of the faults."""
     names = [name for name in run("git", "ls-files", cwd=ROOT).stdout.split("\n") if (ROOT / name).is_file()]
     content = {name: (ROOT / name).read_bytes() for name in names}
-    content["cmake/mutants.h"] = SWITCH.encode()
-    for header in ("cmake/pch_rules.h", "cmake/pch_windows.h"):
-        content[header] += b'#include "mutants.h"\n'
+    content[SWITCH_FILE] = SWITCH.encode()
     return content
 
 
@@ -197,6 +196,11 @@ def write_tree(tree, sources, mutants):
     for number, mutant in sorted(mutants.items(), key=lambda pair: -pair[1].start):
         code, text = content[mutant.file], mutant.text.replace("@", str(number), 1).encode()
         content[mutant.file] = code[: mutant.start] + text + code[mutant.end :]
+    files = sorted({mutant.file for mutant in mutants.values()})
+    for name in files:
+        content[name] = b'#include "mutants.h"\n#line 1\n' + content[name]
+    names = " ".join(name.removeprefix("src/") for name in files)
+    content["src/CMakeLists.txt"] += f"set_source_files_properties({names} PROPERTIES COMPILE_OPTIONS -w)\n".encode()
     for name, code in content.items():
         target = tree / name
         target.parent.mkdir(parents=True, exist_ok=True)
@@ -208,14 +212,13 @@ def write_tree(tree, sources, mutants):
             path.unlink()
 
 
-def build_all(tree, build, through, sources, mutants):
-    """Builds the faults; those that the compiler refuses are left out."""
+def build_all(tree, through, sources, mutants):
+    """Builds the faults as the preset does, so that a cache has what holds none; those that the compiler refuses are
+    left out."""
     while True:
         write_tree(tree, sources, mutants)
-        run("cmake", "-S", tree, "-B", build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0",
-            "-DCMAKE_AUTOGEN_ORIGIN_DEPENDS=OFF",
-            check=True)
-        built = run(*through, "cmake", "--build", str(build), "--", "-j2", "-k", "0")
+        run("cmake", "--preset", "dev", "-DCMAKE_AUTOGEN_ORIGIN_DEPENDS=OFF", cwd=tree, check=True)
+        built = run(*through, "cmake", "--build", "--preset", "dev", "--", "-j2", "-k", "0", cwd=tree)
         if built.returncode == 0:
             return
         errors = {(name, int(line)) for name, line in ERROR.findall(built.stdout)}
@@ -280,24 +283,23 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--count", type=int, default=22, help="faults in each folder")
     parser.add_argument("--seed", type=int, default=1)
-    parser.add_argument("--folder", help="this one only")
+    parser.add_argument("--folder", nargs="+", help="these and what is in them, such as quiz or app/rules")
     parser.add_argument("--jobs", type=int, default=2, help="test programs at a time")
     parser.add_argument("--survivors", action="store_true", help="only what the last run's tests did not notice")
     parser.add_argument("--through", default="", help="a command that runs builds and tests, such as nice")
     parser.add_argument("--place", type=pathlib.Path, default=ROOT / "build" / "mutation")
     options = parser.parse_args()
-    tree, build, last = options.place / "tree", options.place / "build", options.place / "survivors.json"
+    tree, last = options.place / "tree", options.place / "survivors.json"
     through = options.through.split()
 
     wanted = {tuple(key) for key in json.loads(last.read_text())} if options.survivors else None
     sources, chance, chosen = read_sources(), random.Random(options.seed), []
-    for folder, found in sorted(candidates().items()):
-        if options.folder in (None, folder):
-            chosen += choose(found, options.count if wanted is None else len(found), chance, wanted)
+    for _, found in sorted(candidates(options.folder).items()):
+        chosen += choose(found, options.count if wanted is None else len(found), chance, wanted)
     mutants = dict(enumerate(chosen, 1))
-    build_all(tree, build, through, sources, mutants)
+    build_all(tree, through, sources, mutants)
 
-    tests = Tests(build, through)
+    tests = Tests(tree / "build" / "dev", through)
     with concurrent.futures.ThreadPoolExecutor(options.jobs) as pool:
         results = dict(zip(mutants, pool.map(tests.noticed_by, mutants, mutants.values())))
     tell(mutants, results)
