@@ -139,6 +139,45 @@ TEST(DrawnGrid, LinesSelectionFocusMergesAndPicturesStandInTheirPlaces)
             grid.setTextMatrix(2, 1, " ");
             grid.setTextMatrix(2, 2, " ");
         },
+        [](FlexGrid &grid) {
+            grid.setGridLines(FlexGridLook::RaisedLines);
+            grid.setGridLinesFixed(FlexGridLook::NoLines);
+            grid.setHighLight(2); // and nothing has the focus
+            grid.setCellForeColor(0);
+        },
+        [](FlexGrid &grid) {
+            grid.setFocusRect(0);
+            grid.setMergeCells(3);
+            for (const int col : {1, 2}) {
+                grid.setMergeCol(col, true);
+                grid.setTextMatrix(1, col, " ");
+                grid.setTextMatrix(2, col, col == 1 ? " " : "  ");
+            }
+            grid.Select(1, 2, 2, 2);
+        },
+        [&dot](FlexGrid &grid) {
+            grid.setFillStyle(1);
+            grid.setCellPicture(dot);
+            grid.setCellPictureAlignment(3);
+            grid.Select(1, 2, 2, 2);
+            grid.setCellBackColor(0xFF0000);
+            grid.setCellPicture(dot);
+            grid.setCellPictureAlignment(4);
+            grid.Select(0, 0, 0, 0);
+        },
+        [&dot](FlexGrid &grid) {
+            grid.setMergeCells(2);
+            grid.setMergeRow(1, true);
+            grid.setMergeRow(2, true);
+            for (const int col : {1, 2}) {
+                grid.setTextMatrix(1, col, QString(col, ' '));
+                grid.setTextMatrix(2, col, " ");
+            }
+            grid.Select(2, 1, 2, 1);
+            grid.setCellPicture(dot);
+            grid.setCellPictureAlignment(6);
+            grid.setRightToLeft(true);
+        },
     };
     QStringList drawn;
     for (const auto &look : looks) {
@@ -164,10 +203,11 @@ TEST(DrawnGrid, LinesSelectionFocusMergesAndPicturesStandInTheirPlaces)
             QString line;
             for (int x = 0; x < image.width(); ++x)
                 line += signs.value(image.pixel(x, y), 'o');
-            if (y == drawn.size())
+            const int at = y + int(&look - looks) / 4 * image.height();
+            if (at == drawn.size())
                 drawn.append(line);
             else
-                drawn[y] += ' ' + line;
+                drawn[at] += ' ' + line;
         }
     }
     const char *expected =
@@ -186,6 +226,22 @@ TEST(DrawnGrid, LinesSelectionFocusMergesAndPicturesStandInTheirPlaces)
         "ffffffxssssss+wwwwww+.. ..LwwwwwDLwwwwwDDfffffL ....................... ffffffxsssssssssssss+..\n"
         "ffffffxssssss+wwwwww+.. ..LwwwwwDLwwwwwDDfffffL ....................... ffffffxsssssssssssss+..\n"
         "xxxxxxx++++++++++++++.. ..LLLLLLLLLLLLLLDDDDDDD ....................... xxxxxxx++++++++++++++..\n"
+        "....................... ....................... ....................... .......................\n"
+        "fffffffffffffffffffff.. ffffffxffffffxffffffx.. ooooooxffffffxffffffx.. ..xffffffxffffffxffffff\n"
+        "fffffffffffffffffffff.. ffffffxffffffxffffffx.. offffoxffffffxffffffx.. ..xffffffxffffffxffffff\n"
+        "fffffffffffffffffffff.. ffffffxffffffxffffffx.. offffoxffffffxffffffx.. ..xffffffxffffffxffffff\n"
+        "fffffffffffffffffffff.. ffffffxffffffxffffffx.. ooooooxffffffxffffffx.. ..xffffffxffffffxffffff\n"
+        "fffffffffffffffffffff.. xxxxxxxxxxxxxxxxxxxxx.. xxxxxxxxxxxxxxxxxxxxx.. ..xxxxxxxxxxxxxxxxxxxxx\n"
+        "fffffffooooooDLLLLLLD.. ffffffxwwwwww+ssssss+.. ffffffxwwrrww+bbbbbb+.. ..+wwwwww+wwwwwwxffffff\n"
+        "fffffffowwwwoDLwwwwwD.. ffffffxwwwwww+ssssss+.. ffffffxwwrrww+bbrrbb+.. ..+wwwwww+wwwwwwxffffff\n"
+        "fffffffowwwwoDLwwwwwD.. ffffffxwwwwww+ssssss+.. ffffffxwwwwww+bbrrbb+.. ..+wwwwww+wwwwwwxffffff\n"
+        "fffffffooooooDLwwwwwD.. ffffffxwwwwww+ssssss+.. ffffffxwwwwww+bbbbbb+.. ..+wwwwww+wwwwwwxffffff\n"
+        "fffffffDDDDDDDDDDDDDD.. xxxxxxxwwwwww++++++++.. xxxxxxx++++++++++++++.. ..++++++++++++++xxxxxxx\n"
+        "fffffffLLLLLLDLLLLLLD.. ffffffxwwwwww+ssssss+.. ffffffxwwrrww+bbbbbb+.. ..+wwwwww+ooooooxffffff\n"
+        "fffffffLwwwwwDLwwwwwD.. ffffffxwwwwww+ssssss+.. ffffffxwwrrww+bbrrbb+.. ..+wwwwww+owwwroxffffff\n"
+        "fffffffLwwwwwDLwwwwwD.. ffffffxwwwwww+ssssss+.. ffffffxwwwwww+bbrrbb+.. ..+wwwwww+owwwwoxffffff\n"
+        "fffffffLwwwwwDLwwwwwD.. ffffffxwwwwww+ssssss+.. ffffffxwwwwww+bbbbbb+.. ..+wwwwww+ooooooxffffff\n"
+        "fffffffDDDDDDDDDDDDDD.. xxxxxxx++++++++++++++.. xxxxxxx++++++++++++++.. ..++++++++++++++xxxxxxx\n"
         "....................... ....................... ....................... .......................";
     EXPECT_EQ(drawn.join('\n').toStdString(), expected);
 }

@@ -44,62 +44,6 @@ TEST(FlexGridTextTest, TabsAndLineBreaksBecomeOneBlank)
     EXPECT_EQ(CellText::cleaned("\r\r\n\n"), "   ");
 }
 
-TEST(FlexGridClipTest, FillsTheSelectionAndNothingElse)
-{
-    const std::tuple<const char *, GridSelection, const char *> cases[] = {
-        {"A\tB\r\nC\tD\r\n", {1, 1, 2, 2}, "A,C,e|B,D,f"},
-        {"A\tB\nC\tD\n", {2, 2, 1, 1}, "A,C,e|B,D,f"},
-        {"A\tB\tX\rC\rY", {1, 1, 2, 2}, "A,C,e|B,d,f"},
-        {"A\r\rE", {1, 1, 3, 1}, "A,,E|b,d,f"},
-        {"\t\r\t\r", {2, 1, 3, 2}, "a,,|b,,"},
-        {"", {1, 1, 1, 1}, ",c,e|b,d,f"},
-        {"A", {1, 1, 3, 2}, "A,c,e|b,d,f"},
-    };
-    for (const auto &[clip, selection, cells] : cases) {
-        FlexGrid grid;
-        fill(grid, {"\ta\tb", "\tc\td", "\te\tf"});
-        grid.Select(selection.Row, selection.Col, selection.RowSel, selection.ColSel);
-        grid.setClip(clip);
-        EXPECT_EQ(everyCell(grid), cells) << clip;
-    }
-}
-
-TEST(FlexGridRows, ComeAndGoWithTheirHeightsAndAreNumbered)
-{
-    FlexGrid grid;
-    fill(grid, {"\ta", "\tb", "\tc"});
-    grid.setRowNumbers(true);
-    grid.setTextMatrix(2, 0, "ignored");
-    grid.setRowHeight(2, 600);
-    grid.AddItem("99\tx\ty", 2);
-    grid.AddItem("\tlast");
-    EXPECT_EQ(column(grid, 0), "1,2,3,4,5");
-    EXPECT_EQ(everyCell(grid), "a,x,b,c,last|,y,,,");
-    EXPECT_EQ(grid.RowHeight(2) + grid.RowHeight(3), 285 + 600);
-    EXPECT_TRUE(grid.RemoveItem(2) && grid.insertRows(1, 2) && grid.removeRows(2, 2));
-    EXPECT_EQ(column(grid, 1), ",b,c,last");
-    EXPECT_EQ(grid.RowHeight(2), 600);
-    grid.Select(1, 0, 2, 1);
-    EXPECT_EQ(grid.Clip(), "1\t\r2\tb");
-}
-
-TEST(FlexGridRows, RefuseWhatTheGridCannotDo)
-{
-    FlexGrid grid;
-    fill(grid, {"\ta", "\tb"});
-    EXPECT_FALSE(grid.RemoveItem(0) || grid.RemoveItem(3));
-    EXPECT_FALSE(grid.removeRows(1, 2)) << "one row below the header stays";
-    EXPECT_FALSE(grid.insertRows(0, 1) || grid.insertRows(9, 1));
-    grid.setTextMatrix(7, 1, "x");
-    grid.setTextMatrix(-1, 1, "x");
-    EXPECT_EQ(grid.TextMatrix(7, 1) + grid.TextMatrix(1, 7) + grid.TextMatrix(-1, -1), QString());
-    EXPECT_EQ(column(grid, 1), "a,b");
-    grid.setRows(0);
-    EXPECT_EQ(grid.Row(), -1) << "no row, no current cell";
-    grid.setRows(5);
-    EXPECT_EQ(grid.Row(), 1);
-}
-
 TEST(FlexGridRows, TakeWholeLists)
 {
     FlexGrid grid;
@@ -111,20 +55,6 @@ TEST(FlexGridRows, TakeWholeLists)
     EXPECT_EQ(grid.RowHeight(1), 1234);
     EXPECT_EQ(grid.RowHeight(2), 285);
     EXPECT_EQ(selections.count(), 0);
-}
-
-TEST(FlexGridSizesTest, AreKeptToTheTwip)
-{
-    FlexGrid grid;
-    fill(grid, {"\ta", "\tb"});
-    grid.setRowHeight(1, 287);
-    grid.setColWidth(1, 4001);
-    EXPECT_EQ(grid.RowHeight(1), 287);
-    EXPECT_EQ(grid.ColWidth(1), 4001);
-    grid.setRowHeight(-1, 301);
-    EXPECT_EQ(grid.RowHeight(0) + grid.RowHeight(2), 602);
-    grid.setRowHeight(1, -1);
-    EXPECT_EQ(grid.RowHeight(1), 285);
 }
 
 TEST(FlexGridSortTest, OrdersTheSelectedRowsByEveryKind)
@@ -147,27 +77,6 @@ TEST(FlexGridSortTest, OrdersTheSelectedRowsByEveryKind)
         grid.Select(10, 1, 2, 1);
         grid.setSort(kind);
         EXPECT_EQ(column(grid, 1), sorted) << kind;
-    }
-}
-
-TEST(FlexGridCellsTest, FormatsFollowTheirCells)
-{
-    FlexGrid grid;
-    grid.setFormatString("|^Word|Meaning;|first|second|third");
-    EXPECT_EQ(column(grid, 0), "first,second,third");
-    EXPECT_EQ(grid.ColAlignment(1), 4);
-    grid.Select(1, 1, 2, 1);
-    grid.setFillStyle(1);
-    grid.setCellForeColor(0x00FF00);
-    grid.insertRows(2, 1);
-    grid.setColPosition(1, 2);
-    grid.setRowPosition(3, 1);
-    grid.removeRows(4, 1);
-    EXPECT_EQ(column(grid, 0), "second,first,");
-    EXPECT_EQ(grid.TextMatrix(0, 2), "Word");
-    for (int row = 1; row <= 3; ++row) {
-        grid.Select(row, 2, row, 2);
-        EXPECT_EQ(grid.CellForeColor(), row < 3 ? 0x00FF00 : 0);
     }
 }
 
@@ -201,21 +110,18 @@ TEST(FlexGridProperties, AreToldStoredByNameAndReadBack)
 TEST(FlexGridOperations, DoWhatTheySayAlsoWhereNobodyUsesThem)
 {
     FlexGrid grid;
-    fill(grid, {"\ta\tb", "\tc\td", "\te\tf"});
-    grid.setTextArray(4, "A");
-    grid.setRowSel(2);
-    grid.setColSel(2);
-    EXPECT_EQ(grid.Clip() + grid.TextArray(11), "A\tb\rc\tdf");
-    grid.setColData(1, 7);
-    grid.setColAlignment(1, 1);
-    EXPECT_EQ(grid.FixedAlignment(1), 1) << "as the column";
-    grid.setFixedAlignment(1, 4);
+    grid.setFormatString("|^Word|Meaning;|first|second|third");
+    EXPECT_EQ(column(grid, 0) + grid.TextMatrix(0, 2), "first,second,thirdMeaning");
+    EXPECT_EQ(grid.ColAlignment(1) * 10 + grid.FixedAlignment(1), 44) << "as the column";
+    grid.setFixedAlignment(1, 1);
     grid.setMergeCol(1, true);
-    grid.setMergeRow(2, true);
-    EXPECT_EQ(grid.ColData(1) * 10 + grid.FixedAlignment(1), 74);
-    EXPECT_TRUE(grid.MergeCol(1) && !grid.MergeCol(2) && grid.MergeRow(2) && !grid.MergeRow(1));
+    EXPECT_TRUE(grid.FixedAlignment(1) == 1 && grid.MergeCol(1) && !grid.MergeCol(2));
+    grid.setRowHeight(1, 287);
+    grid.setColWidth(1, 4001);
+    EXPECT_EQ(std::pair(grid.RowHeight(1), grid.ColWidth(1)), std::pair(287, 4001)) << "to the twip";
     grid.setRowHeightMin(450);
     EXPECT_EQ(grid.RowHeight(1), 450);
+    grid.Select(1, 1, 2, 1);
     grid.setFillStyle(1);
     grid.setCellAlignment(7);
     grid.setCellBackColor(0xFF);
@@ -225,7 +131,7 @@ TEST(FlexGridOperations, DoWhatTheySayAlsoWhereNobodyUsesThem)
     for (const int row : {2, 3}) {
         const bool formatted = row == 2;
         grid.Select(row, 1, row, 1);
-        EXPECT_EQ(grid.CellAlignment(), formatted ? 7 : 1);
+        EXPECT_EQ(grid.CellAlignment(), formatted ? 7 : 4);
         EXPECT_EQ(grid.CellBackColor(), formatted ? 0xFF : 0);
         EXPECT_EQ(grid.CellTextStyle() * 10 + grid.CellPictureAlignment(), formatted ? 25 : 0);
         EXPECT_EQ(grid.CellPicture().isNull(), !formatted);

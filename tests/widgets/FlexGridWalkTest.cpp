@@ -1,0 +1,366 @@
+#include "widgets/grid/FlexGrid.h"
+#include "widgets/grid/FlexGridView.h"
+
+namespace {
+
+/// What a grid with one fixed row and column is to hold, as plain lists. Its operations are those of the grid.
+struct PlainGrid
+{
+    struct Row
+    {
+        QStringList texts;
+        QList<int> colours;
+        int height = 285;
+        bool merge = false;
+        bool operator==(const Row &) const = default;
+    };
+    struct Col
+    {
+        int width = 960;
+        int alignment = 9;
+        int data = 0;
+        bool operator==(const Col &) const = default;
+    };
+    QList<Row> rows;
+    QList<Col> cols;
+    GridSelection selection{1, 1, 1, 1};
+    bool numbers = false;
+    bool fill = false;
+
+    bool operator==(const PlainGrid &) const = default;
+    static PlainGrid of(const FlexGrid &grid, bool numbers)
+    {
+        PlainGrid plain{{}, {}, grid.selection(), numbers, bool(grid.FillStyle())};
+        for (int col = 0; col < grid.Cols(); ++col)
+            plain.cols.append({grid.ColWidth(col), grid.ColAlignment(col), grid.ColData(col)});
+        for (int row = 0; row < grid.Rows(); ++row) {
+            plain.rows.append({{}, {}, grid.RowHeight(row), grid.MergeRow(row)});
+            for (int col = 0; col < grid.Cols(); ++col) {
+                const FlexGridCellFormat *format = grid.hwndGrid()->state().cells.formats.find(row, col);
+                EXPECT_EQ(grid.TextMatrix(row, col),
+                          numbers && col == 0 && row ? QString::number(row) : grid.word(row, col));
+                plain.rows.last().texts += grid.word(row, col);
+                plain.rows.last().colours += format ? format->foreColor : 0;
+            }
+        }
+        return plain;
+    }
+
+    int Rows() const { return int(rows.size()); }
+    int Cols() const { return int(cols.size()); }
+    bool has(int row, int col) const { return row >= 0 && row < Rows() && col >= 0 && col < Cols(); }
+    QString TextMatrix(int row, int col) const
+    {
+        return !has(row, col) ? "" : numbers && col == 0 && row ? QString::number(row) : rows[row].texts[col];
+    }
+    void setTextMatrix(int row, int col, QString text)
+    {
+        if (has(row, col) && !(numbers && col == 0 && row))
+            rows[row].texts[col] = text.replace('\n', ' ');
+    }
+    QString TextArray(int cell) const { return TextMatrix(cell / Cols(), cell % Cols()); }
+    void setTextArray(int cell, const QString &text) { setTextMatrix(cell / Cols(), cell % Cols(), text); }
+    void setText(const QString &text) { setTextMatrix(selection.Row, selection.Col, text); }
+    void setRows(int count)
+    {
+        while (Rows() < count)
+            rows.append(emptyRow());
+        rows.resize(std::max(1, count));
+        stayInside();
+    }
+    void setCols(int count)
+    {
+        cols.resize(std::max(1, count));
+        for (Row &row : rows) {
+            row.texts.resize(Cols());
+            row.colours.resize(Cols());
+        }
+        stayInside();
+    }
+    bool insertRows(int row, int count)
+    {
+        const bool can = row > 0 && row <= Rows() && count > 0;
+        if (can)
+            rows.insert(row, count, emptyRow());
+        stayInside();
+        return can;
+    }
+    void AddItem(const QString &item, int row)
+    {
+        const int at = row < 0 ? Rows() : row;
+        const QStringList texts = item.split('\t');
+        for (int col = insertRows(at, 1) ? 0 : Cols(); col < std::min(Cols(), int(texts.size())); ++col)
+            setTextMatrix(at, col, texts[col]);
+    }
+    bool removeRows(int row, int count)
+    {
+        const bool can = row > 0 && count > 0 && row + count <= Rows() && count < Rows() - 1; // one stays
+        if (can)
+            rows.remove(row, count);
+        stayInside();
+        return can;
+    }
+    void setRowPosition(int row, int to)
+    {
+        if (has(row, 0) && has(to, 0))
+            rows.move(row, to);
+    }
+    void setColPosition(int col, int to)
+    {
+        if (!has(0, col) || !has(0, to))
+            return;
+        cols.move(col, to);
+        for (Row &row : rows) {
+            row.texts.move(col, to);
+            row.colours.move(col, to);
+        }
+    }
+    /// By the length of the words in column 1.
+    void setSort(int)
+    {
+        const bool all = selection.Row == selection.RowSel;
+        if (selection.Row >= 0)
+            std::stable_sort(rows.begin() + (all ? 1 : std::max(1, selection.top())),
+                             all ? rows.end() : rows.begin() + selection.bottom() + 1,
+                             [](const Row &a, const Row &b) { return a.texts[1].size() < b.texts[1].size(); });
+    }
+    void Clear()
+    {
+        for (Row &row : rows)
+            row = {emptyRow().texts, emptyRow().colours, row.height};
+    }
+
+    /// The selection ends with the grid; -1 where there is no cell that could be selected.
+    void stayInside()
+    {
+        const bool data = Rows() > 1 && Cols() > 1;
+        const auto inside = [data](int &at, int count) { at = data ? std::min(at < 0 ? 1 : at, count - 1) : -1; };
+        inside(selection.Row, Rows());
+        inside(selection.Col, Cols());
+        inside(selection.RowSel, Rows());
+        inside(selection.ColSel, Cols());
+    }
+    void Select(int row, int col, int rowSel, int colSel)
+    {
+        if (has(row, col) && has(rowSel, colSel))
+            selection = {row, col, rowSel, colSel};
+        stayInside();
+    }
+    void setRow(int row) { Select(row, selection.Col, row, selection.Col); }
+    void setCol(int col) { Select(selection.Row, col, selection.Row, col); }
+    void setRowSel(int row) { Select(selection.Row, selection.Col, row, selection.ColSel); }
+    void setColSel(int col) { Select(selection.Row, selection.Col, selection.RowSel, col); }
+    void forSelected(const std::function<void(int, int)> &run) const
+    {
+        for (int row = selection.top(); selection.Row >= 0 && row <= selection.bottom(); ++row) {
+            for (int col = selection.left(); col <= selection.right(); ++col)
+                run(row, col);
+        }
+    }
+    QString Clip() const
+    {
+        QString clip;
+        forSelected([&](int row, int col) {
+            clip += col > selection.left() ? "\t" : row > selection.top() ? "\r" : "";
+            clip += TextMatrix(row, col);
+        });
+        return clip;
+    }
+    void setClip(const QString &clip)
+    {
+        const QStringList lines = clip.split('\r');
+        forSelected([&](int row, int col) {
+            const QStringList fields = lines.value(row - selection.top()).split('\t');
+            if (row - selection.top() < lines.size() && col - selection.left() < fields.size())
+                setTextMatrix(row, col, fields[col - selection.left()]);
+        });
+    }
+    void setCellForeColor(int colour)
+    {
+        forSelected([&](int row, int col) {
+            if (fill || selection.isCurrent(row, col))
+                rows[row].colours[col] = colour;
+        });
+    }
+    void setFillStyle(int style) { fill = style; }
+    void setRowHeight(int row, int height)
+    {
+        for (int i = 0; i < Rows(); ++i) {
+            if (row < 0 || i == row)
+                rows[i].height = height < 0 ? 285 : height;
+        }
+    }
+    void setMergeRow(int row, bool merge)
+    {
+        if (has(row, 0))
+            rows[row].merge = merge;
+    }
+    void forCols(int col, const std::function<void(Col &)> &change)
+    {
+        for (int i = 0; i < Cols(); ++i) {
+            if (col < 0 || i == col)
+                change(cols[i]);
+        }
+    }
+    void setColWidth(int col, int width)
+    {
+        forCols(col, [width](Col &each) { each.width = width < 0 ? 960 : width; });
+    }
+    void setColAlignment(int col, int to)
+    {
+        forCols(col, [to](Col &each) { each.alignment = std::clamp(to, 0, 9); });
+    }
+    void setColData(int col, int data)
+    {
+        forCols(col, [data](Col &each) { each.data = data; });
+    }
+
+    Row emptyRow() const { return {QStringList(Cols()), QList<int>(Cols())}; }
+};
+
+/// Rows and columns, some of which do not exist, and what else a step needs.
+struct Step
+{
+    int row, col, to, toCol, count, size;
+    QString text, clip;
+};
+
+/// One operation a line; what they answer is kept.
+template <typename Grid> std::vector<std::function<void(const Step &)>> stepsOf(Grid &grid, QStringList &answers)
+{
+    return {
+        [&](const Step &s) { answers += QString::number(grid.insertRows(s.row, s.count)); },
+        [&](const Step &s) { answers += QString::number(grid.removeRows(s.row, s.count)); },
+        [&](const Step &s) { grid.AddItem(s.text + '\t' + s.text, s.row); },
+        [&](const Step &s) { grid.setRowPosition(s.row, s.to); },
+        [&](const Step &s) { grid.setColPosition(s.col, s.toCol); },
+        [&](const Step &) { grid.setSort(FlexGrid::SortCustom); },
+        [&](const Step &s) { grid.setRows(s.row + 2); },
+        [&](const Step &s) { grid.setCols(s.col + 1); },
+        [&](const Step &s) { s.count ? void() : grid.Clear(); },
+        [&](const Step &s) { grid.setTextMatrix(s.row, s.col, s.text); },
+        [&](const Step &s) { grid.setText(s.text); },
+        [&](const Step &s) { grid.setTextArray(s.to + 1, s.text); },
+        [&](const Step &s) { answers += grid.TextArray(s.to + 1); },
+        [&](const Step &s) { grid.setClip(s.clip); },
+        [&](const Step &) { answers += grid.Clip(); },
+        [&](const Step &s) { grid.setFillStyle(s.count % 2); },
+        [&](const Step &s) { grid.setCellForeColor(s.size); },
+        [&](const Step &s) { grid.setRowHeight(s.row, s.size); },
+        [&](const Step &s) { grid.setMergeRow(s.row, s.count); },
+        [&](const Step &s) { grid.setColWidth(s.col, std::min(s.size, 2250)); },
+        [&](const Step &s) { grid.setColAlignment(s.col, s.row); },
+        [&](const Step &s) { grid.setColData(s.col, s.size); },
+        [&](const Step &s) { grid.setRow(s.row); },
+        [&](const Step &s) { grid.setCol(s.col); },
+        [&](const Step &s) { grid.setRowSel(s.row); },
+        [&](const Step &s) { grid.setColSel(s.col); },
+        [&](const Step &s) { grid.Select(s.row, s.col, s.to, s.toCol); },
+    };
+}
+
+/// Rows stand below each other from the top row on, below the header; columns from the left, as far as they are not
+/// scrolled away.
+void expectInView(const FlexGrid &grid, const PlainGrid &plain)
+{
+    const FlexGridView &view = *grid.hwndGrid();
+    const QSize room = view.viewport()->size();
+    const auto high = [&](int row) { return plain.has(row, 0) ? plain.rows[row].height / 15 : 0; };
+    const auto wide = [&](int col) { return plain.has(0, col) ? plain.cols[col].width / 15 : 0; };
+    const int top = grid.TopRow();
+    int last = std::max(1, plain.Rows() - 1);
+    for (int needed = high(last); last > 1 && needed + high(last - 1) <= room.height() - high(0);)
+        needed += high(--last);
+    EXPECT_EQ(view.verticalScrollBar()->maximum(), last);
+    EXPECT_TRUE(top >= 1 && top <= last);
+    int above = 0;
+    for (int row = 1; row < top; ++row)
+        above += high(row);
+    for (int row = -1, y = 0; row <= plain.Rows(); y = row++ == 0 ? high(0) - above : y + high(row - 1)) {
+        const bool seen = row == 0 || row == top || (row > top && y + high(row) <= room.height());
+        EXPECT_EQ(grid.RowIsVisible(row), seen && plain.has(row, 0)) << row;
+        const QRect cell = view.cellRect(row, 0);
+        EXPECT_EQ(cell, plain.has(row, 0) ? QRect(0, y, wide(0), high(row)) : QRect());
+        for (int at = y; seen && at < std::min(y + high(row), room.height()); at += 7)
+            EXPECT_EQ(view.rowAt(at), row);
+    }
+    const int shift = view.horizontalScrollBar()->value();
+    int x = 0;
+    for (int col = 0; col <= plain.Cols(); ++col) {
+        const bool seen = col == 0 || x == wide(0) || (x > wide(0) && x + wide(col) <= room.width());
+        EXPECT_EQ(grid.ColIsVisible(col), seen && plain.has(0, col)) << col;
+        EXPECT_EQ(view.cellRect(0, col), plain.has(0, col) ? QRect(x, 0, wide(col), high(0)) : QRect());
+        for (int at = std::max(x, col ? wide(0) : 0); at < std::min(x + wide(col), room.width()); at += 7)
+            EXPECT_EQ(view.colAt(at), col);
+        x += wide(col) - (col == 0 ? shift : 0);
+    }
+    EXPECT_EQ(view.horizontalScrollBar()->maximum(), std::max(0, x + shift - room.width()));
+}
+
+TEST(FlexGridWalk, TheGridHoldsTellsAndShowsWhatPlainListsWould)
+{
+    FlexGrid grid;
+    PlainGrid plain;
+    QStringList answers, plainAnswers, told;
+    const auto steps = stepsOf(grid, answers), plainSteps = stepsOf(plain, plainAnswers);
+    grid.setBorderStyle(0);
+    grid.resize(200, 120);
+    grid.show();
+    QObject::connect(&grid, &FlexGrid::EnterCell, &grid, [&told] { told += "enter"; });
+    QObject::connect(&grid, &FlexGrid::RowColChange, &grid, [&told] { told += "cell"; });
+    QObject::connect(&grid, &FlexGrid::SelChange, &grid, [&told] { told += "selection"; });
+    QObject::connect(&grid, &FlexGrid::Compare, &grid, [&grid](int row, int other, int &result) {
+        result = int(grid.word(row, 1).size() - grid.word(other, 1).size());
+    });
+    QSignalSpy scrolled(&grid, &FlexGrid::Scroll);
+    plain.setCols(2);
+    plain.setRows(2);
+    std::mt19937 random(1);
+    const auto oneOf = [&random](const auto &values) { return values[random() % std::size(values)]; };
+    const auto below = [&random](int limit) { return int(random() % unsigned(limit)); };
+    const char *const words[] = {"", "a", "Bb", "ccc", "d\ne"};
+    const char *const clips[] = {"", "x", "x\ty", "x\ry", "\tx\r\rz", "x\ty\tz\ru\tv\tw"};
+    const int sizes[] = {-1, 0, 450, 600, 960, 3000};
+    for (int i = 0; i < 4000 && !::testing::Test::HasFailure(); ++i) {
+        SCOPED_TRACE(i);
+        const Step step{below(12) - 1, below(6) - 1, below(12) - 1, below(5),
+                        below(4),      oneOf(sizes), oneOf(words),  oneOf(clips)};
+        const PlainGrid before = plain;
+        const auto place = [&grid] {
+            return std::pair(grid.TopRow(), grid.hwndGrid()->horizontalScrollBar()->value());
+        };
+        const auto placeBefore = place();
+        told.clear();
+        scrolled.clear();
+        const size_t kind = random() % (steps.size() + 2);
+        if (kind < steps.size()) {
+            steps[kind](step);
+            plainSteps[kind](step);
+        } else if (kind == steps.size()) {
+            const bool seen = grid.RowIsVisible(step.row);
+            grid.showCell(step.row, step.col);
+            EXPECT_TRUE(!plain.has(step.row, step.col) || grid.RowIsVisible(step.row));
+            EXPECT_TRUE(!seen || grid.TopRow() == placeBefore.first);
+        } else {
+            grid.setTopRow(step.row);
+            grid.setLeftCol(step.col);
+        }
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(PlainGrid::of(grid, plain.numbers) == plain);
+        EXPECT_EQ(answers, plainAnswers);
+        const bool moved = !plain.selection.isCurrent(before.selection.Row, before.selection.Col);
+        EXPECT_EQ(told.join(' '), moved                                 ? "enter cell selection"
+                                  : plain.selection == before.selection ? ""
+                                                                        : "selection");
+        EXPECT_EQ(scrolled.isEmpty(), place() == placeBefore);
+        expectInView(grid, plain);
+        if (i == 2000) {
+            plain.numbers = true;
+            grid.setRowNumbers(true);
+            for (int row = 1; row < plain.Rows(); ++row)
+                plain.rows[row].texts[0].clear();
+        }
+    }
+}
+
+} // namespace
