@@ -13,19 +13,23 @@ FileAssociation glosaria(const char *path = "/bin/sh")
             "<svg>file</svg>"};
 }
 
-/// Folders for the data of the user and of the system, and a desktop without tools.
+/// Folders for the data of the user and of the system, and a desktop whose tools write down how they are called.
 struct FileAssociationTest : ::testing::Test
 {
     FileAssociationTest()
     {
+        for (const char *name : {"update-mime-database", "update-desktop-database", "xdg-mime"}) {
+            const QString tool = writeFile(tools.filePath(name), "#!/bin/sh\necho ${0##*/} $* >> ${0%/*}/calls\n");
+            QFile::setPermissions(tool, QFile::ReadOwner | QFile::ExeOwner);
+        }
         qputenv("XDG_DATA_HOME", QFile::encodeName(user.path()));
         qputenv("XDG_DATA_DIRS", QFile::encodeName(system.path()));
-        qputenv("PATH", "/missing");
+        qputenv("PATH", QFile::encodeName(tools.path()));
     }
     ~FileAssociationTest() override { qputenv("PATH", path); }
 
     const QByteArray path = qgetenv("PATH");
-    const QTemporaryDir user, system;
+    const QTemporaryDir user, system, tools;
 };
 
 } // namespace
@@ -36,6 +40,17 @@ TEST_F(FileAssociationTest, DesktopLearnsTypeIconsAndProgram)
     for (const char *name : {"icons/hicolor/scalable/apps/glosaria.svg", "applications/glosaria.desktop",
                              "icons/hicolor/scalable/mimetypes/application-x-glosaria.svg"})
         EXPECT_GT(QFileInfo(user.filePath(name)).size(), 0) << name;
+    QStringList calls;
+    for (int i = 0; i < 4000 && calls.size() < 3; ++i, QThread::msleep(5)) {
+        const QString log = tools.filePath("calls");
+        calls = QFile::exists(log) ? QString(readFile(log)).split('\n', Qt::SkipEmptyParts) : calls;
+    }
+    calls.sort();
+    EXPECT_EQ(calls.join(", "), QString("update-desktop-database %1/applications, update-mime-database %1/mime, "
+                                        "xdg-mime default glosaria.desktop application/x-glosaria")
+                                    .arg(user.path()));
+    ASSERT_TRUE(glosaria().registerType());
+    EXPECT_EQ(readFile(tools.filePath("calls")).count('\n'), 3) << "nothing has changed";
     const QMimeType type = QMimeDatabase().mimeTypeForFile("x.gla", QMimeDatabase::MatchExtension);
     EXPECT_EQ(type.name(), FileAssociation::mimeType());
     EXPECT_TRUE(packaged("glosaria.desktop").split('\n').contains("MimeType=" + type.name().toUtf8() + ';'));

@@ -193,6 +193,29 @@ TEST_F(StyleTest, SignsAreTheProgramsInTheColoursOfTheirGroundAndButtonsHaveNone
     EXPECT_EQ(style.styleHint(QStyle::SH_ToolTip_WakeUpDelay), plain->styleHint(QStyle::SH_ToolTip_WakeUpDelay));
 }
 
+TEST_F(StyleTest, JoinedLettersAreUnderlinedWhileAltIsHeldOnly)
+{
+    QWidget window;
+    window.show();
+    const auto underlined = [this] { return style.styleHint(QStyle::SH_UnderlineShortcut) != 0; };
+    EXPECT_TRUE(underlined());
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    style.polish(qApp);
+    EXPECT_FALSE(underlined());
+    for (const auto &[type, key, shown] : {std::tuple(QEvent::KeyPress, Qt::Key_Shift, false),
+                                           {QEvent::KeyPress, Qt::Key_Alt, true},
+                                           {QEvent::KeyRelease, Qt::Key_Shift, true},
+                                           {QEvent::KeyRelease, Qt::Key_Alt, false},
+                                           {QEvent::KeyPress, Qt::Key_Alt, true},
+                                           {QEvent::ApplicationDeactivate, Qt::Key_unknown, false}}) {
+        QKeyEvent event(type, key, Qt::NoModifier);
+        QEvent plainEvent(type);
+        QCoreApplication::sendEvent(&window, key == Qt::Key_unknown ? &plainEvent : &event);
+        EXPECT_EQ(underlined(), shown) << type;
+    }
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
 TEST(ScreenFitTest, DialogsLargerThanTheScreenScrollAndKeepTheirButtons)
 {
     const ScreenFit fit(*qApp);

@@ -1,0 +1,59 @@
+#include "platform/Twips.h"
+#include "platform/files/FolderLock.h"
+#include "platform/files/LongPath.h"
+#include "platform/files/ProgramFiles.h"
+#include "platform/files/RegularFile.h"
+#include "platform/files/UserFolders.h"
+
+TEST(Folders, StandWhereTheDesktopWantsThem)
+{
+    const QByteArray before = qgetenv("XDG_STATE_HOME");
+    for (const auto &[variable, folder] : {std::pair("/a/b/", QString("/a/b")),
+                                           {"b", QDir::homePath() + "/.local/state"},
+                                           {"", QDir::homePath() + "/.local/state"}}) {
+        qputenv("XDG_STATE_HOME", variable);
+        EXPECT_EQ(UserFolders::state(), folder + "/glosaria");
+    }
+    qputenv("XDG_STATE_HOME", before);
+    EXPECT_TRUE(UserFolders::config().endsWith("/config/glosaria") && UserFolders::sharedData().endsWith("/data"));
+    for (const auto place : {ProgramFiles::path, ProgramFiles::module})
+        EXPECT_EQ(place("nothing"), QCoreApplication::applicationDirPath() + "/nothing");
+}
+
+TEST(Folders, AreLockedForOneAtATime)
+{
+    const QTemporaryDir folder;
+    auto first = std::make_unique<FolderLock>(folder.path(), 0);
+    QElapsedTimer waited;
+    waited.start();
+    const FolderLock second(folder.path(), 60);
+    EXPECT_TRUE(first->isHeld() && !second.isHeld() && waited.elapsed() >= 60);
+    first.reset();
+    EXPECT_TRUE(FolderLock(folder.path(), 0).isHeld());
+    EXPECT_TRUE(FolderLock("/no/such/folder", 0).isHeld());
+}
+
+TEST(Folders, TellWhatIsInThem)
+{
+    const QTemporaryDir folder;
+    const QString file = writeFile(folder.filePath("Words.gla"), "words");
+    ASSERT_TRUE(QFile::link("/nowhere", folder.filePath("link")));
+    for (const char *name : {"Words.gla", "link", "missing", "words.gla"})
+        EXPECT_EQ(LongPath::directoryEntry(folder.path(), name),
+                  QDir(folder.path()).entryList(QDir::AllEntries | QDir::System).contains(name) ? name : "");
+    QFile opened, other;
+    EXPECT_TRUE(RegularFile::open(opened, file) && opened.readAll() == "words");
+    for (const QString &path : {folder.path(), folder.filePath("missing"), QString("/dev/null")})
+        EXPECT_FALSE(RegularFile::open(other, path) || other.isOpen());
+}
+
+TEST(Twips, AreAFifteenthOfAPixelWithoutAScreen)
+{
+    for (const int pixels : {0, 1, 19, -3}) {
+        EXPECT_EQ(Twips::fromPixelsX(pixels) + Twips::fromPixelsY(pixels), 30 * pixels);
+        for (const int twips : {-7, 0, 7}) {
+            EXPECT_EQ(Twips::toPixelsX(15 * pixels + twips), pixels);
+            EXPECT_EQ(Twips::toPixelsY(15 * pixels + twips), pixels);
+        }
+    }
+}
