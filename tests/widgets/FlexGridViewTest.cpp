@@ -80,7 +80,11 @@ TEST_F(ShownGrid, MouseSelectsCellsRowsColumnsAndAll)
         {cell(4, 0), cell(4, 0), LeftButton, {}, "4 1 4 3"},
         {cell(4, 0), cell(7, 0), LeftButton, {}, "4 1 7 3"},
         {cell(0, 2), cell(0, 2), LeftButton, {}, "1 2 200 2"},
+        {cell(0, 3), cell(0, 3), LeftButton, Qt::ShiftModifier, "1 2 200 3"},
+        {cell(0, 3), cell(0, 1), LeftButton, {}, "1 3 200 1"},
         {cell(0, 0), cell(0, 0), LeftButton, {}, "1 1 200 3"},
+        {cell(6, 0), cell(6, 0), LeftButton, Qt::ShiftModifier, "1 1 6 3"},
+        {cell(0, 2), cell(0, 2), RightButton, {}, "1 1 6 3"},
     };
     for (const auto &[press, release, button, modifiers, selected] : cases) {
         drag(press, release, button, modifiers);
@@ -89,6 +93,12 @@ TEST_F(ShownGrid, MouseSelectsCellsRowsColumnsAndAll)
     grid.setSelectionMode(FlexGridLook::SelectionByRow);
     drag(cell(5, 2), cell(5, 2));
     EXPECT_EQ(selection(), "5 1 5 3");
+    grid.setSelectionMode(FlexGridLook::SelectionByCol);
+    drag(cell(5, 2), cell(5, 2));
+    EXPECT_EQ(selection(), "1 2 200 2");
+    grid.setAllowBigSelection(false);
+    drag(cell(4, 0), cell(7, 0));
+    EXPECT_EQ(selection(), "1 2 200 2");
 }
 
 TEST_F(ShownGrid, DraggingBeyondTheEdgeScrollsOn)
@@ -99,6 +109,14 @@ TEST_F(ShownGrid, DraggingBeyondTheEdgeScrollsOn)
     QTest::mouseRelease(viewport(), Qt::LeftButton, {}, QPoint(150, 400));
     EXPECT_EQ(grid.Row(), 3);
     EXPECT_GT(grid.RowSel(), 12);
+    grid.setColWidth(3, 6000);
+    grid.Select(50, 1, 50, 1);
+    grid.showCell(50, 1);
+    QTest::mousePress(viewport(), Qt::LeftButton, {}, cell(50, 1));
+    moveTo(QPoint(700, -50));
+    QTRY_VERIFY(grid.TopRow() < 40 && grid.ColPos(1) < 1000);
+    moveTo(cell(30, 2));
+    QTest::mouseRelease(viewport(), Qt::LeftButton, {}, cell(30, 2));
 }
 
 TEST_F(ShownGrid, BordersOfFixedCellsAreDraggedWhenAllowed)
@@ -122,10 +140,27 @@ TEST_F(ShownGrid, BordersOfFixedCellsAreDraggedWhenAllowed)
     EXPECT_EQ(grid.RowHeight(2), 480);
     EXPECT_EQ(selection(), "5 2 5 2");
 
+    const auto pointerAt = [this](const QPoint &at) {
+        QCursor::setPos(viewport()->mapToGlobal(at));
+        moveTo(at);
+        return viewport()->cursor().shape();
+    };
+    const QPoint secondBorder = colBorder + QPoint(20, 0);
+    for (const int reach : {-4, -3, 3, 4}) {
+        const bool near = std::abs(reach) < 4;
+        EXPECT_EQ(pointerAt(secondBorder + QPoint(reach, 0)), near ? Qt::SplitHCursor : Qt::ArrowCursor) << reach;
+        EXPECT_EQ(pointerAt(rowBorder + QPoint(0, 12 + reach)), near ? Qt::SplitVCursor : Qt::ArrowCursor) << reach;
+    }
+    grid.setMousePointer(2);
+    EXPECT_EQ(pointerAt(cell(3, 2)), Qt::CrossCursor);
+
     grid.setTextMatrix(100, 1, "the longest of all the words in this column of words");
     QTest::mouseDClick(viewport(), Qt::LeftButton, {}, QPoint(grid.hwndGrid()->cellRect(0, 1).right() + 1, 5));
     const int needed = QFontMetrics(grid.Font()).horizontalAdvance(grid.TextMatrix(100, 1)) * 15;
-    EXPECT_NEAR(grid.ColWidth(1), needed + 200, 200);
+    EXPECT_NEAR(grid.ColWidth(1), needed + 100, 100);
+    grid.setGridFont(QFont("Liberation Sans", 40));
+    QTest::mouseDClick(viewport(), Qt::LeftButton, {}, rowBorder + QPoint(0, 12));
+    EXPECT_NEAR(grid.RowHeight(2), QFontMetrics(grid.Font()).height() * 15 + 30, 30);
 }
 
 TEST_F(ShownGrid, KeysAndMouseAreToldInTheirNumbers)
@@ -139,11 +174,24 @@ TEST_F(ShownGrid, KeysAndMouseAreToldInTheirNumbers)
     QObject::connect(&grid, &FlexGrid::MouseDown, &grid, [&](int button, int shift, float x, float y) {
         log << QString("mouse %1 %2 %3 %4").arg(button).arg(shift).arg(x).arg(y);
     });
-    for (const char *keys : {"Shift+PgDown", "Return", "Ctrl+Q", "Alt+F2", "Z", "Del"})
+    QObject::connect(&grid, &FlexGrid::KeyUp, &grid, [&](int code, int shift) {
+        if (code == 34)
+            log << QString("up %1 %2").arg(code).arg(shift);
+    });
+    for (const char *keys : {"Shift+PgDown", "Return", "Ctrl+Q", "Alt+F2", "Z", "Del", "Num+5", "5", "F24"})
         QTest::keySequence(grid.hwndGrid(), QKeySequence(keys));
     drag(QPoint(40, 30), QPoint(40, 30), Qt::RightButton, Qt::ControlModifier);
-    EXPECT_EQ(log.join(", "), "down 34 1, down 13 0, press 13, down 81 2, down 113 4, down 90 0, press 122, down 46 0, "
-                              "mouse 2 2 600 450");
+    grid.Select(15, 1, 15, 1);
+    const QPoint place = cell(15, 1);
+    QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, {}, {});
+    QCoreApplication::sendEvent(viewport(), &menuKey);
+    EXPECT_EQ(
+        log.join(", "),
+        QString(
+            "down 34 1, up 34 1, down 13 0, press 13, down 81 2, down 113 4, down 90 0, press "
+            "122, down 46 0, down 101 0, press 53, down 53 0, press 53, down 135 0, mouse 2 2 600 450, mouse 2 0 %1 %2")
+            .arg(place.x() * 15)
+            .arg(place.y() * 15));
 }
 
 TEST_F(ShownGrid, KnowsWhereItsCellsAndTheMouseAre)
@@ -151,6 +199,8 @@ TEST_F(ShownGrid, KnowsWhereItsCellsAndTheMouseAre)
     grid.setTopRow(3);
     EXPECT_EQ(QRect(grid.CellLeft(), grid.CellTop(), grid.CellWidth(), grid.CellHeight()),
               QRect(grid.ColPos(2), grid.RowPos(5), grid.ColWidth(2), grid.RowHeight(5)));
+    EXPECT_EQ(static_cast<QWidget *>(grid.hwndGrid())->inputMethodQuery(Qt::ImCursorRectangle).toRect(),
+              grid.hwndGrid()->cellRect(5, 2));
     moveTo(cell(4, 1));
     EXPECT_EQ(grid.MouseRow() * 10 + grid.MouseCol(), 41);
     grid.Autosize();
