@@ -40,71 +40,60 @@ TEST_F(FrmDocTest, NewDocumentsAreSetUpFromTheSettings)
     EXPECT_EQ(fresh.Font(), font);
     EXPECT_EQ(fresh.ForeColor(), 0x0000FF);
     EXPECT_EQ(fresh.Rows(), 101);
-    EXPECT_EQ(fresh.TextMatrix(0, 1) + fresh.TextMatrix(100, 0), resText(501) + "100");
+    EXPECT_EQ(fresh.TextMatrix(0, 1) + fresh.TextMatrix(0, 2) + fresh.TextMatrix(100, 0),
+              resText(501) + resText(502) + "100");
+    EXPECT_EQ((QList<int>{fresh.ColAlignment(0), fresh.ColAlignment(1), fresh.ColAlignment(2), fresh.ColWidth(0),
+                          fresh.AllowUserResizing(), fresh.WordWrap(), fresh.FillStyle(), fresh.HighLight(),
+                          fresh.FocusRect()}),
+              (QList<int>{7, 1, 1, 340, 3, 1, 1, 1, 1}));
+    EXPECT_TRUE(fresh.ColWidth(1) == fresh.ColWidth(2) && fresh.ColWidth(1) > 960);
 }
 
-TEST_F(FrmDocTest, TypingCommitsWithEnterAndMovesOn)
+TEST_F(FrmDocTest, KeysTypeCommitGiveUpAndWalk)
 {
-    type("b");
-    EXPECT_EQ(undo.kind(), UndoKind::Typing);
-    EXPECT_EQ(undo.entryText, "house");
-    EXPECT_EQ(status.text(0), resText(503));
-    type("arn");
-    press(Qt::Key_Return);
-    EXPECT_EQ(grid.TextMatrix(1, 1), "barn");
-    EXPECT_TRUE(document.Dirty());
-    EXPECT_EQ(undo.kind(), UndoKind::Entry);
-    EXPECT_EQ(status.text(0) + status.text(1), resText(506) + " B1");
-    EXPECT_EQ(editing, (QList<bool>{true, false}));
-    press(Qt::Key_Return, Qt::ShiftModifier);
-    press(Qt::Key_Return, Qt::ShiftModifier);
-    EXPECT_EQ(cell(), std::pair(100, 2)) << "round to the last row";
-    EXPECT_TRUE(grid.RowIsVisible(100));
-    press(Qt::Key_Return);
-    EXPECT_EQ(cell(), std::pair(1, 1));
-}
-
-TEST_F(FrmDocTest, EscapeLeavesTheCellAsItWas)
-{
-    type("zzz");
-    press(Qt::Key_Escape, Qt::ControlModifier);
-    EXPECT_TRUE(grid.EditMode()) << "no character, so nobody would learn of the end";
-    press(Qt::Key_Escape);
-    EXPECT_EQ(grid.TextMatrix(1, 1) + status.text(0), "house" + resText(506));
-}
-
-TEST_F(FrmDocTest, TabCommitsAndGoesWhereEnterGoes)
-{
-    type("barn");
-    press(Qt::Key_Tab);
-    type("x");
-    press(Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_EQ(grid.TextMatrix(1, 1) + grid.TextMatrix(1, 2), "barnx");
-    EXPECT_EQ(undo.kind(), UndoKind::Entry);
-    EXPECT_EQ(cell(), std::pair(1, 1));
-    press(Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_EQ(cell(), std::pair(100, 2));
+    const QSignalSpy clears(&document, &frmDoc::clearRequested);
+    /// The words, the current cell, [the edit box], "the text that undo brings back" and other news.
+    const auto state = [&] {
+        QString text;
+        for (int cell = 0; cell < 2 * grid.Rows() - 2; ++cell)
+            text += grid.TextMatrix(1 + cell / 2, 1 + cell % 2) +
+                    (grid.TextMatrix(1 + cell / 2, 1 + cell % 2).isEmpty() ? "" : " ");
+        text +=
+            QString("%1,%2").arg(grid.Row()).arg(grid.Col()) + (grid.EditMode() ? " [" + grid.EditText() + ']' : "");
+        if (undo.kind() != UndoKind::None)
+            text += (undo.kind() == UndoKind::Typing ? " typing " : " entry ") + undo.entryText;
+        EXPECT_EQ(status.text(0), resText(grid.EditMode() ? 503 : 506));
+        EXPECT_TRUE(grid.RowIsVisible(grid.Row()));
+        return text + (document.Dirty() ? " *" : "") + QString(" clear").repeated(int(clears.count()));
+    };
+    const std::pair<const char *, const char *> steps[] = {
+        {"b", "house 1,1 [b] typing house"},
+        {"a, Return", "ba 1,2 entry house *"},
+        {"Shift+Return", "ba 1,1 entry house *"},
+        {"Shift+Return", "ba 100,2 entry house *"}, // round to the last
+        {"Return", "ba 1,1 entry house *"},
+        {"z, Ctrl+Esc", "ba 1,1 [z] typing ba *"}, // no character
+        {"Esc", "ba 1,1 entry ba *"},
+        {"t, Tab", "t 1,2 entry ba *"},
+        {"x, Shift+Backtab", "t x 1,1 entry  *"},
+        {"Shift+Backtab", "t x 100,2 entry  *"},
+        {"Tab, F2, Del, s", "t x 1,1 [ts] typing t *"}, // the box's own
+        {"Return, Shift+Del", "ts x 1,2 entry t *"},
+        {"Del", "ts x 1,2 entry t * clear"}};
+    for (const auto &[keys, expected] : steps) {
+        for (const QString &key : QString(keys).split(", "))
+            QTest::keySequence(QApplication::focusWidget(), QKeySequence(key));
+        EXPECT_EQ(state().toStdString(), expected) << keys;
+    }
+    EXPECT_EQ(status.text(1), " B1");
+    EXPECT_EQ(editing, (QList<bool>{true, false, true, false, true, false, true, false, true, false}));
     flags.FindMode = true; // a search holds the commit by the focus back
+    grid.Select(100, 2, 100, 2);
     type("last");
     press(Qt::Key_Tab);
     EXPECT_EQ(cell(), std::pair(101, 1)) << "the row that the entry has added";
     press(Qt::Key_Tab, Qt::AltModifier);
     EXPECT_EQ(cell(), std::pair(101, 1));
-}
-
-TEST_F(FrmDocTest, KeysOfTheGridClearAndEditAtTheEnd)
-{
-    QSignalSpy clears(&document, &frmDoc::clearRequested);
-    press(Qt::Key_F2);
-    EXPECT_EQ(grid.EditText(), "house");
-    press(Qt::Key_Delete);
-    EXPECT_EQ(clears.count(), 0) << "it is the edit box's";
-    type("s");
-    press(Qt::Key_Return);
-    EXPECT_EQ(grid.TextMatrix(1, 1), "houses");
-    press(Qt::Key_Delete, Qt::ShiftModifier);
-    press(Qt::Key_Delete);
-    EXPECT_EQ(clears.count(), 1);
 }
 
 TEST_F(FrmDocTest, ALongEntryInTheLastRowMakesItTallerAndAddsAnother)
@@ -128,6 +117,16 @@ TEST_F(FrmDocTest, ActivationEndsTheUndoRecordAndShowsTheStatusTexts)
     EXPECT_FALSE(undo.belongsTo(&document));
     EXPECT_EQ(status.text(1), " A2:B3");
     EXPECT_TRUE(status.text(2).startsWith("English -> "));
+}
+
+TEST_F(FrmDocTest, ARightClickAsksForTheMenuWhereItIs)
+{
+    const QSignalSpy asked(&document, &frmDoc::menuRequested);
+    for (const auto button : {Qt::LeftButton, Qt::RightButton})
+        QTest::mouseClick(grid.hwndGrid()->viewport(), button, {}, QPoint(30, 50));
+    ASSERT_EQ(asked.size(), 1);
+    EXPECT_EQ(asked[0][0].toPoint(), grid.hwndGrid()->viewport()->mapToGlobal(QPoint(30, 50)));
+    EXPECT_EQ(grid.MousePointer(), 99) << "since the mouse has moved";
 }
 
 TEST_F(FrmDocTest, ZoomIsAViewThatTellsItsSizeForAMoment)
