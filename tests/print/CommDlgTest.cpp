@@ -61,6 +61,26 @@ TEST_F(CommDlg, CancelIsAnErrorAndLeavesTheProperties)
     EXPECT_TRUE(alerts.shown.empty());
 }
 
+TEST_F(CommDlg, PrintOffersWhatTheFlagsAllowAndTellsWhatWasChosen)
+{
+    dialog.MinPage = 2;
+    dialog.MaxPage = 9;
+    for (int chosen = 0; chosen < 8; ++chosen) {
+        const int bits =
+            (chosen & 1 ? 1 : 0) | (chosen & 2 ? 2 : 0) | (chosen & 4 ? 16 : 0); // selection, pages, collated
+        dialog.flags = 0x100000 | (bits ^ 19) | (chosen & 1 ? 4 : 0) | (chosen & 2 ? 8 : 0);
+        dialogs.pages = PrintChoice{3, 4, 5, bool(chosen & 2), bool(chosen & 1), bool(chosen & 4)};
+        dialog.setAction(clsCommDlg::ActionPrint);
+        EXPECT_EQ(dialog.flags & 0x100013, 0x100000 | bits);
+        EXPECT_EQ((QList<int>{dialog.Copies, dialog.FromPage, dialog.ToPage}), (QList<int>{3, 4, 5}));
+        const PrintRequest &asked = dialogs.print;
+        EXPECT_EQ((QList<int>{asked.minPage, asked.fromPage, asked.toPage, asked.maxPage}), (QList<int>{2, 2, 9, 9}));
+        EXPECT_EQ((QList<bool>{asked.offerSelection, asked.offerPageNumbers, asked.pageNumbers, asked.collate}),
+                  (QList<bool>{!(chosen & 1), !(chosen & 2), !(chosen & 2), !(chosen & 4)}));
+    }
+    EXPECT_THROW(dialog.setAction(clsCommDlg::ActionHelp), CommDlgError);
+}
+
 TEST_F(CommDlg, AFailingPrinterIsReportedAndThrown)
 {
     dialogs.printerFault = "no paper";

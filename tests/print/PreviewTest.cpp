@@ -130,6 +130,10 @@ TEST_F(Preview, ClicksZoomAndKeepThePage)
         EXPECT_EQ(page()->width(), qRound(11900 / divisor / 15));
         EXPECT_EQ(shown(), "<Page 2 of 5>");
     }
+    for (const auto &[key, divisor] : {std::pair(Qt::Key_Minus, 3.0), {Qt::Key_Plus, 2.0}, {Qt::Key_Plus, 1.0}}) {
+        press(key);
+        EXPECT_EQ(page()->width(), qRound(11900 / divisor / 15));
+    }
 }
 
 TEST_F(Preview, PageKeysScrollALargePageAndThenTurnIt)
@@ -170,6 +174,13 @@ TEST_F(Preview, PageSetupBuildsItAgainFromTheFirstPage)
     for (int i = 0; i < 20; ++i)
         press(Qt::Key_Right);
     EXPECT_EQ(page()->geometry().right(), 899);
+    const int top = page()->y();
+    for (const auto &[key, left, y] : {std::tuple(Qt::Key_Down, 899 - page()->width() + 1, top - 50),
+                                       {Qt::Key_Up, 899 - page()->width() + 1, top},
+                                       {Qt::Key_Left, 900 - page()->width() + 50, top}}) {
+        press(key);
+        EXPECT_EQ(page()->pos(), QPoint(left, y)) << key;
+    }
 }
 
 TEST_F(Preview, PrintingKeepsSizeAndPage)

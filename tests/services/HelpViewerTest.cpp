@@ -145,6 +145,51 @@ TEST_F(HelpViewerTest, KeysDoWhatTheToolsDo)
     }
 }
 
+TEST_F(HelpViewerTest, WindowsHaveTheirSizesToolsAndPanes)
+{
+    for (const auto &[name, size] : {std::pair("Main", QSize(970, 660)), {"MboxHelp", QSize(560, 460)}}) {
+        target.HelpWindow = name;
+        viewers.HtmlHelp(target, HH_HELP_CONTEXT, 1210);
+        EXPECT_EQ(viewers.window(name)->size(),
+                  size.boundedTo(viewers.window(name)->screen()->availableSize() - QSize(10, 36)));
+    }
+    QStringList tools;
+    for (const QAction *tool : part<QToolBar>("toolBar")->actions())
+        tools += tool->isSeparator() ? "-" : tool->toolTip();
+    EXPECT_EQ(
+        tools.join(", ").toStdString(),
+        "Show or hide the contents (F9), -, Back (Alt+Left), Forward (Alt+Right), Home (Alt+Home), -, Find on this "
+        "page (Ctrl+F), Larger text (Ctrl++), Smaller text (Ctrl+-), Normal text size (Ctrl+0)");
+    auto *panes = part<QTabWidget>("navigation");
+    QString shownPanes;
+    for (const int pane : {1, 2, 3, 0}) {
+        panes->setCurrentIndex(pane);
+        shownPanes += panes->tabText(pane) + '>' + main()->focusWidget()->objectName() + ' ';
+    }
+    EXPECT_EQ(shownPanes.toStdString(), "&Index>keyword &Search>words &Favorites>favorites &Contents>contents ");
+    auto *contents = part<QTreeWidget>("contents");
+    for (const char *page : {"html/sort.html", "html/font.html"}) {
+        main()->showPage(page);
+        EXPECT_EQ(contents->currentItem()->data(0, Qt::UserRole).toString(), page);
+    }
+    contents->setCurrentItem(contents->topLevelItem(0));
+    EXPECT_EQ(main()->page(), contents->topLevelItem(0)->data(0, Qt::UserRole).toString());
+    auto *browser = part<HelpBrowser>("browser");
+    const double before = browser->font().pointSizeF();
+    for (const int turn : {120, 120, -120}) {
+        QWheelEvent wheel({}, {}, {}, {0, turn}, Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(browser->viewport(), &wheel);
+    }
+    EXPECT_EQ(browser->font().pointSizeF(), before + 1);
+    part<QLineEdit>("findText")->setText("the");
+    QList<int> found;
+    for (const char *button : {"findNext", "findNext", "findPrevious"}) {
+        part<QPushButton>(button)->click();
+        found += browser->textCursor().position();
+    }
+    EXPECT_TRUE(found[0] < found[1] && found[2] == found[0]);
+}
+
 TEST_F(HelpViewerTest, EveryLinkLeadsToItsPageByMouseAndByKeyAndBackAndForward)
 {
     const auto linksOf = [](const HelpBrowser *browser) {

@@ -15,24 +15,25 @@ struct StatusBarTest : ::testing::Test
     }
 };
 
-TEST_F(StatusBarTest, PanelsStandAtTheirEdgesAlsoWhenTheWindowGrows)
+TEST_F(StatusBarTest, PanelsStandInTheirPlacesFromWhereLinesBegin)
 {
-    for (const int width : {900, 1200}) {
+    const auto places = [this](int width) {
         bar.resize(width, 20);
-        EXPECT_EQ(bar.panelRect(1).left(), 300);
-        EXPECT_EQ(bar.panelRect(2).left(), 480);
-        EXPECT_EQ(bar.panelRect(3).left(), 880);
-        EXPECT_EQ(bar.findChild<QSizeGrip *>()->geometry().bottomRight(), bar.rect().bottomRight());
-    }
-}
-
-TEST_F(StatusBarTest, PanelsStandTheOtherWayRoundWhereLinesBeginAtTheRight)
-{
+        QString text;
+        for (int panel = 0; panel < 4; ++panel) {
+            const QRect place = bar.panelRect(panel);
+            text += QString("%1+%2 ").arg(place.left()).arg(place.width());
+            EXPECT_TRUE(place.top() == 1 && place.height() == 19);
+        }
+        const QRect grip = bar.findChild<QSizeGrip *>()->geometry();
+        EXPECT_TRUE(grip.bottom() == 19 && grip.size() == bar.findChild<QSizeGrip *>()->sizeHint());
+        return text + (grip.right() == width - 1 ? "> " : grip.left() == 0 ? "< " : "? ");
+    };
+    EXPECT_EQ(places(900) + places(1200), "0+298 300+178 480+398 880+18 > 0+298 300+178 480+398 880+318 > ");
     bar.setLayoutDirection(Qt::RightToLeft);
-    bar.resize(901, 20);
-    EXPECT_EQ(bar.panelRect(0).right(), bar.rect().right());
-    EXPECT_EQ(bar.panelRect(1).right(), bar.rect().right() - 300);
-    EXPECT_EQ(bar.findChild<QSizeGrip *>()->geometry().bottomLeft(), bar.rect().bottomLeft());
+    EXPECT_EQ(places(901), "603+298 423+178 23+398 2+19 < ");
+    EXPECT_EQ(bar.text(0) + bar.statusTip(), resText(506) + resText(2000));
+    EXPECT_EQ(bar.sizeHint(), QSize(500, std::max(20, bar.fontMetrics().height() + 6)));
 }
 
 TEST_F(StatusBarTest, ALongTextShowsWholeAsFarAsTheModeLeavesRoom)
