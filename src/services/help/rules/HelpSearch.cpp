@@ -55,6 +55,7 @@ std::vector<HelpSearch::Hit> HelpSearch::find(const QString &query) const
     }
     std::stable_sort(found.begin(), found.end(), [](const auto &a, const auto &b) { return a.first > b.first; });
     std::vector<Hit> hits;
+    hits.reserve(found.size());
     for (const auto &[weight, page] : found)
         hits.push_back(page->hit);
     return hits;
