@@ -15,7 +15,8 @@ TEST(Folders, StandWhereTheDesktopWantsThem)
         EXPECT_EQ(UserFolders::state(), folder + "/glosaria");
     }
     qputenv("XDG_STATE_HOME", before);
-    EXPECT_TRUE(UserFolders::config().endsWith("/config/glosaria") && UserFolders::sharedData().endsWith("/data"));
+    EXPECT_EQ(UserFolders::config(), qEnvironmentVariable("XDG_CONFIG_HOME") + "/glosaria");
+    EXPECT_EQ(UserFolders::sharedData(), qEnvironmentVariable("XDG_DATA_HOME"));
     for (const auto place : {ProgramFiles::path, ProgramFiles::module})
         EXPECT_EQ(place("nothing"), QCoreApplication::applicationDirPath() + "/nothing");
 }
