@@ -100,6 +100,7 @@ public:
             }
         }
         std::vector<Number> numberKeys;
+        numberKeys.reserve(numberTexts.size());
         for (const QString &text : numberTexts)
             numberKeys.emplace_back(text, m_decimalPoint);
         Rows numbers = sortedBy(numberKeys, numberRows, key);
