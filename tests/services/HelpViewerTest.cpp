@@ -195,12 +195,15 @@ TEST_F(HelpViewerTest, EveryLinkLeadsToItsPageByMouseAndByKeyAndBackAndForward)
     const auto linksOf = [](const HelpBrowser *browser) {
         QList<QTextCursor> found;
         QString last;
-        for (QTextCursor at(browser->document()); !at.atEnd();) {
-            at.movePosition(QTextCursor::NextCharacter);
-            const QString link = at.charFormat().anchorHref();
-            if (!link.isEmpty() && link != last)
-                found.append(at);
-            last = link;
+        QTextCursor at(browser->document());
+        for (QTextBlock block = browser->document()->begin(); block.isValid(); block = block.next()) {
+            for (auto part = block.begin(); !part.atEnd(); ++part) {
+                const QString link = part.fragment().charFormat().anchorHref();
+                at.setPosition(part.fragment().position() + 1);
+                if (!link.isEmpty() && link != last)
+                    found.append(at);
+                last = link;
+            }
         }
         return found;
     };
