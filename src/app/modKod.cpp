@@ -30,6 +30,7 @@
 #include "resources/StringTable.h"
 #include "resources/TextLanguage.h"
 #include "services/desktop/ContextMenuKey.h"
+#include "services/desktop/EscapeKey.h"
 #include "services/desktop/HandleReserve.h"
 #include "services/desktop/PasteGuard.h"
 #include "services/desktop/ProgramStyle.h"
@@ -268,6 +269,7 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     SignalWatcher watcher;
     QApplication::setStyle(new ProgramStyle);
     const ContextMenuKey contextMenuKey(application);
+    const EscapeKey escapeKey(application);
     ClipboardOwner clipboardOwner;
     const PasteGuard pasteGuard(application, clipboardOwner);
     const ScreenFit screenFit(application);

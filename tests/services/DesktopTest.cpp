@@ -2,6 +2,7 @@
 #include "services/desktop/ContextMenuKey.h"
 #include "services/desktop/Contrast.h"
 #include "services/desktop/EnterKey.h"
+#include "services/desktop/EscapeKey.h"
 #include "services/desktop/ProgramStyle.h"
 #include "services/desktop/ScreenFit.h"
 #include "support/Pixels.h"
@@ -316,6 +317,21 @@ TEST(DesktopKeys, EnterOnACheckBoxMeansTheDefaultButton)
         EXPECT_TRUE(box.isChecked());
         EXPECT_EQ(dialog.isVisible(), key == Qt::Key_Space);
     }
+}
+
+TEST(DesktopKeys, EscapeClosesTheListAndThenTheDialog)
+{
+    const EscapeKey key(*qApp);
+    QDialog dialog;
+    QComboBox box(&dialog);
+    box.addItems({"one", "two"});
+    dialog.show();
+    box.showPopup();
+    QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
+    EXPECT_FALSE(QApplication::activePopupWidget());
+    EXPECT_TRUE(dialog.isVisible());
+    QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible());
 }
 
 } // namespace
