@@ -19,7 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         require(parsed.text.isEmpty(), "only a whole message has a text");
         return 0;
     }
-    require(HandOff::message(parsed.text) == bytes, "a text comes from one message only");
+    require(HandOff::message(parsed.text, parsed.token) == bytes, "a text comes from one message only");
     const std::optional<QString> path = RequestedFile::requestedPath(parsed.text);
     require(!path || !path->isEmpty(), "what is asked for has a name");
     return 0;

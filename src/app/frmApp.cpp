@@ -14,6 +14,7 @@
 #include "document/ctlGrid.h"
 #include "exchange/ListCommands.h"
 #include "memory/StoredMemory.h"
+#include "platform/WaylandDesktop.h"
 #include "print/PrintCommands.h"
 #include "quiz/QuizCommands.h"
 #include "resources/Pictures.h"
@@ -24,6 +25,7 @@
 #include "services/status/modSBFunc.h"
 #include "services/status/modSBMenuHelp.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QFontMetrics>
@@ -49,6 +51,15 @@ void acceptAsCopy(QDropEvent &event)
 {
     event.setDropAction(Qt::CopyAction);
     event.accept();
+}
+
+/// The window that is to get the keys: a Wayland desktop leaves them with the one it is asked for, also behind a
+/// dialog.
+QWidget &keyTaker(frmApp &window)
+{
+    QWidget *const dialog = QApplication::activeModalWidget();
+    const bool isBehind = dialog && !dialog->testAttribute(Qt::WA_DontShowOnScreen);
+    return WaylandDesktop::isHere() && isBehind ? *dialog : window;
 }
 
 UndoKind undoKindOf(const QString &caption)
@@ -288,7 +299,7 @@ void frmApp::bringToFront()
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
-    activateWindow();
+    keyTaker(*this).activateWindow();
 }
 
 void frmApp::PositionWindow()

@@ -10,6 +10,7 @@
 #include "document/rules/file/CodePage.h"
 #include "exchange/rules/Conversion.h"
 #include "memory/StoredMemory.h"
+#include "platform/ActivationToken.h"
 #include "platform/ClipboardOwner.h"
 #include "platform/CupsServer.h"
 #include "platform/DetachedProcess.h"
@@ -144,7 +145,10 @@ void askAtEnd(QApplication &application, frmApp &window, SignalWatcher &watcher,
 
 void listen(SingleInstance &instance, frmApp &window, RecoveryOffer &offer)
 {
-    QObject::connect(&instance, &SingleInstance::activated, &window, &frmApp::bringToFront);
+    QObject::connect(&instance, &SingleInstance::activated, &window, [&window](const QString &token) {
+        ActivationToken::use(token);
+        window.bringToFront();
+    });
     QObject::connect(&instance, &SingleInstance::received, &window,
                      [&offer](const QString &text) { offer.open(text); });
     QObject::connect(&window, &frmApp::closed, &instance, [&instance] {
@@ -259,7 +263,7 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     SingleInstance instance(InstancePlace::socketPath());
-    if (instance.start(commandLine.text) == SingleInstance::Role::Second)
+    if (instance.start(commandLine.text, ActivationToken::ofThisStart()) == SingleInstance::Role::Second)
         return 0;
     Program program;
     if (QLibraryInfo::version() < OldestControls) {

@@ -16,10 +16,10 @@ struct SingleInstanceTest : ::testing::Test
     using Socket = std::unique_ptr<QLocalSocket>;
 
     QString path() const { return m_folder.filePath("copy"); }
-    Copy start(const QString &text, int answerLimit = 5000) const
+    Copy start(const QString &text, int answerLimit = 5000, const QString &token = {}) const
     {
         auto copy = std::make_unique<QProcess>();
-        copy->start(QStringLiteral(SINGLE_INSTANCE_HELPER), {path(), text, QString::number(answerLimit)});
+        copy->start(QStringLiteral(SINGLE_INSTANCE_HELPER), {path(), text, QString::number(answerLimit), token});
         return copy;
     }
     /// The next line that the copy says; empty when it ends without one.
@@ -35,9 +35,9 @@ struct SingleInstanceTest : ::testing::Test
         EXPECT_EQ(line(copy), "first");
         return copy;
     }
-    void expectSecond(const char *text, int answerLimit = 5000) const
+    void expectSecond(const char *text, int answerLimit = 5000, const char *token = "") const
     {
-        const Copy second = start(QString::fromUtf8(text), answerLimit);
+        const Copy second = start(QString::fromUtf8(text), answerLimit, token);
         EXPECT_EQ(line(second), "second");
         EXPECT_TRUE(second->waitForFinished(Patience));
     }
@@ -69,6 +69,12 @@ TEST(HandOff, MessageIsTheBlockAndTheTextInUtf16)
     EXPECT_EQ(HandOff::message(QString(32769, QLatin1Char('x'))).toHex(), "0000000000000000");
     for (const QString &text : {QString(), QString(32768, QLatin1Char('x')), QString(QChar(0xd800))})
         EXPECT_EQ(HandOff::parse(HandOff::message(text)).text, text);
+    const QByteArray withToken = HandOff::message("a", "t");
+    EXPECT_EQ(withToken.toHex(' '), "01 00 00 00 02 00 00 00 74 00 00 00 00 00 02 00 00 00 61 00");
+    EXPECT_EQ(HandOff::parse(withToken).token, "t");
+    EXPECT_EQ(HandOff::message("a", QString(513, 'x')), HandOff::message("a"));
+    for (int cut = 1; cut <= withToken.size(); ++cut)
+        EXPECT_EQ(HandOff::parse(withToken.chopped(cut)).state, HandOff::State::Incomplete) << cut;
 }
 
 TEST_F(SingleInstanceTest, LaterCopiesHandOverTheirCommandLineUntilTheFirstEnds)
@@ -87,6 +93,8 @@ TEST_F(SingleInstanceTest, LaterCopiesHandOverTheirCommandLineUntilTheFirstEnds)
     const Copy next = startFirst();
     expectSecond("");
     EXPECT_EQ(line(next), "activated");
+    expectSecond("", 5000, "token");
+    EXPECT_EQ(line(next), "activated token");
     kill(next);
 }
 

@@ -81,31 +81,34 @@ QStringList SingleInstance::leave()
     return givenUp;
 }
 
-SingleInstance::Role SingleInstance::start(const QString &commandLine)
+SingleInstance::Role SingleInstance::start(const QString &commandLine, const QString &token)
 {
     if (m_socketPath.isEmpty())
         return Role::First;
     const QDeadlineTimer deadline(m_limits.answer);
+    QByteArray message = HandOff::message(commandLine, token);
     for (;;) {
-        const Answer answer = ActivatePreviousInstance(commandLine, deadline);
+        const Answer answer = ActivatePreviousInstance(message, deadline);
         if (answer == Answer::Handled)
             return Role::Second;
         if (answer == Answer::Nobody && becomeFirst(deadline.hasExpired()))
             return Role::First;
         if (answer != Answer::Nobody && deadline.hasExpired())
             return Role::Second;
+        if (answer == Answer::Lost) // a first copy of an earlier version knows no tokens
+            message = HandOff::message(commandLine);
         QThread::msleep(RetryInterval);
     }
 }
 
-SingleInstance::Answer SingleInstance::ActivatePreviousInstance(const QString &commandLine,
+SingleInstance::Answer SingleInstance::ActivatePreviousInstance(const QByteArray &message,
                                                                 const QDeadlineTimer &deadline) const
 {
     QLocalSocket socket;
     socket.connectToServer(m_socketPath);
     if (!socket.waitForConnected(remaining(deadline)))
         return isBusy(socket) ? Answer::None : Answer::Nobody;
-    socket.write(HandOff::message(commandLine));
+    socket.write(message);
     while (socket.bytesToWrite() > 0 && socket.waitForBytesWritten(remaining(deadline))) {
     }
     while (socket.bytesAvailable() == 0 && socket.waitForReadyRead(remaining(deadline))) {
@@ -179,7 +182,7 @@ void SingleInstance::readMessage(QLocalSocket *socket, QTimer *stall)
         return;
     }
     stall->stop();
-    m_messages.push_back({socket, parsed.text});
+    m_messages.push_back({socket, parsed.text, parsed.token});
     // Not from inside the socket's own signal: slots may run event loops, in which the sender can go away.
     QMetaObject::invokeMethod(this, &SingleInstance::handleNext, Qt::QueuedConnection);
 }
@@ -191,7 +194,7 @@ void SingleInstance::handleNext()
     const Message message = m_messages.front();
     m_messages.erase(m_messages.begin());
     m_listener.setEnabled(true);
-    Q_EMIT activated();
+    Q_EMIT activated(message.token);
     if (!message.text.isEmpty())
         Q_EMIT received(message.text);
     if (!message.sender)

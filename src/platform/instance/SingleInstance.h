@@ -33,8 +33,8 @@ public:
 
     /// Makes this copy the first, or has the first one handle the command line (empty: only come to the front) and
     /// waits until it has. A first copy that does not answer in time finds the message later; this copy is a second
-    /// one all the same.
-    Role start(const QString &commandLine);
+    /// one all the same. The token is what the desktop lets the first copy come to the front by; it may be empty.
+    Role start(const QString &commandLine, const QString &token = {});
 
     /// From now on messages are handled; those that came since start() come first. To be called when the signals are
     /// connected: a message that nobody took would be lost.
@@ -47,7 +47,7 @@ public:
 
 Q_SIGNALS:
     /// Another copy was started: bring the main window to the front.
-    void activated();
+    void activated(const QString &token);
     /// What that copy was started with, never empty; follows activated. It waits until the slots have returned.
     void received(const QString &commandLine);
 
@@ -57,9 +57,10 @@ private:
     {
         QPointer<QLocalSocket> sender; ///< null or not connected: it has given up waiting
         QString text;
+        QString token;
     };
 
-    Answer ActivatePreviousInstance(const QString &commandLine, const QDeadlineTimer &deadline) const;
+    Answer ActivatePreviousInstance(const QByteArray &message, const QDeadlineTimer &deadline) const;
     bool becomeFirst(bool atAnyRate);
     void acceptConnections();
     void take(QLocalSocket *socket);
