@@ -1,8 +1,12 @@
 #include "platform/ClipboardOwner.h"
 
+#include "platform/WaylandDesktop.h"
+
 #include <QClipboard>
 #include <QDeadlineTimer>
+#include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QMimeData>
 
 #include <cstdlib>
 #include <poll.h>
@@ -10,12 +14,27 @@
 
 namespace {
 
-constexpr int Patience = 1000; // ms
+constexpr int Patience = 1000;        // ms
+constexpr int ToolkitsPatience = 900; // ms, a little less than the toolkit's
 
 template <typename Reply> using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
 template <typename Reply> Owned<Reply> owned(Reply *reply)
 {
     return {reply, &std::free};
+}
+
+/// On Wayland an owner can only be asked for the content itself, by the toolkit, which takes one that hangs for one
+/// that has an empty text. What it was given it keeps.
+bool givesText(const QMimeData &offered)
+{
+    for (const auto *kind : {"text/plain;charset=utf-8", "text/plain"}) {
+        if (!offered.hasFormat(QLatin1String(kind)))
+            continue;
+        QElapsedTimer clock;
+        clock.start();
+        return !offered.data(QLatin1String(kind)).isEmpty() || clock.elapsed() < ToolkitsPatience;
+    }
+    return true;
 }
 
 } // namespace
@@ -94,8 +113,16 @@ ClipboardOwner::~ClipboardOwner() = default;
 
 bool ClipboardOwner::answers()
 {
-    if (QGuiApplication::platformName() != QStringLiteral("xcb") || QGuiApplication::clipboard()->ownsClipboard())
+    const QClipboard &toolkits = *QGuiApplication::clipboard();
+    if (toolkits.ownsClipboard())
         return true;
+    if (WaylandDesktop::isHere())
+        return !toolkits.mimeData() || givesText(*toolkits.mimeData());
+    return QGuiApplication::platformName() != QLatin1String("xcb") || ownerOnX11Answers();
+}
+
+bool ClipboardOwner::ownerOnX11Answers()
+{
     if (!m_asker)
         m_asker = std::make_unique<Asker>();
     const xcb_atom_t clipboard = m_asker->isConnected() ? m_asker->atom("CLIPBOARD") : xcb_atom_t(XCB_ATOM_NONE);

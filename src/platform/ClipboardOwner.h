@@ -16,5 +16,7 @@ public:
 
 private:
     class Asker;
+    bool ownerOnX11Answers();
+
     std::unique_ptr<Asker> m_asker;
 };
