@@ -1,6 +1,7 @@
 #include "app/WindowPosition.h"
 
 #include "platform/Twips.h"
+#include "platform/WaylandDesktop.h"
 #include "services/settings/clsAppProperties.h"
 
 #include <QGuiApplication>
@@ -10,6 +11,12 @@
 namespace {
 
 enum State { Normal = 0, Minimized = 1, Maximized = 2 };
+
+/// Whether a window of this size would lie under a panel, if there is one: a Wayland desktop tells of none.
+bool reachesFromEdgeToEdge(const QSize &size, const QSize &screen)
+{
+    return size.width() >= screen.width() || size.height() >= screen.height();
+}
 
 } // namespace
 
@@ -42,10 +49,16 @@ bool WindowPosition::apply()
         return false;
     // The screens may have become smaller, or coarser.
     place.setSize(place.size().boundedTo(QGuiApplication::primaryScreen()->availableVirtualSize()));
+    bool maximized = state == Maximized;
+    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+    if (WaylandDesktop::isHere() && reachesFromEdgeToEdge(place.size(), screen)) {
+        maximized = true;
+        place.setSize(screen * 3 / 4); // when the user restores it
+    }
     m_window.move(place.topLeft());
     m_window.resize(place.size());
     m_restoredSize = place.size();
-    m_window.setWindowState(state == Maximized ? Qt::WindowMaximized : Qt::WindowNoState);
+    m_window.setWindowState(maximized ? Qt::WindowMaximized : Qt::WindowNoState);
     return true;
 }
 
