@@ -260,6 +260,17 @@ TEST(ScreenFitTest, DialogsLargerThanTheScreenScrollAndKeepTheirButtons)
     }
 }
 
+TEST(ScreenFitTest, WindowsOfAScreenThatHasGoneComeIntoView)
+{
+    const QList<QRect> one = {{0, 30, 1280, 770}}, two = {{0, 30, 1280, 770}, {1280, 0, 640, 400}};
+    const std::tuple<QRect, QList<QRect>, QRect> cases[] = {
+        {{1192, 80, 900, 600}, one, {380, 80, 900, 600}}, {{1192, 80, 900, 600}, two, {1280, 0, 640, 400}},
+        {{1300, -9, 500, 300}, two, {1300, 0, 500, 300}}, {{1100, 80, 400, 300}, two, {1100, 80, 400, 300}},
+        {{1500, 900, 2000, 50}, one, {0, 750, 1280, 50}}, {{5, 5, 10, 10}, {}, {5, 5, 10, 10}}};
+    for (const auto &[frame, screens, place] : cases)
+        EXPECT_EQ(ScreenFit::inView(frame, screens), place) << frame.x() << ' ' << screens.size();
+}
+
 /// Presses its buttons with Enter, as some desktops do, and counts the keys that nobody took.
 struct EagerWindow : QDialog
 {

@@ -1,17 +1,21 @@
 #include "services/desktop/ScreenFit.h"
 
+#include "platform/WaylandDesktop.h"
+
 #include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStyle>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
 
 /// Left for the window manager's frame, which is not there before the dialog shows.
 constexpr QSize FrameRoom(10, 36);
+constexpr int DesktopsTurn = 500; ///< milliseconds in which the desktop moves windows from a screen that has gone
 
 /// The row of buttons that ends the layout, taken out of it; null when it ends in something else.
 QDialogButtonBox *takeButtons(QLayout &layout)
@@ -59,6 +63,8 @@ QSize makeScrollable(QDialog &dialog)
 ScreenFit::ScreenFit(QApplication &application)
 {
     application.installEventFilter(this);
+    connect(&application, &QGuiApplication::screenRemoved, this,
+            [this] { QTimer::singleShot(DesktopsTurn, this, &ScreenFit::bringBackAll); });
 }
 
 bool ScreenFit::eventFilter(QObject *watched, QEvent *event)
@@ -74,6 +80,43 @@ QRect ScreenFit::room(const QWidget &window)
 {
     const QRect screen = window.screen()->availableGeometry();
     return {screen.topLeft(), screen.size() - FrameRoom};
+}
+
+QRect ScreenFit::inView(const QRect &frame, const QList<QRect> &screens)
+{
+    QRegion seen;
+    QRect best = screens.value(0);
+    for (const QRect &screen : screens) {
+        seen += screen;
+        const QSize here = screen.intersected(frame).size(), there = best.intersected(frame).size();
+        if (here.width() * here.height() > there.width() * there.height())
+            best = screen;
+    }
+    if (QRegion(frame).subtracted(seen).isEmpty() || best.isEmpty())
+        return frame;
+    const QSize size = frame.size().boundedTo(best.size());
+    const QPoint last = best.bottomRight() - QPoint(size.width() - 1, size.height() - 1);
+    return {{qBound(best.x(), frame.x(), last.x()), qBound(best.y(), frame.y(), last.y())}, size};
+}
+
+void ScreenFit::bringBackAll()
+{
+    if (WaylandDesktop::isHere())
+        return;
+    QList<QRect> screens;
+    for (const QScreen *screen : QGuiApplication::screens())
+        screens += screen->availableGeometry();
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        const bool floats = window->windowType() == Qt::Window || window->windowType() == Qt::Dialog;
+        if (!floats || !window->isVisible() || window->windowState() != Qt::WindowNoState)
+            continue;
+        const QRect frame = window->frameGeometry();
+        const QRect place = inView(frame, screens);
+        if (place == frame)
+            continue;
+        window->resize(window->size() - frame.size() + place.size());
+        window->move(place.topLeft());
+    }
 }
 
 void ScreenFit::fit(QDialog &dialog)
