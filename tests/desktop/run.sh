@@ -6,7 +6,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 
 runs=("$@")
 if [ ${#runs[@]} -eq 0 ]; then
-    mapfile -t runs < <(find tests/desktop -name '*.py' -exec basename {} .py \; | sort)
+    mapfile -t runs < <(find tests/desktop -maxdepth 1 -name '*.py' -exec basename {} .py \; | sort)
 fi
 scripts/setup.sh packages.txt packages-desktops.txt
 cmake --preset dev

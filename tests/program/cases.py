@@ -101,7 +101,7 @@ class ProgramCase(unittest.TestCase):
         )
 
 
-def run(environment=None):
+def run(environment=None, size="1280x800"):
     """Runs the cases of the script that was started as script.py <program> [unittest arguments]."""
-    with Desktop(sys.argv.pop(1), environment=environment) as ProgramCase.desktop:
+    with Desktop(sys.argv.pop(1), size, environment) as ProgramCase.desktop:
         unittest.main(verbosity=2, warnings="ignore")

@@ -122,6 +122,18 @@ class Desktop:
         while self._programs:
             self._end(self._programs.pop())
 
+    def set(self, **variables):
+        """Gives variables to what is started from now on; None takes one away."""
+        for name, value in variables.items():
+            self._environment.pop(name, None)
+            if value is not None:
+                self._environment[name] = str(value)
+
+    @property
+    def runtime(self):
+        """The folder of sockets that what is started here shares."""
+        return self._folder / "run"
+
     def launch(self, *arguments, through=()):
         """Starts the program and returns the process at once; through is a command that starts what follows it."""
         process = self._launch(*map(str, (*self._through, *through)), self.program, *map(str, arguments))
@@ -138,8 +150,8 @@ class Desktop:
         return process
 
     def start_other(self, *command):
-        """Starts another program, which ends with the desktop."""
-        self._launch(*command)
+        """Starts another program, which ends with the desktop, and returns its process."""
+        return self._launch(*command)
 
     def succeeds(self, *command):
         """Whether a command ends well on this desktop."""
