@@ -44,15 +44,3 @@ TEST(WordsToAskTest, EachChoiceFindsItsRows)
     const ListWords many = ListWords::numbered(500);
     EXPECT_EQ(AskedWords::rows(Hardest, many, {.mode = 5, .memory = &memory}).size(), 20u);
 }
-
-TEST(WordsToAskTest, RowsBecomeWhatAQuizTakes)
-{
-    const AskedRows only = AskedWords::only({5, 3});
-    QList<int> asked;
-    for (int row = 1; row < 10; ++row) {
-        if (only.asks(row))
-            asked += row;
-    }
-    EXPECT_EQ(asked, (QList<int>{3, 5}));
-    EXPECT_FALSE(AskedWords::only({}).asks(1));
-}
