@@ -130,7 +130,8 @@ class Places:
     def returned(self, value, function):
         kind = value.type.get_canonical().kind
         text = self.text(value)
-        if function.result_type.kind in (TypeKind.LVALUEREFERENCE, TypeKind.RVALUEREFERENCE) or text in ("true", "false"):
+        references = (TypeKind.LVALUEREFERENCE, TypeKind.RVALUEREFERENCE)
+        if function.result_type.kind in references or text in ("true", "false", "{}"):
             return
         if kind == TypeKind.BOOL:
             self.add(value, "result turned", "!bool(%s)" % text)
