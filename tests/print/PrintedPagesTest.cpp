@@ -1,7 +1,10 @@
+#include "document/ctlGrid.h"
+#include "print/GridSource.h"
 #include "print/PaintedSurface.h"
 #include "print/printer/PrintJob.h"
 #include "print/printer/QtPrinter.h"
 #include "print/rules/PrintRun.h"
+#include "services/rules/ProgramFlags.h"
 #include "support/Pixels.h"
 #include "support/RecordingPrinter.h"
 #include "support/ScriptedPrintServer.h"
@@ -118,6 +121,24 @@ TEST(PaintedText, StandsBelowItsPlaceAndBeforeItWhenItGoesFromRightToLeft)
     EXPECT_TRUE(right.right() <= 3000 && right.right() > 2960) << right.right();
     EXPECT_EQ(right.size(), inkOf(drawn(1000, ".Hl", false), Qt::white).size()) << "the full stop stands at the left";
     EXPECT_GT(inkOf(drawn(1000, "Hl.", false, true), Qt::white).width(), left.width());
+}
+
+TEST(GridSource, TakesRowsFontAndColourOfTheDocument)
+{
+    ProgramFlags flags;
+    ctlGrid grid(&flags);
+    grid.loadProperties(ctlGrid::documentDesign());
+    grid.setRows(2);
+    grid.setGridFont(QFont("Liberation Serif", 12, QFont::Bold));
+    grid.setForeColor(0xFF);
+    for (int cell = 0; cell < 4; ++cell)
+        grid.setTextMatrix(cell / 2, 1 + cell % 2, QString(1, QChar('a' + cell)));
+    const PrintSource source = GridSource::read(grid, "Words");
+    EXPECT_EQ(source.Caption, "Words");
+    EXPECT_EQ(source.Font, (PrintFont{"Liberation Serif", 12, true, false}));
+    EXPECT_EQ(source.ForeColor, 0xFF);
+    EXPECT_EQ(source.first, (std::vector<QString>{"a", "c"}));
+    EXPECT_EQ(source.second, (std::vector<QString>{"b", "d"}));
 }
 
 TEST_F(PrintedPages, ARunThatIsCancelledLeavesNoFile)

@@ -87,6 +87,7 @@ TEST_F(HelpViewerTest, FavoritesAreKeptForTheNextTimeUntilTheyAreRemoved)
     viewers.HtmlHelp(target, HH_HELP_CONTEXT, 1204);
     viewers.HtmlHelp(target, HH_DISPLAY_FAVORITES);
     QTest::mouseClick(part<QPushButton>("add"), Qt::LeftButton);
+    writeFile(folder.filePath("favorites"), "html/gone.html\n" + readFile(folder.filePath("favorites")));
     ScriptedAlertBox quiet;
     HelpViewers later(quiet, folder.filePath("favorites"));
     later.HtmlHelp(target, HH_DISPLAY_FAVORITES);
@@ -176,8 +177,9 @@ TEST_F(HelpViewerTest, WindowsHaveTheirSizesToolsAndPanes)
     EXPECT_EQ(main()->page(), contents->topLevelItem(0)->data(0, Qt::UserRole).toString());
     auto *browser = part<HelpBrowser>("browser");
     const double before = browser->font().pointSizeF();
-    for (const int turn : {120, 120, -120}) {
-        QWheelEvent wheel({}, {}, {}, {0, turn}, Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+    for (const int turn : {120, 120, -120, 0}) { // the last one without Ctrl
+        const Qt::KeyboardModifiers keys = turn ? Qt::ControlModifier : Qt::NoModifier;
+        QWheelEvent wheel({}, {}, {}, {0, turn ? turn : 120}, Qt::NoButton, keys, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(browser->viewport(), &wheel);
     }
     EXPECT_EQ(browser->font().pointSizeF(), before + 1);

@@ -48,6 +48,28 @@ TEST_F(PaintedGrid, TextsStandWhereTheirReadersLook)
     }
 }
 
+TEST_F(PaintedGrid, RaisedAndInsetTextsThrowLight)
+{
+    QPalette palette = grid.palette();
+    palette.setColor(QPalette::Light, Qt::red);
+    grid.setPalette(palette);
+    grid.setTextMatrix(1, 1, "HE");
+    const QImage flat = image(1, 1);
+    const QRect letters =
+        ::inkOf(flat.copy(1, 1, flat.width() - 3, flat.height() - 3), flat.pixelColor(1, 1)).translated(1, 1);
+    QList<int> light;
+    for (const int style : {1, 2, 3, 4}) {
+        grid.setTextStyle(style);
+        const QImage styled = image(1, 1);
+        const int step = style % 2 ? -1 : 1;
+        EXPECT_EQ(difference(styled, flat) | letters, letters | letters.translated(step, step)) << style;
+        light.append(0);
+        for (int i = 0; i < styled.width() * styled.height(); ++i)
+            light.last() += 255 - styled.pixelColor(i % styled.width(), i / styled.width()).green();
+    }
+    EXPECT_TRUE(light[2] < light[0] && light[3] < light[1]) << "less of it";
+}
+
 TEST_F(PaintedGrid, RowNumbersAreShownWhole)
 {
     grid.setRows(12346);
