@@ -123,6 +123,22 @@ TEST_F(PrintedTestTest, ABackStandsWhereItsFrontIs)
         printer.shortEdge = shortEdge;
         const std::vector<RecordingSurface> drawn = pages();
         ASSERT_EQ(drawn.size(), 4u);
+        QStringList cuts;
+        for (const QLine &cut : drawn[0].lines)
+            cuts += cut.dx() ? QString("y%1:%2-%3").arg(cut.y1()).arg(cut.x1()).arg(cut.x2())
+                             : QString("x%1:%2-%3").arg(cut.x1()).arg(cut.y1()).arg(cut.y2());
+        EXPECT_EQ(cuts.join(' ').toStdString(),
+                  size.width() < size.height() ? "x567:567-16270 x5950:567-16270 x11333:567-16270 y567:567-11332 "
+                                                 "y4493:567-11332 y8419:567-11332 y12345:567-11332 y16271:567-11332"
+                                               : "x567:567-11330 x8420:567-11330 x16273:567-11330 y567:567-16272 "
+                                                 "y3258:567-16272 y5949:567-16272 y8640:567-16272 y11331:567-16272")
+            << "eight cards within a centimetre from the edge";
+        std::set<std::pair<int, int>> places;
+        for (size_t i = 0; i < 8; ++i) {
+            const DrawnText *front = drawn[0].find(TestWords::items(source, choice)[i].question);
+            places.emplace((front->x + 50 * int(front->text.size())) * 2 / size.width(), front->y * 4 / size.height());
+        }
+        EXPECT_EQ(places.size(), 8u) << "two columns of four rows";
         const std::vector<TestItem> asked = TestWords::items(source, choice);
         for (size_t i = 0; i < asked.size(); ++i) {
             const DrawnText *front = drawn[i / 8 * 2].find(asked[i].question);
