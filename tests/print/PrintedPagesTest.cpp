@@ -44,15 +44,26 @@ TEST_F(PrintedPages, HoldWordsOfEveryScriptOnSheetsOfA4)
     source.ForeColor = 0x0000ff; // red
     std::tie(source.first[2], source.second[2]) = std::pair("слово", "λέξη");
     std::tie(source.first[120], source.second[120]) = std::pair("漢字", "שלום");
+    source.first[3] = "a \U0001F34B"; // a lemon
     print();
     const QByteArray info = outputOf("pdfinfo", {file}).simplified();
     EXPECT_TRUE(info.contains("Pages: 3 ") && info.contains("(A4)")) << info.constData();
     const QString text = outputOf("pdftotext", {file, "-"});
     for (size_t row = 0; row < source.first.size(); ++row)
-        EXPECT_TRUE(text.contains(source.first[row]) && text.contains(source.second[row])) << text.toStdString();
+        EXPECT_TRUE((row == 3 || text.contains(source.first[row])) && text.contains(source.second[row]))
+            << text.toStdString();
     const QByteArray fonts = outputOf("pdffonts", {file});
     EXPECT_TRUE(fonts.contains("LiberationSans ") && fonts.contains("LiberationSans-Bold ")) << fonts.constData();
     const QImage page = QImage::fromData(outputOf("pdftoppm", {"-r", "72", "-singlefile", file}));
+    QRegion yellow;
+    for (int i = 0; i < page.width() * page.height(); ++i) {
+        const QPoint at(i % page.width(), i / page.width());
+        if (page.pixelColor(at).green() > page.pixelColor(at).blue() + 60)
+            yellow += QRect(at, QSize(1, 1));
+    }
+    const QRect lemon = yellow.boundingRect();
+    EXPECT_TRUE(QRect(94, 131, 15, 13).contains(lemon) && lemon.width() > 7 && lemon.height() > 6)
+        << lemon.left() << ' ' << lemon.top() << ' ' << lemon.width() << ' ' << lemon.height();
     int red = 0;
     for (int i = 0; i < page.width() * 20; ++i) {
         const QColor point = page.pixelColor(i / 20, 108 + i % 20);
