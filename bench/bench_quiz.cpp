@@ -63,12 +63,28 @@ void judge(benchmark::State &state, const char *given, const char *expected)
         benchmark::DoNotOptimize(judge.judge(said, wanted, Everything));
 }
 
-void judgeLong(benchmark::State &state)
+/// A phrase again and again, up to so many letters.
+void judgeLong(benchmark::State &state, const char *given, const char *expected)
 {
     AnswerJudge judge;
     judge.prepare(Everything);
-    const QString wanted = QStringLiteral("été, où (là) ").repeated(state.range(0) / 13);
-    const QString said = QStringLiteral("ete, ov (la) ").repeated(state.range(0) / 13);
+    const QString wanted = QString::fromUtf8(expected);
+    const QString said = QString::fromUtf8(given);
+    const qsizetype times = state.range(0) / wanted.size();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(judge.judge(said.repeated(times), wanted.repeated(times), Everything));
+}
+
+/// The same with letters that are all different.
+void judgeManyLetters(benchmark::State &state)
+{
+    AnswerJudge judge;
+    judge.prepare(Everything);
+    QString wanted;
+    for (qint64 i = 0; i < state.range(0); ++i)
+        wanted += QChar(char16_t(0x4E00 + i));
+    QString said = wanted;
+    std::reverse(said.begin(), said.end());
     for (auto _ : state)
         benchmark::DoNotOptimize(judge.judge(said, wanted, Everything));
 }
@@ -80,7 +96,17 @@ constexpr const char *Several = "die Bank (Geld), das Geldinstitut / Kreditinsti
 BENCHMARK_CAPTURE(judge, forgiven, "sparkasse ortlich, die bank", Several)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(judge, wrong, "die Sparkase", Several)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(judge, wrongInArabic, "كتب المعلم", "كِتَابُ الْمُعَلِّمِ")->Unit(benchmark::kMicrosecond);
-BENCHMARK(judgeLong)->Arg(130)->Arg(500)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(judgeLong, withAnswers, "ete, ov (la) ", "été, où (là) ")
+    ->Arg(130)
+    ->Arg(400)
+    ->Arg(5000)
+    ->Arg(10000)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(judgeLong, plain, "der Baum ist grum ", "der Baum ist grün ")
+    ->Arg(400)
+    ->Arg(5000)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(judgeManyLetters)->Arg(100)->Arg(400)->Arg(2000)->Unit(benchmark::kMicrosecond);
 
 BENCHMARK_CAPTURE(setUp, inOrder, 1)
     ->Args({1000, 1000})

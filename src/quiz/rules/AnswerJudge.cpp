@@ -12,13 +12,11 @@ using AnswerParts::Part;
 /// Texts of which less stands in each other are different words.
 constexpr double LeastLikeness = 0.5;
 
+/// Texts of more units than this are right or wrong as they are: to look at their letters would keep the user waiting.
+constexpr qsizetype LongestJudged = 5000;
+
 /// An answer that is so much longer than the expected one is not looked at letter by letter.
 constexpr qsizetype MostSurplus = 2000;
-
-QString composed(const QString &text)
-{
-    return text.normalized(QString::NormalizationForm_C);
-}
 
 QString partOf(const QString &text, const Part &part)
 {
@@ -76,13 +74,16 @@ void AnswerJudge::prepare(const AnswerTolerance &tolerance)
 
 Judgement AnswerJudge::judge(const QString &given, const QString &expected, const AnswerTolerance &tolerance)
 {
+    m_letters.clear();
     m_rules.tidy();
-    const QString said = composed(given);
-    const QString wanted = composed(expected);
+    const QString said = LetterRules::composed(given);
+    const QString wanted = LetterRules::composed(expected);
     Judgement judgement;
     if (said == wanted)
         return judgement;
-    if (tolerance != AnswerTolerance() && accepts(said, wanted, tolerance)) {
+    if (std::max(said.size(), wanted.size()) > LongestJudged) {
+        judgement.verdict = Judgement::Verdict::Wrong;
+    } else if (tolerance != AnswerTolerance() && accepts(said, wanted, tolerance)) {
         judgement.verdict = Judgement::Verdict::Forgiven;
         judgement.forgiven = needed(said, wanted, tolerance);
     } else {
@@ -104,12 +105,11 @@ bool AnswerJudge::accepts(const QString &given, const QString &expected, const A
 
 bool AnswerJudge::acceptsOne(const QString &given, const QString &expected, const AnswerTolerance &tolerance)
 {
-    const Letters said = m_rules.letters(given);
+    const Letters &said = letters(given);
     const std::vector<QString> readings =
         tolerance.brackets ? AnswerParts::readings(expected) : std::vector<QString>{expected};
-    return std::any_of(readings.begin(), readings.end(), [&](const QString &reading) {
-        return LetterMatch::matches(said, m_rules.letters(reading), tolerance);
-    });
+    return std::any_of(readings.begin(), readings.end(),
+                       [&](const QString &reading) { return LetterMatch::matches(said, letters(reading), tolerance); });
 }
 
 /// Each of the answers given is another one of those expected; the order does not count.
@@ -146,13 +146,13 @@ Difference AnswerJudge::difference(const QString &given, const QString &expected
     std::vector<Part> candidates{{0, expected.size()}};
     if (tolerance.oneOfSeveral && AnswerParts::answers(given, MostGiven).size() == 1)
         candidates = AnswerParts::answers(expected, MostAnswers);
-    const Letters said = m_rules.letters(given);
+    const Letters &said = letters(given);
+    size_t effortLeft = LetterDifference::MostEffort;
     Difference nearest;
     double likeness = 0;
     for (const Part &candidate : candidates) {
         const QString text = partOf(expected, candidate);
-        const Letters wanted = m_rules.letters(text);
-        const LetterDifference found(said, wanted, AnswerParts::brackets(text), tolerance);
+        const LetterDifference found(said, letters(text), AnswerParts::brackets(text), tolerance, effortLeft);
         if (found.likeness() < LeastLikeness || found.likeness() <= likeness)
             continue;
         likeness = found.likeness();
@@ -161,4 +161,12 @@ Difference AnswerJudge::difference(const QString &given, const QString &expected
             change.expectedStart += candidate.start;
     }
     return nearest;
+}
+
+const Letters &AnswerJudge::letters(const QString &text)
+{
+    const auto [known, isNew] = m_letters.try_emplace(text);
+    if (isNew)
+        known->second = m_rules.letters(text);
+    return known->second;
 }

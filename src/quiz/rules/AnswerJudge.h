@@ -26,6 +26,8 @@ private:
                         const AnswerTolerance &tolerance);
     AnswerTolerance needed(const QString &given, const QString &expected, AnswerTolerance tolerance);
     Difference difference(const QString &given, const QString &expected, const AnswerTolerance &tolerance);
+    const Letters &letters(const QString &text);
 
     LetterRules m_rules;
+    std::unordered_map<QString, Letters> m_letters; ///< of the texts of the judgement that is being made
 };

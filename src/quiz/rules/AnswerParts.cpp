@@ -74,6 +74,8 @@ std::vector<AnswerParts::Part> AnswerParts::brackets(const QString &text)
     std::vector<Part> found;
     std::vector<std::pair<qsizetype, qsizetype>> open; // place and kind
     for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i].isLetterOrNumber())
+            continue;
         if (const qsizetype kind = Opening.indexOf(text[i]); kind >= 0)
             open.emplace_back(i, kind);
         else if (!open.empty() && Closing.indexOf(text[i]) == open.back().second) {
@@ -96,7 +98,7 @@ std::vector<AnswerParts::Part> AnswerParts::answers(const QString &text, size_t 
     for (qsizetype i = 0; i <= text.size(); ++i) {
         while (bracket != closed.end() && i == bracket->start)
             i = (bracket++)->end();
-        if (i < text.size() && (!Separators.contains(text[i]) || betweenDigits(text, i)))
+        if (i < text.size() && (text[i].isLetterOrNumber() || !Separators.contains(text[i]) || betweenDigits(text, i)))
             continue;
         if (const Part part = trimmed(text, start, i); part.length > 0)
             parts.push_back(part);

@@ -16,9 +16,12 @@ public:
     size_t size() const { return m_letters.size(); }
     const LetterForms &letter(size_t number) const { return *m_letters[number]; }
     size_t numberAt(size_t place) const { return m_numbers[place]; }
+    /// Where this has no bit in common with another letter's, they are not the same.
+    quint64 kin(size_t number) const { return m_kin[number]; }
 
 private:
     std::vector<const LetterForms *> m_letters;
+    std::vector<quint64> m_kin;
     std::vector<quint16> m_numbers;
 };
 
@@ -27,11 +30,16 @@ Alphabet::Alphabet(const Letters &letters, size_t start, size_t count)
     std::unordered_map<const LetterForms *, size_t> known;
     for (size_t i = start; i < start + count; ++i) {
         const auto [place, isNew] = known.try_emplace(letters[i].forms, m_letters.size());
-        if (isNew)
+        if (isNew) {
             m_letters.push_back(letters[i].forms);
+            m_kin.push_back(letters[i].forms->counts() ? letters[i].forms->kin : ~quint64(0));
+        }
         m_numbers.push_back(quint16(place->second));
     }
 }
+
+/// What looking at a letter takes beside comparing it with others, in comparisons.
+constexpr size_t EffortOfLetter = 20;
 
 bool sameLetter(const LetterForms &given, const LetterForms &expected, const AnswerTolerance &tolerance)
 {
@@ -55,9 +63,13 @@ private:
     quint16 &best(size_t i, size_t j) { return m_best[i * (m_expected + 1) + j]; }
     quint16 best(size_t i, size_t j) const { return m_best[i * (m_expected + 1) + j]; }
     void fillRow(size_t i);
+    void findPairs();
+    void findSpellings();
+    quint8 spellingEnd(const LetterForms &letter, size_t i) const;
     bool same(size_t i, size_t j) const;
     /// The length of a spelling of the last of j letters that ends the first i given; 0 if there is none.
-    size_t spelling(size_t i, size_t j) const;
+    size_t spelling(size_t i, size_t j) const { return spellingsAt(i)[m_expectedAlphabet.numberAt(j - 1)]; }
+    const quint8 *spellingsAt(size_t i) const { return m_spellings.data() + i * m_expectedAlphabet.size(); }
 
     const LetterDifference &m_texts;
     size_t m_start;
@@ -65,8 +77,8 @@ private:
     size_t m_expected;
     Alphabet m_givenAlphabet;
     Alphabet m_expectedAlphabet;
-    std::vector<quint16> m_pairs; ///< of every two letters of the alphabets: 2 if they are the same, else 0
-    std::vector<char> m_spelled;  ///< of every letter expected: whether it can be spelled out
+    std::vector<quint8> m_pairs;     ///< of every two letters of the alphabets: 2 if they are the same, else 0
+    std::vector<quint8> m_spellings; ///< of every place given and letter expected: see spelling
     std::vector<quint16> m_best;
 };
 
@@ -77,15 +89,11 @@ LetterDifference::Table::Table(const LetterDifference &texts, size_t start, size
     , m_expected(expected)
     , m_givenAlphabet(texts.m_given, start, given)
     , m_expectedAlphabet(texts.m_expected, start, expected)
+    , m_pairs(m_givenAlphabet.size() * m_expectedAlphabet.size())
     , m_best((given + 1) * (expected + 1))
 {
-    for (size_t g = 0; g < m_givenAlphabet.size(); ++g) {
-        for (size_t e = 0; e < m_expectedAlphabet.size(); ++e)
-            m_pairs.push_back(
-                sameLetter(m_givenAlphabet.letter(g), m_expectedAlphabet.letter(e), texts.m_tolerance) ? 2 : 0);
-    }
-    for (size_t j = start; j < start + expected; ++j)
-        m_spelled.push_back(texts.m_tolerance.accents && !texts.m_expected[j].forms->spellings.empty());
+    findPairs();
+    findSpellings();
     for (size_t i = 1; i <= given; ++i)
         fillRow(i);
 }
@@ -96,14 +104,34 @@ bool LetterDifference::Table::same(size_t i, size_t j) const
            0;
 }
 
-size_t LetterDifference::Table::spelling(size_t i, size_t j) const
+void LetterDifference::Table::findPairs()
 {
-    if (m_spelled[j - 1] == 0)
-        return 0;
-    for (const auto &spelling : m_texts.m_expected[m_start + j - 1].forms->spellings) {
+    quint8 *pair = m_pairs.data();
+    for (size_t g = 0; g < m_givenAlphabet.size(); ++g) {
+        for (size_t e = 0; e < m_expectedAlphabet.size(); ++e, ++pair) {
+            if ((m_givenAlphabet.kin(g) & m_expectedAlphabet.kin(e)) != 0 &&
+                sameLetter(m_givenAlphabet.letter(g), m_expectedAlphabet.letter(e), m_texts.m_tolerance))
+                *pair = 2;
+        }
+    }
+}
+
+void LetterDifference::Table::findSpellings()
+{
+    m_spellings.resize((m_given + 1) * m_expectedAlphabet.size());
+    for (size_t e = 0; e < m_expectedAlphabet.size() && m_texts.m_tolerance.accents; ++e) {
+        const LetterForms &letter = m_expectedAlphabet.letter(e);
+        for (size_t i = 1; i <= m_given && !letter.spellings.empty(); ++i)
+            m_spellings[i * m_expectedAlphabet.size() + e] = spellingEnd(letter, i);
+    }
+}
+
+quint8 LetterDifference::Table::spellingEnd(const LetterForms &letter, size_t i) const
+{
+    for (const auto &spelling : letter.spellings) {
         if (spelling.size() <= i &&
             LetterMatch::spelledAt(m_texts.m_given, m_start + i - spelling.size(), spelling, m_texts.m_tolerance))
-            return spelling.size();
+            return quint8(spelling.size());
     }
     return 0;
 }
@@ -112,14 +140,13 @@ void LetterDifference::Table::fillRow(size_t i)
 {
     const quint16 *above = &best(i - 1, 0);
     quint16 *row = &best(i, 0);
-    const quint16 *pairs = m_pairs.data() + m_givenAlphabet.numberAt(i - 1) * m_expectedAlphabet.size();
+    const quint8 *pairs = m_pairs.data() + m_givenAlphabet.numberAt(i - 1) * m_expectedAlphabet.size();
+    const quint8 *spellings = spellingsAt(i);
     for (size_t j = 1; j <= m_expected; ++j) {
-        const int paired = above[j - 1] + pairs[m_expectedAlphabet.numberAt(j - 1)];
-        int most = std::max({int(above[j]), int(row[j - 1]), paired});
-        if (m_spelled[j - 1] != 0) {
-            if (const size_t length = spelling(i, j))
-                most = std::max(most, best(i - length, j - 1) + int(length) + 1);
-        }
+        const size_t letter = m_expectedAlphabet.numberAt(j - 1);
+        int most = std::max({int(above[j]), int(row[j - 1]), above[j - 1] + pairs[letter]});
+        if (const size_t length = spellings[letter])
+            most = std::max(most, best(i - length, j - 1) + int(length) + 1);
         row[j] = quint16(most);
     }
 }
@@ -198,14 +225,15 @@ size_t LetterDifference::Side::size(const Letters &letters) const
 }
 
 LetterDifference::LetterDifference(const Letters &given, const Letters &expected,
-                                   const std::vector<AnswerParts::Part> &brackets, const AnswerTolerance &tolerance)
+                                   const std::vector<AnswerParts::Part> &brackets, const AnswerTolerance &tolerance,
+                                   size_t &effortLeft)
     : m_given(given)
     , m_expected(expected)
     , m_tolerance(tolerance)
     , m_givenSide(given.size())
     , m_expectedSide(expected.size())
 {
-    align();
+    align(effortLeft);
     size_t i = 0;
     size_t j = 0;
     for (const Step &step : m_steps) {
@@ -229,7 +257,7 @@ bool LetterDifference::spelledOut(size_t given, size_t expected) const
            !m_expected[expected].forms->spellings.empty();
 }
 
-void LetterDifference::align()
+void LetterDifference::align(size_t &effortLeft)
 {
     const size_t shorter = std::min(m_given.size(), m_expected.size());
     size_t start = 0;
@@ -241,7 +269,9 @@ void LetterDifference::align()
     const size_t given = m_given.size() - start - end;
     const size_t expected = m_expected.size() - start - end;
     addSteps(start, {1, 1});
-    if (std::max(given, expected) <= MostCompared) {
+    const size_t effort = given * expected + EffortOfLetter * (given + expected);
+    if (effort <= effortLeft) {
+        effortLeft -= effort;
         const std::vector<Step> between = Table(*this, start, given, expected).steps();
         m_steps.insert(m_steps.end(), between.begin(), between.end());
     } else {

@@ -9,13 +9,14 @@
 class LetterDifference
 {
 public:
-    /// Where more letters than this lie between a common beginning and a common end, all of them count as different:
-    /// the time grows with their square.
-    static constexpr size_t MostCompared = 500;
+    /// The effort that one answer is worth, in comparisons of two letters: less than half a millisecond.
+    static constexpr size_t MostEffort = size_t(180) * 1000;
 
-    /// The texts and the tolerance outlive this object; brackets are those of the expected text.
+    /// The texts and the tolerance outlive this object; brackets are those of the expected text. Each letter between a
+    /// common beginning and a common end is compared with each of the other text where enough effort is left, which is
+    /// taken off; else all of them count as different.
     LetterDifference(const Letters &given, const Letters &expected, const std::vector<AnswerParts::Part> &brackets,
-                     const AnswerTolerance &tolerance);
+                     const AnswerTolerance &tolerance, size_t &effortLeft);
 
     /// The share of the shorter text that stands in the other, 0 to 1.
     double likeness() const;
@@ -55,7 +56,7 @@ private:
 
     bool same(size_t given, size_t expected) const;
     bool spelledOut(size_t given, size_t expected) const;
-    void align();
+    void align(size_t &effortLeft);
     void addSteps(size_t count, Step step) { m_steps.insert(m_steps.end(), count, step); }
     void forgive(const std::vector<AnswerParts::Part> &brackets);
     std::vector<Span> spans() const;

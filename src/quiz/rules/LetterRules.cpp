@@ -114,6 +114,11 @@ void LetterRules::tidy()
     m_alone = {};
 }
 
+QString LetterRules::composed(const QString &text)
+{
+    return text.normalized(QString::NormalizationForm_C);
+}
+
 Letters LetterRules::letters(const QString &text)
 {
     Letters all;
@@ -154,6 +159,8 @@ const LetterForms &LetterRules::forms(const QString &letter)
     forms.turkish = folded(letter, U_FOLD_CASE_EXCLUDE_SPECIAL_I);
     forms.foldedBase = folded(forms.base, U_FOLD_CASE_DEFAULT);
     forms.turkishBase = folded(forms.base, U_FOLD_CASE_EXCLUDE_SPECIAL_I);
+    for (const QString &form : {forms.folded, forms.turkish, forms.base, forms.foldedBase, forms.turkishBase})
+        forms.kin |= quint64(1) << (qHash(form) % 64);
     return forms;
 }
 
@@ -202,6 +209,8 @@ bool LetterRules::same(const LetterForms &given, const LetterForms &expected, co
 {
     if (&given == &expected)
         return true;
+    if ((given.kin & expected.kin) == 0)
+        return false;
     if (tolerance.letterCase && (given.folded == expected.folded || given.turkish == expected.turkish))
         return true;
     if (!tolerance.accents)

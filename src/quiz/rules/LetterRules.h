@@ -21,6 +21,8 @@ struct LetterForms
     QString turkishBase;
     /// How it is spelled where it cannot be typed: ss for ß, ae for ä.
     std::vector<std::vector<const LetterForms *>> spellings;
+    /// Letters of which one stands for the other have a bit in common.
+    quint64 kin = 0;
     bool blank = false;
     bool punctuation = false;
 
@@ -53,6 +55,9 @@ public:
     /// Letters handed out before must no longer be used: those met so far are forgotten when they have become many.
     void tidy();
 
+    /// The text in normalization form C, with every letter and its accents in one where there is such a character: how
+    /// an accented letter was typed makes no difference.
+    static QString composed(const QString &text);
     /// The letters of a text in normalization form C.
     Letters letters(const QString &text);
 

@@ -1,5 +1,6 @@
 #include "quiz/rules/QuizSession.h"
 
+#include "quiz/rules/LetterRules.h"
 #include "quiz/rules/Seconds.h"
 #include "resources/StringTable.h"
 #include "services/settings/clsAppProperties.h"
@@ -19,13 +20,6 @@ qsizetype matchingPlaces(const QString &text, const QString &answer)
     for (qsizetype i = 0; i < std::min(text.size(), answer.size()); ++i)
         matches += text[i] == answer[i] ? 1 : 0;
     return matches;
-}
-
-/// The text with every letter and its accents in one, where there is such a character: how an accented letter was typed
-/// makes no difference.
-QString composed(const QString &text)
-{
-    return text.normalized(QString::NormalizationForm_C);
 }
 
 /// The first characters of text, count of them or a few more: a letter is never parted from its accents.
@@ -235,8 +229,8 @@ void QuizSession::fGiveHint()
 {
     if (m_kind == QuizKind::QuestionAndAnswer && m_answerText == resText(PromptId))
         m_answerText.clear();
-    const QString answer = composed(question().correctAnswer());
-    m_answerText = wholeLetters(answer, 1 + matchingPlaces(composed(m_answerText), answer));
+    const QString answer = LetterRules::composed(question().correctAnswer());
+    m_answerText = wholeLetters(answer, 1 + matchingPlaces(LetterRules::composed(m_answerText), answer));
     m_hintUsed = true;
     Q_EMIT answerRevealed();
 }
@@ -273,7 +267,7 @@ void QuizSession::revealTick()
 {
     if (!asking() || !revealing())
         return;
-    if (m_answerText.size() < composed(question().correctAnswer()).size()) {
+    if (m_answerText.size() < LetterRules::composed(question().correctAnswer()).size()) {
         fGiveHint();
         m_pauseTicks = 0;
     } else if (m_pauseTicks < PauseTicks) {
