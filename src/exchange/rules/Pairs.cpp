@@ -5,7 +5,6 @@
 #include "services/rules/CellText.h"
 #include "services/rules/LanguageNames.h"
 
-#include <QLocale>
 #include <QSet>
 
 #include <array>
@@ -22,10 +21,9 @@ const QSet<QString> &languages()
     static const QSet<QString> all = [] {
         QSet<QString> names{resText(FirstLanguageId).toLower(), resText(FirstLanguageId + 1).toLower()};
         const LanguageNames english(QStringLiteral("en"));
-        for (int language = QLocale::Abkhazian; language <= QLocale::LastLanguage; ++language) {
-            const QString code = QLocale::languageToCode(QLocale::Language(language));
-            names += english.of(code.toLatin1()).toLower();
-            names += LanguageNames(code).of(code.toLatin1()).toLower();
+        for (const QByteArray &code : LanguageNames::codes()) {
+            names += english.of(code).toLower();
+            names += LanguageNames(QString::fromLatin1(code)).of(code).toLower();
         }
         names -= QString();
         return names;

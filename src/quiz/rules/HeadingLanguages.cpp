@@ -4,8 +4,6 @@
 
 #include <QRegularExpression>
 
-#include <vector>
-
 namespace {
 
 /// In whose words a language can be named, besides its own.
@@ -45,26 +43,21 @@ bool canStandAmongOthers(const QString &word)
 
 HeadingLanguages::HeadingLanguages()
 {
-    std::vector<std::pair<QByteArray, QLocale::Language>> languages;
-    for (int number = QLocale::C + 1; number <= QLocale::LastLanguage; ++number) {
-        const QString code = QLocale::languageToCode(QLocale::Language(number));
-        if (!code.isEmpty())
-            languages.emplace_back(code.toLatin1(), QLocale::Language(number));
-    }
-    for (const auto &[code, language] : languages)
-        add(LanguageNames(QString::fromLatin1(code)).of(code), language);
+    const QList<QByteArray> codes = LanguageNames::codes();
+    for (const QByteArray &code : codes)
+        add(LanguageNames(QString::fromLatin1(code)).of(code), code);
     for (const char *other : ProgramLanguages) {
         const LanguageNames names(QString::fromLatin1(other));
-        for (const auto &[code, language] : languages)
-            add(names.of(code), language);
+        for (const QByteArray &code : codes)
+            add(names.of(code), code);
     }
 }
 
-void HeadingLanguages::add(const QString &name, QLocale::Language language)
+void HeadingLanguages::add(const QString &name, const QByteArray &code)
 {
     const QString known = essential(name);
     if (!known.isEmpty() && !m_names.contains(known))
-        m_names.insert(known, language);
+        m_names.insert(known, QLocale::codeToLanguage(QString::fromLatin1(code)));
 }
 
 std::optional<QLocale::Language> HeadingLanguages::languageOf(const QString &heading) const

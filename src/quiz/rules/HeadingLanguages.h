@@ -18,7 +18,7 @@ public:
     std::optional<QLocale::Language> languageOf(const QString &heading) const;
 
 private:
-    void add(const QString &name, QLocale::Language language);
+    void add(const QString &name, const QByteArray &code);
 
     QHash<QString, QLocale::Language> m_names;
 };

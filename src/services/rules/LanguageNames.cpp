@@ -40,6 +40,15 @@ LanguageNames::~LanguageNames()
     uldn_close(m_names);
 }
 
+QList<QByteArray> LanguageNames::codes()
+{
+    QList<QByteArray> all{"no"};
+    for (int number = QLocale::C + 1; number <= QLocale::LastLanguage; ++number)
+        all += QLocale::languageToCode(QLocale::Language(number)).toLatin1();
+    all.removeAll(QByteArray());
+    return all;
+}
+
 QString LanguageNames::of(const QByteArray &code) const
 {
     std::array<UChar, 128> name{};

@@ -20,6 +20,9 @@ public:
     ~LanguageNames();
     Q_DISABLE_COPY_MOVE(LanguageNames)
 
+    /// Of the languages that the toolkit tells apart, and "no": it knows Norwegian only by its two ways of writing.
+    static QList<QByteArray> codes();
+
     /// The name of the language with this code; empty if it has none.
     QString of(const QByteArray &code) const;
     /// The name of the language that English calls so; a text that is no such name stays as it is.

@@ -17,6 +17,7 @@ TEST(HeadingLanguages, AHeadingNamesALanguageInManyWays)
         {QLocale::Russian, "русский|Russisch|ru"},
         {QLocale::Arabic, "العربية|Arabic|ar"},
         {QLocale::Swedish, "Swedish|svenska|Schwedisch|sv"},
+        {QLocale::NorwegianBokmal, "Norwegian|norsk|no"},
         {QLocale::Hungarian, "magyar|ungherese"},
         {QLocale::Turkish, "Türkçe|Turkce"},
         {QLocale::Hebrew, "עברית|hebräisch"},
