@@ -75,11 +75,13 @@ TEST_F(PrintedPages, HoldWordsOfEveryScriptOnSheetsOfA4)
 TEST_F(PrintedPages, AFileThatCannotBeWrittenIsAPrinterError)
 {
     source = sourceOf(5);
-    for (const char *path : {"/no/such/folder/out.pdf", "/dev/full"}) {
+    const QString full = folder.filePath("full.pdf"); // a link, so that no fault removes the device itself
+    ASSERT_TRUE(QFile::link("/dev/full", full));
+    for (const QString &path : {QString("/no/such/folder/out.pdf"), full}) {
         file = path;
         try {
             print();
-            ADD_FAILURE() << path;
+            ADD_FAILURE() << path.toStdString();
         } catch (const PrinterError &error) {
             EXPECT_TRUE(error.text().contains(path)) << error.text().toStdString();
         }
