@@ -101,6 +101,58 @@ TEST_F(ShownGrid, MouseSelectsCellsRowsColumnsAndAll)
     EXPECT_EQ(selection(), "1 2 200 2");
 }
 
+TEST_F(ShownGrid, FromRightToLeftAllIsAtTheOtherSideAndMeansTheSame)
+{
+    grid.setAllowUserResizing(FlexGridLook::ResizeBoth);
+    FlexGridView &view = *grid.hwndGrid();
+    const auto side = [this](int x) { return grid.RightToLeft() ? viewport()->width() - 1 - x : x; };
+    // what is seen and what comes of mouse and keys, with x counted from where lines begin
+    const auto outcome = [&](int zoom) {
+        QString seen;
+        const auto add = [&](const QRect &rect) {
+            const auto [first, last] = std::minmax(side(rect.left()), side(rect.right()));
+            seen += QString("%1-%2 ").arg(first).arg(last);
+        };
+        grid.setZoom(zoom);
+        grid.setRowHeight(-1, 300);
+        grid.setColWidth(-1, 1500);
+        view.setLeftCol(1);
+        const QWidget *bar = view.verticalScrollBar();
+        add(view.cellArea());
+        add({viewport()->mapFromGlobal(bar->mapToGlobal(QPoint())), bar->size()});
+        for (int col = 0; col < grid.Cols(); ++col)
+            add(view.cellRect(2, col));
+        const std::pair<QPoint, QPoint> drags[] = {{{50, 50}, {50, 50}}, {{200, 50}, {120, 110}}, {{5, 50}, {5, 90}},
+                                                   {{150, 5}, {150, 5}}, {{5, 5}, {5, 5}},        {{100, 5}, {90, 5}},
+                                                   {{94, 5}, {130, 5}},  {{87, 5}, {140, 5}},     {{141, 5}, {150, 5}},
+                                                   {{248, 5}, {200, 5}}, {{120, 50}, {500, 50}}};
+        for (const auto &[from, to] : drags) {
+            drag({side(from.x()), from.y()}, {side(to.x()), to.y()});
+            seen +=
+                selection() + QString(" [%1 %2 %3] ").arg(grid.ColWidth(0)).arg(grid.ColWidth(1)).arg(view.mouseCol());
+        }
+        const bool mirrored = grid.RightToLeft();
+        for (const char *keys : {"Home", mirrored ? "Left" : "Right", mirrored ? "Ctrl+Left" : "Ctrl+Right", "Home",
+                                 mirrored ? "Shift+Left" : "Shift+Right", "End"}) {
+            QTest::keySequence(&view, QKeySequence(keys));
+            seen += selection() + QString(" [%1 %2] ").arg(grid.LeftCol()).arg(view.horizontalScrollBar()->value());
+        }
+        const QPoint onward(mirrored ? 120 : -120, 0);
+        for (const QPoint &turn : {-onward, onward}) {
+            QWheelEvent wheel({9, 9}, {9, 9}, {}, turn, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(viewport(), &wheel);
+            seen += QString("%1 ").arg(view.horizontalScrollBar()->value());
+        }
+        return seen.toStdString();
+    };
+    for (const int zoom : {100, 150}) {
+        grid.setRightToLeft(false);
+        const std::string fromLeft = outcome(zoom);
+        grid.setRightToLeft(true);
+        EXPECT_EQ(outcome(zoom), fromLeft) << zoom;
+    }
+}
+
 TEST_F(ShownGrid, DraggingBeyondTheEdgeScrollsOn)
 {
     QTest::mousePress(viewport(), Qt::LeftButton, {}, cell(3, 1));

@@ -90,13 +90,21 @@ QString FlexGridView::cutTextAt(const QPoint &position) const
     return !setting.text.isEmpty() && FlexGridCellText::isCut(inside, setting) ? setting.text : QString();
 }
 
-/// With Ctrl it zooms, which the grid does.
+/// With Ctrl it zooms, which the grid does. The toolkit's horizontal bar knows no mirrored wheel.
 void FlexGridView::wheelEvent(QWheelEvent *event)
 {
-    if (event->modifiers() & Qt::ControlModifier)
+    const bool sideways = std::abs(event->angleDelta().x()) > std::abs(event->angleDelta().y());
+    if (event->modifiers() & Qt::ControlModifier) {
         event->ignore();
-    else
+    } else if (sideways && m_state.rightToLeft) {
+        const QPoint pixels(-event->pixelDelta().x(), event->pixelDelta().y());
+        const QPoint angle(-event->angleDelta().x(), event->angleDelta().y());
+        QWheelEvent turned(event->position(), event->globalPosition(), pixels, angle, event->buttons(),
+                           event->modifiers(), event->phase(), event->inverted(), event->source());
+        QAbstractScrollArea::wheelEvent(&turned);
+    } else {
         QAbstractScrollArea::wheelEvent(event);
+    }
 }
 
 void FlexGridView::mousePressEvent(QMouseEvent *event)
