@@ -68,8 +68,8 @@ frmProgress::frmProgress(const frmDoc &document, int quizMode, const Needs &need
     dressTable();
     fillDirections(quizMode);
     fillForgetMenu();
-    if (isRightToLeft()) { // which the box would do for each line by itself
-        QTextOption lines = m_ui->txtNumbers->document()->defaultTextOption();
+    if (isRightToLeft()) { // which the box leaves to each line, and all of them at the left
+        QTextOption lines(Qt::AlignRight);
         lines.setTextDirection(Qt::RightToLeft);
         m_ui->txtNumbers->document()->setDefaultTextOption(lines);
     }
