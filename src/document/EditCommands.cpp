@@ -17,6 +17,7 @@ constexpr int Columns = 2;
 /// The edit box's own undo, which the next one takes back. False when there is nothing to undo.
 bool undoInEditBox(frmDoc &document)
 {
+    document.Rutor()->finishComposing();
     ctlGridEdit &box = *document.Rutor()->hwndText();
     if (!document.Rutor()->EditMode() || !box.canUndoText())
         return false;
@@ -83,6 +84,7 @@ void EditCommands::Cut(frmDoc &document)
 void EditCommands::Paste(frmDoc &document)
 {
     ctlGrid &grid = *document.Rutor();
+    grid.finishComposing();
     const QMimeData *offered = m_clipboard.mimeData();
     const std::vector<ClipText::Row> rows = ClipText::parse(m_clipboard.text());
     const bool untouched = grid.EditText() == grid.Text();

@@ -77,6 +77,7 @@ void ctlGrid::GridEdit(int KeyAscii)
 {
     if (Row() < 0 || Col() < 0)
         return;
+    finishComposing();
     if (EditMode() && EditText() != Text())
         commit();
     if (KeyAscii > Space || KeyAscii < 0)
@@ -86,6 +87,14 @@ void ctlGrid::GridEdit(int KeyAscii)
 }
 
 bool ctlGrid::beginEdit(const QString &text)
+{
+    if (!openEditBox(text))
+        return false;
+    m_text1->setFocus();
+    return true;
+}
+
+bool ctlGrid::openEditBox(const QString &text)
 {
     int row = Row();
     int col = Col();
@@ -98,7 +107,6 @@ bool ctlGrid::beginEdit(const QString &text)
     showCell(Row(), Col());
     m_text1->show();
     RefreshTextPos();
-    m_text1->setFocus();
     return true;
 }
 
@@ -121,6 +129,7 @@ bool ctlGrid::EditMode() const
 
 void ctlGrid::setEditMode(bool edit)
 {
+    finishComposing();
     if (edit)
         GridEdit(Space);
     else if (EditMode() && EditText() != Text())
@@ -253,10 +262,17 @@ bool ctlGrid::surelyShows(int row)
     return true;
 }
 
+void ctlGrid::finishComposing()
+{
+    if (EditMode())
+        m_text1->finishComposing();
+}
+
 void ctlGrid::commit()
 {
     if (!EditMode())
         return;
+    finishComposing();
     int row = Row();
     int col = Col();
     setTextMatrix(row, col, EditText());
@@ -271,6 +287,7 @@ void ctlGrid::commit()
 void ctlGrid::closeEditBox()
 {
     const bool hadFocus = window()->focusWidget() == m_text1;
+    view().composeIn(nullptr);
     m_text1->hide();
     if (hadFocus)
         view().setFocus();
@@ -337,10 +354,11 @@ void ctlGrid::inputMethodUsed(QInputMethodEvent *event)
         typeCharacter(int(character));
     if (event->preeditString().isEmpty())
         return;
-    if (!EditMode() && (Row() < 0 || Col() < 0 || !beginEdit(QString())))
+    if (!EditMode() && (Row() < 0 || Col() < 0 || !openEditBox(QString())))
         return;
     QInputMethodEvent composing(event->preeditString(), event->attributes());
     QCoreApplication::sendEvent(m_text1, &composing);
+    view().composeIn(m_text1);
 }
 
 void ctlGrid::cellDoubleClicked()

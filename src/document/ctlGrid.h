@@ -40,6 +40,8 @@ public:
     /// The selected part of the edit box's text; setting replaces it. Empty and without effect while browsing.
     QString SelText() const;
     void setSelText(const QString &text);
+    /// Takes what an input method is composing into the edit box's text.
+    void finishComposing();
     /// Lays the edit box over the current cell again.
     void RefreshTextPos();
     /// Clears the grid and gives it font, size in rows and columns, fixed rows and columns and header format.
@@ -77,6 +79,7 @@ protected:
 private:
     void connectEditBox();
     bool beginEdit(const QString &text);
+    bool openEditBox(const QString &text);
     void commit();
     void closeEditBox();
     void editKeyPressed(int keyCode, int shift, bool &taken);

@@ -1,14 +1,15 @@
 #include "document/ctlGridEdit.h"
 
+#include "services/desktop/Composition.h"
 #include "services/rules/CellText.h"
 #include "services/rules/ClipText.h"
 #include "widgets/grid/FlexGridCellText.h"
 #include "widgets/grid/FlexGridKeys.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDropEvent>
-#include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -57,6 +58,8 @@ ctlGridEdit::ctlGridEdit(QWidget *parent)
 
 void ctlGridEdit::begin(const QString &text)
 {
+    QInputMethodEvent nothing;
+    inputMethodEvent(&nothing); // what was being composed when Escape closed the box
     setText(text);
     const bool betweenHalves = text.size() > FarthestCaret && text.at(FarthestCaret).isLowSurrogate();
     setCursorPosition(int(std::min(text.size(), FarthestCaret + (betweenHalves ? 1 : 0))));
@@ -177,7 +180,26 @@ void ctlGridEdit::inputMethodEvent(QInputMethodEvent *event)
     const QString committed = event->commitString();
     if (!committed.isEmpty())
         event->setCommitString(filtered(committed), event->replacementStart(), event->replacementLength());
+    m_composed = event->preeditString();
     QLineEdit::inputMethodEvent(event);
+}
+
+QVariant ctlGridEdit::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    const bool isOff = query == Qt::ImEnabled && QApplication::activePopupWidget(); // the letters are the menu's
+    return isOff ? false : QLineEdit::inputMethodQuery(query);
+}
+
+void ctlGridEdit::finishComposing()
+{
+    if (m_composed.isEmpty())
+        return;
+    const QString before = text();
+    QInputMethodEvent composed;
+    composed.setCommitString(m_composed);
+    Composition::finish();
+    if (text() == before)
+        QCoreApplication::sendEvent(this, &composed);
 }
 
 void ctlGridEdit::mouseReleaseEvent(QMouseEvent *event)
@@ -201,6 +223,13 @@ void ctlGridEdit::focusOutEvent(QFocusEvent *event)
     QLineEdit::focusOutEvent(event);
     if (start >= 0)
         setSelection(start, length);
+    updateMicroFocus();
+}
+
+void ctlGridEdit::focusInEvent(QFocusEvent *event)
+{
+    QLineEdit::focusInEvent(event);
+    updateMicroFocus();
 }
 
 void ctlGridEdit::dragEnterEvent(QDragEnterEvent *event)

@@ -15,6 +15,8 @@ public:
     void begin(const QString &text);
     /// Keeps the letters where the cell has them when it is shown so many times as large.
     void setZoom(double factor);
+    /// Takes what an input method is composing into the text, as the user sees it.
+    void finishComposing();
     void cutText();
     void pasteText();
     /// Undoes the last typing, or redoes it when the last thing done was to undo it.
@@ -36,8 +38,10 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
@@ -50,4 +54,5 @@ private:
     QString filtered(const QString &typed);
 
     bool m_undone = false;
+    QString m_composed; ///< what an input method shows and has not given yet
 };

@@ -147,6 +147,7 @@ void frmDoc::showDocument()
 
 void frmDoc::commitRunningEdit()
 {
+    m_grid->finishComposing();
     if (!m_grid->EditMode() || !m_edit.isToStore(m_grid->EditText(), m_grid->Text()))
         return;
     m_grid->setText(m_grid->EditText());

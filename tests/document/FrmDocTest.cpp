@@ -1,5 +1,6 @@
 #include "support/OpenFiles.h"
 
+#include "document/EditCommands.h"
 #include "document/ctlGridEdit.h"
 #include "widgets/grid/FlexGridView.h"
 
@@ -27,6 +28,20 @@ struct FrmDocTest : ::testing::Test, OpenFiles
     }
     std::pair<int, int> cell() const { return {grid.Row(), grid.Col()}; }
 };
+
+TEST_F(FrmDocTest, WhatIsComposedIsSavedAndUndone)
+{
+    grid.Select(2, 1, 2, 1);
+    QInputMethodEvent event("ni", {});
+    QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
+    document.commitRunningEdit();
+    EXPECT_EQ(grid.TextMatrix(2, 1), "ni");
+    EXPECT_TRUE(grid.EditMode());
+    EXPECT_TRUE(document.Dirty());
+    QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
+    EditCommands(undo, *QGuiApplication::clipboard()).Undo(document);
+    EXPECT_EQ(grid.EditText(), "") << "all that was typed, as ever";
+}
 
 TEST_F(FrmDocTest, NewDocumentsAreSetUpFromTheSettings)
 {

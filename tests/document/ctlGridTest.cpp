@@ -212,23 +212,69 @@ TEST_F(GridEditing, TheBoxTakesDroppedTextAsACopyAndLeavesFilesAlone)
     EXPECT_EQ(grid.EditText(), "x yhouse");
 }
 
+void compose(QWidget *receiver, const QString &preedit, const QString &commit = {})
+{
+    QInputMethodEvent event(preedit, {});
+    event.setCommitString(commit);
+    QCoreApplication::sendEvent(receiver, &event);
+}
+
 TEST_F(GridEditing, ComposedTextOpensTheBox)
 {
-    const auto send = [this](const QString &preedit, const QString &commit) {
-        QInputMethodEvent event(preedit, {});
-        event.setCommitString(commit);
-        QCoreApplication::sendEvent(focusTarget(), &event);
-    };
-    send("", "\u00e9");
+    compose(focusTarget(), "", "\u00e9");
     EXPECT_EQ(grid.EditText(), "\u00e9");
-    send("", "t\u00e9");
+    compose(focusTarget(), "", "t\u00e9");
     EXPECT_EQ(grid.EditText(), "\u00e9t\u00e9");
     EXPECT_EQ(log, QStringList({"key 233", "before", "key 116", "key 233"}));
     key(Qt::Key_Escape);
-    send("ni", "");
-    EXPECT_TRUE(grid.EditMode());
-    send("", "\u4f60");
-    EXPECT_EQ(grid.EditText(), "\u4f60");
+    for (const auto &[preedit, commit] : {std::pair("ni", ""), std::pair("hao", "\u4f60"), std::pair("", "\u597d")}) {
+        EXPECT_TRUE(grid.hwndGrid()->hasFocus()) << "where it began, or it would break off";
+        compose(grid.hwndGrid(), preedit, commit);
+    }
+    EXPECT_EQ(grid.EditText(), "\u4f60\u597d");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return grid.hwndText()->hasFocus(); }));
+}
+
+TEST_F(GridEditing, WhatIsComposedIsKeptHoweverTheCellIsLeft)
+{
+    const std::pair<const char *, std::function<void()>> ways[] = {
+        {"another cell", [this] { grid.Select(2, 1, 2, 1); }},
+        {"Enter", [this] { QTest::keyClick(grid.focusWidget(), Qt::Key_Return); }},
+        {"end of the edit", [this] { grid.setEditMode(false); }},
+        {"focus", [this] { grid.hwndText()->setFocus(), grid.hwndGrid()->setFocus(); }},
+    };
+    for (const bool opened : {false, true}) {
+        for (const auto &[name, leave] : ways) {
+            grid.setTextMatrix(1, 1, "");
+            grid.Select(1, 1, 1, 1);
+            if (opened)
+                grid.setEditMode(true);
+            compose(grid.focusWidget(), "ni");
+            QTest::keyClick(grid.focusWidget(), Qt::Key_Shift);
+            compose(grid.focusWidget(), "ni hao");
+            leave();
+            EXPECT_EQ(cell(1, 1), "ni hao") << name << opened;
+            EXPECT_FALSE(grid.EditMode()) << name << opened;
+        }
+    }
+}
+
+TEST_F(GridEditing, LettersForAMenuAreNotComposed)
+{
+    QMenu menu;
+    menu.addAction("x");
+    const auto composes = [this] {
+        QInputMethodQueryEvent asked(Qt::ImEnabled);
+        QCoreApplication::sendEvent(grid.focusWidget(), &asked);
+        return asked.value(Qt::ImEnabled).toBool();
+    };
+    for (const bool opened : {false, true}) {
+        grid.setEditMode(opened);
+        menu.popup({});
+        EXPECT_FALSE(composes()) << opened;
+        menu.close();
+        EXPECT_TRUE(composes()) << opened;
+    }
 }
 
 TEST_F(GridEditing, AutoSetupBeginsAnew)

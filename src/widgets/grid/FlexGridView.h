@@ -5,6 +5,7 @@
 
 #include <QAbstractScrollArea>
 #include <QBasicTimer>
+#include <QPointer>
 
 #include <vector>
 
@@ -56,6 +57,11 @@ public:
     /// The height and width in pixels of the normal size that the texts of a row or a column need.
     int fittingRowPixels(int row) const;
     int fittingColPixels(int col) const;
+
+    /// What an input method composes and what is typed goes on in a box that is laid over the grid. It takes the focus
+    /// when typing rests: to move it earlier would break the composition off and lose letters that are on their way.
+    /// nullptr when the box closes.
+    void composeIn(QWidget *box);
 
     int mouseRow() const { return m_mouseRow; }
     int mouseCol() const { return m_mouseCol; }
@@ -125,6 +131,7 @@ private:
     Bands fixedColBands() const;
     Bands shownColBands() const;
 
+    void passFocusToComposer();
     bool navigate(const QKeyEvent &event);
     /// The next shown row or column in a direction (1 or -1); the same one when there is none.
     int rowBeside(int row, int step) const;
@@ -159,4 +166,6 @@ private:
     int m_dragged = -1; ///< the row or column whose border is dragged
     QPoint m_dragPosition;
     QBasicTimer m_autoScroll;
+    QPointer<QWidget> m_composer;
+    QBasicTimer m_composerRest; ///< runs while nothing is being composed
 };

@@ -3,10 +3,22 @@
 #include "widgets/grid/FlexGridAccessible.h"
 #include "widgets/grid/FlexGridKeys.h"
 
+#include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 
 #include <algorithm>
+
+namespace {
+
+constexpr int ComposerRest = 500; // milliseconds without a letter
+
+bool isModifier(int key)
+{
+    return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr;
+}
+
+} // namespace
 
 bool FlexGridView::focusNextPrevChild(bool)
 {
@@ -18,6 +30,7 @@ void FlexGridView::focusInEvent(QFocusEvent *event)
     QAbstractScrollArea::focusInEvent(event);
     viewport()->update();
     Q_EMIT focusArrived();
+    composeIn(nullptr); // and asks anew whether input methods are wanted
     // after the toolkit's own word that the whole table has the focus
     QMetaObject::invokeMethod(
         this, [this] { FlexGridAccessible::announceCurrentCell(*this); }, Qt::QueuedConnection);
@@ -27,6 +40,7 @@ void FlexGridView::focusOutEvent(QFocusEvent *event)
 {
     QAbstractScrollArea::focusOutEvent(event);
     viewport()->update();
+    updateMicroFocus(Qt::ImEnabled);
 }
 
 void FlexGridView::changeEvent(QEvent *event)
@@ -37,6 +51,12 @@ void FlexGridView::changeEvent(QEvent *event)
 
 void FlexGridView::keyPressEvent(QKeyEvent *event)
 {
+    if (m_composer && !isModifier(event->key())) { // what the input method leaves is the box's
+        QCoreApplication::sendEvent(m_composer, event);
+        if (m_composerRest.isActive())
+            m_composerRest.start(ComposerRest, this);
+        return;
+    }
     Q_EMIT keyPressed(FlexGridKeys::virtualKey(*event), FlexGridKeys::shiftBits(event->modifiers()));
     if (navigate(*event))
         return;
@@ -56,13 +76,42 @@ void FlexGridView::keyReleaseEvent(QKeyEvent *event)
 
 void FlexGridView::inputMethodEvent(QInputMethodEvent *event)
 {
-    Q_EMIT inputMethodUsed(event);
+    if (!m_composer) {
+        Q_EMIT inputMethodUsed(event);
+        return;
+    }
+    QCoreApplication::sendEvent(m_composer, event);
+    if (m_composer && event->preeditString().isEmpty())
+        m_composerRest.start(ComposerRest, this);
+    else
+        m_composerRest.stop();
+    updateMicroFocus();
+}
+
+void FlexGridView::composeIn(QWidget *box)
+{
+    m_composer = box;
+    m_composerRest.stop();
+    updateMicroFocus();
+}
+
+void FlexGridView::passFocusToComposer()
+{
+    const QPointer<QWidget> box = m_composer;
+    composeIn(nullptr);
+    if (box && window()->focusWidget() == this)
+        box->setFocus(Qt::OtherFocusReason);
 }
 
 QVariant FlexGridView::inputMethodQuery(Qt::InputMethodQuery query) const
 {
     if (query == Qt::ImEnabled)
-        return isEnabled();
+        return isEnabled() && !QApplication::activePopupWidget(); // the letters are the menu's
+    if (m_composer) {
+        const QVariant answer = m_composer->inputMethodQuery(query);
+        const QPoint offset = mapFromGlobal(m_composer->mapToGlobal(QPoint()));
+        return answer.typeId() == QMetaType::QRect ? answer.toRect().translated(offset) : answer;
+    }
     if (query == Qt::ImCursorRectangle)
         return cellRect(m_state.selection.Row, m_state.selection.Col).translated(viewport()->pos());
     return QAbstractScrollArea::inputMethodQuery(query);

@@ -223,6 +223,8 @@ void FlexGridView::dragSelectionTo(const QPoint &position)
 
 void FlexGridView::timerEvent(QTimerEvent *event)
 {
+    if (event->timerId() == m_composerRest.timerId())
+        passFocusToComposer();
     if (event->timerId() != m_autoScroll.timerId()) {
         QAbstractScrollArea::timerEvent(event);
         return;
