@@ -83,6 +83,8 @@ void MissedList::setAnswers(const std::vector<MissedAnswer> &answers, bool withG
     setTabOrder(&m_before, m_table);
     setTabOrder(m_table, m_buttons[0]);
     setTabOrder(m_buttons[0], m_buttons[1]);
+    // The toolkit would tell screen readers that the focus is in the table.
+    const QSignalBlocker unannounced(m_table->selectionModel());
     m_table->setCurrentCell(answers.empty() ? -1 : 0, Asked, QItemSelectionModel::NoUpdate);
 }
 

@@ -73,6 +73,8 @@ QuizResult::QuizResult(QWidget *parent)
     m_ui->setupUi(this);
     m_lblResult = {m_ui->lblResult0, m_ui->lblResult1, m_ui->lblResult2, m_ui->lblResult3};
     m_lblResultTitel = {m_ui->lblResultTitel0, m_ui->lblResultTitel1, m_ui->lblResultTitel2, m_ui->lblResultTitel3};
+    for (size_t i = 0; i < m_lblResult.size(); ++i)
+        m_lblResultTitel[i]->setBuddy(m_lblResult[i]); // or a reader says the number's name twice
 }
 
 QuizResult::~QuizResult() = default;

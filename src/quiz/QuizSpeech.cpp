@@ -78,6 +78,13 @@ QString remark(const Judgement &judgement, bool correct)
     return all.isEmpty() ? QString() : resText(14210).arg(all.join(resText(14909)));
 }
 
+QString hint(const QuizSession &session)
+{
+    const QString expected = session.question().correctAnswer().normalized(QString::NormalizationForm_C);
+    const bool isWhole = session.kind() != QuizKind::Practice || session.answerText() == expected;
+    return isWhole ? session.answerText() : QString();
+}
+
 QString state(const QuizSession &session)
 {
     if (session.done())

@@ -16,6 +16,8 @@ QString turned(bool correct);
 QString difference(const QuizSession &session);
 /// What was forgiven of an answer that counts as right, or why the right text counts as wrong; else empty.
 QString remark(const Judgement &judgement, bool correct);
+/// What a hint has brought of the answer. One that shows letter by letter is said when it is whole.
+QString hint(const QuizSession &session);
 /// The counters and the word that is asked now, or the summary of the round when it has ended.
 QString state(const QuizSession &session);
 

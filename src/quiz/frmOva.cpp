@@ -11,14 +11,14 @@
 #include "resources/StringTable.h"
 #include "resources/TextLanguage.h"
 #include "services/Hourglass.h"
+#include "services/desktop/Composition.h"
 #include "services/desktop/EnterKey.h"
 #include "services/settings/clsAppProperties.h"
+#include "widgets/Announcer.h"
 #include "widgets/LetterRow.h"
 
 #include "ui_frmOva.h"
 
-#include <QGuiApplication>
-#include <QInputMethod>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QShortcut>
@@ -30,6 +30,7 @@ frmOva::frmOva(clsAppProperties &settings, RandomSource &random, SoundPlayer &er
     , m_random(random)
     , m_errorSound(errorSound)
     , m_place(*this, settings)
+    , m_announcer(new Announcer(this))
 {
     m_ui->setupUi(this);
     EnterKey::leaveToDialog(*this);
@@ -97,7 +98,7 @@ void frmOva::connectControls()
 {
     connect(m_ui->btnCheck, &QPushButton::clicked, this, &frmOva::btnCheck_Click);
     connect(m_ui->btnHint, &QPushButton::clicked, this, &frmOva::btnHint_Click);
-    connect(m_ui->btnRep, &QPushButton::clicked, this, &frmOva::btnRep_Click);
+    connect(m_ui->btnRep, &QPushButton::clicked, m_session, &QuizSession::fRepeatErrors);
     connect(m_ui->btnRight, &QPushButton::clicked, m_session, &QuizSession::turnVerdict);
     for (const auto &[key, turned] : {std::pair(QKeySequence::Undo, false), std::pair(QKeySequence::Redo, true)}) {
         auto *shortcut = new QShortcut(key, this);
@@ -147,19 +148,14 @@ void frmOva::btnCheck_Click()
         accept();
         return;
     }
-    QGuiApplication::inputMethod()->commit();
+    Composition::finish();
     m_session->check();
 }
 
 void frmOva::btnHint_Click()
 {
-    QGuiApplication::inputMethod()->commit();
+    Composition::finish();
     m_session->hint();
-}
-
-void frmOva::btnRep_Click()
-{
-    m_session->fRepeatErrors();
 }
 
 void frmOva::chkAuto_Click(bool on)
@@ -204,6 +200,7 @@ void frmOva::showQuestion()
 
 void frmOva::showAnswer()
 {
+    m_announcer->say(QuizSpeech::hint(*m_session));
     if (m_session->kind() == QuizKind::Practice) {
         m_ui->lblNote->setFullText(m_session->answerText());
         return;
@@ -324,11 +321,13 @@ void frmOva::focusAnswer()
 
 void frmOva::speak(const QString &text)
 {
-    const QString verdict = std::exchange(m_spokenVerdict, QString());
+    const QString spoken = (std::exchange(m_spokenVerdict, QString()) + u' ' + text).trimmed();
     if (m_speaker && m_speaker != answerControl())
         m_speaker->setAccessibleDescription(QString());
     m_speaker = answerControl();
-    m_speaker->setAccessibleDescription(verdict.isEmpty() ? text : verdict + u' ' + text);
+    m_speaker->setAccessibleDescription(spoken);
+    if (m_speaker->hasFocus()) // else it is read as the focus comes
+        m_announcer->say(spoken);
 }
 
 void frmOva::changeEvent(QEvent *event)

@@ -11,6 +11,7 @@
 #include <functional>
 #include <memory>
 
+class Announcer;
 class clsAppProperties;
 class LetterRow;
 class MissedList;
@@ -107,7 +108,6 @@ private:
     void Form_Terminate();
     void btnCheck_Click();
     void btnHint_Click();
-    void btnRep_Click();
     void chkAuto_Click(bool on);
     void showRoundStart();
     void showQuestion();
@@ -147,6 +147,7 @@ private:
     AskedRows m_askedRows;
     bool m_keepMissed = false;
     QString m_tag = QStringLiteral("0");
+    Announcer *m_announcer;
     QWidget *m_speaker = nullptr; ///< the control whose description a screen reader hears
     QString m_spokenVerdict;
 };
