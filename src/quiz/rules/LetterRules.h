@@ -2,6 +2,7 @@
 
 #include "services/rules/QuizOptions.h"
 
+#include <QHash>
 #include <QString>
 
 #include <array>
