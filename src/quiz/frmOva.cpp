@@ -324,9 +324,10 @@ void frmOva::speak(const QString &text)
     const QString spoken = (std::exchange(m_spokenVerdict, QString()) + u' ' + text).trimmed();
     if (m_speaker && m_speaker != answerControl())
         m_speaker->setAccessibleDescription(QString());
+    const bool stays = m_speaker == answerControl() && m_speaker->hasFocus();
     m_speaker = answerControl();
     m_speaker->setAccessibleDescription(spoken);
-    if (m_speaker->hasFocus()) // else it is read as the focus comes
+    if (stays) // else it is read as the focus comes
         m_announcer->say(spoken);
 }
 

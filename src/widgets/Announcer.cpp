@@ -19,14 +19,15 @@ Announcer::Announcer(QWidget *parent)
     Q_UNUSED(isKnown)
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setGeometry(0, 0, 1, 1);
+    hide();
 }
 
-/// A notification is read when it shows.
+/// A notification is read when it shows, which the toolkit tells.
 void Announcer::say(const QString &text)
 {
     if (text.isEmpty() || !QAccessible::isActive())
         return;
     setAccessibleName(text);
-    QAccessibleEvent shown(this, QAccessible::ObjectShow);
-    QAccessible::updateAccessibility(&shown);
+    hide();
+    show();
 }
