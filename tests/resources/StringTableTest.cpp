@@ -77,3 +77,14 @@ TEST(TextLanguage, TheFirstWantedLanguageWithATableIsTaken)
     for (const auto &[wanted, table] : cases)
         EXPECT_EQ(TextLanguage::bestOf(QString(wanted).split(u'|')).toStdString(), table) << wanted;
 }
+
+TEST(TextLanguage, ATableStandsOverTheEnglishTexts)
+{
+    const QString english = resText(401);
+    const auto stands = [&english] {
+        TextLanguage::use("ar");
+        return TextLanguage::inUse() == "ar" && resText(401) != english && TextLanguage::isolated("a").size() == 3;
+    };
+    EXPECT_EXIT(std::exit(stands() ? 0 : 1), testing::ExitedWithCode(0), "");
+    EXPECT_EQ(TextLanguage::isolated("a"), "a");
+}

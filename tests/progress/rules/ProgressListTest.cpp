@@ -34,6 +34,7 @@ TEST(ProgressListTest, KnowsHowWordsStand)
     due[16] = 2;
     EXPECT_EQ(due, words.dueByDay(17));
     EXPECT_EQ(3, words.dueByDay(1)[0]);
+    EXPECT_EQ(1, ProgressList({word("overdue", "a", 3, 990, 993, 4, 1)}, Today).dueByDay(1)[0]);
     EXPECT_EQ(0, words.strength(0));
     EXPECT_LT(words.strength(1), words.strength(2));
     EXPECT_EQ(100, words.strength(5));
