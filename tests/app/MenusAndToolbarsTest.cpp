@@ -258,6 +258,11 @@ TEST_F(MenusAndToolbarsTest, TheSearchGoesAlongWithTheActiveDocument)
 TEST_F(MenusAndToolbarsTest, EveryTitleAndEntryHasItsCaptionAndHelpText)
 {
     newDocument()->frame()->hide(); // and not listed
+    const auto expectItsTexts = [](const QAction &entry) {
+        const int text = entry.property("textId").toInt(), tip = text < 14500 || text > 14502 ? 1 : 3;
+        EXPECT_TRUE(entry.isSeparator() || entry.text().startsWith(resText(text))) << text;
+        EXPECT_TRUE(entry.isSeparator() || entry.statusTip() == resText(text + tip)) << text;
+    };
     int id = 400;
     int title = 0;
     QStringList separators;
@@ -271,9 +276,9 @@ TEST_F(MenusAndToolbarsTest, EveryTitleAndEntryHasItsCaptionAndHelpText)
             letters += QKeySequence::mnemonic(entry->text()).toString();
             EXPECT_LE(letters.count(letters.back()), letters.back().isEmpty() ? 99 : 1) << entry->text().toStdString();
             if (isAddition(*entry)) {
-                const int text = entry->property("textId").toInt(), tip = text < 14500 || text > 14502 ? 1 : 3;
-                EXPECT_TRUE(entry->isSeparator() || entry->text().startsWith(resText(text))) << text;
-                EXPECT_TRUE(entry->isSeparator() || entry->statusTip() == resText(text + tip)) << text;
+                expectItsTexts(*entry);
+                for (const QAction *inner : entry->menu() ? entry->menu()->actions() : QList<QAction *>())
+                    expectItsTexts(*inner);
                 continue;
             }
             id = entry->objectName() == "mnuFileExit" ? 417 : id + 1;
