@@ -110,7 +110,7 @@ TEST_F(ShownGrid, FromRightToLeftAllIsAtTheOtherSideAndMeansTheSame)
     const auto outcome = [&](int zoom) {
         QString seen;
         const auto add = [&](const QRect &rect) {
-            const auto [first, last] = std::minmax(side(rect.left()), side(rect.right()));
+            const auto [first, last] = std::minmax({side(rect.left()), side(rect.right())});
             seen += QString("%1-%2 ").arg(first).arg(last);
         };
         grid.setZoom(zoom);
