@@ -324,7 +324,7 @@ void frmOva::speak(const QString &text)
     const QString spoken = (std::exchange(m_spokenVerdict, QString()) + u' ' + text).trimmed();
     if (m_speaker && m_speaker != answerControl())
         m_speaker->setAccessibleDescription(QString());
-    const bool stays = m_speaker == answerControl() && m_speaker->hasFocus();
+    const bool stays = m_speaker && m_speaker == answerControl() && m_speaker->hasFocus();
     m_speaker = answerControl();
     m_speaker->setAccessibleDescription(spoken);
     if (stays) // else it is read as the focus comes

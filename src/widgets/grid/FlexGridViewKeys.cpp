@@ -97,7 +97,7 @@ void FlexGridView::composeIn(QWidget *box)
 
 void FlexGridView::passFocusToComposer()
 {
-    const QPointer<QWidget> box = m_composer;
+    QWidget *const box = m_composer;
     composeIn(nullptr);
     if (box && window()->focusWidget() == this)
         box->setFocus(Qt::OtherFocusReason);
