@@ -1,5 +1,6 @@
 #include "quiz/QuizSpeech.h"
 
+#include "quiz/rules/LetterRules.h"
 #include "quiz/rules/QuizSession.h"
 #include "resources/StringTable.h"
 
@@ -50,8 +51,8 @@ QString turned(bool correct)
 
 QString difference(const QuizSession &session)
 {
-    const QString given = session.givenAnswer().normalized(QString::NormalizationForm_C);
-    const QString expected = session.question().correctAnswer().normalized(QString::NormalizationForm_C);
+    const QString given = LetterRules::composed(session.givenAnswer());
+    const QString expected = LetterRules::composed(session.question().correctAnswer());
     QStringList all;
     for (const Difference::Change &each : session.judgement().difference.changes) {
         if (all.size() < qsizetype(MostChanges))
@@ -80,7 +81,7 @@ QString remark(const Judgement &judgement, bool correct)
 
 QString hint(const QuizSession &session)
 {
-    const QString expected = session.question().correctAnswer().normalized(QString::NormalizationForm_C);
+    const QString expected = LetterRules::composed(session.question().correctAnswer());
     const bool isWhole = session.kind() != QuizKind::Practice || session.answerText() == expected;
     return isWhole ? session.answerText() : QString();
 }
