@@ -2,8 +2,9 @@
 """Tells how many small faults the unit-level tests notice.
 
 Places of src/, equally many of each folder, get a fault that the environment variable MUTANT switches on, so that one
-build holds them all. It is a build of a copy of the source tree. The tests nearest to a fault run first, until one
-fails, crashes or takes too long. Needs the build of the preset "dev" and python3-clang-14."""
+build holds them all. It is a build of a copy of the source tree. Of the tests that come to a fault those of its own
+folder run first; which assertions notice which faults is written to matrix.json. Needs the build of the preset "dev"
+and python3-clang-14."""
 
 import argparse
 import collections
@@ -47,9 +48,11 @@ SWAPS = {"<": "<=", "<=": "<", ">": ">=", ">=": ">", "==": "!=", "!=": "==", "&&
          "+": "-", "-": "+", "*": "/", "/": "*", "%": "*"}
 ARITHMETIC = set("+-*/%")
 NUMBERS = set(range(TypeKind.BOOL.value, TypeKind.LONGDOUBLE.value + 1))
+PER_FOLDER = 2000
 SWITCH_FILE = "src/mutants.h"
 FUNCTIONS = {Kind.FUNCTION_DECL, Kind.CXX_METHOD, Kind.CONSTRUCTOR, Kind.DESTRUCTOR, Kind.LAMBDA_EXPR}
 SKIPPED = {Kind.CALL_EXPR, Kind.BINARY_OPERATOR, Kind.COMPOUND_ASSIGNMENT_OPERATOR, Kind.UNARY_OPERATOR}
+FAILURE = re.compile(r".*/(tests/[^:\s]+):(\d+): Failure")
 ERROR = re.compile(r"/(src/[^:\s]+):(\d+):\d+: error")
 
 Mutant = collections.namedtuple("Mutant", "file line start end text what source")
@@ -152,16 +155,16 @@ class Places:
 
 
 def candidates(wanted):
-    """The places by folder; what is not below a wanted one, if there are any, is left out."""
-    folders, jobs = collections.defaultdict(list), []
+    """A number, a name and the places of each folder; what is not below a wanted one, if there are any, is left out."""
+    folders = collections.defaultdict(list)
+    for entry in json.loads((ROOT / "build" / "dev" / "compile_commands.json").read_text()):
+        path = pathlib.Path(entry["file"])
+        if path.is_relative_to(ROOT / "src") and path.name != "main.cpp":
+            folders[str(path.parent.relative_to(ROOT / "src"))].append((path, entry["command"].split()))
     with concurrent.futures.ProcessPoolExecutor(2) as pool:
-        for entry in json.loads((ROOT / "build" / "dev" / "compile_commands.json").read_text()):
-            path = pathlib.Path(entry["file"])
-            if path.name != "main.cpp" and any(path.is_relative_to(ROOT / "src" / name) for name in wanted or [""]):
-                jobs.append((path, pool.submit(places, path, entry["command"].split())))
-        for path, job in sorted(jobs, key=lambda pair: pair[0]):
-            folders[str(path.parent.relative_to(ROOT / "src"))] += job.result()
-    return folders
+        for at, (folder, files) in enumerate(sorted(folders.items())):
+            if any(pathlib.Path(folder).is_relative_to(name) for name in wanted or [""]):
+                yield at, folder, [place for found in pool.map(places, *zip(*sorted(files))) for place in found]
 
 
 def places(path, words):
@@ -171,14 +174,13 @@ def places(path, words):
     return Places(path, ["-std=c++20", "-fPIC", "-w", *own, *system, *windows]).found
 
 
-def choose(found, count, chance, wanted):
-    """COUNT places that do not overlap, or those that are wanted again."""
+def choose(found, count, chance):
+    """At most COUNT places that do not overlap."""
     chosen = []
     for mutant in chance.sample(found, len(found)):
         if len(chosen) == count:
             break
-        known = wanted is None or (mutant.file, mutant.what, mutant.source) in wanted
-        if known and all(m.file != mutant.file or m.end <= mutant.start or mutant.end <= m.start for m in chosen):
+        if all(m.file != mutant.file or m.end <= mutant.start or mutant.end <= m.start for m in chosen):
             chosen.append(mutant)
     return chosen
 
@@ -233,36 +235,80 @@ def build_all(tree, through, sources, mutants):
             del mutants[number]
 
 
-class Tests:
-    """The unit-level test programs, and which places each of them comes to."""
+class Program:
+    """A test program: its tests, how long they take, and which places each of them comes to."""
 
-    def __init__(self, build, through):
-        self.build, self.through, self.seconds, self.reached = build, through, {}, {}
-        for path in sorted((build / "tests").glob("*_test")):
-            report = build / "reached.txt"
-            report.unlink(missing_ok=True)
-            began = time.monotonic()
-            if self.run(path.name, {"MUTANTS_REACHED": str(report)}, 600):
-                sys.exit(f"{path.name} fails without a fault")
-            self.seconds[path.name] = time.monotonic() - began
-            self.reached[path.name] = set(map(int, report.read_text().split())) if report.exists() else set()
+    def __init__(self, path, through):
+        self.path, self.name, self.through = path, path.name, through
+        self.reached, self.seconds = {}, 0
+        listed = run(path, "--gtest_list_tests", cwd=path.parent.parent).stdout.split("\n")
+        for line in listed:
+            if line.endswith("."):
+                suite = line
+            elif line.startswith("  "):
+                self.measure(suite + line.split()[0])
 
-    def run(self, name, variables, limit):
-        command = ["timeout", "--kill-after=5", str(limit), str(self.build / "tests" / name), "--gtest_fail_fast"]
+    def measure(self, test):
+        report = self.path.parent / f"{self.name}.reached"
+        report.unlink(missing_ok=True)
+        began = time.monotonic()
+        if self.run([test], {"MUTANTS_REACHED": str(report)}, 600).returncode:
+            sys.exit(f"{self.name}: {test} fails without a fault")
+        self.seconds += time.monotonic() - began
+        self.reached[test] = set(map(int, report.read_text().split())) if report.exists() else set()
+
+    def run(self, tests, variables, limit, *options):
+        command = ["timeout", "--kill-after=5", str(limit), str(self.path), "--gtest_filter=" + ":".join(tests)]
         environment = dict(os.environ, **variables)
-        return run(*self.through, *command, env=environment, cwd=self.build).returncode
+        return run(*self.through, *command, *options, env=environment, cwd=self.path.parent.parent)
 
-    def nearest_first(self, mutant):
-        own = mutant.file.split("/")[1:-1]
-        names = ["_".join(own) + "_test", own[0] + "_test"]
-        return sorted(self.seconds, key=lambda name: (names.index(name) if name in names else 2, self.seconds[name]))
+    def try_fault(self, number, *options):
+        """What the tests that come to the place print, or nothing if all pass."""
+        tests = [test for test, numbers in self.reached.items() if number in numbers]
+        if not tests:
+            return ""
+        done = self.run(tests, {"MUTANT": str(number)}, int(20 + 5 * self.seconds), *options)
+        return (done.stdout or "crash") if done.returncode else ""
+
+
+class Tests:
+    """The unit-level test programs."""
+
+    def __init__(self, build, through, jobs):
+        paths = sorted((build / "tests").glob("*_test"))
+        with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
+            self.programs = list(pool.map(lambda path: Program(path, through), paths))
+
+    def own_and_others(self, mutant):
+        folder = mutant.file.split("/")[1]
+        own = [program for program in self.programs if program.name.startswith(folder + "_")]
+        others = [program for program in self.programs if program not in own]
+        return own, sorted(others, key=lambda program: program.seconds)
 
     def noticed_by(self, number, mutant):
-        for name in self.nearest_first(mutant):
-            if number in self.reached[name]:
-                if self.run(name, {"MUTANT": str(number)}, int(20 + 5 * self.seconds[name])):
-                    return name
-        return "" if any(number in numbers for numbers in self.reached.values()) else None
+        """The assertions that fail in the tests of the fault's own folder, else in the first program where one fails;
+        None if no test comes to the place."""
+        own, others = self.own_and_others(mutant)
+        failed = set().union(*(failures(program.try_fault(number)) for program in own))
+        for program in others:
+            failed = failed or failures(program.try_fault(number, "--gtest_fail_fast"))
+        reached = any(number in numbers for program in self.programs for numbers in program.reached.values())
+        return failed if reached else None
+
+
+def failures(printed):
+    """Each as "test file:line", or as "test crash"."""
+    found, test = set(), ""
+    for line in printed.split("\n"):
+        if line.startswith("[ RUN"):
+            test = line.split()[-1]
+        elif line.startswith("[  FAILED") or line.startswith("[       OK"):
+            test = ""
+        elif match := FAILURE.match(line):
+            found.add(f"{test} {match[1]}:{match[2]}")
+    if printed and test or printed and not found:
+        found.add(f"{test} crash")
+    return found
 
 
 def tell(mutants, results):
@@ -282,7 +328,7 @@ def tell(mutants, results):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("--count", type=int, default=22, help="faults in each folder")
+    parser.add_argument("--count", type=int, default=22, help="faults in each folder; 0 for all")
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--folder", nargs="+", help="these and what is in them, such as quiz or app/rules")
     parser.add_argument("--jobs", type=int, default=2, help="test programs at a time")
@@ -293,17 +339,23 @@ def main():
     tree, last = options.place / "tree", options.place / "survivors.json"
     through = options.through.split()
 
-    wanted = {tuple(key) for key in json.loads(last.read_text())} if options.survivors else None
-    sources, chance, chosen = read_sources(), random.Random(options.seed), []
-    for _, found in sorted(candidates(options.folder).items()):
-        chosen += choose(found, options.count if wanted is None else len(found), chance, wanted)
-    mutants = dict(enumerate(chosen, 1))
+    sources, mutants = read_sources(), {}
+    for at, folder, found in candidates(options.folder):
+        # Neither its number nor its place depends on what other folders are looked at.
+        chosen = choose(found, options.count or len(found), random.Random(f"{options.seed} {folder}"))
+        mutants.update(enumerate(chosen, at * PER_FOLDER))
     build_all(tree, through, sources, mutants)
+    if options.survivors:
+        wanted = {tuple(key) for key in json.loads(last.read_text())}
+        mutants = {number: m for number, m in mutants.items() if (m.file, m.what, m.source) in wanted}
 
-    tests = Tests(tree / "build" / "dev", through)
+    tests = Tests(tree / "build" / "dev", through, options.jobs)
     with concurrent.futures.ThreadPoolExecutor(options.jobs) as pool:
         results = dict(zip(mutants, pool.map(tests.noticed_by, mutants, mutants.values())))
     tell(mutants, results)
+    matrix = {f"{number} {m.file}:{m.line}: {m.what}    {m.source}": sorted(results[number] or [])
+              for number, m in mutants.items()}
+    (options.place / "matrix.json").write_text(json.dumps(matrix, indent=0))
     survivors = [(m.file, m.what, m.source) for number, m in mutants.items() if not results[number]]
     last.write_text(json.dumps(survivors))
 
