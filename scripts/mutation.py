@@ -253,7 +253,8 @@ class Program:
         report.unlink(missing_ok=True)
         began = time.monotonic()
         if self.run([test], {"MUTANTS_REACHED": str(report)}, 600).returncode:
-            sys.exit(f"{self.name}: {test} fails without a fault")
+            print(f"Left out, for it fails without a fault: {test}", flush=True)  # it reads sources, say
+            return
         self.seconds += time.monotonic() - began
         self.reached[test] = set(map(int, report.read_text().split())) if report.exists() else set()
 
