@@ -12,8 +12,6 @@ PrintSource GridSource::read(const ctlGrid &grid, const QString &caption)
     source.Caption = caption;
     source.Font = {font.family(), qRound(QFontInfo(font).pointSizeF()), font.bold(), font.italic()};
     source.ForeColor = grid.ForeColor();
-    source.first.reserve(size_t(grid.Rows()));
-    source.second.reserve(size_t(grid.Rows()));
     for (int row = 0; row < grid.Rows(); ++row) {
         source.first.push_back(grid.word(row, 1));
         source.second.push_back(grid.word(row, 2));

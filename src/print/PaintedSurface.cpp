@@ -102,7 +102,6 @@ void PaintedSurface::drawPictures(QPointF baseline, const QString &text, bool ri
     QTextLayout layout(text, m_painter.font(), m_painter.device());
     QTextOption option;
     option.setTextDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-    option.setWrapMode(QTextOption::NoWrap);
     layout.setTextOption(option);
     layout.beginLayout();
     const QTextLine line = layout.createLine();

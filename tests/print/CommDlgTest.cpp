@@ -2,9 +2,11 @@
 
 #include "print/dialogs/QtDialogs.h"
 #include "print/dialogs/frmPageSetup.h"
+#include "print/dialogs/frmTest.h"
 #include "print/printer/QtPrinter.h"
 #include "print/rules/FileDialogRules.h"
 #include "support/RecordingHelp.h"
+#include "support/RecordingPrinter.h"
 #include "support/ScriptedAlertBox.h"
 #include "support/ScriptedDialogs.h"
 #include "support/ScriptedPrintServer.h"
@@ -44,6 +46,10 @@ TEST_F(CommDlg, SaveAsGivesEveryNameTheExtension)
         EXPECT_EQ(bool(dialog.flags & clsCommDlg::ExtensionDifferent), different) << chosen;
         EXPECT_EQ(dialogs.file.fileName, "Untitled 1.gla");
     }
+    dialogs.chosen = {"/ann/list"};
+    std::tie(dialog.FileName, dialog.FilterIndex) = std::pair("", 3);
+    dialog.setAction(clsCommDlg::ActionSaveAs);
+    EXPECT_EQ(std::pair(dialogs.file.fileName, dialogs.file.filterIndex), std::pair(QString(), 2));
 }
 
 TEST_F(CommDlg, CancelIsAnErrorAndLeavesTheProperties)
@@ -59,6 +65,11 @@ TEST_F(CommDlg, CancelIsAnErrorAndLeavesTheProperties)
     EXPECT_EQ(dialog.Copies, 7);
     EXPECT_EQ(dialogs.file.owner, &active) << "when none is named";
     EXPECT_TRUE(alerts.shown.empty());
+    dialogs.printerFault = "no paper";
+    dialog.flags = 0;
+    EXPECT_THROW(dialog.setAction(clsCommDlg::ActionPrint), CommDlgError);
+    EXPECT_EQ(alerts.onlyPrompt(), "no paper");
+    EXPECT_TRUE(alerts.shown.front().title == "Printer Error" && alerts.shown.front().exclamation);
 }
 
 TEST_F(CommDlg, PrintOffersWhatTheFlagsAllowAndTellsWhatWasChosen)
@@ -81,20 +92,12 @@ TEST_F(CommDlg, PrintOffersWhatTheFlagsAllowAndTellsWhatWasChosen)
     EXPECT_THROW(dialog.setAction(clsCommDlg::ActionHelp), CommDlgError);
 }
 
-TEST_F(CommDlg, AFailingPrinterIsReportedAndThrown)
-{
-    dialogs.printerFault = "no paper";
-    EXPECT_THROW(dialog.setAction(clsCommDlg::ActionPrint), CommDlgError);
-    EXPECT_EQ(alerts.onlyPrompt(), "no paper");
-    EXPECT_EQ(alerts.shown.front().title, "Printer Error");
-    EXPECT_TRUE(alerts.shown.front().exclamation);
-}
-
 TEST(FileFilter, BecomesThePlatformsFilters)
 {
     EXPECT_EQ(FileDialogRules::nameFilters(VocabularyFilter), QStringList{"Glosaria Document (*.gla)"});
-    EXPECT_EQ(FileDialogRules::nameFilters("Lists|*.gla; *.txt|All|*|None|"),
-              (QStringList{"Lists (*.gla *.txt)", "All (*)"}));
+    EXPECT_EQ(FileDialogRules::nameFilters("Lists|*.gla; *.txt|All (old|*|None|"),
+              (QStringList{"Lists (*.gla *.txt)", "All (old (*)"}));
+    EXPECT_EQ(FileDialogRules::withAppendedExtension("a.glb", "gla"), "a.glb.gla");
 }
 
 /// The real dialogs over a folder of files.
@@ -139,6 +142,7 @@ TEST_F(RealDialogs, SaveAsAsksAboutTheRealTargetAndGoesBackOnNo)
     dialog.flags = 0x80406;
     onNext<QFileDialog>([this](QFileDialog &window) {
         EXPECT_EQ(window.findChild<QLineEdit *>("fileNameEdit")->text(), "Untitled 1.gla");
+        EXPECT_EQ(window.property("helpContextId"), 1110);
         onNext<QMessageBox>([this](QMessageBox &box) {
             EXPECT_TRUE(box.text().contains("small.gla")) << box.text().toStdString();
             onNext<QFileDialog>([](QFileDialog &again) { type(again, "fileNameEdit", "other.txt", Qt::Key_Return); });
@@ -180,7 +184,15 @@ TEST_F(RealDialogs, TheNextDialogStartsWhereTheFileWasThatWasTyped)
 TEST_F(RealDialogs, PrintTakesPagesThatAreThereAndKeepsThePaper)
 {
     printer.printer().setOutputFileName(folder.filePath("out.pdf"));
-    printer.setUp({{}, QPageSize(QPageSize::A5), QPageLayout::Landscape, QPrinter::DuplexNone});
+    dialog.flags = clsCommDlg::PrintSetup;
+    onNext<frmPageSetup>([](frmPageSetup &window) {
+        auto *papers = window.findChild<QComboBox *>("cboPaper");
+        EXPECT_EQ(papers->currentText(), "A4");
+        papers->setCurrentIndex(papers->findText("A5"));
+        window.findChild<QRadioButton *>("optLandscape")->click();
+        window.accept();
+    });
+    dialog.setAction(clsCommDlg::ActionPrint);
     dialog.MinPage = 1;
     dialog.MaxPage = 5;
     const std::tuple<const char *, const char *, int, int> cases[] = {{"0", "9", 1, 5}, {"4", "2", 2, 4}};
@@ -210,6 +222,7 @@ TEST(PageSetup, OffersPrintersAndWhatEachCanDo)
     const std::vector<PrinterOffer> offers{
         {"laser", {letter, a5}, letter, false}, {"office", {a4, a5}, a4, true}, {{}, {a4}, a4}};
     frmPageSetup dialog(offers, {"office", a5, QPageLayout::Landscape, QPrinter::DuplexShortSide}, nullptr);
+    EXPECT_EQ(dialog.findChild<QComboBox *>("cboSides")->count(), 3);
     auto *printers = dialog.findChild<QComboBox *>("cboPrinter");
     const auto chosen = [&dialog] {
         const PrinterSetup setup = dialog.setup();
@@ -224,4 +237,36 @@ TEST(PageSetup, OffersPrintersAndWhatEachCanDo)
     EXPECT_EQ(chosen(), std::tuple("", QPageSize::A4, QPageLayout::Portrait, QPrinter::DuplexNone));
     frmPageSetup other(offers, {{}, QPageSize(QSizeF(300, 500), QPageSize::Point), {}, {}}, nullptr);
     EXPECT_EQ(other.setup().paper.sizePoints(), QSize(300, 500)) << "a paper that is not among the common ones";
+}
+
+TEST(TestDialog, OffersTheLastChoiceAndTellsTheNew)
+{
+    const auto parts = [](const TestChoice &c) {
+        return std::tuple(c.kind, c.asked, c.count, c.shuffled, c.number, c.columns, c.nameAndDate, c.key);
+    };
+    const PrintSource words = sourceOf(5);
+    for (int n = 1; n < 96; ++n) {
+        const TestChoice given{TestChoice::Kind(n & 1),
+                               TestChoice::Asked(n % 3),
+                               n % 5,
+                               bool(n & 2),
+                               n,
+                               1 + bool(n & 4),
+                               bool(n & 8),
+                               bool(n & 16)};
+        TestChoice choice = given;
+        frmTest dialog(
+            words, choice, [&n] { return n++; }, nullptr);
+        EXPECT_EQ(dialog.findChild<QWidget *>("spnNumber")->isEnabled(), given.shuffled);
+        EXPECT_EQ(dialog.findChild<QWidget *>("chkColumns")->isEnabled(), given.kind == TestChoice::Sheet);
+        EXPECT_TRUE(dialog.findChild<QRadioButton *>("optAsked1")->text().contains("German"));
+        dialog.findChild<QPushButton *>("btnCancel")->click();
+        dialog.findChild<QPushButton *>("btnPreview")->click();
+        EXPECT_EQ(dialog.result(), frmTest::Preview);
+        EXPECT_EQ(parts(choice), parts(given));
+        if (given.shuffled)
+            dialog.findChild<QPushButton *>("btnNew")->click();
+        dialog.findChild<QPushButton *>("btnPrint")->click();
+        EXPECT_TRUE(dialog.result() == frmTest::Print && choice.number == given.number + given.shuffled);
+    }
 }

@@ -1,6 +1,7 @@
 #include "print/PrintCommands.h"
 
 #include "print/PrintHost.h"
+#include "support/Pixels.h"
 #include "support/RecordingPrinter.h"
 #include "support/ScriptedAlertBox.h"
 #include "support/ScriptedDialogs.h"
@@ -70,7 +71,14 @@ TEST_F(Preview, OpensAtAThirdOfTheSizeInTheMiddle)
     open(RowsOfPage - 1);
     EXPECT_EQ(shown(), "Page 1 of 1");
     EXPECT_TRUE(host.inPreview && page()->isVisible() && page()->hasFocus());
-    EXPECT_EQ(host.area.findChild<QLabel *>("lblPage")->text(), "Page 1 of 1");
+    const auto *number = host.area.findChild<QLabel *>("lblPage");
+    EXPECT_EQ(number->text(), "Page 1 of 1");
+    EXPECT_TRUE(number->geometry().bottomLeft() == QPoint(0, 599) && number->autoFillBackground());
+    const QImage drawn = page()->grab().toImage();
+    EXPECT_NEAR(inkOf(drawn.copy(2, 2, drawn.width() - 4, drawn.height() - 4), Qt::white).left(), 1300 / 45 - 2, 2);
+    QSignalSpy told(&preview, &PrintPreview::statusText);
+    QTest::mouseMove(page(), {50, 50});
+    EXPECT_EQ(told.last().at(0), 505);
     EXPECT_EQ(page()->geometry(), QRect(450 - 132, 300 - 187 - ToolbarHeight, 264, 374));
     EXPECT_TRUE(host.frame.updatesEnabled());
     host.area.resize(600, 500);
@@ -156,10 +164,17 @@ TEST_F(Preview, PageKeysScrollALargePageAndThenTurnIt)
         EXPECT_EQ(preview.visiblePage(), shown);
         EXPECT_EQ(page()->y(), top);
     }
+    press(Qt::Key_Right);
+    EXPECT_EQ(page()->x(), 450 - 396) << "nothing is hidden at the sides";
+    click(Qt::ControlModifier);
+    EXPECT_EQ(page()->y(), 0) << "another size begins at the top";
 }
 
 TEST_F(Preview, PageSetupBuildsItAgainFromTheFirstPage)
 {
+    dialogs.duringSetup = [] {};
+    commands.PageSetup(); // before there is anything to build
+    dialogs.duringSetup = {};
     open(2 * RowsOfPage + 1);
     preview.nextPage();
     commands.PageSetup(); // cancelled
@@ -183,19 +198,20 @@ TEST_F(Preview, PageSetupBuildsItAgainFromTheFirstPage)
     }
 }
 
-TEST_F(Preview, PrintingKeepsSizeAndPage)
+TEST_F(Preview, PrintingKeepsSizeAndPageButTakesItsPaper)
 {
     open(2 * RowsOfPage + 1);
     click();
     preview.nextPage();
     dialogs.pages = PrintChoice{2, 1, 3, false, false, true};
+    dialogs.duringPrint = [this] { printer.size.transpose(); };
     const QImage shown = page()->grab().toImage();
     printer.duringSheet = [&] { EXPECT_EQ(page()->grab().toImage(), shown); };
     commands.printPreviewed();
-    EXPECT_EQ(printer.pageNumbers(), std::vector<int>({1, 2, 3, 1, 2, 3}));
+    EXPECT_EQ(printer.pageNumbers(), std::vector<int>({1, 2, 3, 4, 1, 2, 3, 4}));
     EXPECT_EQ(printer.sheets.front().find("one 1")->font.Size, 10);
     EXPECT_EQ(preview.visiblePage(), 1);
-    EXPECT_EQ(page()->width(), 397);
+    EXPECT_EQ(page()->width(), 561);
     press(Qt::Key_Escape);
     EXPECT_FALSE(host.inPreview || preview.isOpen() || page());
 }
@@ -203,7 +219,7 @@ TEST_F(Preview, PrintingKeepsSizeAndPage)
 TEST_F(Preview, PrintsPagesAndCopiesAsChosenInOneJob)
 {
     const std::pair<PrintChoice, std::vector<int>> cases[] = {
-        {{2, 1, 2, false, false, false}, {1, 1, 2, 2}},
+        {{2, 2, 2, false, false, false}, {1, 1, 2, 2}},
         {{1, 2, 2, true, false, true}, {2}},
         {{1, 1, 2, false, false, true}, {1, 2}}, // a range does not outlive its run
     };
@@ -221,7 +237,7 @@ TEST_F(Preview, PrintsPagesAndCopiesAsChosenInOneJob)
     EXPECT_EQ(host.status.first(), "Printing page 1");
     EXPECT_EQ(host.status.last(), "Ready");
     EXPECT_EQ(dialogs.print.maxPage, 2);
-    EXPECT_EQ(dialogs.print.owner, &host.frame);
+    EXPECT_TRUE(dialogs.print.owner == &host.frame && dialogs.print.collate && !dialogs.print.offerSelection);
     EXPECT_EQ(printer.docName, "Glosaria - Words");
 }
 
@@ -243,6 +259,7 @@ TEST_F(Preview, TheProgramAnswersDuringALongRunThatCanBeCancelled)
                 auto &box = dynamic_cast<QDialog &>(*QApplication::activeModalWidget());
                 EXPECT_TRUE(host.frame.updatesEnabled());
                 EXPECT_EQ(box.findChild<QLabel *>("lblPage")->text(), "Printing page 2");
+                EXPECT_EQ(box.findChild<QProgressBar *>()->value(), 2);
                 step(box);
             });
         };

@@ -118,27 +118,31 @@ TEST_F(PrintedPages, TheNextDocumentsFileIsProposedBesideTheLast)
     EXPECT_EQ(printer.printer().outputFileName(), file);
     printer.setDocName("Second");
     EXPECT_EQ(printer.printer().outputFileName(), folder.filePath("Second.pdf"));
-    EXPECT_EQ(printer.printer().docName(), "Second");
+    printer.printer().setColorMode(QPrinter::GrayScale);
+    EXPECT_TRUE(printer.writesFile() && printer.copy()->colorMode() == QPrinter::GrayScale);
+    EXPECT_TRUE(printer.printer().pageLayout().margins().isNull());
 }
 
 TEST(PaintedText, StandsBelowItsPlaceAndBeforeItWhenItGoesFromRightToLeft)
 {
-    const auto drawn = [](int x, const QString &text, bool rightToLeft, bool bold = false) {
+    const auto drawn = [](int x, const QString &text, bool rightToLeft, bool bold = false, bool italic = false) {
         QImage page(4000, 600, QImage::Format_RGB32);
         page.fill(Qt::white);
         QPainter painter(&page);
         PaintedSurface surface(painter);
-        surface.setFont({"Liberation Sans", 10, bold, false});
+        surface.setFont({"Liberation Sans", 10, bold, italic});
         surface.setForeColor(qRgb(0, 0, 255));
-        surface.drawText(x, 100, text, rightToLeft);
-        return page;
+        text.isEmpty() ? surface.drawLine(x, 100, 1400, 100) : surface.drawText(x, 100, text, rightToLeft);
+        return inkOf(page, Qt::white);
     };
-    const QRect left = inkOf(drawn(1000, "Hl.", false), Qt::white), right = inkOf(drawn(3000, "Hl.", true), Qt::white);
+    const QRect left = drawn(1000, "Hl.", false), right = drawn(3000, "Hl.", true), line = drawn(1000, "", false);
     EXPECT_TRUE(left.left() >= 1000 && left.left() < 1040) << left.left();
     EXPECT_TRUE(left.top() > 130 && left.bottom() < 300 && left.height() > 130) << "ten points are 200 twips";
     EXPECT_TRUE(right.right() <= 3000 && right.right() > 2960) << right.right();
-    EXPECT_EQ(right.size(), inkOf(drawn(1000, ".Hl", false), Qt::white).size()) << "the full stop stands at the left";
-    EXPECT_GT(inkOf(drawn(1000, "Hl.", false, true), Qt::white).width(), left.width());
+    EXPECT_EQ(right.size(), drawn(1000, ".Hl", false).size()) << "the full stop stands at the left";
+    EXPECT_TRUE(drawn(1000, "Hl.", false, true).width() > left.width());
+    EXPECT_NE(drawn(1000, "Hl.", false, false, true), left);
+    EXPECT_TRUE(std::abs(line.width() - 400) <= 20 && std::abs(line.height() - 10) <= 1);
 }
 
 TEST(GridSource, TakesRowsFontAndColourOfTheDocument)

@@ -82,7 +82,6 @@ std::optional<FileChoice> QtDialogs::show(QFileDialog &dialog, const FileRequest
 std::optional<FileChoice> QtDialogs::openFile(const FileRequest &request)
 {
     QFileDialog dialog(request.owner, request.title, startFolder(request));
-    dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(request.mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialog.setDefaultSuffix(request.defaultExt);
     return show(dialog, request);
@@ -92,7 +91,6 @@ std::optional<FileChoice> QtDialogs::saveFile(const FileRequest &request)
 {
     QFileDialog dialog(request.owner, request.title, startFolder(request));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     return show(dialog, request);
 }

@@ -58,7 +58,6 @@ void PrintPreview::rebuild(int page)
 
 void PrintPreview::build(int page)
 {
-    m_pages.closeAll();
     frmPrtPrev *window = m_pages.build(m_document->layOut(m_printer, m_zoomDivisor), page);
     connect(window, &frmPrtPrev::zoomInRequested, this, [this] { zoom(m_zoomDivisor - 1); });
     connect(window, &frmPrtPrev::zoomOutRequested, this, [this] { zoom(m_zoomDivisor + 1); });
