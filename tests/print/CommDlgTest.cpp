@@ -260,7 +260,9 @@ TEST(TestDialog, OffersTheLastChoiceAndTellsTheNew)
         EXPECT_EQ(dialog.findChild<QWidget *>("spnNumber")->isEnabled(), given.shuffled);
         EXPECT_EQ(dialog.findChild<QWidget *>("chkColumns")->isEnabled(), given.kind == TestChoice::Sheet);
         EXPECT_TRUE(dialog.findChild<QRadioButton *>("optAsked1")->text().contains("German"));
+        choice = {.count = 9, .columns = 9, .nameAndDate = !given.nameAndDate, .key = !given.key};
         dialog.findChild<QPushButton *>("btnCancel")->click();
+        EXPECT_EQ(choice.count, 9) << "cancelled";
         dialog.findChild<QPushButton *>("btnPreview")->click();
         EXPECT_EQ(dialog.result(), frmTest::Preview);
         EXPECT_EQ(parts(choice), parts(given));

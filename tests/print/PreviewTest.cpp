@@ -239,6 +239,12 @@ TEST_F(Preview, PrintsPagesAndCopiesAsChosenInOneJob)
     EXPECT_EQ(dialogs.print.maxPage, 2);
     EXPECT_TRUE(dialogs.print.owner == &host.frame && dialogs.print.collate && !dialogs.print.offerSelection);
     EXPECT_EQ(printer.docName, "Glosaria - Words");
+    printer.sheets.clear();
+    printer.failingSheet = 2;
+    commands.PrintDocument(source);
+    EXPECT_EQ(printer.sheets.size(), 1U);
+    EXPECT_EQ(alerts.onlyPrompt(), "out of paper");
+    EXPECT_TRUE(host.frame.updatesEnabled() && !QApplication::overrideCursor());
 }
 
 TEST_F(Preview, TheProgramAnswersDuringALongRunThatCanBeCancelled)
@@ -270,16 +276,4 @@ TEST_F(Preview, TheProgramAnswersDuringALongRunThatCanBeCancelled)
         EXPECT_FALSE(QApplication::overrideCursor());
     }
     EXPECT_TRUE(alerts.shown.empty());
-}
-
-TEST_F(Preview, APrinterThatFailsInTheMiddleIsReported)
-{
-    dialogs.pages = PrintChoice{3, 1, 6, false, false, true};
-    printer.failingSheet = 4;
-    commands.PrintDocument(sourceOf(5 * RowsOfPage));
-    EXPECT_EQ(printer.sheets.size(), 3U);
-    EXPECT_EQ(alerts.onlyPrompt(), "out of paper");
-    EXPECT_EQ(alerts.shown.front().title, "Printer Error");
-    EXPECT_TRUE(host.frame.updatesEnabled());
-    EXPECT_FALSE(QApplication::overrideCursor());
 }

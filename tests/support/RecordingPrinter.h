@@ -26,17 +26,15 @@ struct RecordingSurface : PrintSurface
         texts.push_back({x, y, text, m_font, m_color, rightToLeft});
     }
     void drawLine(int x1, int y1, int x2, int y2) override { lines.emplace_back(x1, y1, x2, y2); }
-    /// "x,y text" of each text, "x1,y1 x2,y2" of each line; with its size, "*" if it is bold, "<" if from right to
-    /// left.
+    /// "x,y size text" of each text, "x1,y1 x2,y2" of each line. "*": bold; "<": from right to left; "#": coloured.
     std::string described() const
     {
         QStringList parts;
-        for (const DrawnText &drawn : texts)
-            parts << QString("%1,%2 %3%4%5%6")
-                         .arg(drawn.x)
-                         .arg(drawn.y)
-                         .arg(drawn.font.Size)
-                         .arg(drawn.font.Bold ? "*" : "", drawn.rightToLeft ? "<" : " ", drawn.text);
+        for (const DrawnText &drawn : texts) {
+            const QString signs = QString(drawn.font.Bold ? "*" : "") + (drawn.color & 0xffffff ? "#" : "") +
+                                  (drawn.rightToLeft ? '<' : ' ');
+            parts << QString("%1,%2 %3%4%5").arg(drawn.x).arg(drawn.y).arg(drawn.font.Size).arg(signs, drawn.text);
+        }
         for (const QLine &line : lines)
             parts << QString("%1,%2 %3,%4").arg(line.x1()).arg(line.y1()).arg(line.x2()).arg(line.y2());
         return parts.join(" | ").toStdString();

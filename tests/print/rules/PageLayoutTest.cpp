@@ -10,7 +10,6 @@ constexpr int FirstRowTop = 2230;
 constexpr int LineHeight = 250;
 constexpr int Column1Left = 1750;
 constexpr int Column2Left = 6700;
-constexpr int FooterTop = 14840;
 
 QString word(int letters, QChar letter = 'x')
 {
@@ -31,44 +30,41 @@ struct PageLayout : ::testing::Test
     }
 };
 
-void expectAt(const RecordingSurface &surface, const QString &text, int x, int y, bool rightToLeft = false)
+void expectAt(const RecordingSurface &surface, const QString &text, int x, int y)
 {
     const DrawnText *drawn = surface.find(text);
     ASSERT_TRUE(drawn) << text.toStdString();
-    EXPECT_EQ(std::tuple(drawn->x, drawn->y, drawn->rightToLeft), std::tuple(x, y, rightToLeft)) << text.toStdString();
+    EXPECT_EQ(std::pair(drawn->x, drawn->y), std::pair(x, y)) << text.toStdString();
 }
 
-TEST_F(PageLayout, PutsTitleHeadingsRowsAndNumberInTheirPlaces)
+TEST_F(PageLayout, PutsEverythingInItsPlace)
 {
-    source = sourceOf({{"house", "Haus"}, {"dog", {}}});
-    source.ForeColor = 0x0000ff; // red
-    const RecordingSurface sheet = page(0);
-    constexpr QRgb black = 0xff000000;
-    constexpr QRgb red = 0xffff0000;
-    const std::tuple<const char *, int, int, QRgb, bool> cases[] = {
-        {"Glosaria - Words", 1500, 1000, black, false},
-        {" English", 1750, 1740, black, true},
-        {" German", 6700, 1740, black, true},
-        {"1", 1400, 2230, black, false},
-        {"house", 1750, 2230, red, false},
-        {"Haus", 6700, 2230, red, false},
-        {"2", 1400, 2480, black, false},
-        {"dog", 1750, 2480, red, false},
-        {"1", 5950, FooterTop, red, false},
+    constexpr int red = 0x0000ff, ofWindows = int(0x80000008u);
+    const std::tuple<std::vector<std::pair<QString, QString>>, int, const char *> cases[] = {
+        {{{"house", "Haus"}, {"dog", {}}},
+         red,
+         "1500,1000 10 Glosaria - Words | 1750,1740 10*  English | 6700,1740 10*  German | 1400,2230 10 1 | "
+         "1750,2230 10# house | 6700,2230 10# Haus | 1400,2480 10 2 | 1750,2480 10# dog | 5950,14840 10# 1"},
+        {{{"peace שלום", "שלום New York"}, {word(30, u'א') + ' ' + word(12, u'ב'), word(60, u'ש')}},
+         ofWindows,
+         "1500,1000 10 Glosaria - Words | 1750,1740 10*  English | 11100,1740 10*< עברית | 1400,2230 10 1 | "
+         "1750,2230 10 peace שלום | 11100,2230 10<שלום New York | 1400,2480 10 2 | "
+         "5900,2480 10<אאאאאאאאאאאאאאאאאאאאאאאאאאאאאא | 5900,2730 10<בבבבבבבבבבבב | "
+         "12700,2730 10<שששששששששששששששששששששששששששששששששששששששששששששששששששששששששששש | 5950,14840 10 1"},
+        // The last row is the last with a first word.
+        {{{"a", {}}, {{}, {}}, {"b", {}}, {{}, "lost"}},
+         0,
+         "1500,1000 10 Glosaria - Words | 1750,1740 10*  English | 6700,1740 10*  German | 1400,2230 10 1 | "
+         "1750,2230 10 a | 1400,2480 10 2 | 1400,2730 10 3 | 1750,2730 10 b | 5950,14840 10 1"},
     };
-    ASSERT_EQ(sheet.texts.size(), std::size(cases));
-    for (size_t i = 0; i < std::size(cases); ++i) {
-        const DrawnText &drawn = sheet.texts[i];
-        EXPECT_EQ(std::tuple(drawn.text, drawn.x, drawn.y, drawn.color, drawn.font.Bold), cases[i]) << i;
+    for (const auto &[pairs, color, expected] : cases) {
+        source = sourceOf(pairs);
+        source.ForeColor = color;
+        source.second[0] = color == ofWindows ? "עברית" : "German";
+        EXPECT_EQ(page(0).described(), expected);
     }
-}
-
-TEST_F(PageLayout, RowNumbersEndAtOneEdgeAndSystemColoursAreBlack)
-{
     source = sourceOf(12);
-    source.ForeColor = int(0x80000008u);
-    expectAt(page(0), "12", 1300, FirstRowTop + 11 * LineHeight);
-    EXPECT_EQ(page(0).find("one 12")->color, 0xff000000);
+    EXPECT_EQ(page(0).find("12")->x, 1300) << "numbers end at one edge";
 }
 
 TEST_F(PageLayout, WrapsWordsWithinTheirColumn)
@@ -101,32 +97,6 @@ TEST_F(PageLayout, WrapsWordsWithinTheirColumn)
     }
 }
 
-TEST_F(PageLayout, RightToLeftTextsReadFromTheRightOfTheirColumn)
-{
-    const QString shalom = "שלום";
-    source =
-        sourceOf({{"peace " + shalom, shalom + " New York"}, {word(30, u'א') + ' ' + word(12, u'ב'), word(60, u'ש')}});
-    source.second[0] = "עברית";
-    const RecordingSurface sheet = page(0);
-    expectAt(sheet, " עברית", 11100, 1740, true);
-    expectAt(sheet, source.first[1], Column1Left, FirstRowTop);
-    expectAt(sheet, source.second[1], 11100, FirstRowTop, true);
-    expectAt(sheet, word(30, u'א'), 5900, FirstRowTop + LineHeight, true);
-    expectAt(sheet, word(12, u'ב'), 5900, FirstRowTop + 2 * LineHeight, true);
-    expectAt(sheet, word(60, u'ש'), Column2Left + 6000, FirstRowTop + 2 * LineHeight, true); // runs over
-}
-
-TEST_F(PageLayout, EndsWithTheLastRowThatHasAFirstWord)
-{
-    source = sourceOf({{"a", {}}, {{}, {}}, {"b", {}}, {{}, "lost"}});
-    const RecordingSurface sheet = page(0);
-    expectAt(sheet, "2", 1400, FirstRowTop + LineHeight); // an empty row before it keeps its number
-    expectAt(sheet, "b", Column1Left, FirstRowTop + 2 * LineHeight);
-    EXPECT_FALSE(sheet.find("lost"));
-    source = sourceOf({{{}, "lost"}});
-    EXPECT_EQ(page(0).texts.size(), 4U) << "title, headings and number";
-}
-
 TEST_F(PageLayout, BreaksThePageAfterTheRowThatFillsIt)
 {
     const std::tuple<int, int, int> cases[] = {{48, 1, 1}, {49, 2, 0},  {50, 2, 50},
@@ -151,15 +121,12 @@ TEST_F(PageLayout, AZoomedPageBreaksWhereThePrintedOneDoes)
     source.first[4] = word(20) + ' ' + word(21) + ' ' + word(9);
     const RecordingSurface printed = page(0);
     for (const double zoom : {2.0, 3.0}) {
-        const RecordingSurface shown = page(0, zoom);
         EXPECT_EQ(layout(zoom).pageWidth(), qRound(11900 / zoom));
-        ASSERT_EQ(shown.texts.size(), printed.texts.size());
-        for (size_t i = 0; i < shown.texts.size(); ++i) {
-            EXPECT_EQ(shown.texts[i].text, printed.texts[i].text);
-            EXPECT_EQ(shown.texts[i].x, qRound(printed.texts[i].x / zoom));
-            EXPECT_EQ(shown.texts[i].y, qRound(printed.texts[i].y / zoom));
-            EXPECT_EQ(shown.texts[i].font.Size, int(10 / zoom));
-        }
+        RecordingSurface divided = printed;
+        for (DrawnText &text : divided.texts)
+            std::tie(text.x, text.y, text.font.Size) =
+                std::tuple(qRound(text.x / zoom), qRound(text.y / zoom), int(10 / zoom));
+        EXPECT_EQ(page(0, zoom).described(), divided.described());
     }
 }
 
@@ -168,13 +135,11 @@ TEST_F(PageLayout, ARunPrintsTheChosenPagesAsOneJob)
     // from, to, listed by the printer's dialog, last page first, copies, collated
     const std::tuple<PageChoice, QList<int>, bool, std::vector<int>> cases[] = {
         {{0, 0, 1, true}, {}, false, {1, 2, 3, 4, 5}},
-        {{3, 4, 1, true}, {}, false, {3, 4}},
         {{4, 9, 1, true}, {}, false, {4, 5}},
         {{2, 5, 1, true}, {2, 5, 9}, false, {2, 5}},
         {{1, 3, 1, true}, {}, true, {3, 2, 1}},
         {{1, 2, 2, true}, {}, false, {1, 2, 1, 2}},
         {{1, 2, 2, false}, {}, false, {1, 1, 2, 2}},
-        {{0, 0, 1, true}, {6}, false, {}},
         {{6, 9, 1, true}, {}, false, {}},
     };
     source = sourceOf(4 * 49 + 10);
@@ -191,10 +156,8 @@ TEST_F(PageLayout, ARunPrintsTheChosenPagesAsOneJob)
         } catch (const PrinterError &error) {
             EXPECT_EQ(error.text(), "None of these pages exists. The last page is 5.");
         }
-        EXPECT_EQ(printer.pageNumbers(), numbers);
-        EXPECT_EQ(told, numbers);
+        EXPECT_TRUE(printer.pageNumbers() == numbers && told == numbers);
         EXPECT_EQ(printer.jobs, numbers.empty() ? 0 : 1);
-        EXPECT_EQ(printer.killed, 0);
     }
 }
 
