@@ -83,11 +83,11 @@ TEST_F(CommDlg, PrintOffersWhatTheFlagsAllowAndTellsWhatWasChosen)
         dialogs.pages = PrintChoice{3, 4, 5, bool(chosen & 2), bool(chosen & 1), bool(chosen & 4)};
         dialog.setAction(clsCommDlg::ActionPrint);
         EXPECT_EQ(dialog.flags & 0x100013, 0x100000 | bits);
-        EXPECT_EQ((QList<int>{dialog.Copies, dialog.FromPage, dialog.ToPage}), (QList<int>{3, 4, 5}));
         const PrintRequest &asked = dialogs.print;
-        EXPECT_EQ((QList<int>{asked.minPage, asked.fromPage, asked.toPage, asked.maxPage}), (QList<int>{2, 2, 9, 9}));
-        EXPECT_EQ((QList<bool>{asked.offerSelection, asked.offerPageNumbers, asked.pageNumbers, asked.collate}),
-                  (QList<bool>{!(chosen & 1), !(chosen & 2), !(chosen & 2), !(chosen & 4)}));
+        EXPECT_EQ(
+            (QList<int>{dialog.Copies, dialog.FromPage, dialog.ToPage, asked.minPage, asked.fromPage, asked.toPage,
+                        asked.maxPage, asked.offerSelection, asked.offerPageNumbers, asked.pageNumbers, asked.collate}),
+            (QList<int>{3, 4, 5, 2, 2, 9, 9, !(chosen & 1), !(chosen & 2), !(chosen & 2), !(chosen & 4)}));
     }
     EXPECT_THROW(dialog.setAction(clsCommDlg::ActionHelp), CommDlgError);
 }
