@@ -210,8 +210,9 @@ void frmProgress::exportTable()
 void frmProgress::forget(Forgotten what)
 {
     const std::vector<WordKey> gone = what == Selected ? selectedKeys() : keys();
-    const bool one = gone.size() == 1 && what != Everything;
-    const QString question = one ? resText(14376 + what) : resText(14431 + what).arg(gone.size());
+    const QString question = what == Everything ? resText(14433)
+                             : gone.size() == 1 ? resText(14376 + what)
+                                                : resText(14431 + what).arg(gone.size());
     if (m_needs.alert.show(this, {.prompt = question, .buttons = Alert::YesNo}) != AlertBox::AnswerYes)
         return;
     if (what == Everything)
