@@ -189,12 +189,9 @@ void BarChart::paintBars(QPainter &painter) const
         if (bar.value > 0 && shape.height() < 1)
             shape.setTop(shape.bottom() - 1); // one word among thousands shows too
         painter.fillRect(shape, palette().color(QPalette::Highlight));
-        if (i == m_current) {
-            painter.setPen(palette().color(QPalette::WindowText));
+        if (i == m_current)
             painter.drawRect(QRectF(room.left(), area.top(), room.width() - 1, area.height()));
-        }
     }
-    painter.setPen(palette().color(QPalette::WindowText));
     painter.drawLine(area.bottomLeft(), area.bottomRight());
     paintTextsBelow(painter);
 }

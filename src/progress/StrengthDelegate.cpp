@@ -1,6 +1,7 @@
 #include "progress/StrengthDelegate.h"
 
-#include <QApplication>
+#include <QStyle>
+#include <QWidget>
 
 void StrengthDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
@@ -8,8 +9,7 @@ void StrengthDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
     QStyleOptionViewItem item = option;
     initStyleOption(&item, index);
     item.text.clear();
-    const QStyle *style = item.widget ? item.widget->style() : QApplication::style();
-    style->drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
+    item.widget->style()->drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
     const int strength = index.data(Qt::UserRole).toInt();
     if (strength == 0)
         return;

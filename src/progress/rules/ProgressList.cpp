@@ -76,19 +76,11 @@ std::vector<int> ProgressList::dueByDay(int days) const
 
 double ProgressList::value(Number number, const ProgressWord &word) const
 {
-    switch (number) {
-    case Asked:
-        return word.card.asked;
-    case Right:
-        return word.card.asked - word.card.missed;
-    case Last:
-        return word.card.last;
-    case NextDue:
-        return Schedule::isDue(word.card, m_today) ? std::min(word.card.due, m_today) : word.card.due;
-    case Strength:
-        return word.card.stability;
-    }
-    return 0;
+    const Card &card = word.card;
+    const int due = Schedule::isDue(card, m_today) ? std::min(card.due, m_today) : card.due;
+    const std::array values = {double(card.asked), double(card.asked - card.missed), double(card.last), double(due),
+                               card.stability};
+    return values[number];
 }
 
 std::vector<int> ProgressList::orderedBy(Number number, bool descending) const
