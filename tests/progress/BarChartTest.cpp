@@ -1,71 +1,91 @@
 #include "progress/BarChart.h"
 
+#include "support/Pixels.h"
+
 struct BarChartTest : ::testing::Test
 {
     BarChartTest()
     {
-        chart.setBars("Words", {{"one", 3000, "1"}, {"two", 0, {}}, {"three", 6000, {}}, {"four", 1, {}}});
-        chart.resize(Width, 160);
-        window.resize(Width, 200);
+        chart.setPalette(QPalette(Qt::darkRed)); // on which lines are white
+        setBars(" ");
         window.show();
-        window.activateWindow();
+        QApplication::setActiveWindow(&window);
     }
-    /// Left edge, width and height of every bar on the picture.
-    std::vector<QList<int>> bars()
+    void setBars(const QString &one, const QString &two = {}, const QString &four = {})
     {
+        chart.setBars(title, {{"one", 3000, one}, {"two", 0, two}, {"three", 6000, {}}, {"four", 1, four}});
+        chart.resize(300, 3 * line + 108);
+    }
+    /// Where something else begins along a row of the picture, counted from the head of the bars: # a bar, | a line, .
+    /// neither.
+    std::string along(int row)
+    {
+        const QHash<QRgb, QChar> signs{{chart.palette().highlight().color().rgb(), '#'}, {0xFFFFFFFF, '|'}};
         const QImage image = chart.grab().toImage();
-        const QRgb colour = chart.palette().color(QPalette::Highlight).rgb();
-        std::vector<QList<int>> found;
-        for (int x = 0, before = 0; x < image.width(); ++x) {
-            int height = 0;
-            for (int y = 0; y < image.height(); ++y)
-                height += image.pixel(x, y) == colour ? 1 : 0;
-            if (height > 0 && before == 0)
-                found.push_back({x, 0, height});
-            if (height > 0)
-                ++found.back()[1];
-            before = height;
+        QString told;
+        for (int x = 0; x < 300; ++x) {
+            if (const QChar sign = signs.value(image.pixel(x, 2 * line + 4 + row), '.'); !told.endsWith(sign))
+                told += QString(" %1").arg(x) + sign;
         }
-        return found;
+        return told.toStdString();
     }
-    QString press(Qt::Key key)
+    /// How much further than this text the writing goes that begins at this height of the picture.
+    int beyond(const char *words, int top)
     {
-        QTest::keyClick(&chart, key);
-        return chart.accessibleDescription();
+        const QRect ink = inkOf(chart.grab().toImage().copy(0, top, 300, line), Qt::darkRed);
+        return ink.right() - chart.fontMetrics().horizontalAdvance(words);
     }
 
-    static constexpr int Width = 300;
+    const char *const title = "All the words of the vocabulary", *const text = "a text that is wider than half of it";
     QWidget window;
     BarChart chart{&window};
+    const int line = chart.fontMetrics().height();
 };
 
-TEST_F(BarChartTest, BarsAreAsHighAsTheirNumbersInTheOrderOfReading)
+TEST_F(BarChartTest, ShowsItsNumbersInTheOrderOfReadingAndNamesThemForKeysAndPointer)
 {
-    const std::vector<QList<int>> shown = bars();
-    const int highest = shown.at(1)[2];
-    EXPECT_EQ(shown, (std::vector<QList<int>>{{10, 48, highest / 2}, {130, 48, highest}, {190, 48, 1}}));
+    chart.clearFocus();
+    const char *const three = " 0. 10# 58. 130# 178. 190# 238.", *const two = " 0. 10# 58. 130# 178.";
+    for (const auto &[row, shown] :
+         {std::pair(-1, " 0."), {0, " 0. 130# 178."}, {50, two}, {98, two}, {99, three}, {100, " 0. 4| 297."}})
+        EXPECT_EQ(along(row), shown) << row;
+    EXPECT_GT(beyond(title, 0), 4 + 3) << "in bold";
+    EXPECT_NEAR(beyond("Highest: 6,000", line), 4, 2);
     chart.setLayoutDirection(Qt::RightToLeft);
-    EXPECT_EQ(bars(), (std::vector<QList<int>>{{62, 48, 1}, {122, 48, highest}, {242, 48, highest / 2}}));
-    EXPECT_EQ(chart.asText(), "Words\none: 3,000\ntwo: 0\nthree: 6,000\nfour: 1");
-}
-
-TEST_F(BarChartTest, KeysAndPointerNameABar)
-{
-    const QString all = chart.asText().section('\n', 1);
-    EXPECT_EQ(chart.accessibleDescription(), all);
-    chart.setFocus();
-    const std::pair<Qt::Key, const char *> keys[] = {{Qt::Key_Left, "one: 3,000"},    {Qt::Key_Right, "two: 0"},
-                                                     {Qt::Key_Right, "three: 6,000"}, {Qt::Key_End, "four: 1"},
-                                                     {Qt::Key_Right, "four: 1"},      {Qt::Key_Home, "one: 3,000"}};
-    for (const auto &[key, name] : keys)
-        EXPECT_EQ(press(key), name);
-    chart.setLayoutDirection(Qt::RightToLeft);
-    EXPECT_EQ(press(Qt::Key_Left), "two: 0");
+    EXPECT_EQ(along(99), " 0. 62# 110. 122# 170. 242# 290.");
+    setBars(text, text);
+    QTest::keyClick(&chart, Qt::Key_Home);
+    EXPECT_EQ(along(99), " 0. 11# 70. 84# 143. 223| 224. 230# 289. 295| 296.");
     chart.setLayoutDirection(Qt::LeftToRight);
-    const std::pair<int, QString> places[] = {
-        {5, "one: 3,000"}, {63, "one: 3,000"}, {64, "two: 0"}, {260, all}, {2, all}};
-    for (const auto &[x, name] : places) {
-        QTest::mouseMove(&chart, QPoint(x, 80));
-        EXPECT_EQ(chart.accessibleDescription(), name) << x;
+    EXPECT_EQ(along(99), " 0. 4| 5. 11# 70. 76| 77. 157# 216. 230# 289.");
+    EXPECT_NEAR(beyond("one: 3,000", line), 4, 2);
+    EXPECT_NEAR(beyond(text, 2 * line + 105), 0, 2);
+    setBars({}, {}, text);
+    EXPECT_NEAR(beyond("", 2 * line + 105), 300, 2);
+    setBars({});
+    EXPECT_EQ(along(99), three);
+    EXPECT_EQ(chart.minimumSizeHint() + chart.sizeHint(), QSize(280, 6 * line + 146));
+    EXPECT_EQ(chart.asText().toStdString(), title + std::string("\none: 3,000\ntwo: 0\nthree: 6,000\nfour: 1"));
+    chart.setFocus();
+    // keys, and places of the pointer
+    for (const auto &[direction, steps] :
+         {std::pair(Qt::LeftToRight, "A one, Left one, Right two, Right three, End four, Right four, 5 one, 63 one, "
+                                     "64 two, 260 all, 2 all, Home one"),
+          {Qt::RightToLeft, "Left two, 294 one, 2 all, Right one, Left two"}}) {
+        chart.setLayoutDirection(direction);
+        for (const QString &step : QString(steps).split(", ")) {
+            const QString act = step.section(' ', 0, 0);
+            act.toInt() ? QTest::mouseMove(&chart, {act.toInt(), 80}) : QTest::keySequence(&chart, QKeySequence(act));
+            const QString told = chart.accessibleDescription();
+            EXPECT_EQ(told.contains('\n') ? "all" : told.section(':', 0, 0), step.section(' ', 1))
+                << step.toStdString();
+        }
     }
+    setBars({});
+    EXPECT_EQ(chart.accessibleDescription(), "two: 0") << "still has the focus";
+    chart.clearFocus();
+    chart.setBars("None", {});
+    chart.setFocus();
+    QTest::keyClick(&chart, Qt::Key_Left);
+    EXPECT_EQ(chart.accessibleDescription(), "");
 }

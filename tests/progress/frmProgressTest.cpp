@@ -2,12 +2,10 @@
 
 #include "memory/StoredMemory.h"
 #include "support/OpenDocument.h"
+#include "support/Pixels.h"
 #include "support/ScriptedAlertBox.h"
 
-namespace {
-
-constexpr int BackwardsInOrder = 2; // quiz mode
-
+/// Opened with the quiz mode "backwards in order".
 struct Progress : ::testing::Test, OpenDocument
 {
     Progress()
@@ -16,102 +14,75 @@ struct Progress : ::testing::Test, OpenDocument
         for (const bool right : {true, false})
             memory.remember({WordKey::of("cat", "Katze"), Answer::Kind::Practice, right, false, 1});
         memory.remember({WordKey::of("Vogel", "bird"), Answer::Kind::Practice, true, false, 1});
-    }
-    std::unique_ptr<frmProgress> open(int mode = 1)
-    {
-        const auto askFile = [this](QWidget *, const QString &) { return file; };
-        auto dialog =
-            std::make_unique<frmProgress>(document, mode, frmProgress::Needs{memory, alert, askFile}, &window);
+        const frmProgress::Needs needs{memory, alert, [this](QWidget *, const QString &) { return file; }};
+        dialog = std::make_unique<frmProgress>(document, 2, needs, &window);
         dialog->show();
-        return dialog;
+        table = dialog->findChild<QTreeView *>();
     }
-    static QStringList lines(const frmProgress &dialog)
+    std::string lines() const
     {
-        const QAbstractItemModel &model = *dialog.findChild<QTreeView *>()->model();
-        QStringList lines;
-        for (int row = 0; row < model.rowCount(); ++row) {
-            QStringList cells;
-            for (int column = 0; column < model.columnCount(); ++column)
-                cells += model.index(row, column).data().toString();
-            lines += cells.join(u' ').trimmed();
-        }
-        return lines;
+        QString lines;
+        for (int row = 0; row < table->model()->rowCount(); ++row, lines += ",")
+            for (int column = 0; column < table->model()->columnCount(); ++column)
+                lines += ' ' + table->model()->index(row, column).data().toString();
+        return lines.simplified().toStdString();
     }
-    static void choose(frmProgress &dialog, int entry) { dialog.findChild<QMenu *>()->actions().at(entry)->trigger(); }
+    void click(const char *button) const { dialog->findChild<QAbstractButton *>(button)->click(); }
 
     QTemporaryDir folder;
     QString file = folder.filePath("table.csv");
     StoredMemory memory{folder.filePath("memory.sqlite"), [] { return QDateTime(QDate(2026, 11, 25), QTime(12, 0)); }};
     ScriptedAlertBox alert;
+    std::unique_ptr<frmProgress> dialog;
+    QTreeView *table;
 };
 
-} // namespace
-
-TEST_F(Progress, ShowsTheWordsInTheDirectionThatIsChosen)
+TEST_F(Progress, ShowsTheWordsInTheDirectionThatIsChosenExportsThemAndLeadsToOne)
 {
-    const auto dialog = open();
-    EXPECT_EQ(lines(*dialog).join(", ").toStdString(),
-              "dog Hund 0, cat Katze 2 1 25 Nov 2026 26 Nov 2026 10 %, bird Vogel 0");
-    dialog->findChild<QComboBox *>()->setCurrentIndex(1);
-    EXPECT_EQ(lines(*dialog).join(", ").toStdString(),
-              "Hund dog 0, Katze cat 0, Vogel bird 1 1 25 Nov 2026 27 Nov 2026 20 %");
-    EXPECT_EQ(lines(*open(BackwardsInOrder)), lines(*dialog));
-    dialog->findChild<QTreeView *>()->sortByColumn(ProgressModel::Asked, Qt::DescendingOrder);
-    EXPECT_TRUE(lines(*dialog).first().startsWith("Vogel bird 1 1 "));
-    const auto *numbers = dialog->findChild<QWidget *>("chtAnswers");
-    EXPECT_TRUE(numbers->accessibleDescription().endsWith(": 1"));
-}
-
-TEST_F(Progress, LeadsToAWordOfTheVocabulary)
-{
-    const auto dialog = open();
-    auto *table = dialog->findChild<QTreeView *>();
-    table->sortByColumn(ProgressModel::Word, Qt::DescendingOrder);
-    QTest::keyClick(table, Qt::Key_End);
-    QTest::mouseClick(dialog->findChild<QPushButton *>("btnSelect"), Qt::LeftButton);
-    EXPECT_FALSE(dialog->isVisible());
-    EXPECT_EQ(dialog->chosenRow(), 4);
+    EXPECT_EQ(lines(), "Hund dog 0 , Katze cat 0 , Vogel bird 1 1 25 Nov 2026 27 Nov 2026 20 %,");
+    click("chkNumbers");
+    const auto *numbers = dialog->findChild<QPlainTextEdit *>();
+    EXPECT_EQ(numbers->toPlainText().split('\n').filter(QRegularExpression(": [1-9]")).join(", ").toStdString(),
+              "New: 2, Learning: 1, 27 Nov 2026: 1, 25 Nov 2026: 1");
+    auto *direction = dialog->findChild<QComboBox *>();
+    direction->setCurrentIndex(0);
+    EXPECT_EQ(direction->currentText() + direction->itemText(1), "Language 1 to Language 2Language 2 to Language 1");
+    EXPECT_EQ(lines(), "dog Hund 0 , cat Katze 2 1 25 Nov 2026 26 Nov 2026 10 %, bird Vogel 0 ,");
+    EXPECT_EQ(table->model()->index(0, ProgressModel::Last).data(Qt::AccessibleTextRole), "none");
+    EXPECT_TRUE(numbers->isVisible() && !table->model()->data({}).isValid() &&
+                !table->model()->headerData(0, Qt::Vertical).isValid());
+    EXPECT_NEAR(table->columnWidth(0), table->columnWidth(1), 2);
+    const QRect strength = table->visualRect(table->model()->index(1, ProgressModel::Strength));
+    const QImage left = table->viewport()->grab(strength).toImage().copy(0, 6, strength.width() / 2, 1);
+    EXPECT_EQ(inkOf(left, left.pixelColor(0, 0)), QRect(4, 0, (strength.width() - 8) / 10, 1));
+    table->setCurrentIndex(table->model()->index(1, 0));
+    table->sortByColumn(ProgressModel::Word, Qt::AscendingOrder);
+    click("btnExport");
+    EXPECT_EQ(readFile(file).replace('"', '\'').toStdString(),
+              "\xEF\xBB\xBF'Word','Answer','Asked','Right','Last','Due','Strength'\r\n'bird','Vogel','0','0','','','0'"
+              "\r\n'cat','Katze','2','1','2026-11-25','2026-11-26','10'\r\n'dog','Hund','0','0','','','0'\r\n");
+    file = folder.filePath("no/table.csv");
+    click("btnExport");
+    table->sortByColumn(ProgressModel::Right, Qt::DescendingOrder);
+    EXPECT_EQ(lines(), "cat Katze 2 1 25 Nov 2026 26 Nov 2026 10 %, dog Hund 0 , bird Vogel 0 ,");
+    click("btnSelect");
+    EXPECT_TRUE(!dialog->isVisible() && dialog->chosenRow() == 2 && alert.shown.size() == 1);
 }
 
 TEST_F(Progress, ForgetsOnlyAfterAsking)
 {
-    enum { Selected, All, Everything };
-    const auto dialog = open();
-    const QStringList before = lines(*dialog);
-    auto *table = dialog->findChild<QTreeView *>();
-    table->setCurrentIndex(table->model()->index(1, 0));
-    alert.answers = {AlertBox::AnswerNo, AlertBox::AnswerYes};
-    choose(*dialog, Selected);
-    memory.finish();
-    EXPECT_EQ(lines(*dialog), before);
-    choose(*dialog, Selected);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return lines(*dialog)[1] == "cat Katze 0"; }));
-    EXPECT_EQ(memory.cards({WordKey::of("Vogel", "bird")})[0].asked, 1);
-    alert.answers = {AlertBox::AnswerYes};
-    choose(*dialog, Everything);
-    memory.finish();
-    EXPECT_EQ(memory.cards({WordKey::of("Vogel", "bird")})[0].asked, 0);
-}
-
-TEST_F(Progress, ExportsItsTable)
-{
-    const auto dialog = open();
-    auto *button = dialog->findChild<QPushButton *>("btnExport");
-    QTest::mouseClick(button, Qt::LeftButton);
-    EXPECT_TRUE(readFile(file).contains("\"cat\",\"Katze\",\"2\",\"1\",\"2026-11-25\""));
-    file = folder.filePath("no/table.csv");
-    alert.answers = {AlertBox::AnswerOk};
-    QTest::mouseClick(button, Qt::LeftButton);
-    EXPECT_EQ(alert.shown.size(), 1U);
-}
-
-TEST_F(Progress, IsQuickWithManyWords)
-{
-    Words many;
-    for (int i = 0; i < 32767; ++i)
-        many.push_back({QString::number(i), QString::number(-i)});
-    setWords(many);
-    const auto dialog = open();
-    EXPECT_EQ(dialog->findChild<QTreeView *>()->model()->rowCount(), 32767);
-    EXPECT_LT(dialog->findChildren<QWidget *>().size(), 100);
+    table->setCurrentIndex(table->model()->index(2, 0));
+    alert.answers = {AlertBox::AnswerNo, AlertBox::AnswerYes, AlertBox::AnswerYes};
+    std::string kept;
+    for (const int entry : {0, 0, 2}) {
+        QAction *forget = dialog->findChild<QMenu *>()->actions().at(entry);
+        forget->trigger();
+        memory.finish();
+        for (const Card &card : memory.cards({WordKey::of("cat", "Katze"), WordKey::of("Vogel", "bird")}))
+            kept += std::to_string(card.asked);
+        kept += ' ' + (forget->text() + alert.shown.back().prompt.section(' ', 2)).toStdString() + '\n';
+    }
+    EXPECT_EQ(kept, "21 &Selected Words...answers to the selected word?\n20 &Selected Words...answers to the selected "
+                    "word?\n00 &Everything...answers that were ever given, to this and to every other vocabulary?\n");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return lines() == "Hund dog 0 , Katze cat 0 , Vogel bird 0 ,"; }));
 }
