@@ -1,43 +1,45 @@
 #include "resources/Pictures.h"
-#include "resources/ResourceFiles.h"
+#include "support/Pixels.h"
 
-namespace {
-
-/// The colours that cover pixels of the image wholly.
-QSet<QRgb> colours(const QImage &image)
+/// The colours that cover pixels of a picture wholly.
+static QSet<QRgb> colours(const QImage &image)
 {
-    QSet<QRgb> found;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (qAlpha(image.pixel(x, y)) == 255)
-                found.insert(image.pixel(x, y));
+    const auto *pixels = reinterpret_cast<const QRgb *>(image.constBits());
+    QSet<QRgb> found(pixels, pixels + image.width() * image.height());
+    found.removeIf([](QRgb colour) { return qAlpha(colour) < 255; });
     return found;
 }
 
 TEST(Pictures, EveryNumberHasItsOwnInTheGivenColoursAndOthersHaveNone)
 {
-    const QColor line(Qt::black), accent(Qt::red);
     QList<QImage> drawn;
     for (int number = PictureNew; number <= PictureSpeak; ++number) {
-        drawn.append(drawPicture(number, 96, line, accent));
+        drawn.append(drawPicture(number, 96, Qt::black, Qt::red));
         EXPECT_EQ(drawn.indexOf(drawn.last()), number - 1);
-        const QSet<QRgb> used = colours(drawn.last());
-        EXPECT_FALSE(used.isEmpty()) << "picture " << number;
-        if (number >= PictureRight)
-            continue; // these have colours of their own
-        EXPECT_TRUE(used.contains(line.rgb()) && used.contains(accent.rgb())) << "picture " << number;
-        for (const QRgb colour : used)
-            EXPECT_TRUE(qGreen(colour) == 0 && qBlue(colour) == 0) << "picture " << number;
+        const QSet<QRgb> white = colours(drawPicture(number, 96, Qt::white, Qt::white));
+        EXPECT_TRUE(number >= PictureRight // which have colours of their own
+                        ? !white.isEmpty()
+                        : white == QSet<QRgb>{0xFFFFFFFF} && colours(drawn.last()).contains({0xFF000000, 0xFFFF0000}));
     }
+    EXPECT_EQ(inkOf(drawn[PictureMaximize - 1], Qt::transparent), QRect(8, 12, 80, 72));
     for (const int number : {0, -1, PictureSpeak + 1})
-        EXPECT_TRUE(colours(drawPicture(number, 24, line, accent)).isEmpty());
+        EXPECT_TRUE(picture(number).isNull() && colours(drawPicture(number, 96, Qt::black, Qt::red)).isEmpty());
 }
 
-TEST(Resources, ErrorSoundIsPlainPcm)
+TEST(Pictures, IconsFollowThePaletteAndTheDirectionOfReading)
 {
-    const QByteArray sound = ResourceFiles::contents(ResourceFiles::ErrorSound);
-    ASSERT_GT(sound.size(), 44);
-    EXPECT_EQ(sound.first(4) + sound.mid(8, 8) + sound.mid(20, 4), QByteArray("RIFFWAVEfmt \1\0\1\0", 16));
+    QPalette palette;
+    palette.setColor(QPalette::WindowText, 0x312010U);
+    palette.setColor(QPalette::HighlightedText, Qt::yellow);
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, Qt::gray);
+    QGuiApplication::setPalette(palette);
+    const std::tuple<int, Qt::LayoutDirection, QIcon::Mode, int, QColor, QColor> cases[] = {
+        {PictureNext, Qt::LeftToRight, QIcon::Normal, PictureNext, 0x312010U, 0x2F86E0U},
+        {PictureNext, Qt::RightToLeft, QIcon::Active, PicturePrevious, 0x312010U, 0x305378U},
+        {PicturePrevious, Qt::RightToLeft, QIcon::Disabled, PictureNext, Qt::gray, Qt::gray},
+        {PictureNew, Qt::RightToLeft, QIcon::Selected, PictureNew, Qt::yellow, Qt::yellow}};
+    for (const auto &[number, direction, mode, shown, line, accent] : cases) {
+        QGuiApplication::setLayoutDirection(direction);
+        EXPECT_EQ(picture(number).pixmap(96, mode).toImage(), drawPicture(shown, 96, line, accent)) << mode;
+    }
 }
-
-} // namespace
