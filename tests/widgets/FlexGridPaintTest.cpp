@@ -2,7 +2,6 @@
 
 #include "services/desktop/Contrast.h"
 #include "support/Pixels.h"
-#include "widgets/grid/FlexGridCellText.h"
 #include "widgets/grid/FlexGridColours.h"
 #include "widgets/grid/FlexGridView.h"
 
@@ -23,12 +22,11 @@ struct PaintedGrid : ::testing::Test
     }
 
     QImage image(int row, int col) { return grid.grab(grid.hwndGrid()->cellRect(row, col)).toImage(); }
-    /// The first and last column of a cell's picture in which something other than its ground is drawn.
-    std::pair<int, int> inkOf(int row, int col)
+    /// The part of a cell's picture in which something other than its ground is drawn.
+    QRect inkOf(int row, int col)
     {
         const QImage cell = image(row, col);
-        const QRect ink = ::inkOf(cell.copy(cell.rect().adjusted(1, 1, -2, -2)), cell.pixelColor(1, 1));
-        return {ink.isEmpty() ? cell.width() : ink.left() + 1, ink.isEmpty() ? -1 : ink.right() + 1};
+        return ::inkOf(cell.copy(1, 1, cell.width() - 3, cell.height() - 3), cell.pixelColor(1, 1)).translated(1, 1);
     }
 
     FlexGrid grid;
@@ -42,9 +40,8 @@ TEST_F(PaintedGrid, TextsStandWhereTheirReadersLook)
     for (const auto &[text, alignment, left] : cases) {
         grid.setTextMatrix(1, 1, text);
         grid.setColAlignment(1, alignment);
-        const auto [first, last] = inkOf(1, 1);
-        EXPECT_EQ(first < 8, left) << text;
-        EXPECT_EQ(last > 90, !left) << text;
+        EXPECT_EQ(inkOf(1, 1).left() < 8, left) << text;
+        EXPECT_EQ(inkOf(1, 1).right() > 90, !left) << text;
     }
 }
 
@@ -55,19 +52,15 @@ TEST_F(PaintedGrid, RaisedAndInsetTextsThrowLight)
     grid.setPalette(palette);
     grid.setTextMatrix(1, 1, "HE");
     const QImage flat = image(1, 1);
-    const QRect letters =
-        ::inkOf(flat.copy(1, 1, flat.width() - 3, flat.height() - 3), flat.pixelColor(1, 1)).translated(1, 1);
-    QList<int> light;
+    const QRect letters = inkOf(1, 1);
     for (const int style : {1, 2, 3, 4}) {
         grid.setTextStyle(style);
-        const QImage styled = image(1, 1);
         const int step = style % 2 ? -1 : 1;
-        EXPECT_EQ(difference(styled, flat) | letters, letters | letters.translated(step, step)) << style;
-        light.append(0);
-        for (int i = 0; i < styled.width() * styled.height(); ++i)
-            light.last() += 255 - styled.pixelColor(i % styled.width(), i / styled.width()).green();
+        EXPECT_EQ(difference(image(1, 1), flat) | letters, letters | letters.translated(step, step)) << style;
+        const QColor light =
+            image(1, 1).pixelColor(step < 0 ? letters.topLeft() - QPoint(1, 1) : letters.bottomRight() + QPoint(1, 1));
+        EXPECT_NEAR(light.green(), style < 3 ? 0 : 127, 60) << "less of it";
     }
-    EXPECT_TRUE(light[2] < light[0] && light[3] < light[1]) << "less of it";
 }
 
 TEST_F(PaintedGrid, RowNumbersAreShownWhole)
@@ -89,39 +82,49 @@ TEST_F(PaintedGrid, RowNumbersAreShownWhole)
 
 TEST_F(PaintedGrid, FirstLinesAreShownWhenNotAllFit)
 {
-    const QFontMetricsF metrics(grid.Font());
-    const FlexGridCellText::Setting setting{"one two three four five six", grid.Font(),
-                                            Qt::AlignLeft | Qt::AlignVCenter, true};
-    const double width = metrics.horizontalAdvance("three four");
-    EXPECT_NEAR(FlexGridCellText::heightFor(width, setting) / metrics.height(), 3, 0.5);
-    QImage lines(200, int(std::ceil(metrics.height() * 1.6)), QImage::Format_RGB32);
-    lines.fill(Qt::white);
-    QPainter painter(&lines);
-    FlexGridCellText::draw(painter, QRectF(0, 0, width, lines.height()), setting);
-    painter.end();
-    const int half = lines.height() - int(metrics.height() / 4);
-    for (int x = 0; x < lines.width(); ++x)
-        EXPECT_EQ(lines.pixelColor(x, half), QColor(Qt::white)) << "no half line below the first";
+    const double line = QFontMetricsF(grid.Font()).height();
+    grid.setWordWrap(true);
+    grid.setTextMatrix(1, 1, "one two three four five six seven eight");
+    EXPECT_NEAR(grid.fittingRowHeight(1) / 15, 3 * line + 2, 2);
+    grid.setRowHeight(1, int(line * 1.6 * 15));
+    EXPECT_LT(inkOf(1, 1).height(), line) << "no half line below the first";
 }
 
-TEST_F(PaintedGrid, OnlyTextsThatAreCutShowAllOfThemselvesAsToolTip)
+TEST_F(PaintedGrid, TextsAreCutAtEverySizeWhereTheyAreAtTheNormalOneAndShowAllOfThemselvesAsToolTip)
 {
-    const QString longText = QStringLiteral("<b> & more ").repeated(9);
+    const QFontMetricsF metrics(grid.Font());
+    grid.resize(500, 300);
+    grid.setRows(9);
+    grid.setRowHeight(-1, 300);
     grid.setWordWrap(true);
-    grid.setTextMatrix(1, 1, longText);
-    grid.setTextMatrix(1, 2, "short");
-    grid.setTextMatrix(2, 1, "three four five six seven");
-    const auto toolTip = [this](int row, int col) {
-        const QPoint at = grid.hwndGrid()->cellRect(row, col).center();
-        QHelpEvent ask(QEvent::ToolTip, at, grid.hwndGrid()->viewport()->mapToGlobal(at));
-        QCoreApplication::sendEvent(grid.hwndGrid()->viewport(), &ask);
-        return QToolTip::text();
-    };
-    EXPECT_EQ(toolTip(1, 2), "");
-    EXPECT_EQ(toolTip(2, 1), "") << "on two lines";
-    EXPECT_EQ(toolTip(1, 1), "<p dir='ltr'>" + longText.toHtmlEscaped() + "</p>");
-    grid.setWordWrap(false);
-    EXPECT_EQ(toolTip(2, 1), "<p dir='ltr'>three four five six seven</p>");
+    QString word;
+    for (int row = 1; row < 9; ++row, word += "il") // what just fits
+        grid.setTextMatrix(
+            row, 1, word + QString(int((93 - metrics.horizontalAdvance(word)) / metrics.horizontalAdvance("m")), 'm'));
+    const QString cut = "<b> & two three four five six seven";
+    grid.setTextMatrix(2, 1, cut);
+    grid.setTextMatrix(4, 1, "one two three");
+    grid.setRowHeight(4, grid.fittingRowHeight(4));
+    const int fitting = grid.fittingRowHeight(2);
+    for (const int percent : {100, 50, 60, 70, 80, 90, 110, 125, 175, 200, 250, 300, 400}) {
+        grid.setZoom(percent);
+        EXPECT_EQ(grid.fittingRowHeight(2), fitting) << percent;
+        for (int row = 1; row < 9; ++row) {
+            grid.setTopRow(row);
+            const QPoint at = grid.hwndGrid()->cellRect(row, 1).topLeft() + QPoint(2, 2);
+            QHelpEvent asked(QEvent::ToolTip, at, grid.hwndGrid()->viewport()->mapToGlobal(at));
+            QEvent newWindow(QEvent::WindowActivate); // before which a tool tip goes at once
+            QCoreApplication::sendEvent(&grid, &newWindow);
+            QCoreApplication::sendEvent(grid.hwndGrid()->viewport(), &asked);
+            const QString style =
+                percent == 100
+                    ? ""
+                    : QString(" style='font-size:%1pt'").arg(QFontInfo(QToolTip::font()).pointSizeF() * percent / 100);
+            EXPECT_EQ(QToolTip::isVisible() ? QToolTip::text() : "",
+                      row == 2 ? "<p dir='ltr'" + style + ">" + cut.toHtmlEscaped() + "</p>" : "")
+                << row;
+        }
+    }
 }
 
 /// Grids of two by two small cells without letters, drawn with a sign for each colour: w b cells, f fixed ones, s

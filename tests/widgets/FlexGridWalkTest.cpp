@@ -26,11 +26,13 @@ struct PlainGrid
     GridSelection selection{1, 1, 1, 1};
     bool numbers = false;
     bool fill = false;
+    int zoom = 100;
+    bool mirrored = false;
 
     bool operator==(const PlainGrid &) const = default;
     static PlainGrid of(const FlexGrid &grid, bool numbers)
     {
-        PlainGrid plain{{}, {}, grid.selection(), numbers, bool(grid.FillStyle())};
+        PlainGrid plain{{}, {}, grid.selection(), numbers, bool(grid.FillStyle()), grid.Zoom(), grid.RightToLeft()};
         for (int col = 0; col < grid.Cols(); ++col)
             plain.cols.append({grid.ColWidth(col), grid.ColAlignment(col), grid.ColData(col)});
         for (int row = 0; row < grid.Rows(); ++row) {
@@ -183,37 +185,25 @@ struct PlainGrid
         });
     }
     void setFillStyle(int style) { fill = style; }
+    void setRightToLeft(bool rightToLeft) { mirrored = rightToLeft; }
     void setRowHeight(int row, int height)
     {
-        for (int i = 0; i < Rows(); ++i) {
-            if (row < 0 || i == row)
-                rows[i].height = height < 0 ? 285 : height;
-        }
+        for (int i = 0; i < Rows(); ++i)
+            rows[i].height = row >= 0 && i != row ? rows[i].height : height < 0 ? 285 : height;
     }
     void setMergeRow(int row, bool merge)
     {
         if (has(row, 0))
             rows[row].merge = merge;
     }
-    void forCols(int col, const std::function<void(Col &)> &change)
+    void setOf(int col, int Col::*what, int value)
     {
-        for (int i = 0; i < Cols(); ++i) {
-            if (col < 0 || i == col)
-                change(cols[i]);
-        }
+        for (int i = 0; i < Cols(); ++i)
+            cols[i].*what = col < 0 || i == col ? value : cols[i].*what;
     }
-    void setColWidth(int col, int width)
-    {
-        forCols(col, [width](Col &each) { each.width = width < 0 ? 960 : width; });
-    }
-    void setColAlignment(int col, int to)
-    {
-        forCols(col, [to](Col &each) { each.alignment = std::clamp(to, 0, 9); });
-    }
-    void setColData(int col, int data)
-    {
-        forCols(col, [data](Col &each) { each.data = data; });
-    }
+    void setColWidth(int col, int width) { setOf(col, &Col::width, width < 0 ? 960 : width); }
+    void setColAlignment(int col, int to) { setOf(col, &Col::alignment, std::clamp(to, 0, 9)); }
+    void setColData(int col, int data) { setOf(col, &Col::data, data); }
 
     Row emptyRow() const { return {QStringList(Cols()), QList<int>(Cols())}; }
 };
@@ -246,6 +236,7 @@ template <typename Grid> std::vector<std::function<void(const Step &)>> stepsOf(
         [&](const Step &) { answers += grid.Clip(); },
         [&](const Step &s) { grid.setFillStyle(s.count % 2); },
         [&](const Step &s) { grid.setCellForeColor(s.size); },
+        [&](const Step &s) { grid.setRightToLeft(s.count % 2); },
         [&](const Step &s) { grid.setRowHeight(s.row, s.size); },
         [&](const Step &s) { grid.setMergeRow(s.row, s.count); },
         [&](const Step &s) { grid.setColWidth(s.col, std::min(s.size, 2250)); },
@@ -265,8 +256,10 @@ void expectInView(const FlexGrid &grid, const PlainGrid &plain)
 {
     const FlexGridView &view = *grid.hwndGrid();
     const QSize room = view.viewport()->size();
-    const auto high = [&](int row) { return plain.has(row, 0) ? plain.rows[row].height / 15 : 0; };
-    const auto wide = [&](int col) { return plain.has(0, col) ? plain.cols[col].width / 15 : 0; };
+    const auto pixels = [&](int twips) { return int(std::lround(twips / 15.0 * plain.zoom / 100)); };
+    const auto high = [&](int row) { return plain.has(row, 0) ? pixels(plain.rows[row].height) : 0; };
+    const auto wide = [&](int col) { return plain.has(0, col) ? pixels(plain.cols[col].width) : 0; };
+    const auto side = [&](int x, int width) { return plain.mirrored ? room.width() - x - width : x; };
     const int top = grid.TopRow();
     int last = std::max(1, plain.Rows() - 1);
     for (int needed = high(last); last > 1 && needed + high(last - 1) <= room.height() - high(0);)
@@ -280,7 +273,7 @@ void expectInView(const FlexGrid &grid, const PlainGrid &plain)
         const bool seen = row == 0 || row == top || (row > top && y + high(row) <= room.height());
         EXPECT_EQ(grid.RowIsVisible(row), seen && plain.has(row, 0)) << row;
         const QRect cell = view.cellRect(row, 0);
-        EXPECT_EQ(cell, plain.has(row, 0) ? QRect(0, y, wide(0), high(row)) : QRect());
+        EXPECT_EQ(cell, plain.has(row, 0) ? QRect(side(0, wide(0)), y, wide(0), high(row)) : QRect());
         for (int at = y; seen && at < std::min(y + high(row), room.height()); at += 7)
             EXPECT_EQ(view.rowAt(at), row);
     }
@@ -289,12 +282,13 @@ void expectInView(const FlexGrid &grid, const PlainGrid &plain)
     for (int col = 0; col <= plain.Cols(); ++col) {
         const bool seen = col == 0 || x == wide(0) || (x > wide(0) && x + wide(col) <= room.width());
         EXPECT_EQ(grid.ColIsVisible(col), seen && plain.has(0, col)) << col;
-        EXPECT_EQ(view.cellRect(0, col), plain.has(0, col) ? QRect(x, 0, wide(col), high(0)) : QRect());
+        EXPECT_EQ(view.cellRect(0, col),
+                  plain.has(0, col) ? QRect(side(x, wide(col)), 0, wide(col), high(0)) : QRect());
         for (int at = std::max(x, col ? wide(0) : 0); at < std::min(x + wide(col), room.width()); at += 7)
-            EXPECT_EQ(view.colAt(at), col);
+            EXPECT_EQ(view.colAt(side(at, 1)), col);
         x += wide(col) - (col == 0 ? shift : 0);
     }
-    EXPECT_EQ(view.horizontalScrollBar()->maximum(), std::max(0, x + shift - room.width()));
+    EXPECT_EQ(view.horizontalScrollBar()->maximum(), std::max(0, x + shift - std::max(room.width(), wide(0))));
 }
 
 TEST(FlexGridWalk, TheGridHoldsTellsAndShowsWhatPlainListsWould)
@@ -332,7 +326,7 @@ TEST(FlexGridWalk, TheGridHoldsTellsAndShowsWhatPlainListsWould)
         const auto placeBefore = place();
         told.clear();
         scrolled.clear();
-        const size_t kind = random() % (steps.size() + 2);
+        const size_t kind = random() % (steps.size() + 3);
         if (kind < steps.size()) {
             steps[kind](step);
             plainSteps[kind](step);
@@ -341,9 +335,16 @@ TEST(FlexGridWalk, TheGridHoldsTellsAndShowsWhatPlainListsWould)
             grid.showCell(step.row, step.col);
             EXPECT_TRUE(!plain.has(step.row, step.col) || grid.RowIsVisible(step.row));
             EXPECT_TRUE(!seen || grid.TopRow() == placeBefore.first);
-        } else {
+        } else if (kind == steps.size() + 1) {
             grid.setTopRow(step.row);
             grid.setLeftCol(step.col);
+        } else {
+            const auto currentIsSeen = [&grid] {
+                return grid.RowIsVisible(grid.Row()) && grid.ColIsVisible(grid.Col());
+            };
+            const bool seen = currentIsSeen();
+            grid.setZoom(plain.zoom = 50 + 50 * step.count);
+            EXPECT_TRUE(!seen || currentIsSeen());
         }
         QCoreApplication::processEvents();
         EXPECT_TRUE(PlainGrid::of(grid, plain.numbers) == plain);

@@ -86,7 +86,7 @@ QSize FlexGridView::roomBesideBars() const
     QSize room = whole;
     // each bar takes room that may make the other one necessary
     for (int pass = 0; pass < 2; ++pass) {
-        if (fixedWidth() + scrollableWidth() > room.width() && m_state.look.ScrollBars & 1)
+        if (scrollableWidth() > std::max(0, room.width() - fixedWidth()) && m_state.look.ScrollBars & 1)
             room.setHeight(whole.height() - horizontalScrollBar()->sizeHint().height());
         if (largestTopRow(room.height()) > m_state.fixedRows && m_state.look.ScrollBars & 2)
             room.setWidth(whole.width() - verticalScrollBar()->sizeHint().width());
