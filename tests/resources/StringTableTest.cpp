@@ -25,7 +25,7 @@ TEST(StringTable, TheProgramCarriesFaultlessTablesAndAPlainSound)
 TEST(StringTable, HoldsEveryTextThatTheProgramNames)
 {
     const QRegularExpression literalId(R"rx(\b(?:resText|ShowStatus)\((\d+)\)|\b(200\d\d)\b)rx"
-                                              R"rx(|name="(?:textId|whatsThisId)"[^>]*>\s*<number>(\d+)</number>)rx");
+                                       R"rx(|name="(?:textId|whatsThisId)"[^>]*>\s*<number>(\d+)</number>)rx");
     QSet<int> named;
     QDirIterator files(SOURCE_FOLDER "/src", {"*.cpp", "*.ui"}, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext())

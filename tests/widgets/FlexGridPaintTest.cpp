@@ -63,23 +63,6 @@ TEST_F(PaintedGrid, RaisedAndInsetTextsThrowLight)
     }
 }
 
-TEST_F(PaintedGrid, RowNumbersAreShownWhole)
-{
-    grid.setRows(12346);
-    grid.setRowNumbers(true);
-    grid.setColWidth(0, 340);
-    QFont font = grid.Font();
-    for (const double size : {8.0, 16.0}) {
-        font.setPointSizeF(size);
-        grid.setGridFont(font);
-        const double number = QFontMetricsF(font).horizontalAdvance("12345");
-        EXPECT_NEAR(grid.hwndGrid()->cellRect(1, 0).width(), number + 4, 4);
-    }
-    EXPECT_EQ(grid.ColWidth(0), 340) << "what is stored stays";
-    grid.setColWidth(0, 0);
-    EXPECT_EQ(grid.hwndGrid()->cellRect(1, 0).width(), 0) << "hidden";
-}
-
 TEST_F(PaintedGrid, FirstLinesAreShownWhenNotAllFit)
 {
     const double line = QFontMetricsF(grid.Font()).height();
@@ -103,28 +86,28 @@ TEST_F(PaintedGrid, TextsAreCutAtEverySizeWhereTheyAreAtTheNormalOneAndShowAllOf
             row, 1, word + QString(int((93 - metrics.horizontalAdvance(word)) / metrics.horizontalAdvance("m")), 'm'));
     const QString cut = "<b> & two three four five six seven";
     grid.setTextMatrix(2, 1, cut);
-    grid.setTextMatrix(4, 1, "one two three");
+    grid.setTextMatrix(4, 1, "one two three four");
     grid.setRowHeight(4, grid.fittingRowHeight(4));
     const int fitting = grid.fittingRowHeight(2);
-    for (const int percent : {100, 50, 60, 70, 80, 90, 110, 125, 175, 200, 250, 300, 400}) {
+    const auto toolTip = [this](int row) {
+        grid.setTopRow(row);
+        const QPoint at = grid.hwndGrid()->cellRect(row, 1).topLeft() + QPoint(2, 2);
+        QHelpEvent asked(QEvent::ToolTip, at, grid.hwndGrid()->viewport()->mapToGlobal(at));
+        QEvent newWindow(QEvent::WindowActivate); // before which a tool tip goes at once
+        QCoreApplication::sendEvent(&grid, &newWindow);
+        QCoreApplication::sendEvent(grid.hwndGrid()->viewport(), &asked);
+        return QToolTip::isVisible() ? QToolTip::text() : "";
+    };
+    for (const int percent : {50, 60, 70, 80, 90, 110, 125, 175, 200, 250, 300, 400, 100}) {
         grid.setZoom(percent);
         EXPECT_EQ(grid.fittingRowHeight(2), fitting) << percent;
-        for (int row = 1; row < 9; ++row) {
-            grid.setTopRow(row);
-            const QPoint at = grid.hwndGrid()->cellRect(row, 1).topLeft() + QPoint(2, 2);
-            QHelpEvent asked(QEvent::ToolTip, at, grid.hwndGrid()->viewport()->mapToGlobal(at));
-            QEvent newWindow(QEvent::WindowActivate); // before which a tool tip goes at once
-            QCoreApplication::sendEvent(&grid, &newWindow);
-            QCoreApplication::sendEvent(grid.hwndGrid()->viewport(), &asked);
-            const QString style =
-                percent == 100
-                    ? ""
-                    : QString(" style='font-size:%1pt'").arg(QFontInfo(QToolTip::font()).pointSizeF() * percent / 100);
-            EXPECT_EQ(QToolTip::isVisible() ? QToolTip::text() : "",
-                      row == 2 ? "<p dir='ltr'" + style + ">" + cut.toHtmlEscaped() + "</p>" : "")
-                << row;
-        }
+        const double points = QFontInfo(QToolTip::font()).pointSizeF() * percent / 100;
+        const QString style = percent == 100 ? "" : QString(" style='font-size:%1pt'").arg(points);
+        for (int row = 1; row < 9; ++row)
+            EXPECT_EQ(toolTip(row), row == 2 ? "<p dir='ltr'" + style + ">" + cut.toHtmlEscaped() + "</p>" : "") << row;
     }
+    grid.setWordWrap(false);
+    EXPECT_EQ(toolTip(4), "<p dir='ltr'>one two three four</p>");
 }
 
 /// Grids of two by two small cells without letters, drawn with a sign for each colour: w b cells, f fixed ones, s
@@ -140,95 +123,75 @@ TEST(DrawnGrid, LinesSelectionFocusMergesAndPicturesStandInTheirPlaces)
                                   {0xFFFF0000, 'r'}, {0xFFFFFF00, '.'}};
     QPixmap dot(2, 2);
     dot.fill(Qt::red);
-    const std::function<void(FlexGrid &)> looks[] = {
-        [](FlexGrid &) {},
-        [](FlexGrid &grid) {
-            grid.setRightToLeft(true);
-            grid.setGridLines(FlexGridLook::InsetLines);
-            grid.setGridLinesFixed(99); // the last kind
-            grid.setHighLight(0);
-        },
-        [&dot](FlexGrid &grid) {
-            grid.setGridLineWidth(2);
-            grid.setFocusRect(0);
-            grid.setHighLight(2);
-            grid.setRowHeight(2, 0);
-            grid.setCellBackColor(0xFF0000);
-            grid.setCellPicture(dot);
-            grid.setCellPictureAlignment(8);
-        },
-        [](FlexGrid &grid) {
-            grid.setFocusRect(2);
-            grid.setMergeCells(1);
-            grid.setMergeRow(2, true);
-            grid.setTextMatrix(2, 1, " ");
-            grid.setTextMatrix(2, 2, " ");
-        },
-        [](FlexGrid &grid) {
-            grid.setGridLines(FlexGridLook::RaisedLines);
-            grid.setGridLinesFixed(FlexGridLook::NoLines);
-            grid.setHighLight(2); // and nothing has the focus
-            grid.setCellForeColor(0);
-        },
-        [](FlexGrid &grid) {
-            grid.setFocusRect(0);
-            grid.setMergeCells(3);
-            for (const int col : {1, 2}) {
-                grid.setMergeCol(col, true);
-                grid.setTextMatrix(1, col, " ");
-                grid.setTextMatrix(2, col, col == 1 ? " " : "  ");
-            }
-            grid.Select(1, 2, 2, 2);
-        },
-        [&dot](FlexGrid &grid) {
-            grid.setFillStyle(1);
-            grid.setCellPicture(dot);
-            grid.setCellPictureAlignment(3);
-            grid.Select(1, 2, 2, 2);
-            grid.setCellBackColor(0xFF0000);
-            grid.setCellPicture(dot);
-            grid.setCellPictureAlignment(4);
-            grid.Select(0, 0, 0, 0);
-        },
-        [&dot](FlexGrid &grid) {
-            grid.setMergeCells(2);
-            grid.setMergeRow(1, true);
-            grid.setMergeRow(2, true);
-            for (const int col : {1, 2}) {
-                grid.setTextMatrix(1, col, QString(col, ' '));
-                grid.setTextMatrix(2, col, " ");
-            }
-            grid.Select(2, 1, 2, 1);
-            grid.setCellPicture(dot);
-            grid.setCellPictureAlignment(6);
-            grid.setRightToLeft(true);
-        },
+    const std::pair<QString, std::function<void(FlexGrid &)>> looks[] = {
+        {"", [](FlexGrid &) {}},
+        {"RightToLeft=1 GridLines=2 GridLinesFixed=99 HighLight=0", [](FlexGrid &) {}},
+        {"GridLineWidth=2 FocusRect=0 HighLight=2",
+         [&dot](FlexGrid &grid) {
+             grid.setRowHeight(2, 0);
+             grid.setCellBackColor(0xFF0000);
+             grid.setCellPicture(dot);
+             grid.setCellPictureAlignment(8);
+         }},
+        {"FocusRect=2",
+         [](FlexGrid &grid) {
+             grid.setMergeCells(1);
+             grid.setMergeRow(2, true);
+             grid.setClip(" \r ");
+             grid.setTextMatrix(2, 2, " ");
+         }},
+        {"GridLines=3 GridLinesFixed=0 HighLight=2", [](FlexGrid &grid) { grid.setCellForeColor(0); }},
+        {"FocusRect=0",
+         [](FlexGrid &grid) {
+             grid.setMergeCells(3);
+             grid.setMergeCol(1, true);
+             grid.setMergeCol(2, true);
+             grid.setClip(" \r ");
+             grid.Select(1, 2, 2, 2);
+             grid.setClip(" \r  ");
+         }},
+        {"FillStyle=1",
+         [&dot](FlexGrid &grid) {
+             grid.setCellPicture(dot);
+             grid.setCellPictureAlignment(3);
+             grid.Select(1, 2, 2, 2);
+             grid.setCellBackColor(0xFF0000);
+             grid.setCellPicture(dot);
+             grid.setCellPictureAlignment(4);
+             grid.Select(0, 0, 0, 0);
+         }},
+        {"RightToLeft=1",
+         [&dot](FlexGrid &grid) {
+             grid.setMergeCells(2);
+             grid.setMergeRow(1, true);
+             grid.setMergeRow(2, true);
+             grid.Select(1, 1, 2, 2);
+             grid.setClip(" \t  \r \t ");
+             grid.Select(2, 1, 2, 1);
+             grid.setCellPicture(dot);
+             grid.setCellPictureAlignment(6);
+         }},
     };
+    const QString all = "Rows=3 Cols=3 BorderStyle=0 BackColor=0xFFFFFF BackColorFixed=0x008080 BackColorSel=0x00FF00 "
+                        "GridColor=0xFFFF00 GridColorFixed=0xFF00FF BackColorBkg=0x00FFFF ";
     QStringList drawn;
-    for (const auto &look : looks) {
+    for (int i = 0; i < 8; ++i) {
+        const auto &[properties, change] = looks[i];
         FlexGrid grid;
         grid.setPalette(palette);
-        grid.setRows(3);
-        grid.setCols(3);
+        for (const QString &each : (all + properties).split(' ', Qt::SkipEmptyParts))
+            grid.setProperty(each.section('=', 0, 0).toLatin1().constData(), each.section('=', 1).toInt(nullptr, 0));
         grid.setRowHeight(-1, 75);
         grid.setColWidth(-1, 105);
-        grid.setBorderStyle(0);
-        for (const auto &[name, colour] : {std::pair("BackColor", 0xFFFFFF),
-                                           {"BackColorFixed", 0x008080},
-                                           {"BackColorSel", 0x00FF00},
-                                           {"GridColor", 0xFFFF00},
-                                           {"GridColorFixed", 0xFF00FF},
-                                           {"BackColorBkg", 0x00FFFF}})
-            grid.setProperty(name, colour);
         grid.Select(1, 1, 2, 1);
-        look(grid);
+        change(grid);
         grid.resize(23, 16);
         const QImage image = grid.grab().toImage();
         for (int y = 0; y < image.height(); ++y) {
             QString line;
             for (int x = 0; x < image.width(); ++x)
                 line += signs.value(image.pixel(x, y), 'o');
-            const int at = y + int(&look - looks) / 4 * image.height();
+            const int at = y + i / 4 * image.height();
             if (at == drawn.size())
                 drawn.append(line);
             else

@@ -209,19 +209,22 @@ TEST_F(ShownGrid, KeysAndMouseAreToldInTheirNumbers)
     QObject::connect(&grid, &FlexGrid::MouseMove, &grid, note("move"));
     QObject::connect(&grid, &FlexGrid::MouseUp, &grid, note("mouse up"));
     QObject::connect(&grid, &FlexGrid::Click, &grid, note("click"));
-    for (const char *keys : {"Shift+PgDown", "Return", "Ctrl+Q", "Alt+F2", "Z", "Del", "Num+5", "5", "F24", ";"})
+    for (const char *keys :
+         {"Shift+PgDown", "Return", "Ctrl+Q", "Alt+F2", "Z", "Del", "Num+5", "5", "F24", ";", "Esc", "Backspace"})
         QTest::keySequence(grid.hwndGrid(), QKeySequence(keys));
     drag(QPoint(40, 30), QPoint(41, 31), Qt::RightButton, Qt::ControlModifier);
     drag(QPoint(40, 30), QPoint(40, 30));
     grid.Select(15, 1, 15, 1);
     QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, {}, {});
     QCoreApplication::sendEvent(viewport(), &menuKey);
-    EXPECT_EQ(log.join(", ").toStdString(),
-              "down 16 1, down 34 1, up 34 1, up 16 0, down 13 0, press 13, up 13 0, down 17 2, down 81 2, up 81 2, "
-              "up 17 0, down 18 4, down 113 4, up 113 4, up 18 0, down 90 0, press 122, up 90 0, down 46 0, up 46 0, "
-              "down 101 0, press 53, up 101 0, down 53 0, press 53, up 53 0, down 135 0, up 135 0, down 0 0, press 59, "
-              "up 0 0, mouse down 2 2 600 450, move 1 0 615 465, mouse up 2 2 615 465, mouse down 1 0 600 450, "
-              "mouse up 1 0 600 450, click, mouse down 2 0 2235 1635, mouse up 2 0 2235 1635");
+    EXPECT_EQ(
+        log.join(", ").toStdString(),
+        "down 16 1, down 34 1, up 34 1, up 16 0, down 13 0, press 13, up 13 0, down 17 2, down 81 2, up 81 2, "
+        "up 17 0, down 18 4, down 113 4, up 113 4, up 18 0, down 90 0, press 122, up 90 0, down 46 0, up 46 0, "
+        "down 101 0, press 53, up 101 0, down 53 0, press 53, up 53 0, down 135 0, up 135 0, down 0 0, press 59, "
+        "up 0 0, down 27 0, press 27, up 27 0, down 8 0, press 8, up 8 0, mouse down 2 2 600 450, move 1 0 615 465, "
+        "mouse up 2 2 615 465, mouse down 1 0 600 450, mouse up 1 0 600 450, click, mouse down 2 0 2235 1635, "
+        "mouse up 2 0 2235 1635");
 }
 
 TEST_F(ShownGrid, KnowsWhereItsCellsAndTheMouseAre)
@@ -262,33 +265,42 @@ TEST_F(ShownGrid, TheWheelScrollsAndWithCtrlWantsAnotherSize)
 
 TEST_F(ShownGrid, AfterEveryChangeTheScreenShowsWhatTheGridHolds)
 {
-    const auto onScreen = [this] {
-        QCoreApplication::processEvents();
-        return grid.screen()->grabWindow(grid.winId()).toImage().convertToFormat(QImage::Format_RGB32);
-    };
-    const auto drawnAgain = [this] { return grid.grab().toImage().convertToFormat(QImage::Format_RGB32); };
-    grid.setMergeCells(2);
-    std::vector<std::function<void()>> changes{
-        [this] { grid.setTextMatrix(2, 2, "word"); },
-        [this] { grid.setClip("pasted"); },
-        [this] { grid.removeRows(2, 1); },
-        [this] { grid.setColPosition(1, 2); },
-        [this] { grid.setColWidth(2, 3000); },
-        [this] { grid.setTopRow(40); },
-        [this] { grid.setCellForeColor(0xFF); },
-        [this] { grid.setRedraw(false), grid.setRows(5000), grid.setTopRow(4999), grid.setRedraw(true); },
-        [this] { grid.Clear(); },
-    };
-    const QMetaObject &type = FlexGrid::staticMetaObject;
-    for (int i = type.propertyOffset(); i < type.propertyCount(); ++i) {
-        for (const int value : {2, 1, 0, 3, type.property(i).read(&grid).toInt()})
-            changes.emplace_back([this, i, value] { FlexGrid::staticMetaObject.property(i).write(&grid, value); });
-    }
-    for (const auto &change : changes) {
-        change();
+    const auto expectShown = [this](const char *what) {
         grid.setRedraw(true);
-        const QImage screen = onScreen(); // before it is drawn once more
-        EXPECT_EQ(screen, drawnAgain()) << &change - changes.data();
+        QCoreApplication::processEvents();
+        const QImage screen = grid.screen()->grabWindow(grid.winId()).toImage(); // before it is drawn once more
+        EXPECT_EQ(screen.convertToFormat(QImage::Format_RGB32),
+                  grid.grab().toImage().convertToFormat(QImage::Format_RGB32))
+            << what;
+    };
+    grid.setMergeCells(2);
+    const std::pair<const char *, std::function<void()>> steps[] = {
+        {"text", [this] { grid.setTextMatrix(2, 2, "word"); }},
+        {"clip", [this] { grid.setClip("pasted"); }},
+        {"rows", [this] { grid.removeRows(2, 1); }},
+        {"columns", [this] { grid.setColPosition(1, 2); }},
+        {"width", [this] { grid.setColWidth(2, 3000); }},
+        {"place", [this] { grid.setTopRow(40); }},
+        {"colour", [this] { grid.setCellForeColor(0xFF); }},
+        {"drawing", [this] { grid.setRedraw(false), grid.setRows(5000), grid.setTopRow(4999), grid.setRedraw(true); }},
+        {"all", [this] { grid.Clear(); }}};
+    for (const auto &[what, step] : steps) {
+        step();
+        expectShown(what);
+    }
+    QSignalSpy told(&grid, &FlexGrid::PropertyChanged);
+    for (int i = grid.metaObject()->propertyOffset(); i < grid.metaObject()->propertyCount(); ++i) {
+        const QMetaProperty property = grid.metaObject()->property(i);
+        int changes = 0;
+        for (const QVariant &value : QVariantList{2, 0, 1, 3, QFont("Courier"), QPixmap(2, 2), property.read(&grid)}) {
+            const QVariant before = property.read(&grid);
+            told.clear();
+            const bool changed = property.write(&grid, value) && property.read(&grid) != before;
+            EXPECT_TRUE(!changed || told.value(0).value(0) == property.name()) << property.name();
+            changes += changed;
+            expectShown(property.name());
+        }
+        EXPECT_GT(changes, 0) << property.name();
     }
 }
 

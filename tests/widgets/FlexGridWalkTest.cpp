@@ -258,7 +258,12 @@ void expectInView(const FlexGrid &grid, const PlainGrid &plain)
     const QSize room = view.viewport()->size();
     const auto pixels = [&](int twips) { return int(std::lround(twips / 15.0 * plain.zoom / 100)); };
     const auto high = [&](int row) { return plain.has(row, 0) ? pixels(plain.rows[row].height) : 0; };
-    const auto wide = [&](int col) { return plain.has(0, col) ? pixels(plain.cols[col].width) : 0; };
+    const double number = QFontMetricsF(grid.Font()).horizontalAdvance(QString::number(grid.Rows() - 1).fill('0'));
+    const auto wide = [&](int col) {
+        const int width = plain.has(0, col) ? pixels(plain.cols[col].width) : 0;
+        const bool numbers = plain.numbers && col == 0 && width > 0;
+        return numbers ? std::max(width, int(std::ceil((std::ceil(number) + 5) * plain.zoom / 100))) : width;
+    };
     const auto side = [&](int x, int width) { return plain.mirrored ? room.width() - x - width : x; };
     const int top = grid.TopRow();
     int last = std::max(1, plain.Rows() - 1);
@@ -309,12 +314,12 @@ TEST(FlexGridWalk, TheGridHoldsTellsAndShowsWhatPlainListsWould)
     QSignalSpy scrolled(&grid, &FlexGrid::Scroll);
     plain.setCols(2);
     plain.setRows(2);
-    std::mt19937 random(1);
+    std::mt19937 random(3);
     const auto oneOf = [&random](const auto &values) { return values[random() % std::size(values)]; };
     const auto below = [&random](int limit) { return int(random() % unsigned(limit)); };
     const char *const words[] = {"", "a", "Bb", "ccc", "d\ne"};
     const char *const clips[] = {"", "x", "x\ty", "x\ry", "\tx\r\rz", "x\ty\tz\ru\tv\tw"};
-    const int sizes[] = {-1, 0, 450, 600, 960, 3000};
+    const int sizes[] = {-1, 0, 120, 450, 600, 960, 3000};
     for (int i = 0; i < 4000 && !::testing::Test::HasFailure(); ++i) {
         SCOPED_TRACE(i);
         const Step step{below(12) - 1, below(6) - 1, below(12) - 1, below(5),

@@ -57,6 +57,14 @@ TEST(ExtendedComboBox, CompletesFromItsListAndComesBackToIt)
         EXPECT_EQ(box.currentText(), shown);
     }
     EXPECT_EQ(box.count(), 3);
+    ExtendedComboBox list;
+    list.addItems({"one", "two"});
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Down}) {
+        QKeyEvent press(QEvent::KeyPress, key, {});
+        QCoreApplication::sendEvent(&list, &press);
+        EXPECT_EQ(press.isAccepted(), key == Qt::Key_Down) << "Enter is the window's";
+    }
+    EXPECT_EQ(list.currentText(), "two");
 }
 
 TEST(ExtendedComboBox, ShowsColoursInFramesThatFollowThePalette)

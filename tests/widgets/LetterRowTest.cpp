@@ -16,6 +16,7 @@ TEST(LetterRowTest, ClicksAndKeysTypeLettersAndTheirCapitals)
     EXPECT_TRUE(row->isVisible());
     const QList<QToolButton *> buttons = row->findChildren<QToolButton *>();
     ASSERT_EQ(buttons.size(), 3);
+    EXPECT_EQ(buttons[2]->toolTip(), "Ctrl+3");
     box->setFocus();
     for (QToolButton *button : buttons)
         QTest::mouseClick(button, Qt::LeftButton);
