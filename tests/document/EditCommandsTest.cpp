@@ -1,6 +1,7 @@
 #include "document/EditCommands.h"
 
 #include "document/ctlGridEdit.h"
+#include "document/rules/Vocabulary.h"
 #include "support/OpenDocument.h"
 #include "widgets/grid/FlexGridView.h"
 
@@ -25,43 +26,67 @@ struct Editing : ::testing::Test, OpenDocument
     const Words before = words();
 };
 
-TEST_F(Editing, CommandsActOnTheSelection)
+TEST_F(Editing, CommandsChangeAnySelectionAndAreUndone)
 {
-    const std::tuple<void (EditCommands::*)(frmDoc &), GridSelection, UndoKind, bool, Words> cases[] = {
-        {&EditCommands::Cut, {1, 2, 3, 2}, UndoKind::Cut, true, {{"a", ""}, {"c", ""}, {"e", ""}, {}}},
-        {&EditCommands::Clear, {3, 2, 2, 1}, UndoKind::Clear, false, {{"a", "b"}, {}, {}, {}}},
-        {&EditCommands::Insert,
-         {3, 1, 2, 1},
-         UndoKind::Insert,
-         false,
-         {{"a", "b"}, {}, {}, {"c", "d"}, {"e", "f"}, {}}},
-        {&EditCommands::Delete, {2, 1, 3, 1}, UndoKind::Delete, true, {{"a", "b"}, {}}},
-        {&EditCommands::Delete, {4, 2, 1, 1}, UndoKind::Delete, true, {{}}},   // one row stays
-        {&EditCommands::Delete, {4, 1, 4, 2}, UndoKind::Delete, true, before}, // so does an empty last one
-    };
-    for (const auto &[command, selection, kind, dirty, result] : cases) {
-        setWords({{"a", "b"}, {"c", "d"}, {"e", "f"}});
-        document.setDirty(false);
-        document.select(selection);
-        (commands.*command)(document);
-        EXPECT_EQ(words(), result);
-        EXPECT_EQ(undo.kind(), kind);
-        EXPECT_EQ(document.Dirty(), dirty);
-        select(1, 1, 1, 1);
-        commands.Undo(document);
-        EXPECT_EQ(undo.kind(), UndoKind::None);
-        EXPECT_EQ(document.selection(), selection);
+    using enum UndoKind;
+    std::mt19937 engine{5};
+    for (int round = 0; round < 200; ++round) {
+        const Words all = setRandomWords(engine);
+        const GridSelection cells = document.selection();
+        Words emptied = all, more = all, fewer = all;
+        Words selected = all; // of what was deleted nothing else comes back
+        for (size_t row = size_t(cells.top()) - 1; row < size_t(cells.bottom()); ++row) {
+            for (int col = 1; col <= 2; ++col)
+                (col >= cells.left() && col <= cells.right() ? emptied : selected)[row][size_t(col) - 1].clear();
+        }
+        more.insert(more.begin() + cells.top() - 1, size_t(cells.rowCount()), {});
+        fewer.erase(fewer.begin() + cells.top() - 1, fewer.begin() + cells.bottom());
+        if (fewer.empty() || fewer.back() != all.back())
+            fewer.emplace_back();
+        const std::tuple<void (EditCommands::*)(frmDoc &), UndoKind, bool, Words, Words> steps[] = {
+            {&EditCommands::Clear, Clear, false, emptied, all}, {&EditCommands::Cut, Cut, true, emptied, all},
+            {&EditCommands::Clear, Clear, false, emptied, {}},  {&EditCommands::Paste, Paste, true, all, {}},
+            {&EditCommands::Insert, Insert, false, more, all},  {&EditCommands::Delete, Delete, true, fewer, selected}};
+        for (const auto &[command, kind, dirty, result, undone] : steps) {
+            document.setDirty(false);
+            document.select(cells);
+            (commands.*command)(document);
+            ASSERT_EQ(words(), result) << int(kind);
+            EXPECT_EQ(undo.kind(), kind);
+            EXPECT_EQ(document.Dirty(), dirty);
+            if (undone.empty())
+                continue;
+            select(1, 1, 1, 1);
+            expectUndone(undone);
+            EXPECT_EQ(document.selection(), cells);
+        }
     }
-}
-
-TEST_F(Editing, DeletingEveryRowLeavesAnEmptyOneAlsoOfAListThatEndsInWords)
-{
-    grid.setRows(4);
-    const Words full = words();
+    setWords(before);
+    grid.setRows(4); // a list that ends in words
     select(3, 1, 1, 2);
     commands.Delete(document);
     EXPECT_EQ(words(), Words(1));
-    expectUndone(full);
+    expectUndone(Words(before.begin(), before.end() - 1));
+}
+
+TEST_F(Editing, ImportedRowsStandAboveTheSelectionAndAreUndone)
+{
+    const QString longWord = QStringLiteral("long words ").repeated(20);
+    Vocabulary list;
+    list.append("English", "German");
+    commands.Import(document, list, "none");
+    EXPECT_EQ(undo.kind(), UndoKind::None);
+    list.append("x", "y");
+    list.append("z", longWord);
+    select(2, 2, 3, 1);
+    commands.Import(document, list, "2 words");
+    EXPECT_EQ(words(), (Words{before[0], {"x", "y"}, {"z", longWord}, before[1], before[2], {}}));
+    EXPECT_EQ(document.selection(), (GridSelection{2, 1, 2, 1}));
+    EXPECT_GT(grid.RowHeight(3), 2 * 285);
+    EXPECT_TRUE(document.Dirty());
+    EXPECT_EQ(undo.note(), "2 words");
+    expectUndone(before);
+    EXPECT_EQ(document.selection(), (GridSelection{2, 2, 3, 1}));
 }
 
 TEST_F(Editing, CopyAndCutPutTheCellsOnTheClipboard)

@@ -2,14 +2,12 @@
 
 TEST(LetterWidths, NeverTakeATextToFitThatDoesNot)
 {
-    const QStringList pieces{"AV", "To", "ffi", "W.", "i",  "l",  "m",  "Œ",  "ß",    "ñ",
-                             " ",  "-",  "ž",   "'",  "Ту", "γά", "жд", "、", "かガ", "日本"};
+    const QStringList pieces = QString("AV|To|ffi|W.|i|l|m|Œ|ß|ñ| |-|ž|'|Ту|γά|жд|、|かガ|日本").split('|');
     std::mt19937 random(5);
     for (const char *family : {"Liberation Sans", "Liberation Serif", "DejaVu Sans"}) {
-        for (const double size : {6.0, 10.0, 33.0}) {
-            QFont font(family);
-            font.setPointSizeF(size);
-            const auto measure = [font](const QString &text) { return QFontMetricsF(font).horizontalAdvance(text); };
+        for (const int size : {6, 10, 33}) {
+            const QFontMetricsF metrics(QFont(family, size));
+            const auto measure = [metrics](const QString &text) { return metrics.horizontalAdvance(text); };
             LetterWidths letters(measure);
             int fits = 0;
             for (int round = 0; round < 200; ++round) {
@@ -28,10 +26,12 @@ TEST(LetterWidths, NeverTakeATextToFitThatDoesNot)
 
 TEST(LetterWidths, LeaveScriptsThatJoinAndStackLettersOpen)
 {
+    const std::pair<int, int> alone[] = {{' ', 0x24F},     {0x370, 0x482},   {0x48A, 0x52F},  {0x3000, 0x3029},
+                                         {0x3030, 0x3098}, {0x309B, 0x30FF}, {0x4E00, 0x9FFF}};
     LetterWidths letters([](const QString &) { return 1; });
-    for (const char16_t letter : u"a \u024F\u0370\u0482\u048A\u052F\u3000\u3029\u3030\u3098\u309B\u30FF\u4E00\u9FFF")
-        EXPECT_TRUE(letters.surelyFits(QChar(letter), 100)) << int(letter);
-    for (const char16_t letter :
-         u"\u0250\u0301\u036F\u0483\u0489\u0530\u05D0\u2FFF\u302A\u302F\u3099\u309A\u3100\u4DFF\uA000\uFDFA")
-        EXPECT_FALSE(letter && letters.surelyFits(QChar(letter), 100)) << int(letter);
+    for (int letter = ' '; letter < 0x10000; ++letter)
+        EXPECT_EQ(letters.surelyFits(QChar(letter), 100),
+                  std::ranges::any_of(
+                      alone, [letter](const auto &range) { return letter >= range.first && letter <= range.second; }))
+            << letter;
 }

@@ -1,3 +1,4 @@
+#include "document/GridContent.h"
 #include "document/RecoveryKeeper.h"
 #include "support/OpenFiles.h"
 
@@ -13,10 +14,9 @@ struct Program : OpenFiles
 
     frmDoc *changedDocument(const QString &word)
     {
-        frmDoc *document = newDocument();
-        document->Rutor()->setTextMatrix(1, 1, word);
-        document->setDirty(true);
-        return document;
+        newDocument()->Rutor()->setTextMatrix(1, 1, word);
+        documents.active()->setDirty(true);
+        return documents.active();
     }
 
     RecoveryKeeper keeper;
@@ -24,8 +24,9 @@ struct Program : OpenFiles
 
 struct RecoveryTest : ::testing::Test
 {
+    using Orphans = std::vector<RecoveryFolder::Orphan>;
     QTemporaryDir home;
-    QString folder = home.filePath("recovery");
+    QString folder = home.filePath("recovery"), path = home.filePath("words.gla");
     std::unique_ptr<Program> run = std::make_unique<Program>(folder);
 
     QStringList copies() const
@@ -39,15 +40,23 @@ struct RecoveryTest : ::testing::Test
         }
         return found;
     }
-    void restart()
+    Orphans restart()
     {
         run.reset();
         run = std::make_unique<Program>(folder);
+        return run->keeper.orphans();
     }
-    void discardAll() const
+    void close(const QString &savePath, const std::deque<AlertBox::Answer> &answers)
     {
-        for (const RecoveryFolder::Orphan &orphan : run->keeper.orphans())
-            run->keeper.discard(orphan);
+        run->prompts.savePath = savePath;
+        run->alert.shown.clear();
+        run->alert.answers = answers;
+        run->files.closeActive();
+    }
+    void save()
+    {
+        run->prompts.savePath = path;
+        run->files.save();
     }
 };
 
@@ -59,8 +68,10 @@ TEST_F(RecoveryTest, WhatDiffersFromTheFileIsKeptAndNothingElse)
         {"a word", true, [](frmDoc &, ctlGrid &grid) { grid.setTextMatrix(2, 1, "só 猫"); }},
         {"a row's height", true, [](frmDoc &, ctlGrid &grid) { grid.setRowHeight(1, 777); }},
         {"a column's width", true, [](frmDoc &, ctlGrid &grid) { grid.setColWidth(1, 777); }},
-        {"the font", true, [](frmDoc &, ctlGrid &grid) { grid.setGridFont(QFont("Arial", 33)); }},
+        {"the font's size", true, [](frmDoc &, ctlGrid &grid) { grid.setGridFont(QFont("Arial", 33)); }},
         {"the font's name", true, [](frmDoc &, ctlGrid &grid) { grid.setGridFont(QFont("Liberation Serif", 10)); }},
+        {"bold", true, [](frmDoc &, ctlGrid &grid) { grid.setGridFont(QFont("Arial", 10, QFont::Bold)); }},
+        {"italic", true, [](frmDoc &, ctlGrid &grid) { grid.setGridFont(QFont("Arial", 10, -1, true)); }},
         {"the colour", true, [](frmDoc &, ctlGrid &grid) { grid.setForeColor(0xFF); }},
         {"an inserted row", true, [](frmDoc &, ctlGrid &grid) { grid.insertRows(1, 1); }},
         {"empty rows at the end", false, [](frmDoc &, ctlGrid &grid) { grid.setRows(300); }},
@@ -72,44 +83,44 @@ TEST_F(RecoveryTest, WhatDiffersFromTheFileIsKeptAndNothingElse)
     };
     for (const auto &[name, kept, change] : cases) {
         frmDoc *document = run->changedDocument("one");
-        run->prompts.savePath = home.filePath("words.gla");
-        run->files.save();
+        save();
         EXPECT_TRUE(copies().isEmpty()) << "saved";
         change(*document, *document->Rutor());
         EXPECT_EQ(copies().size(), kept) << name;
-        run->alert.answers = {AlertBox::AnswerNo};
         document->setDirty(true);
-        run->files.closeActive();
+        close(path, {AlertBox::AnswerNo});
         EXPECT_TRUE(copies().isEmpty()) << "given up";
     }
 }
 
 TEST_F(RecoveryTest, EveryLaterChangeReachesTheCopyAndGoesWhenItIsUndone)
 {
-    ctlGrid &grid = *run->changedDocument("first")->Rutor();
+    frmDoc *document = run->changedDocument("first");
+    ctlGrid &grid = *document->Rutor();
     EXPECT_EQ(copies().size(), 1);
     grid.setTextMatrix(1, 2, "second");
     grid.setRowHeight(1, 777);
+    grid.setColWidth(2, 555);
+    grid.setForeColor(0xFF00);
+    grid.setGridFont(QFont("Liberation Serif", 12, QFont::Bold, true));
+    const Vocabulary words = GridContent::read(grid);
     EXPECT_EQ(copies().size(), 1);
-    restart();
-    const RecoveryFolder::Orphan orphan = run->keeper.orphans().at(0);
+    const RecoveryFolder::Orphan orphan = restart().at(0);
     EXPECT_EQ(orphan.copy.cause, RecoveryCopy::Cause::Ended);
     EXPECT_LT(orphan.copy.time.secsTo(QDateTime::currentDateTime()), 60);
     run->keeper.recover(orphan);
     ASSERT_EQ(run->documents.open().size(), 1u);
     const frmDoc &recovered = *run->documents.open().front();
     EXPECT_EQ(recovered.Caption(), "Untitled 1");
-    EXPECT_TRUE(recovered.Dirty());
-    EXPECT_EQ(recovered.Rutor()->Rows(), 101);
-    EXPECT_EQ(recovered.Rutor()->TextMatrix(1, 2), "second");
-    EXPECT_EQ(recovered.Rutor()->RowHeight(1), 777);
-    EXPECT_EQ(run->newDocument()->Caption(), "Untitled 2");
+    EXPECT_TRUE(recovered.Dirty() && recovered.isVisible());
+    EXPECT_EQ(GridContent::read(*recovered.Rutor()), words);
 
-    frmDoc *document = run->documents.active();
-    document->Rutor()->setTextMatrix(1, 1, "x");
-    EXPECT_EQ(copies().size(), 2);
-    document->Rutor()->setTextMatrix(1, 1, QString());
-    EXPECT_EQ(copies().size(), 1) << "only what was recovered";
+    document = run->newDocument();
+    EXPECT_EQ(document->Caption(), "Untitled 2");
+    for (const QString word : {"x", ""}) {
+        document->Rutor()->setTextMatrix(1, 1, word);
+        EXPECT_EQ(copies().size(), 1 + word.size()) << "what was recovered, at least";
+    }
 }
 
 TEST_F(RecoveryTest, TheCopiesOfRunningProgramsAreNobodyElses)
@@ -120,17 +131,16 @@ TEST_F(RecoveryTest, TheCopiesOfRunningProgramsAreNobodyElses)
     auto second = std::make_unique<Program>(folder);
     EXPECT_TRUE(second->keeper.orphans().empty());
 
-    restart();
-    const std::vector<RecoveryFolder::Orphan> offered = second->keeper.orphans();
+    const Orphans mine = restart(), offered = second->keeper.orphans();
     ASSERT_EQ(offered.size(), 1u);
-    run->keeper.recover(run->keeper.orphans().at(0));
+    run->keeper.recover(mine.at(0));
     second->keeper.recover(offered.front());
     EXPECT_TRUE(second->documents.open().empty()) << "the other program was quicker";
     EXPECT_TRUE(second->keeper.orphans().empty());
     second.reset();
-    restart();
-    EXPECT_EQ(run->keeper.orphans().size(), 1u) << "a second crash loses nothing";
-    discardAll();
+    const Orphans left = restart();
+    ASSERT_EQ(left.size(), 1u) << "a second crash loses nothing";
+    run->keeper.discard(left.front());
     EXPECT_TRUE(QDir(folder).isEmpty());
 }
 
@@ -144,17 +154,9 @@ TEST_F(RecoveryTest, AClosedDocumentLeavesTheWordsThatItsFileLacksAndWhy)
     const Change insert = [](ctlGrid &grid) { grid.insertRows(1, 1); };
     const Change below = [](ctlGrid &grid) { grid.setTextMatrix(9, 2, "neun"); };
     enum Saving { Cancelled, Fails, Works };
-    struct Case
-    {
-        const char *name;
-        bool hasFile;
-        Change change;
-        bool asked; ///< and answered with Yes
-        Saving saving;
-        size_t boxes; ///< that the user sees
-        std::optional<RecoveryCopy::Cause> left;
-    };
-    const Case cases[] = {
+    // whether there is a file, what changes, whether the user is asked and says Yes, what becomes of that, the boxes
+    // that are shown, and why a copy is left
+    const std::tuple<const char *, bool, Change, bool, Saving, size_t, std::optional<RecoveryCopy::Cause>> cases[] = {
         {"a first save that is given up", false, word, true, Cancelled, 1, Closed},
         {"the same without any word", false, layout, true, Cancelled, 1, {}},
         {"a first save that fails", false, word, true, Fails, 2, Closed},
@@ -166,34 +168,28 @@ TEST_F(RecoveryTest, AClosedDocumentLeavesTheWordsThatItsFileLacksAndWhy)
         {"a size", true, layout, false, Works, 0, {}},
         {"a word that came back by Undo", true, word, false, Works, 0, Closed},
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
-        const QString path = home.filePath("words.gla");
+    for (const auto &[name, hasFile, change, asked, saving, boxes, left] : cases) {
+        SCOPED_TRACE(name);
         QDir().rmdir(path);
-        frmDoc *document = c.hasFile ? run->changedDocument("one") : run->newDocument();
-        run->prompts.savePath = path;
-        if (c.hasFile)
-            run->files.save();
-        c.change(*document->Rutor());
+        frmDoc *document = hasFile ? run->changedDocument("one") : run->newDocument();
+        if (hasFile)
+            save();
+        change(*document->Rutor());
         EXPECT_EQ(copies().size(), 1);
-        document->setDirty(c.asked);
-        if (c.saving != Works)
-            run->prompts.savePath.clear();
-        if (c.saving == Fails) { // where a folder stands
+        document->setDirty(asked);
+        if (saving == Fails) { // where a folder stands
             QFile::remove(path);
             QDir().mkdir(path);
-            run->prompts.savePath = path;
         }
-        run->alert.shown.clear();
-        run->alert.answers = {AlertBox::AnswerYes, AlertBox::AnswerYes};
-        run->files.closeActive();
+        close(saving == Cancelled ? QString() : path, {AlertBox::AnswerYes, AlertBox::AnswerYes});
         EXPECT_TRUE(run->documents.open().empty());
-        EXPECT_EQ(run->alert.shown.size(), c.boxes);
-        restart();
-        const std::vector<RecoveryFolder::Orphan> orphans = run->keeper.orphans();
-        ASSERT_EQ(orphans.size(), c.left ? 1u : 0u);
-        EXPECT_TRUE(!c.left || orphans[0].copy.cause == *c.left);
-        discardAll();
+        EXPECT_EQ(run->alert.shown.size(), boxes);
+        const Orphans orphans = restart();
+        ASSERT_EQ(orphans.size(), left ? 1u : 0u);
+        for (const RecoveryFolder::Orphan &orphan : orphans) {
+            EXPECT_EQ(orphan.copy.cause, *left);
+            run->keeper.discard(orphan);
+        }
     }
 }
 
@@ -201,42 +197,32 @@ TEST_F(RecoveryTest, AWindowWhoseWordsCanBeKeptNowhereClosesOnlyIfTheUserLetsThe
 {
     writeFile(folder, "in the way");
     run->changedDocument("saved")->Rutor()->setTextMatrix(9, 2, "lost");
-    run->prompts.savePath = home.filePath("words.gla");
-    run->alert.answers = {AlertBox::AnswerYes, AlertBox::AnswerYes};
-    run->files.closeActive();
+    close(path, {AlertBox::AnswerYes, AlertBox::AnswerYes});
     EXPECT_TRUE(run->documents.open().empty());
     EXPECT_TRUE(run->alert.shown.back().prompt.startsWith("The words in row 9 could be kept nowhere"));
-    run->prompts.savePath.clear();
-    run->changedDocument("word");
-    run->alert.answers = {AlertBox::AnswerYes, AlertBox::AnswerNo};
-    run->files.closeActive();
+    frmDoc *document = run->changedDocument("word");
+    close({}, {AlertBox::AnswerYes, AlertBox::AnswerNo});
     EXPECT_EQ(run->documents.open().size(), 1u);
     EXPECT_EQ(run->alert.shown.back().prompt, resText(12627).arg("Untitled 2"));
     QFile::remove(folder);
     EXPECT_EQ(copies().size(), 1) << "it is tried again";
     QDir(folder).removeRecursively();
-    run->documents.open().front()->Rutor()->setTextMatrix(1, 1, "other");
+    document->Rutor()->setTextMatrix(1, 1, "other");
     EXPECT_EQ(copies().size(), 1) << "also when the folder was removed meanwhile";
 }
 
 TEST_F(RecoveryTest, WhatIsOverwrittenInPlaceIsInACopyMeanwhile)
 {
-    const QString path = home.filePath("words.gla");
-    run->prompts.savePath = path;
     frmDoc *document = run->changedDocument("word");
-    run->files.save();
+    save();
     EXPECT_TRUE(copies().isEmpty());
     EXPECT_TRUE(run->secure(*document));
     EXPECT_EQ(copies().size(), 1) << "although nothing has changed";
-    restart();
-    EXPECT_TRUE(run->keeper.orphans().empty()) << "the file is whole";
+    EXPECT_TRUE(restart().empty()) << "the file is whole";
     run->files.LoadVocabulary(path);
-    document = run->documents.open().front();
-    EXPECT_TRUE(run->secure(*document));
+    EXPECT_TRUE(run->secure(*run->documents.open().front()));
     writeFile(path, readFile(path).chopped(3));
-    restart();
-    ASSERT_EQ(run->keeper.orphans().size(), 1u);
-    EXPECT_TRUE(run->keeper.orphans()[0].copy.isFileChanged());
+    EXPECT_TRUE(restart().at(0).copy.isFileChanged());
 }
 
 TEST_F(RecoveryTest, StrangeCopiesAreNeitherOfferedNorDeletedAndHoldNobodyUp)
@@ -244,39 +230,36 @@ TEST_F(RecoveryTest, StrangeCopiesAreNeitherOfferedNorDeletedAndHoldNobodyUp)
     const QString pipe = home.filePath("pipe.gla");
     run->changedDocument("word")->setDocName(pipe);
     run->keeper.flush();
-    restart();
+    run.reset();
     ASSERT_EQ(::mkfifo(qPrintable(pipe), 0600), 0);
-    const QString path = run->keeper.orphans().at(0).path;
-    const QByteArray whole = readFile(path);
+    const QString copy = restart().at(0).path;
+    const QByteArray whole = readFile(copy);
     for (qsizetype size = 0; size < whole.size(); size += 7) {
         QByteArray damaged = size ? whole.left(size) : whole + 'x';
         QBuffer device(&damaged);
         ASSERT_TRUE(device.open(QIODevice::ReadOnly));
         EXPECT_FALSE(RecoveryCopy::read(device)) << size;
     }
-    ASSERT_TRUE(QFile::resize(path, RecoveryCopy::LargestSize + 1));
+    ASSERT_TRUE(QFile::resize(copy, RecoveryCopy::LargestSize + 1));
     EXPECT_TRUE(run->keeper.orphans().empty());
     EXPECT_EQ(copies().size(), 1);
 }
 
 TEST_F(RecoveryTest, AKillWithinSavingMakesTheFileNeitherStrangeNorUnsaved)
 {
-    run->prompts.savePath = home.filePath("words.gla");
     frmDoc *document = run->changedDocument("old");
-    run->files.save();
+    save();
     document->Rutor()->setTextMatrix(1, 1, "new");
     run->keeper.flush();
-    restart();
-    run->keeper.recover(run->keeper.orphans().at(0));
-    document = run->documents.open().front();
-    run->documents.setActive(document);
+    const RecoveryFolder::Orphan orphan = restart().at(0);
+    run->keeper.recover(orphan);
+    run->documents.setActive(run->documents.open().front());
     const QString copy = copies().at(0);
     const QByteArray bytes = readFile(copy);
     run->files.save();
     EXPECT_TRUE(run->alert.shown.empty()) << "a crash does not make the file another one";
     run->keeper.flush();
     writeFile(copy, bytes); // killed before the copy was removed
-    restart();
-    EXPECT_TRUE(run->keeper.orphans().empty()) << "all of it is in the file";
+    EXPECT_TRUE(restart().empty()) << "all of it is in the file";
     EXPECT_TRUE(copies().isEmpty());
 }

@@ -1,6 +1,7 @@
 #include "document/ctlGrid.h"
 
 #include "document/ctlGridEdit.h"
+#include "document/rules/Vocabulary.h"
 #include "services/rules/ProgramFlags.h"
 #include "widgets/grid/FlexGridView.h"
 
@@ -30,13 +31,21 @@ struct GridEditing : ::testing::Test
                          [this](int &key) { log << QStringLiteral("key %1").arg(key); });
     }
 
-    void key(Qt::Key code) { QTest::keyClick(focusTarget(), code); }
+    void press(const char *key) { QTest::keySequence(focusTarget(), QKeySequence(key)); }
     void type(const QString &text) { QTest::keyClicks(focusTarget(), text); }
-    QWidget *focusTarget() { return grid.EditMode() ? static_cast<QWidget *>(grid.hwndText()) : grid.hwndGrid(); }
+    QWidget *focusTarget() { return grid.EditMode() ? static_cast<QWidget *>(&box) : &view; }
     QString cell(int row, int col) const { return grid.TextMatrix(row, col); }
+    static void compose(QWidget *receiver, const QString &preedit, const QString &commit = {})
+    {
+        QInputMethodEvent event(preedit, {});
+        event.setCommitString(commit);
+        QCoreApplication::sendEvent(receiver, &event);
+    }
 
     ProgramFlags flags;
     ctlGrid grid{&flags};
+    ctlGridEdit &box = *grid.hwndText();
+    FlexGridView &view = *grid.hwndGrid();
     QStringList log;
     bool refuse = false;
 };
@@ -48,8 +57,8 @@ TEST_F(GridEditing, WhatIsTypedDecidesWhatTheBoxHolds)
     for (const auto &[keyAscii, text] : cases) {
         grid.GridEdit(keyAscii);
         EXPECT_EQ(grid.EditText(), text);
-        EXPECT_EQ(grid.hwndText()->cursorPosition(), text.size());
-        key(Qt::Key_Escape);
+        EXPECT_EQ(box.cursorPosition(), text.size());
+        press("Esc");
         EXPECT_EQ(cell(1, 1), "house");
     }
 }
@@ -61,28 +70,21 @@ TEST_F(GridEditing, KeysThatOpenTheBox)
         grid.setEditMode(false);
         return opened;
     };
-    for (const char *keys : {"Space", "Backspace", "Esc"}) {
-        QTest::keySequence(grid.hwndGrid(), QKeySequence(keys));
-        EXPECT_TRUE(opens()) << keys;
+    for (const QString keys : {"Space", "Backspace", "Esc", "Return", "Tab", "Del", "F2", "Left", "Ctrl+Q", "Alt+Q"}) {
+        QTest::keySequence(&view, QKeySequence(keys));
+        EXPECT_EQ(opens(), keys == "Space" || keys == "Backspace" || keys == "Esc") << keys.toStdString();
     }
-    for (const char *keys : {"Return", "Tab", "Del", "F2", "Left", "Ctrl+Q", "Alt+Q"}) {
-        QTest::keySequence(grid.hwndGrid(), QKeySequence(keys));
-        EXPECT_FALSE(opens()) << keys;
+    const QPoint at = view.cellRect(1, 1).center();
+    for (const QPoint &place : {at, QPoint(at.x(), 5)}) {
+        QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, place);
+        EXPECT_EQ(opens(), place == at) << "a header is no cell to edit";
     }
-    const QPoint at = grid.hwndGrid()->cellRect(1, 1).center();
-    QTest::mouseDClick(grid.hwndGrid()->viewport(), Qt::LeftButton, {}, at);
-    EXPECT_TRUE(opens());
-    QTest::mouseDClick(grid.hwndGrid()->viewport(), Qt::LeftButton, {}, QPoint(at.x(), 5));
-    EXPECT_FALSE(opens()) << "a header is no cell to edit";
 }
 
 TEST_F(GridEditing, TheContainerMayChangeOrRefuseWhatIsTyped)
 {
     QObject::connect(&grid, &ctlGrid::KeyPress, &grid, [](int &code) {
-        if (code == 'q')
-            code = 0;
-        if (code == 'w')
-            code = 'W';
+        code = code == 'q' ? 0 : code == 'w' ? 'W' : code;
     });
     QObject::connect(&grid, &ctlGrid::AfterEdit, &grid, [](int &, int &, QString &text) { text += '!'; });
     type("q");
@@ -90,7 +92,7 @@ TEST_F(GridEditing, TheContainerMayChangeOrRefuseWhatIsTyped)
     type("w");
     type("xqw");
     EXPECT_EQ(grid.EditText(), "WxW");
-    key(Qt::Key_Return);
+    press("Return");
     EXPECT_EQ(cell(1, 1), "WxW!");
     refuse = true;
     type("x");
@@ -100,21 +102,20 @@ TEST_F(GridEditing, TheContainerMayChangeOrRefuseWhatIsTyped)
 TEST_F(GridEditing, EditingALongCellKeepsAllOfIt)
 {
     grid.setTextMatrix(1, 1, QString(40000, u'x'));
-    key(Qt::Key_Space);
+    press("Space");
     type("y");
-    key(Qt::Key_Return);
+    press("Return");
     EXPECT_EQ(cell(1, 1).size(), 40001);
     EXPECT_EQ(cell(1, 1).indexOf('y'), 1000);
 }
 
 TEST_F(GridEditing, ArrowsCommitAndMove)
 {
-    const std::tuple<int, Qt::Key, int> cases[] = {
-        {1, Qt::Key_Down, 2}, {100, Qt::Key_Down, 100}, {2, Qt::Key_Up, 1}, {1, Qt::Key_Up, 1}};
+    const std::tuple<int, const char *, int> cases[] = {{1, "Down", 2}, {100, "Down", 100}, {3, "Up", 2}, {1, "Up", 1}};
     for (const auto &[row, arrow, after] : cases) {
         grid.Select(row, 1, row, 1);
         type("n");
-        key(arrow);
+        press(arrow);
         EXPECT_FALSE(grid.EditMode());
         EXPECT_EQ(cell(row, 1), "n");
         EXPECT_EQ(grid.Row(), after) << row << " " << arrow;
@@ -130,7 +131,7 @@ TEST_F(GridEditing, LeavingTheCellOrReturningToTheGridCommits)
     EXPECT_EQ(cell(1, 1), "x");
     EXPECT_EQ(log.last(), "after 1 1 x");
     type("y");
-    QTest::mouseClick(grid.hwndGrid()->viewport(), Qt::LeftButton, {}, grid.hwndGrid()->cellRect(5, 2).center());
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.cellRect(5, 2).center());
     EXPECT_EQ(cell(3, 1), "y");
     type("z");
     grid.setFocus();
@@ -163,18 +164,21 @@ TEST_F(GridEditing, WhileSearchingTheFocusAloneDoesNotCommit)
 
 TEST_F(GridEditing, TheBoxLiesOverItsCellAndStaysInsideTheCells)
 {
-    const auto cellInGrid = [this] {
-        return grid.hwndGrid()->cellRect(grid.Row(), grid.Col()).translated(grid.hwndGrid()->viewport()->pos());
-    };
+    const auto cellInGrid = [this] { return view.cellRect(5, 2).translated(view.viewport()->pos()); };
     grid.Select(5, 2, 5, 2);
     type("t");
-    EXPECT_EQ(grid.hwndText()->font(), grid.Font());
-    EXPECT_EQ(grid.hwndText()->accessibleName(), "Cell B5");
+    EXPECT_EQ(box.font(), grid.Font());
+    EXPECT_EQ(box.accessibleName(), "Cell B5");
+    EXPECT_NE(box.palette().color(QPalette::Base), grid.palette().color(QPalette::Base));
+    EXPECT_EQ(box.grab().toImage().pixelColor(1, 5), box.palette().highlight().color()) << "a frame of two pixels";
     grid.setTopRow(4);
-    grid.setColWidth(1, 3000);
-    EXPECT_EQ(grid.hwndText()->geometry(), cellInGrid().adjusted(0, 0, -1, -1));
+    grid.setColWidth(1, 4500);
+    EXPECT_EQ(box.geometry(), cellInGrid().adjusted(0, 0, -1, -1));
+    EXPECT_FALSE(box.mask().isEmpty()) << "beyond the edge of the cells";
+    grid.setColWidth(1, 2000);
+    EXPECT_TRUE(box.mask().isEmpty());
     grid.setTopRow(50);
-    EXPECT_FALSE(grid.rect().intersects(grid.hwndText()->geometry())) << "scrolled away";
+    EXPECT_FALSE(grid.rect().intersects(box.geometry())) << "scrolled away";
     type("u");
     EXPECT_TRUE(grid.RowIsVisible(5)) << "typing brings it back";
     EXPECT_EQ(grid.EditText(), "tu");
@@ -182,7 +186,6 @@ TEST_F(GridEditing, TheBoxLiesOverItsCellAndStaysInsideTheCells)
 
 TEST_F(GridEditing, TheBoxPastesOneLineOnEveryWay)
 {
-    ctlGridEdit &box = *grid.hwndText();
     grid.setEditMode(true);
     QApplication::clipboard()->setText("a\r\nb\u2028c");
     box.pasteText();
@@ -201,38 +204,30 @@ TEST_F(GridEditing, TheBoxTakesDroppedTextAsACopyAndLeavesFilesAlone)
             dragged.setUrls({QUrl("file:///words.gla")});
         QDragEnterEvent enter({2, 2}, Qt::CopyAction | Qt::MoveAction, &dragged, Qt::LeftButton, {});
         enter.setDropAction(Qt::MoveAction);
-        QCoreApplication::sendEvent(grid.hwndText(), &enter);
+        QCoreApplication::sendEvent(&box, &enter);
         EXPECT_EQ(enter.isAccepted(), !files);
         QDropEvent drop({2, 2}, Qt::CopyAction | Qt::MoveAction, &dragged, Qt::LeftButton, {});
         drop.setDropAction(Qt::MoveAction);
         if (!files)
-            QCoreApplication::sendEvent(grid.hwndText(), &drop);
+            QCoreApplication::sendEvent(&box, &drop);
         EXPECT_EQ(drop.dropAction(), files ? Qt::MoveAction : Qt::CopyAction);
     }
     EXPECT_EQ(grid.EditText(), "x yhouse");
 }
 
-void compose(QWidget *receiver, const QString &preedit, const QString &commit = {})
-{
-    QInputMethodEvent event(preedit, {});
-    event.setCommitString(commit);
-    QCoreApplication::sendEvent(receiver, &event);
-}
-
 TEST_F(GridEditing, ComposedTextOpensTheBox)
 {
-    compose(focusTarget(), "", "\u00e9");
-    EXPECT_EQ(grid.EditText(), "\u00e9");
-    compose(focusTarget(), "", "t\u00e9");
+    compose(&view, "", "\u00e9");
+    compose(&box, "", "t\u00e9");
     EXPECT_EQ(grid.EditText(), "\u00e9t\u00e9");
     EXPECT_EQ(log, QStringList({"key 233", "before", "key 116", "key 233"}));
-    key(Qt::Key_Escape);
+    press("Esc");
     for (const auto &[preedit, commit] : {std::pair("ni", ""), std::pair("hao", "\u4f60"), std::pair("", "\u597d")}) {
-        EXPECT_TRUE(grid.hwndGrid()->hasFocus()) << "where it began, or it would break off";
-        compose(grid.hwndGrid(), preedit, commit);
+        EXPECT_TRUE(view.hasFocus()) << "where it began, or it would break off";
+        compose(&view, preedit, commit);
     }
     EXPECT_EQ(grid.EditText(), "\u4f60\u597d");
-    EXPECT_TRUE(QTest::qWaitFor([this] { return grid.hwndText()->hasFocus(); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return box.hasFocus(); }));
 }
 
 TEST_F(GridEditing, WhatIsComposedIsKeptHoweverTheCellIsLeft)
@@ -241,7 +236,7 @@ TEST_F(GridEditing, WhatIsComposedIsKeptHoweverTheCellIsLeft)
         {"another cell", [this] { grid.Select(2, 1, 2, 1); }},
         {"Enter", [this] { QTest::keyClick(grid.focusWidget(), Qt::Key_Return); }},
         {"end of the edit", [this] { grid.setEditMode(false); }},
-        {"focus", [this] { grid.hwndText()->setFocus(), grid.hwndGrid()->setFocus(); }},
+        {"focus", [this] { box.setFocus(), view.setFocus(); }},
     };
     for (const bool opened : {false, true}) {
         for (const auto &[name, leave] : ways) {
@@ -263,17 +258,14 @@ TEST_F(GridEditing, LettersForAMenuAreNotComposed)
 {
     QMenu menu;
     menu.addAction("x");
-    const auto composes = [this] {
-        QInputMethodQueryEvent asked(Qt::ImEnabled);
-        QCoreApplication::sendEvent(grid.focusWidget(), &asked);
-        return asked.value(Qt::ImEnabled).toBool();
-    };
     for (const bool opened : {false, true}) {
         grid.setEditMode(opened);
-        menu.popup({});
-        EXPECT_FALSE(composes()) << opened;
-        menu.close();
-        EXPECT_TRUE(composes()) << opened;
+        for (const bool isShown : {true, false}) {
+            menu.setVisible(isShown);
+            QInputMethodQueryEvent asked(Qt::ImEnabled);
+            QCoreApplication::sendEvent(grid.focusWidget(), &asked);
+            EXPECT_EQ(asked.value(Qt::ImEnabled).toBool(), !isShown) << opened;
+        }
     }
 }
 
@@ -282,10 +274,13 @@ TEST_F(GridEditing, AutoSetupBeginsAnew)
     type("x");
     grid.AutoSetup("Liberation Serif", 12, 4, 2, 1, 1, "|>L1");
     EXPECT_FALSE(grid.EditMode());
-    EXPECT_EQ(grid.Clip() + grid.hwndText()->text(), "");
+    EXPECT_EQ(grid.Clip() + box.text(), "");
     EXPECT_EQ(cell(0, 1), "L1");
-    EXPECT_EQ(grid.ColAlignment(1) + grid.Rows() * 10 + grid.Cols() * 100, 247);
-    EXPECT_EQ(grid.hwndText()->font(), grid.Font());
+    EXPECT_EQ((QList<int>{grid.Rows(), grid.Cols(), grid.FixedRows(), grid.FixedCols(), grid.ColAlignment(1)}),
+              (QList<int>{4, 2, 1, 1, 7}));
+    EXPECT_EQ(grid.Font(), (VocabularyFont{"Liberation Serif", 12}.toFont()));
+    EXPECT_EQ(box.font(), grid.Font());
+    EXPECT_TRUE(grid.Redraw());
 }
 
 TEST_F(GridEditing, EveryKeyOfTheBoxReachesTheContainerAfterwards)
@@ -294,10 +289,10 @@ TEST_F(GridEditing, EveryKeyOfTheBoxReachesTheContainerAfterwards)
     QObject::connect(&grid, &ctlGrid::KeyDown, &grid, [&](int code, int shift) {
         keys << QString("%1 %2 %3").arg(code).arg(shift).arg(grid.EditMode() ? "edit" : "browse");
     });
-    for (const Qt::Key code : {Qt::Key_Left, Qt::Key_Return, Qt::Key_Escape}) {
+    for (const char *key : {"Left", "Return", "Esc", "Shift+Ctrl+Esc"}) {
         grid.setEditMode(true);
-        key(code);
+        press(key);
     }
-    EXPECT_EQ(keys, QStringList({"37 0 edit", "13 0 browse", "27 0 browse"}));
+    EXPECT_EQ(keys, QStringList({"37 0 edit", "13 0 browse", "27 0 browse", "16 1 edit", "17 3 edit", "27 3 edit"}));
     EXPECT_EQ(log.filter("after"), QStringList{"after 1 1 house"}) << "Escape commits nothing";
 }

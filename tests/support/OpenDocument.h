@@ -39,6 +39,21 @@ struct OpenDocument
         grid.Select(1, 1, 1, 1);
     }
 
+    /// Random words, which separators and quotes could break, and a random selection. All words, the empty last row
+    /// too.
+    Words setRandomWords(std::mt19937 &engine)
+    {
+        const QStringList texts{"", "w", "\"x", "y\"", "p q", "long word", "W", "10", "9"};
+        const auto number = [&engine](qsizetype limit) { return int(engine() % unsigned(limit)); };
+        Words random{size_t(number(8))};
+        for (auto &row : random)
+            row = {texts[number(texts.size())], texts[number(texts.size())]};
+        setWords(random);
+        const int rows = grid.Rows() - 1;
+        select(1 + number(rows), 1 + number(2), 1 + number(rows), 1 + number(2));
+        return words();
+    }
+
     /// Every data row, the empty last one included.
     Words words() const
     {

@@ -2,39 +2,48 @@
 
 #include "document/EditCommands.h"
 #include "support/OpenDocument.h"
+#include "support/Shown.h"
+#include "widgets/grid/FlexGridView.h"
 
 using Words = OpenDocument::Words;
 
 struct Checking : ::testing::Test, OpenDocument
 {
     Checking()
-        : OpenDocument(Words{{"a", "1"}, {"b ", "2"}, {"a", "1"}, {"c  c", " 3"}, {"(d", "4"}})
+        : OpenDocument(Words{{"a", "1"}, {"b ", "2"}, {"a", "1"}, {"c  c", " 3"}, {"(d", "4"}, {"", "5"}})
     {
         dialog.show();
     }
     void click(const char *button) { QTest::mouseClick(dialog.findChild<QPushButton *>(button), Qt::LeftButton); }
-    QString line() { return list.currentIndex().data().toString(); }
-    GridSelection selection() { return document.selection(); }
 
     EditCommands commands{undo, *QGuiApplication::clipboard()};
     frmCheck dialog{document, {commands, undo}, &window};
     QListView &list = *dialog.findChild<QListView *>();
+    const FlexGridView &view = *grid.hwndGrid();
+    const Words before = words();
 };
 
 TEST_F(Checking, GoesThroughTheFindingsAndSelectsTheirCells)
 {
-    const std::pair<const char *, GridSelection> lines[] = {
-        {"Row 2: blanks at the edge, or several together: 'b␣'", {2, 1, 2, 1}},
-        {"Row 3: the same pair stands in row 1: a - 1", {3, 1, 3, 1}},
-        {"Row 4: blanks at the edge, or several together: 'c␣␣c'", {4, 1, 4, 1}},
-        {"Row 4: blanks at the edge, or several together: '␣3'", {4, 2, 4, 2}},
-        {"Row 5: a bracket that does not open or close: '(d'", {5, 1, 5, 1}},
+    const std::tuple<const char *, const char *, GridSelection> lines[] = {
+        {"Row 2: blanks at the edge, or several together: 'b␣'", "&Trim | Trim &All | (&Remove Row)", {2, 1, 2, 1}},
+        {"Row 3: the same pair stands in row 1: a - 1", "(&Trim) | Trim &All | &Remove Row", {3, 1, 3, 1}},
+        {"Row 4: blanks at the edge, or several together: 'c␣␣c'", "&Trim | Trim &All | (&Remove Row)", {4, 1, 4, 1}},
+        {"Row 4: blanks at the edge, or several together: '␣3'", "&Trim | Trim &All | (&Remove Row)", {4, 2, 4, 2}},
+        {"Row 5: a bracket that does not open or close: '(d'", "(&Trim) | Trim &All | (&Remove Row)", {5, 1, 5, 1}},
+        {"Row 6: '5' has no counterpart", "(&Trim) | Trim &All | (&Remove Row)", {6, 1, 6, 1}},
     };
     for (int round = 0; round < 2; ++round) {
-        for (const auto &[text, cell] : lines) {
-            EXPECT_EQ(line(), text);
-            EXPECT_EQ(selection(), cell);
+        for (const auto &[text, buttons, cell] : lines) {
+            EXPECT_EQ(list.currentIndex().data(), text);
+            EXPECT_EQ(shown(dialog).toStdString(),
+                      QString("Check | What &looks wrong: 6 | ? | &Next | %1 | &Close").arg(buttons).toStdString());
+            EXPECT_EQ(document.selection(), cell);
+            dialog.move(view.viewport()->mapToGlobal(QPoint()));
             QTest::keyClick(&dialog, Qt::Key_Return);
+            EXPECT_FALSE(dialog.frameGeometry().contains(view.viewport()->mapToGlobal(
+                view.cellRect(document.selection().Row, document.selection().Col).center())))
+                << text;
         }
     }
     document.setDirty(false);
@@ -45,24 +54,26 @@ TEST_F(Checking, GoesThroughTheFindingsAndSelectsTheirCells)
 
 TEST_F(Checking, MendsWhatIsSafeInOneUndoStepEach)
 {
-    const Words before = words();
-    click("btnTrim");
-    EXPECT_EQ(words()[1], (Words::value_type{"b", "2"}));
-    commands.Undo(document);
-    EXPECT_EQ(words(), before);
-    QTest::keyClick(&list, Qt::Key_Home); // undone outside the dialog
-    click("btnTrimAll");
-    EXPECT_EQ(words(), (Words{{"a", "1"}, {"b", "2"}, {"a", "1"}, {"c c", "3"}, {"(d", "4"}, {"", ""}}));
-    commands.Undo(document);
-    EXPECT_EQ(words(), before);
-    document.setDirty(false);
+    const std::pair<const char *, Words> steps[] = {
+        {"btnTrim", {before[0], {"b", "2"}, before[2], before[3], before[4], before[5], {}}},
+        {"btnTrimAll", {before[0], {"b", "2"}, before[2], {"c c", "3"}, before[4], before[5], {}}},
+        {"btnRemove", {before[0], before[1], before[3], before[4], before[5], {}}}};
+    for (const auto &[button, mended] : steps) {
+        document.setDirty(false);
+        dialog.workOn(document);
+        if (button == steps[2].first)
+            click("btnNext");
+        click(button);
+        EXPECT_EQ(words(), mended);
+        EXPECT_TRUE(document.Dirty());
+        commands.Undo(document);
+        EXPECT_EQ(words(), before);
+    }
     dialog.workOn(document);
-    click("btnNext");
-    click("btnRemove");
-    EXPECT_EQ(words(), (Words{{"a", "1"}, {"b ", "2"}, {"c  c", " 3"}, {"(d", "4"}, {"", ""}}));
-    EXPECT_TRUE(document.Dirty());
-    commands.Undo(document);
-    EXPECT_EQ(words(), before);
+    grid.setTextMatrix(2, 1, "b"); // outside the dialog
+    click("btnTrim");
+    EXPECT_EQ(undo.kind(), UndoKind::None);
+    EXPECT_EQ(list.model()->rowCount(), 5);
     dialog.leaveDocument();
     EXPECT_EQ(list.model()->rowCount(), 0);
     click("btnNext");

@@ -2,6 +2,7 @@
 
 #include "platform/Twips.h"
 #include "support/OpenDocument.h"
+#include "support/Shown.h"
 
 struct SizeDialog : ::testing::Test, OpenDocument
 {
@@ -10,17 +11,18 @@ struct SizeDialog : ::testing::Test, OpenDocument
     {
     }
 
-    /// Types a size over the one shown and presses a key.
-    void answer(frmColRow::Mode mode, const QString &size, Qt::Key key)
+    /// Types a size over the one shown and presses a key. What the dialog showed.
+    std::string answer(frmColRow::Mode mode, const QString &size, Qt::Key key)
     {
         frmColRow dialog(document, mode, &window);
         dialog.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-        QWidget *box = dialog.focusWidget();
-        QTest::keyClick(box, Qt::Key_Delete);
-        QTest::keyClicks(box, size);
-        QTest::keyClick(box, key);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        const std::string before = shown(dialog).toStdString();
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Delete);
+        QTest::keyClicks(dialog.focusWidget(), size);
+        QTest::keyClick(dialog.focusWidget(), key);
         EXPECT_FALSE(dialog.isVisible());
+        return before;
     }
     int heightPixels(int row) const { return Twips::toPixelsY(grid.RowHeight(row)); }
     int widthPixels(int col) const { return Twips::toPixelsX(grid.ColWidth(col)); }
@@ -30,11 +32,10 @@ TEST_F(SizeDialog, SetsTheSelectedRowsWhenASizeIsGiven)
 {
     grid.setRowHeight(7, 600);
     select(7, 1, 3, 1);
-    EXPECT_EQ(frmColRow(document, frmColRow::RowHeight, &window).findChild<QLineEdit *>()->selectedText(), "40");
-    grid.setRowHeight(7, 285);
-    answer(frmColRow::RowHeight, "", Qt::Key_Return);
+    EXPECT_EQ(answer(frmColRow::RowHeight, "", Qt::Key_Return),
+              "Set Row Height | &Row Height: | ><40> | OK | Cancel | ?");
     answer(frmColRow::RowHeight, "50", Qt::Key_Escape);
-    EXPECT_EQ(heightPixels(7), 19);
+    EXPECT_EQ(heightPixels(7), 40);
     answer(frmColRow::RowHeight, "30", Qt::Key_Return);
     for (int row = 1; row <= 9; ++row)
         EXPECT_EQ(heightPixels(row), row >= 3 && row <= 7 ? 30 : 19) << row;
@@ -49,8 +50,8 @@ TEST_F(SizeDialog, SetsTheSelectedColumnsAndKeepsTheNumbersReadable)
     grid.setColWidth(0, 0);
     grid.setColWidth(1, 3000);
     select(1, 1, 1, 2);
-    EXPECT_EQ(frmColRow(document, frmColRow::ColumnWidth, &window).findChild<QLineEdit *>()->selectedText(), "200");
-    answer(frmColRow::ColumnWidth, "5", Qt::Key_Return);
+    EXPECT_EQ(answer(frmColRow::ColumnWidth, "5", Qt::Key_Return),
+              "Set Column Width | &Column Width: | ><200> | OK | Cancel | ?");
     EXPECT_EQ(widthPixels(1) + widthPixels(2), 10);
     EXPECT_GE(widthPixels(0), QFontMetricsF(grid.Font()).horizontalAdvance("100000") + 6);
 }

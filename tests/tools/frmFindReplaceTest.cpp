@@ -2,8 +2,10 @@
 
 #include "document/EditCommands.h"
 #include "document/ctlGridEdit.h"
+#include "services/FormTexts.h"
 #include "support/OpenDocument.h"
 #include "support/ScriptedAlertBox.h"
+#include "support/Shown.h"
 #include "tools/FindOn.h"
 
 using Words = OpenDocument::Words;
@@ -15,12 +17,16 @@ struct FindReplace : ::testing::Test, OpenDocument
     {
     }
 
-    void open(bool replace)
+    void open(bool replace, const QString &what = {}, const QString &with = {})
     {
         (replace ? flags.ReplaceMode : flags.FindMode) = true;
         dialog = std::make_unique<frmFindReplace>(document, frmFindReplace::Needs{flags, undo, alert, last}, &window);
         dialog->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+        if (!what.isEmpty())
+            type("txtFind", what);
+        if (!with.isEmpty())
+            type("txtReplace", with);
     }
     template <typename T> T *control(const char *name) { return dialog->findChild<T *>(QString::fromLatin1(name)); }
     void click(const char *name) { QTest::mouseClick(control<QAbstractButton>(name), Qt::LeftButton); }
@@ -31,12 +37,13 @@ struct FindReplace : ::testing::Test, OpenDocument
         QTest::keyClicks(control<QLineEdit>(box), text);
     }
     /// What the cell editor shows, as "row,col:[selected text]start".
-    QString shown() const
+    QString match() const
     {
         const QString place = QString("%1,%2:[%3]%4").arg(grid.Row()).arg(grid.Col()).arg(grid.SelText());
         return grid.EditMode() ? place.arg(grid.hwndText()->cursorPosition() - grid.SelText().size()) : "nothing";
     }
 
+    EditCommands commands{undo, *QGuiApplication::clipboard()};
     ScriptedAlertBox alert;
     Search last;
     std::unique_ptr<frmFindReplace> dialog;
@@ -45,75 +52,77 @@ struct FindReplace : ::testing::Test, OpenDocument
 TEST_F(FindReplace, OpensWithTheCurrentCellsTextAndWidens)
 {
     open(false);
+    EXPECT_EQ(shown(*dialog).toStdString(),
+              "Find | &Find | ><cat> | Scope | [x] Whole &Document | [ ] &1 Language 1 | "
+              "[ ] &2 Language 2 | [ ] &Match Case | [ ] &Whole Words | Find &Next | &Replace... | &Close | ?");
     EXPECT_EQ(control<QLineEdit>("txtFind")->selectedText(), "cat");
-    EXPECT_EQ(control<QRadioButton>("optScope1")->text(), "&1 Language 1");
+    EXPECT_EQ(FormTexts::helpContextId(dialog.get()), 1160);
+    const QString whatsThis = dialog->whatsThis();
     const int height = dialog->height();
-    click("btnReplace");
-    EXPECT_EQ(dialog->windowTitle(), "Replace");
-    EXPECT_GE(dialog->height() - height, 46); // 700 twips
-    EXPECT_TRUE(flags.ReplaceMode && !flags.FindMode);
-    EXPECT_EQ(shown(), "nothing");
     type("txtFind", "");
-    for (const char *name : {"btnFind", "btnReplace", "btnReplaceAll"})
-        EXPECT_FALSE(control<QPushButton>(name)->isEnabled()) << name;
+    dialog->showAgain(true);
+    EXPECT_EQ(shown(*dialog).toStdString(),
+              "Replace | &Find | <> | R&eplace With | ><> | Scope | [x] Whole &Document | "
+              "[ ] &1 Language 1 | [ ] &2 Language 2 | [ ] &Match Case | [ ] &Whole Words | "
+              "(Find &Next) | (&Replace) | (Replace &All) | &Close | ?");
+    EXPECT_GE(dialog->height() - height, 46); // 700 twips
+    EXPECT_EQ(FormTexts::helpContextId(dialog.get()), 1170);
+    EXPECT_NE(dialog->whatsThis(), whatsThis);
+    EXPECT_TRUE(flags.ReplaceMode && !flags.FindMode);
+    EXPECT_EQ(match(), "nothing");
 }
 
 TEST_F(FindReplace, ShowsMatchAfterMatchAndReportsTheEnd)
 {
     open(false);
-    for (const char *expected : {"1,1:[cat]0", "2,1:[cat]4", "3,1:[cat]0"}) {
-        QTest::keyClick(control<QLineEdit>("txtFind"), Qt::Key_Return);
-        EXPECT_EQ(shown(), expected);
+    // what is clicked or pressed, what is shown then, and how often the user was told of the end
+    const std::tuple<const char *, const char *, size_t> steps[] = {
+        {"Return", "1,1:[cat]0", 0},      {"Return", "2,1:[cat]4", 0},    {"Return", "3,1:[cat]0", 0},
+        {"btnFind", "3,1:[cat]0", 1},     {"btnFind", "1,1:[cat]0", 1},   {"F3", "2,1:[cat]4", 1},
+        {"Shift+F3", "1,1:[cat]0", 1},    {"KATZE", "1,1:[cat]0", 1},     {"chkCase", "1,1:[cat]0", 1},
+        {"btnFind", "1,1:[cat]0", 2},     {"chkCase", "1,1:[cat]0", 2},   {"btnFind", "1,2:[Katze]0", 2},
+        {"optScope1", "1,2:[Katze]0", 2}, {"btnFind", "1,2:[Katze]0", 3}, {"cat", "1,2:[Katze]0", 3},
+        {"chkWord", "1,2:[Katze]0", 3},   {"Shift+F3", "2,1:[cat]4", 3},  {"btnFind", "2,1:[cat]4", 4},
+        {"chkWord", "2,1:[cat]4", 4},     {"Return", "1,1:[cat]0", 4},
+    };
+    for (const auto &[input, expected, told] : steps) {
+        if (control<QWidget>(input))
+            click(input);
+        else if (QKeySequence(input).toString() == input && QString(input).size() > 1)
+            QTest::keySequence(control<QLineEdit>("txtFind"), QKeySequence(input));
+        else
+            type("txtFind", input);
+        EXPECT_EQ(match(), expected) << input;
+        EXPECT_EQ(alert.shown.size(), told) << input;
     }
-    EXPECT_TRUE(alert.shown.empty());
-    click("btnFind");
-    EXPECT_EQ(alert.onlyPrompt(), "The specified region has been searched.");
-    click("btnFind");
-    EXPECT_EQ(shown(), "1,1:[cat]0");
-
-    type("txtFind", "KATZE");
-    click("chkCase");
-    click("btnFind");
-    EXPECT_EQ(alert.shown.back().prompt, "The search string was not found.");
-    click("chkCase");
-    click("btnFind");
-    EXPECT_EQ(shown(), "1,2:[Katze]0");
-    click("optScope1");
-    click("btnFind");
-    EXPECT_EQ(alert.shown.size(), 3U);
-    type("txtFind", "cat");
-    for (const auto &[modifiers, expected] :
-         {std::pair(Qt::NoModifier, "1,1:[cat]0"), {Qt::NoModifier, "2,1:[cat]4"}, {Qt::ShiftModifier, "1,1:[cat]0"}}) {
-        QTest::keyClick(dialog.get(), Qt::Key_F3, modifiers);
-        EXPECT_EQ(shown(), expected);
-    }
+    EXPECT_EQ(alert.shown[0].prompt, "The specified region has been searched.");
+    EXPECT_EQ(alert.shown[1].prompt, "The search string was not found.");
 
     dialog->close();
     EXPECT_TRUE(!flags.searching() && !grid.EditMode());
     EXPECT_EQ(undo.kind(), UndoKind::None);
     EXPECT_FALSE(document.Dirty());
-
-    alert.shown.clear();
     const std::tuple<bool, int, size_t> rest[] = {
-        {false, 2, 0}, {false, 3, 0}, {true, 2, 0}, {false, 3, 0}, {false, 1, 1}};
+        {false, 2, 4}, {false, 3, 4}, {true, 2, 4}, {false, 3, 4}, {false, 1, 5}};
     for (const auto &[backwards, row, told] : rest) {
         FindOn::run(document, last, backwards, alert, &window);
         EXPECT_EQ(document.selection(), (GridSelection{row, 1, row, 1}));
         EXPECT_EQ(alert.shown.size(), told);
     }
+    last.FindWhat = "dog";
+    FindOn::run(document, last, false, alert, &window);
+    EXPECT_EQ(alert.shown.back().prompt, "The search string was not found.");
 }
 
 TEST_F(FindReplace, ReplacesTheSelectedMatchOnly)
 {
-    open(true);
-    type("txtFind", "cat");
-    type("txtReplace", "dog");
+    open(true, "cat", "dog");
     click("btnReplace");
     EXPECT_EQ(grid.TextMatrix(1, 1), "cat"); // there was no match yet
-    EXPECT_EQ(shown(), "1,1:[cat]0");
+    EXPECT_EQ(match(), "1,1:[cat]0");
     click("btnReplace");
     EXPECT_EQ(grid.TextMatrix(1, 1), "dog");
-    EXPECT_EQ(shown(), "2,1:[cat]4");
+    EXPECT_EQ(match(), "2,1:[cat]4");
     click("btnFind");
     EXPECT_EQ(grid.TextMatrix(2, 1), "the cat sat");
     grid.SelectEditText(0, 2);
@@ -133,48 +142,44 @@ TEST_F(FindReplace, ReplaceAllIsOneUndoStep)
 {
     const Words before = words();
     const QString longWord(200, u'x');
-    open(true);
-    type("txtFind", "cat");
+    open(true, "cat", longWord);
     click("btnFind"); // the match shown first counts as well
-    type("txtReplace", longWord);
     click("btnReplaceAll");
     EXPECT_EQ(alert.onlyPrompt(), "The specified region has been searched. 3 replacements were made.");
     EXPECT_EQ(words(),
               (Words{{longWord, "Katze"}, {"the " + longWord + " sat", "die Katze saß"}, {longWord + "s", "a"}, {}}));
     EXPECT_GT(grid.RowHeight(1), 285);
-    EXPECT_EQ(shown(), "3,1:[]200"); // the last match
+    EXPECT_EQ(match(), "3,1:[]200"); // the last match
     click("btnReplaceAll");
-    EXPECT_EQ(shown(), "3,1:[]200");
+    EXPECT_EQ(match(), "3,1:[]200");
     document.setDirty(false); // as saving does
     dialog->close();
     EXPECT_TRUE(document.Dirty());
-    EditCommands(undo, *QGuiApplication::clipboard()).Undo(document);
+    commands.Undo(document);
     EXPECT_EQ(words(), before);
 }
 
 TEST_F(FindReplace, WhatIsTypedIntoTheMatchCanBeUndone)
 {
-    for (const bool matchesAgain : {true, false}) {
-        setWords({{matchesAgain ? "aXa" : "aX", ""}});
+    for (const QString text : {"aXa", "aX"}) { // which matches again, or not
+        setWords({{text, ""}});
         undo.clear();
-        open(false);
-        type("txtFind", "a");
+        open(false, "a");
         click("btnFind");
         QTest::keyClicks(grid.hwndText(), "u");
         click("btnFind");
         dialog->close();
-        EXPECT_EQ(grid.TextMatrix(1, 1), matchesAgain ? "uXa" : "uX");
+        EXPECT_EQ(grid.TextMatrix(1, 1), 'u' + text.mid(1));
         EXPECT_EQ(undo.kind(), UndoKind::Entry);
         EXPECT_TRUE(document.Dirty());
-        EditCommands(undo, *QGuiApplication::clipboard()).Undo(document);
-        EXPECT_EQ(grid.TextMatrix(1, 1), matchesAgain ? "aXa" : "aX");
+        commands.Undo(document);
+        EXPECT_EQ(grid.TextMatrix(1, 1), text);
     }
 }
 
 TEST_F(FindReplace, LeavesNoUndoStepToAnotherDocument)
 {
-    open(true);
-    type("txtFind", "cat");
+    open(true, "cat");
     click("btnReplaceAll");
     type("txtFind", "Katze");
     click("btnFind");

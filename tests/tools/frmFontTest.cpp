@@ -2,6 +2,7 @@
 
 #include "support/OpenDocument.h"
 #include "support/ScriptedAlertBox.h"
+#include "support/Shown.h"
 #include "tools/FontSample.h"
 #include "widgets/ExtendedComboBox.h"
 
@@ -31,16 +32,22 @@ TEST_F(FontDialog, ShowsTheGridsFontAndKeepsAColorThatHasNoName)
     QFont font(QFontDatabase::families().first());
     font.setPointSizeF(9.75);
     font.setBold(true);
-    grid.setGridFont(font);
     for (const auto &[color, name] : {std::pair(0x008080, "Olive"), {0x123456, ""}}) {
+        grid.setGridFont(font);
         grid.setForeColor(color);
         open();
-        EXPECT_EQ(box("cboFont")->currentText(), font.family());
-        const QString size = QString::number(grid.Font().pointSizeF());
         QTest::keyClicks(box("cboSize"), "x.,-");
-        EXPECT_EQ(box("cboSize")->currentText(), size);
-        EXPECT_EQ(box("cboColor")->currentText(), name);
-        dialog->findChild<QCheckBox *>("chkItalic")->setChecked(true);
+        EXPECT_EQ(
+            shown(*dialog).toStdString(),
+            QString("Font | &Font | >{%1} | ><%1> | &Size | {%2} | <%2> | C&olor | {%3} | [x] &Bold | [ ] &Italic | "
+                    "[ ] &Use as default in new documents | OK | Cancel | ?")
+                .arg(font.family())
+                .arg(grid.Font().pointSizeF())
+                .arg(name)
+                .toStdString());
+        EXPECT_EQ(sample()->sampleFont(), grid.Font());
+        EXPECT_EQ(sample()->accessibleDescription(), "Glosaria");
+        click("chkItalic");
         EXPECT_TRUE(sample()->sampleFont().italic());
         click("btnOK");
         EXPECT_EQ(grid.Font().pointSizeF(), 10);
@@ -54,8 +61,8 @@ TEST_F(FontDialog, ShowsTheGridsFontAndKeepsAColorThatHasNoName)
 TEST_F(FontDialog, IsWalkedThroughBothWays)
 {
     open();
-    const QStringList forth{"cboSize",    "cboColor", "chkBold",   "chkItalic",
-                            "chkDefault", "btnOK",    "btnCancel", "cboFont"};
+    const QStringList forth =
+        QString("cboSize cboColor chkBold chkItalic chkDefault btnOK btnCancel cboFont").split(' ');
     for (const QString &name : forth) {
         QTest::keyClick(dialog.get(), Qt::Key_Tab);
         EXPECT_EQ(dialog->focusWidget()->objectName(), name);
@@ -71,10 +78,10 @@ TEST_F(FontDialog, ChecksTheSizeWhileItIsTyped)
     open();
     typeSize("5000");
     EXPECT_EQ(alert.onlyPrompt(), "The largest font size allowed is 2048.");
-    typeSize("0");
-    EXPECT_EQ(sample()->sampleFont().pointSizeF(), 2048);
-    typeSize("1");
-    EXPECT_EQ(sample()->sampleFont().pointSizeF(), 1);
+    for (const auto &[size, sampled] : {std::pair("0", 2048), {"1", 1}}) {
+        typeSize(size);
+        EXPECT_EQ(sample()->sampleFont().pointSizeF(), sampled);
+    }
     EXPECT_EQ(alert.shown.size(), 1U);
     for (const QString size : {"0", "2", ""}) {
         alert.shown.clear();

@@ -1,28 +1,29 @@
 #include "tools/frmSort.h"
 
+#include "document/EditCommands.h"
 #include "support/OpenDocument.h"
+#include "support/Shown.h"
 #include "tools/modSorting.h"
+#include "tools/rules/SortFlag.h"
 
 using Words = OpenDocument::Words;
 
 struct Sorting : ::testing::Test, OpenDocument
 {
-    Sorting()
-        : OpenDocument(Words{{"b", "2"}, {"", "x"}, {"c", "10"}, {"a", "9"}})
+    /// Clicks on controls of the dialog that SortVocabulary shows, then presses a key. What the dialog showed.
+    std::string sortWith(const QStringList &clicked, Qt::Key key)
     {
-    }
-
-    /// Clicks on controls of the dialog that SortVocabulary shows, then presses a key.
-    void sortWith(const QStringList &clicked, Qt::Key key)
-    {
+        std::string before;
         QTimer::singleShot(0, qApp, [&] {
             auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
             ASSERT_TRUE(dialog && QTest::qWaitForWindowActive(dialog));
+            before = shown(*dialog).toStdString();
             for (const QString &name : clicked)
                 QTest::mouseClick(dialog->findChild<QAbstractButton *>(name), Qt::LeftButton);
-            QTest::keyClick(dialog, key);
+            QTest::keyClick(clicked.isEmpty() ? dialog : dialog->focusWidget(), key);
         });
         modSorting::SortVocabulary(document, undo, QLocale(QLocale::English), &window);
+        return before;
     }
 };
 
@@ -51,12 +52,40 @@ TEST_F(Sorting, OrdersByTheChosenLanguageAndOrderWhatWasChosen)
 
 TEST_F(Sorting, CancelAndASortedVocabularyAreNoChange)
 {
+    setWords({{"b", ""}, {"a", ""}});
     const Words before = words();
-    sortWith({}, Qt::Key_Escape);
+    EXPECT_EQ(sortWith({}, Qt::Key_Escape),
+              "Sort | Sort Based On | >[x] &1 Language 1 | [ ] &2 Language 2 | Sort Direction | [x] &Ascending | "
+              "[ ] &Descending | ([ ] &Sort Selection Only) | OK | Cancel | ?");
     EXPECT_EQ(words(), before);
     EXPECT_EQ(undo.kind(), UndoKind::None);
     setWords({{"a", ""}, {"b", ""}});
     sortWith({}, Qt::Key_Return);
     EXPECT_FALSE(document.Dirty());
     EXPECT_EQ(undo.kind(), UndoKind::Sort);
+}
+
+TEST_F(Sorting, MovesWholeRowsAndIsUndone)
+{
+    std::mt19937 engine{5};
+    for (int round = 0; round < 200; ++round) {
+        const Words before = setRandomWords(engine);
+        const GridSelection selection = document.selection();
+        for (int row = 1; row < grid.Rows(); ++row)
+            grid.setRowHeight(row, 300 + 15 * int(grid.TextMatrix(row, 1).size()));
+        modSorting::sortBy((1 << engine() % 2) | (4 << engine() % 2) | (16 << engine() % 2), document, undo,
+                           QLocale("en"));
+        for (int row = 1; row < grid.Rows(); ++row)
+            ASSERT_EQ(grid.RowHeight(row), 300 + 15 * int(grid.TextMatrix(row, 1).size()));
+        ASSERT_THAT(words(), ::testing::UnorderedElementsAreArray(before));
+        EditCommands(undo, *QGuiApplication::clipboard()).Undo(document);
+        ASSERT_EQ(words(), before);
+        ASSERT_EQ(document.selection(), selection);
+    }
+    setWords({{"short", ""}, {QStringLiteral("words ").repeated(40), ""}});
+    grid.setRowHeight(2, 3000);
+    modSorting::sortBy(SortFlag::Vocabulary | SortFlag::Descending, document, undo, QLocale("en"));
+    EXPECT_EQ(grid.RowHeight(1), 3000);
+    EditCommands(undo, *QGuiApplication::clipboard()).Undo(document);
+    EXPECT_GE(grid.RowHeight(2), grid.fittingRowHeight(2));
 }

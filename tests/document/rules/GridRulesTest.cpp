@@ -10,35 +10,30 @@ TEST(GridRules, EnterVisitsEveryCellAndShiftEnterGoesBack)
     for (const Cell &next : {Cell{1, 2}, Cell{2, 1}, Cell{2, 2}, Cell{3, 1}, Cell{3, 2}, Cell{1, 1, true}}) {
         const Cell before = std::exchange(cell, afterEnter(cell.row, cell.col, Rows));
         EXPECT_EQ(cell, next);
-        const Cell back = afterShiftEnter(next.row, next.col, Rows);
-        EXPECT_EQ(back, (Cell{before.row, before.col, next.wrapped}));
+        EXPECT_EQ(afterShiftEnter(next.row, next.col, Rows), (Cell{before.row, before.col, next.wrapped}));
     }
-    EXPECT_EQ(afterEnter(2, 0, Rows), (Cell{2, 0}));
+    for (const auto step : {afterEnter, afterShiftEnter})
+        EXPECT_EQ(step(3, 0, Rows), (Cell{3, 0})) << "a number";
 }
 
 TEST(GridRules, RowsGrowForLongTextsAndNeverShrink)
 {
     // the text's width and height, the column's width, the row's height before and after
     const int cases[][5] = {
-        {3000, 240, 4000, 285, 285}, // fits on a line
-        {4001, 240, 4000, 285, 480}, // rounded
-        {6000, 240, 4000, 285, 720},
-        {6000, 240, 4000, 480, 480}, // the row already holds two lines
+        {4000, 240, 4000, 285, 285},                              // fits on a line
+        {4001, 240, 4000, 285, 480},                              // rounded
+        {6000, 240, 4000, 479, 720}, {6000, 240, 4000, 480, 480}, // the row already holds two lines
+        {6000, 240, 0, 285, 285},                                 // nothing is shown
     };
     for (const auto &[width, height, column, before, after] : cases)
         EXPECT_EQ(grownRowHeight(width, height, column, before), after) << width;
+    EXPECT_EQ((std::pair{defaultRowHeight(255), defaultRowHeight(256)}), (std::pair{285, 286}));
 }
 
 TEST(GridRules, PastedTextGrowsFromASingleCellAndAtTheEndOnly)
 {
-    struct Case
-    {
-        GridSelection selection;
-        int textRows, textColumns;
-        GridSelection pasted;
-        const char *told;
-    };
-    const Case cases[] = {
+    // the selection, the rows and columns of the text, the cells that it takes, and what is told
+    const std::tuple<GridSelection, int, int, GridSelection, const char *> cases[] = {
         {{2, 1, 2, 1}, 3, 2, {2, 1, 4, 2}, ""},
         {{2, 2, 2, 2}, 300, 2, {2, 2, 301, 2}, "1 of 2 columns pasted"},
         {{4, 2, 2, 1}, 300, 2, {2, 1, 4, 2}, "3 of 300 rows pasted"},
@@ -56,7 +51,7 @@ TEST(GridRules, PastedTextGrowsFromASingleCellAndAtTheEndOnly)
 TEST(GridRules, NamesCells)
 {
     EXPECT_EQ(cellReference({4, 2, 4, 2}), " B4");
-    EXPECT_EQ(cellReference({3, 2, 2, 1}), " A2:B3");
+    EXPECT_EQ(cellReference({3, 2, 3, 1}), " A3:B3");
     EXPECT_EQ(cellReference({5, 1, 7, 1}), " A5:A7");
 }
 

@@ -35,44 +35,37 @@ TEST_F(VocabularyFileTest, WhatIsNoReadableFileFails)
     EXPECT_EQ(load(), Outcome::Failed);
     ASSERT_TRUE(QFile::remove(path));
     ASSERT_TRUE(save());
+    EXPECT_EQ(load(), Outcome::Ok);
+    ASSERT_TRUE(QFile::resize(path, VocabularyFile::LargestSize + 1));
+    EXPECT_EQ(load(), Outcome::Failed);
+    ASSERT_TRUE(QFile::resize(writeFile(path, "PK"), VocabularyFile::LargestSize));
+    EXPECT_EQ(load(), Outcome::BadFormat) << "of another kind, and not read whole";
     ASSERT_EQ(::chmod(qPrintable(path), 0) | ::chmod(qPrintable(folder.path()), 0755), 0);
     EXPECT_TRUE(OrdinaryUser::run([this] { return load() == Outcome::Failed; }));
 }
 
-TEST_F(VocabularyFileTest, HugeFilesOfAnotherKindAreNotRead)
+/// No cell is empty, has blanks that nobody sees or letters that no keyboard makes, or has its like in another row.
+void expectAskable(std::vector<QString> column)
 {
-    ASSERT_TRUE(QFile::resize(writeFile(path, "PK"), VocabularyFile::LargestSize));
-    EXPECT_EQ(load(), Outcome::BadFormat);
+    for (const QString &cell : column)
+        EXPECT_TRUE(!cell.isEmpty() && cell == cell.simplified().normalized(QString::NormalizationForm_C))
+            << qPrintable(cell);
+    std::ranges::sort(column);
+    const auto twice = std::ranges::adjacent_find(column);
+    EXPECT_TRUE(twice == column.end()) << "two answers: " << qPrintable(*twice);
 }
 
-struct LessonsTest : ::testing::Test
-{
-    /// No cell is empty, has blanks that nobody sees or letters that no keyboard makes, or has its like in another row.
-    static void expectAskable(std::vector<QString> column)
-    {
-        for (const QString &cell : column) {
-            EXPECT_FALSE(cell.isEmpty());
-            EXPECT_EQ(cell, cell.simplified().normalized(QString::NormalizationForm_C)) << qPrintable(cell);
-        }
-        std::ranges::sort(column);
-        const auto twice = std::ranges::adjacent_find(column);
-        EXPECT_TRUE(twice == column.end()) << "two answers: " << qPrintable(*twice);
-    }
-};
-
-TEST_F(LessonsTest, AreShortAskableAndAsTheProgramSavesThem)
+TEST(Lessons, AreShortAskableAndAsTheProgramSavesThem)
 {
     const QString root = SOURCE_FOLDER "/samples/";
     const CodePage foreign("windows-874"); // holds none of their letters: they are the same for users of every locale
-    QDirIterator files(root, QDir::Files, QDirIterator::Subdirectories);
     std::map<QString, int> ofLanguage;
-    while (files.hasNext()) {
-        const QString path = files.next();
-        const QString name = path.mid(root.size());
+    for (QDirIterator files(root, QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
+        const QByteArray bytes = readFile(files.next());
+        const QString name = files.filePath().mid(root.size());
         SCOPED_TRACE(qPrintable(name));
         EXPECT_TRUE(QRegularExpression("^[a-z]+/[01][0-9](-[a-z]+)+\\.gla$").match(name).hasMatch());
         ++ofLanguage[name.section('/', 0, 0)];
-        const QByteArray bytes = readFile(path);
         const auto [outcome, older, lesson] = VocabularyCodec::decode(bytes, foreign);
         ASSERT_EQ(outcome, Outcome::Ok);
         EXPECT_EQ(VocabularyCodec::encode(lesson, foreign), bytes);

@@ -17,8 +17,8 @@ public:
     static MemoryCells random(std::mt19937 &engine, int rows, const QStringList &alphabet)
     {
         MemoryCells cells{};
-        for (int i = 0; i < rows; ++i)
-            cells.words.push_back({randomWord(engine, alphabet, 7), randomWord(engine, alphabet, 7)});
+        for (cells.words.resize(size_t(rows)); Row & row : cells.words)
+            row = {randomWord(engine, alphabet, 7), randomWord(engine, alphabet, 7)};
         return cells;
     }
 

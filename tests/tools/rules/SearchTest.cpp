@@ -2,8 +2,6 @@
 
 #include "MemoryCells.h"
 
-namespace {
-
 using namespace SearchFlag;
 
 TEST(IsLetter, FollowsTheCodesOfWindows1252)
@@ -16,7 +14,7 @@ TEST(IsLetter, FollowsTheCodesOfWindows1252)
             letters.insert(QString(QStringDecoder("windows-1252")(QByteArray(1, char(code)))).front());
     }
     for (int unicode = 0; unicode <= 0xFFFF; ++unicode)
-        EXPECT_EQ(IsLetter(QChar(char16_t(unicode))), letters.contains(QChar(char16_t(unicode)))) << unicode;
+        EXPECT_EQ(IsLetter(QChar(unicode)), letters.contains(QChar(unicode))) << unicode;
 }
 
 /// Everything found until the region ends, as "A1:0 B3:2": column, row and position.
@@ -25,16 +23,18 @@ std::string foundIn(const MemoryCells &cells, const QString &what, int flags)
     Search search;
     search.FindWhat = what;
     search.SearchFlags = flags;
-    QStringList found;
-    while (const auto match = search.FindNext(cells)) {
-        EXPECT_EQ(match->length, what.size());
-        found << QStringLiteral("%1%2:%3").arg(QChar(u'@' + match->col)).arg(match->row).arg(match->start);
-    }
+    QStringList found, backwards;
+    const auto name = [&](const Search::Match &match) {
+        EXPECT_EQ(match.length, what.size());
+        return QStringLiteral("%1%2:%3").arg(QChar(u'@' + match.col)).arg(match.row).arg(match.start);
+    };
+    while (const auto match = search.FindNext(cells))
+        found.append(name(*match));
     EXPECT_EQ(search.FoundAny, !found.isEmpty());
     search.ResetSearch();
-    QStringList backwards;
+    EXPECT_FALSE(search.FoundAny);
     while (const auto match = search.FindPrevious(cells))
-        backwards.prepend(QStringLiteral("%1%2:%3").arg(QChar(u'@' + match->col)).arg(match->row).arg(match->start));
+        backwards.prepend(name(*match));
     EXPECT_TRUE(backwards == found || flags & WholeWords) << "going back looks at every occurrence";
     return found.join(u' ').toStdString();
 }
@@ -55,7 +55,6 @@ TEST(Search, FindsInOrder)
         {{{"a-a", ""}}, "a", WholeDocument | WholeWords, "A1:0 A1:2"},
         {{{"aba b", ""}}, "b", WholeDocument | WholeWords, ""},
         // the start of what remains counts as the start of a word
-        {{{"a a", ""}}, "a", WholeDocument | WholeWords, "A1:0 A1:2"},
         {{{"-xx", ""}}, "x", WholeDocument | WholeWords, ""},
         // other scripts; characters that change their length when written in capitals keep the positions right
         {{{"\u00DF\u1E9E\u0130\u0130ab", "\u041C\u041E\u0421\u041A\u0412\u0410"}}, "AB", WholeDocument, "A1:4"},
@@ -95,9 +94,7 @@ TEST(Search, LooksOnlyAtColumnTwoOnceThereUntilTheRegionEnds)
     EXPECT_EQ(search.FindNext(cells), (Search::Match{2, 2, 0, 1}));
     EXPECT_EQ(search.FindNext(cells), std::nullopt);
     search.ResetSearch();
-    EXPECT_FALSE(search.FoundAny);
     EXPECT_EQ(search.FindNext(cells), (Search::Match{2, 1, 0, 1}));
     cells.words.pop_back(); // the row of the match has gone
     EXPECT_EQ(search.FindNext(cells), (Search::Match{1, 2, 0, 1}));
 }
-} // namespace
