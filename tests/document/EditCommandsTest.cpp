@@ -2,7 +2,9 @@
 
 #include "document/ctlGridEdit.h"
 #include "document/rules/Vocabulary.h"
+#include "resources/StringTable.h"
 #include "support/OpenDocument.h"
+#include "support/Play.h"
 #include "widgets/grid/FlexGridView.h"
 
 using Words = OpenDocument::Words;
@@ -138,69 +140,27 @@ TEST_F(Editing, PasteReachesAsFarAsTheTextOrTheSelection)
 
 TEST_F(Editing, WhileACellIsEditedTheCommandsActOnTheEditBox)
 {
-    QTest::keyClicks(grid.hwndGrid(), "xyz");
-    grid.SelectEditText(0, 2);
-    commands.Copy(document);
-    EXPECT_EQ(clipboard.text(), "xy");
-    commands.Cut(document);
-    EXPECT_EQ(grid.EditText(), "z");
-    for (const char *expected : {"xyz", "z", "xyz"}) {
-        EXPECT_EQ(undo.kind(), UndoKind::Cut);
-        commands.Undo(document);
-        EXPECT_EQ(grid.EditText(), expected);
-    }
-    grid.SelectEditText(3, 0);
-    QTest::keyClick(grid.hwndText(), Qt::Key_Exclam);
-    commands.Paste(document);
-    for (const char *expected : {"xyz!", "xyz!xy"}) {
-        commands.Undo(document);
-        EXPECT_EQ(grid.EditText(), expected);
-        EXPECT_EQ(undo.kind(), UndoKind::Paste);
-    }
-    QTest::keyClicks(grid.hwndText(), "..");
-    commands.Undo(document);
-    EXPECT_EQ(grid.EditText(), "xyz!xy");
-    EXPECT_EQ(words(), before);
-    QTest::keyClick(grid.hwndText(), Qt::Key_Return);
-    EXPECT_EQ(grid.TextMatrix(1, 1), "xyz!xy");
-    EXPECT_EQ(undo.kind(), UndoKind::Entry);
-    expectUndone(before);
-}
-
-TEST_F(Editing, SeveralCellsArePastedAsCellsUnlessSomethingWasTyped)
-{
-    for (const QString &typed : {QString(), QStringLiteral("!")}) {
-        clipboard.setText("x\ty\nz\n");
-        grid.setEditMode(true);
-        QTest::keyClicks(grid.hwndText(), typed);
-        commands.Paste(document);
-        EXPECT_EQ(grid.EditText(), typed.isEmpty() ? "" : "a!x y z ");
-        EXPECT_EQ(words(), typed.isEmpty() ? (Words{{"x", "y"}, {"z", "d"}, {"e", "f"}, {}}) : before);
-        commands.Undo(document);
-        grid.setEditMode(false);
-        setWords({{"a", "b"}, {"c", "d"}, {"e", "f"}});
-    }
-    clipboard.setText("one\n"); // a line of another program is one cell
-    grid.setEditMode(true);
-    commands.Paste(document);
-    EXPECT_EQ(grid.EditText(), "aone");
-}
-
-TEST_F(Editing, UndoOfTypingTogglesAndEndsWhenThereIsNoTyping)
-{
-    grid.setEditMode(true);
-    QTest::keyClicks(grid.hwndText(), "xy");
-    for (const char *expected : {"a", "axy", "a"}) {
-        commands.Undo(document);
-        EXPECT_EQ(grid.EditText(), expected);
-        EXPECT_EQ(undo.kind(), UndoKind::Typing);
-    }
-    QTest::keyClick(grid.hwndText(), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(grid.EditText(), "axy");
-    QTest::keyClick(grid.hwndText(), Qt::Key_Return);
-    grid.setEditMode(true);
-    commands.Undo(document);
-    EXPECT_EQ(undo.kind(), UndoKind::None);
+    // a change of the box is undone also back and forth; a line of another program is one cell; several cells are
+    // pasted as cells if nothing was typed
+    play({{"edit", [&] { grid.setEditMode(true); }},
+          {"select", [&] { grid.SelectEditText(0, 2); }},
+          {"copy", [&] { commands.Copy(document); }},
+          {"cut", [&] { commands.Cut(document); }},
+          {"paste", [&] { commands.Paste(document); }},
+          {"undo", [&] { commands.Undo(document); }},
+          {"cells", [&] { clipboard.setText("x\ty\nz\n"); }},
+          {"line", [&] { clipboard.setText("one\n"); }}},
+         "xyz -> [xyz] Typing, select -> [xyz] Typing, copy -> [xyz] Typing, cut -> [z] Cut, undo -> [xyz] Cut, "
+         "undo -> [z] Cut, undo -> [xyz] Cut, End -> [xyz] Cut, !! -> [xyz!!] Typing, paste -> [xyz!!xy] Paste, "
+         "undo -> [xyz!!] Paste, undo -> [xyz!!xy] Paste, .. -> [xyz!!xy..] Typing, undo -> [xyz!!xy] Typing, "
+         "Ctrl+Z -> [xyz!!xy..] Typing, Return -> xyz!!xy.. Entry, undo -> a None, edit -> [a] Typing, undo -> [a]"
+         " None, line -> [a] None, paste -> [aone] Paste, Esc -> a Entry, cells -> a Entry, edit -> [a] Typing, "
+         "paste -> x Paste, undo -> a None, edit -> [a] Typing, !! -> [a!!] Typing, paste -> [a!!x y z ] Paste",
+         [&]() -> QString {
+             const QString kind = undo.kind() == UndoKind::None ? "None" : resText(int(undo.kind())).section(u' ', 1);
+             return (grid.EditMode() ? '[' + grid.EditText() + ']' : grid.TextMatrix(1, 1)) + ' ' + kind;
+         });
+    EXPECT_EQ(words(), before) << "until it is committed";
 }
 
 TEST_F(Editing, UndoLeavesNothingToTheEditBoxOfASearch)

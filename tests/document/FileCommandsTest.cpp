@@ -98,7 +98,7 @@ TEST_F(FileCommandsTest, SaveAsksForANameUntilItHasOneAndCommitsTheRunningEdit)
         files.save();
         EXPECT_EQ(document.Dirty(), savePath != path("Numbers.gla"));
     }
-    EXPECT_EQ(document.Caption(), "Numbers");
+    EXPECT_EQ(document.Caption() + prompts.folder, "Numbers");
     EXPECT_TRUE(readFile(prompts.savePath).contains("one   [0000000285]"));
     EXPECT_EQ(recent.File(1), prompts.savePath);
     flags.FindMode = true; // which holds status texts by id back

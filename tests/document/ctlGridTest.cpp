@@ -3,6 +3,7 @@
 #include "document/ctlGridEdit.h"
 #include "document/rules/Vocabulary.h"
 #include "services/rules/ProgramFlags.h"
+#include "support/Play.h"
 #include "widgets/grid/FlexGridView.h"
 
 /// A grid as a document window sets it up, shown and with the focus, that writes down what it tells its container.
@@ -63,22 +64,42 @@ TEST_F(GridEditing, WhatIsTypedDecidesWhatTheBoxHolds)
     }
 }
 
-TEST_F(GridEditing, KeysThatOpenTheBox)
+TEST_F(GridEditing, KeysAndMouseOpenTheBoxAndStoreItsText)
 {
-    const auto opens = [this] {
-        const bool opened = grid.EditMode() && grid.EditText() == "house";
-        grid.setEditMode(false);
-        return opened;
+    const auto at = [this](int row, int col) { return view.cellRect(row, col).center(); };
+    const std::map<QString, std::function<void()>> actions = {
+        {"twice", [&] { QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, at(1, 1)); }},
+        {"header", [&] { QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, at(0, 1)); }},
+        {"B5", [&] { QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, at(5, 2)); }},
+        {"row 3", [&] { grid.setRow(3); }},
+        {"last", [&] { grid.setRow(100); }},
+        {"focus", [&] { grid.setFocus(); }},
+        {"edit", [&] { grid.setEditMode(true); }},
+        {"end", [&] { grid.setEditMode(false); }},
+        {"replace", [&] { grid.SelectEditText(0, 2), grid.setFocus(), grid.setSelText(grid.SelText().toUpper()); }},
+        {"store", [&] { grid.setTextMatrix(1, 1, grid.EditText()); }},
+        {"search", [&] { flags.FindMode = true, grid.Select(1, 1, 1, 1); }},
+        {"insert", [&] { grid.insertRows(1, 1), grid.setRow(2); }},
     };
-    for (const QString keys : {"Space", "Backspace", "Esc", "Return", "Tab", "Del", "F2", "Left", "Ctrl+Q", "Alt+Q"}) {
-        QTest::keySequence(&view, QKeySequence(keys));
-        EXPECT_EQ(opens(), keys == "Space" || keys == "Backspace" || keys == "Esc") << keys.toStdString();
-    }
-    const QPoint at = view.cellRect(1, 1).center();
-    for (const QPoint &place : {at, QPoint(at.x(), 5)}) {
-        QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, place);
-        EXPECT_EQ(opens(), place == at) << "a header is no cell to edit";
-    }
+    play(actions,
+         "Space -> 1,1 [house], Esc -> 1,1 house, Backspace -> 1,1 [house], Esc -> 1,1 house, Esc -> 1,1 [house], "
+         "Esc -> 1,1 house, Return -> 1,1 house, Tab -> 1,1 house, Del -> 1,1 house, F2 -> 1,1 house, "
+         "Ctrl+Q -> 1,1 house, Alt+Q -> 1,1 house, twice -> 1,1 [house], Esc -> 1,1 house, header -> 1,1 house, "
+         "x -> 1,1 [x], edit -> 1,1 [x] stored, row 3 -> 3,1 stored, y -> 3,1 [y], B5 -> 5,2 stored, z -> 5,2 [z], "
+         "focus -> 5,2 z stored, m -> 5,2 [m], Down -> 6,2 stored, Up -> 5,2 m, n -> 5,2 [n], Up -> 4,2 stored, "
+         "last -> 100,2, o -> 100,2 [o], Down -> 100,2 o stored, search -> 1,1 x, p -> 1,1 [p], Up -> 1,1 p stored, "
+         // while a search is open the focus alone stores nothing
+         "house -> 1,1 [house], focus -> 1,1 [house], replace -> 1,1 [HOuse], store -> 1,1 [HOuse], "
+         "end -> 1,1 HOuse, edit -> 1,1 [HOuse], s -> 1,1 [HOuses], end -> 1,1 HOuses stored, edit -> 1,1 [HOuses], "
+         "moved -> 1,1 [HOusesmoved], insert -> 2,1 HOusesmoved stored, edit -> 2,1 [HOusesmoved], row 3 -> 3,1 stored",
+         [this] {
+             QStringList parts{QString("%1,%2").arg(grid.Row()).arg(grid.Col()),
+                               grid.EditMode() ? '[' + grid.EditText() + ']' : grid.Text(),
+                               log.filter("after").isEmpty() ? "" : "stored"};
+             parts.removeAll("");
+             log.clear();
+             return parts.join(' ');
+         });
 }
 
 TEST_F(GridEditing, TheContainerMayChangeOrRefuseWhatIsTyped)
@@ -107,59 +128,6 @@ TEST_F(GridEditing, EditingALongCellKeepsAllOfIt)
     press("Return");
     EXPECT_EQ(cell(1, 1).size(), 40001);
     EXPECT_EQ(cell(1, 1).indexOf('y'), 1000);
-}
-
-TEST_F(GridEditing, ArrowsCommitAndMove)
-{
-    const std::tuple<int, const char *, int> cases[] = {{1, "Down", 2}, {100, "Down", 100}, {3, "Up", 2}, {1, "Up", 1}};
-    for (const auto &[row, arrow, after] : cases) {
-        grid.Select(row, 1, row, 1);
-        type("n");
-        press(arrow);
-        EXPECT_FALSE(grid.EditMode());
-        EXPECT_EQ(cell(row, 1), "n");
-        EXPECT_EQ(grid.Row(), after) << row << " " << arrow;
-    }
-}
-
-TEST_F(GridEditing, LeavingTheCellOrReturningToTheGridCommits)
-{
-    type("x");
-    grid.setEditMode(true);
-    EXPECT_EQ(grid.EditText(), "x") << "the same cell again";
-    grid.setRow(3);
-    EXPECT_EQ(cell(1, 1), "x");
-    EXPECT_EQ(log.last(), "after 1 1 x");
-    type("y");
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.cellRect(5, 2).center());
-    EXPECT_EQ(cell(3, 1), "y");
-    type("z");
-    grid.setFocus();
-    EXPECT_EQ(cell(5, 2), "z");
-    type("moved");
-    grid.insertRows(1, 1);
-    EXPECT_EQ(cell(6, 2), "moved") << "into its own cell, before the rows move";
-}
-
-TEST_F(GridEditing, WhileSearchingTheFocusAloneDoesNotCommit)
-{
-    flags.FindMode = true;
-    grid.setEditMode(true);
-    grid.SelectEditText(1, 2);
-    grid.setFocus();
-    EXPECT_EQ(grid.SelText(), "ou");
-    grid.setSelText("OU");
-    EXPECT_EQ(grid.EditText(), "hOUse");
-    grid.setTextMatrix(1, 1, grid.EditText());
-    grid.setEditMode(false);
-    EXPECT_EQ(log, QStringList({"before"})) << "the cell holds the text already";
-    grid.setEditMode(true);
-    type("s");
-    grid.setEditMode(false);
-    EXPECT_EQ(log.last(), "after 1 1 hOUses") << "what was typed is not lost";
-    grid.setEditMode(true);
-    grid.setRow(2);
-    EXPECT_FALSE(grid.EditMode()) << "leaving the cell commits, also while searching";
 }
 
 TEST_F(GridEditing, TheBoxLiesOverItsCellAndStaysInsideTheCells)

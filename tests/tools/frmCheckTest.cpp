@@ -54,17 +54,18 @@ TEST_F(Checking, GoesThroughTheFindingsAndSelectsTheirCells)
 
 TEST_F(Checking, MendsWhatIsSafeInOneUndoStepEach)
 {
-    const std::pair<const char *, Words> steps[] = {
-        {"btnTrim", {before[0], {"b", "2"}, before[2], before[3], before[4], before[5], {}}},
-        {"btnTrimAll", {before[0], {"b", "2"}, before[2], {"c c", "3"}, before[4], before[5], {}}},
-        {"btnRemove", {before[0], before[1], before[3], before[4], before[5], {}}}};
-    for (const auto &[button, mended] : steps) {
+    const std::tuple<const char *, int, Words> steps[] = {
+        {"btnTrim", 0, {before[0], {"b", "2"}, before[2], before[3], before[4], before[5], {}}},
+        {"btnTrimAll", 0, {before[0], {"b", "2"}, before[2], {"c c", "3"}, before[4], before[5], {}}},
+        {"btnRemove", 1, {before[0], before[1], before[3], before[4], before[5], {}}}};
+    for (const auto &[button, line, mended] : steps) {
         document.setDirty(false);
         dialog.workOn(document);
-        if (button == steps[2].first)
+        if (line == 1)
             click("btnNext");
         click(button);
         EXPECT_EQ(words(), mended);
+        EXPECT_EQ(list.currentIndex().row(), line);
         EXPECT_TRUE(document.Dirty());
         commands.Undo(document);
         EXPECT_EQ(words(), before);
@@ -74,6 +75,12 @@ TEST_F(Checking, MendsWhatIsSafeInOneUndoStepEach)
     click("btnTrim");
     EXPECT_EQ(undo.kind(), UndoKind::None);
     EXPECT_EQ(list.model()->rowCount(), 5);
+    grid.setTextMatrix(1, 1, " ");
+    for (QWidget *active : {&window, static_cast<QWidget *>(&dialog)}) {
+        active->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(active));
+    }
+    EXPECT_EQ(list.model()->rowCount(), 6) << "looked through again";
     dialog.leaveDocument();
     EXPECT_EQ(list.model()->rowCount(), 0);
     click("btnNext");

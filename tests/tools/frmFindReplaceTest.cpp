@@ -2,8 +2,10 @@
 
 #include "document/EditCommands.h"
 #include "document/ctlGridEdit.h"
+#include "resources/StringTable.h"
 #include "services/FormTexts.h"
 #include "support/OpenDocument.h"
+#include "support/Play.h"
 #include "support/ScriptedAlertBox.h"
 #include "support/Shown.h"
 #include "tools/FindOn.h"
@@ -15,6 +17,8 @@ struct FindReplace : ::testing::Test, OpenDocument
     FindReplace()
         : OpenDocument(Words{{"cat", "Katze"}, {"the cat sat", "die Katze saß"}, {"cats", "a"}})
     {
+        for (const char *name : {"btnFind", "btnReplace", "chkCase", "chkWord", "optScope1"})
+            actions[name] = [this, name] { click(name); };
     }
 
     void open(bool replace, const QString &what = {}, const QString &with = {})
@@ -47,6 +51,7 @@ struct FindReplace : ::testing::Test, OpenDocument
     ScriptedAlertBox alert;
     Search last;
     std::unique_ptr<frmFindReplace> dialog;
+    std::map<QString, std::function<void()>> actions; ///< a click on each control of that name
 };
 
 TEST_F(FindReplace, OpensWithTheCurrentCellsTextAndWidens)
@@ -57,7 +62,7 @@ TEST_F(FindReplace, OpensWithTheCurrentCellsTextAndWidens)
               "[ ] &2 Language 2 | [ ] &Match Case | [ ] &Whole Words | Find &Next | &Replace... | &Close | ?");
     EXPECT_EQ(control<QLineEdit>("txtFind")->selectedText(), "cat");
     EXPECT_EQ(FormTexts::helpContextId(dialog.get()), 1160);
-    const QString whatsThis = dialog->whatsThis();
+    EXPECT_EQ(dialog->whatsThis(), resText(20043));
     const int height = dialog->height();
     type("txtFind", "");
     dialog->showAgain(true);
@@ -67,7 +72,7 @@ TEST_F(FindReplace, OpensWithTheCurrentCellsTextAndWidens)
               "(Find &Next) | (&Replace) | (Replace &All) | &Close | ?");
     EXPECT_GE(dialog->height() - height, 46); // 700 twips
     EXPECT_EQ(FormTexts::helpContextId(dialog.get()), 1170);
-    EXPECT_NE(dialog->whatsThis(), whatsThis);
+    EXPECT_EQ(dialog->whatsThis(), resText(20051));
     EXPECT_TRUE(flags.ReplaceMode && !flags.FindMode);
     EXPECT_EQ(match(), "nothing");
 }
@@ -75,26 +80,23 @@ TEST_F(FindReplace, OpensWithTheCurrentCellsTextAndWidens)
 TEST_F(FindReplace, ShowsMatchAfterMatchAndReportsTheEnd)
 {
     open(false);
-    // what is clicked or pressed, what is shown then, and how often the user was told of the end
-    const std::tuple<const char *, const char *, size_t> steps[] = {
-        {"Return", "1,1:[cat]0", 0},      {"Return", "2,1:[cat]4", 0},    {"Return", "3,1:[cat]0", 0},
-        {"btnFind", "3,1:[cat]0", 1},     {"btnFind", "1,1:[cat]0", 1},   {"F3", "2,1:[cat]4", 1},
-        {"Shift+F3", "1,1:[cat]0", 1},    {"KATZE", "1,1:[cat]0", 1},     {"chkCase", "1,1:[cat]0", 1},
-        {"btnFind", "1,1:[cat]0", 2},     {"chkCase", "1,1:[cat]0", 2},   {"btnFind", "1,2:[Katze]0", 2},
-        {"optScope1", "1,2:[Katze]0", 2}, {"btnFind", "1,2:[Katze]0", 3}, {"cat", "1,2:[Katze]0", 3},
-        {"chkWord", "1,2:[Katze]0", 3},   {"Shift+F3", "2,1:[cat]4", 3},  {"btnFind", "2,1:[cat]4", 4},
-        {"chkWord", "2,1:[cat]4", 4},     {"Return", "1,1:[cat]0", 4},
-    };
-    for (const auto &[input, expected, told] : steps) {
-        if (control<QWidget>(input))
-            click(input);
-        else if (QKeySequence(input).toString() == input && QString(input).size() > 1)
-            QTest::keySequence(control<QLineEdit>("txtFind"), QKeySequence(input));
-        else
-            type("txtFind", input);
-        EXPECT_EQ(match(), expected) << input;
-        EXPECT_EQ(alert.shown.size(), told) << input;
-    }
+    grid.setTextMatrix(3, 2, "far");
+    grid.insertRows(2, 200);
+    type("txtFind", "far");
+    click("btnFind");
+    EXPECT_TRUE(grid.RowIsVisible(203));
+    grid.removeRows(2, 200);
+    type("txtFind", "cat");
+    actions["KATZE"] = [this] { type("txtFind", "KATZE"); };
+    actions["cat"] = [this] { type("txtFind", "cat"); };
+    // the match and how often the user was told of the end
+    play(actions,
+         "Return -> 1,1:[cat]0 0, Return -> 2,1:[cat]4 0, Return -> 3,1:[cat]0 0, btnFind -> 3,1:[cat]0 1, "
+         "btnFind -> 1,1:[cat]0 1, F3 -> 2,1:[cat]4 1, Shift+F3 -> 1,1:[cat]0 1, KATZE -> 1,1:[cat]0 1, "
+         "chkCase -> 1,1:[cat]0 1, btnFind -> 1,1:[cat]0 2, chkCase -> 1,1:[cat]0 2, btnFind -> 1,2:[Katze]0 2, "
+         "optScope1 -> 1,2:[Katze]0 2, btnFind -> 1,2:[Katze]0 3, cat -> 1,2:[Katze]0 3, chkWord -> 1,2:[Katze]0 3, "
+         "Shift+F3 -> 2,1:[cat]4 3, btnFind -> 2,1:[cat]4 4, chkWord -> 2,1:[cat]4 4, Return -> 1,1:[cat]0 4",
+         [this] { return match() + ' ' + QString::number(alert.shown.size()); });
     EXPECT_EQ(alert.shown[0].prompt, "The specified region has been searched.");
     EXPECT_EQ(alert.shown[1].prompt, "The search string was not found.");
 
@@ -102,13 +104,10 @@ TEST_F(FindReplace, ShowsMatchAfterMatchAndReportsTheEnd)
     EXPECT_TRUE(!flags.searching() && !grid.EditMode());
     EXPECT_EQ(undo.kind(), UndoKind::None);
     EXPECT_FALSE(document.Dirty());
-    const std::tuple<bool, int, size_t> rest[] = {
-        {false, 2, 4}, {false, 3, 4}, {true, 2, 4}, {false, 3, 4}, {false, 1, 5}};
-    for (const auto &[backwards, row, told] : rest) {
-        FindOn::run(document, last, backwards, alert, &window);
-        EXPECT_EQ(document.selection(), (GridSelection{row, 1, row, 1}));
-        EXPECT_EQ(alert.shown.size(), told);
-    }
+    play({{"on", [this] { FindOn::run(document, last, false, alert, &window); }},
+          {"back", [this] { FindOn::run(document, last, true, alert, &window); }}},
+         "on -> 2 4, on -> 3 4, back -> 2 4, on -> 3 4, on -> 1 5, back -> 3 5",
+         [this] { return QString("%1 %2").arg(document.selection().bottom()).arg(alert.shown.size()); });
     last.FindWhat = "dog";
     FindOn::run(document, last, false, alert, &window);
     EXPECT_EQ(alert.shown.back().prompt, "The search string was not found.");
@@ -117,20 +116,16 @@ TEST_F(FindReplace, ShowsMatchAfterMatchAndReportsTheEnd)
 TEST_F(FindReplace, ReplacesTheSelectedMatchOnly)
 {
     open(true, "cat", "dog");
-    click("btnReplace");
-    EXPECT_EQ(grid.TextMatrix(1, 1), "cat"); // there was no match yet
-    EXPECT_EQ(match(), "1,1:[cat]0");
-    click("btnReplace");
-    EXPECT_EQ(grid.TextMatrix(1, 1), "dog");
-    EXPECT_EQ(match(), "2,1:[cat]4");
-    click("btnFind");
-    EXPECT_EQ(grid.TextMatrix(2, 1), "the cat sat");
-    grid.SelectEditText(0, 2);
-    click("btnReplace");
-    EXPECT_EQ(grid.TextMatrix(3, 1), "cats");
-    control<QLineEdit>("txtReplace")->setText(QString(200, u'x'));
-    for (const char *name : {"btnFind", "btnFind", "btnReplace"})
-        click(name);
+    actions["part"] = [this] { grid.SelectEditText(0, 2); };
+    actions["long"] = [this] { control<QLineEdit>("txtReplace")->setText(QString(200, u'x')); };
+    play(
+        actions,
+        "btnReplace -> 1,1:[cat]0 cat, btnReplace -> 2,1:[cat]4 dog, btnFind -> 3,1:[cat]0 dog, part -> 3,1:[ca]0 dog, "
+        "btnReplace -> 3,1:[ca]0 dog, btnFind -> 2,1:[cat]4 dog, btnReplace -> 3,1:[cat]0 dog, long -> 3,1:[cat]0 dog, "
+        "btnFind -> 3,1:[cat]0 dog, btnFind -> 3,1:[cat]0 dog, btnReplace -> 3,1:[]200 dog",
+        [this] { return match() + ' ' + grid.TextMatrix(1, 1); });
+    EXPECT_EQ(words(),
+              (Words{{"dog", "Katze"}, {"the dog sat", "die Katze saß"}, {QString(200, u'x') + 's', "a"}, {}}));
     QTest::keyClick(dialog.get(), Qt::Key_Escape);
     EXPECT_GT(grid.RowHeight(3), 285); // also of the last match
     EXPECT_FALSE(dialog->isVisible());

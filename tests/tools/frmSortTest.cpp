@@ -54,6 +54,7 @@ TEST_F(Sorting, CancelAndASortedVocabularyAreNoChange)
 {
     setWords({{"b", ""}, {"a", ""}});
     const Words before = words();
+    select(1, 1, 1, 2);
     EXPECT_EQ(sortWith({}, Qt::Key_Escape),
               "Sort | Sort Based On | >[x] &1 Language 1 | [ ] &2 Language 2 | Sort Direction | [x] &Ascending | "
               "[ ] &Descending | ([ ] &Sort Selection Only) | OK | Cancel | ?");

@@ -1,21 +1,21 @@
 #include "document/rules/file/CodePage.h"
 
-/// A word in each character set, and its bytes.
-const std::tuple<const char *, QString, QByteArray> Samples[] = {
-    {"windows-1250", "Łódź", "\xA3\xF3\x64\x9F"},
-    {"windows-1251", "Дом", "\xC4\xEE\xEC"},
-    {"windows-1252", "€é\u0081\u008D\u008F\u0090\u009D", "\x80\xE9\x81\x8D\x8F\x90\x9D"},
-    {"windows-1253", "Ωμή", "\xD9\xEC\xDE"},
-    {"windows-1254", "ışğ", "\xFD\xFE\xF0"},
-    {"windows-1255", "שלום", "\xF9\xEC\xE5\xED"},
-    {"windows-1256", "بيت", "\xC8\xED\xCA"},
-    {"windows-1257", "ąž", "\xE0\xFE"},
-    {"windows-1258", "a\u0301đ", "\x61\xEC\xF0"},
-    {"windows-874", "บ้าน", "\xBA\xE9\xD2\xB9"},
-    {"windows-932", "家ソ\\~纊ｱ", "\x89\xC6\x83\x5C\x5C\x7E\xFA\x5C\xB1"},
-    {"windows-936", "房子€", "\xB7\xBF\xD7\xD3\x80"},
-    {"windows-949", "집똠", "\xC1\xFD\x8C\x63"},
-    {"windows-950", "功許", "\xA5\x5C\xB3\x5C"},
+/// The character sets: a word, its bytes, and whose set it is.
+const std::tuple<const char *, QString, QByteArray, QString> Sets[] = {
+    {"windows-1250", "Łódź", "\xA3\xF3\x64\x9F", "pl_PL sr_Latn_RS"},
+    {"windows-1251", "Дом", "\xC4\xEE\xEC", "ru_RU sr_Cyrl_RS az_Cyrl_AZ"},
+    {"windows-1252", "€é\u0081\u008D\u008F\u0090\u009D", "\x80\xE9\x81\x8D\x8F\x90\x9D", "C en_GB sv_SE hi_IN"},
+    {"windows-1253", "Ωμή", "\xD9\xEC\xDE", "el_GR"},
+    {"windows-1254", "ışğ", "\xFD\xFE\xF0", "tr_TR uz_Latn_UZ"},
+    {"windows-1255", "שלום", "\xF9\xEC\xE5\xED", "he_IL"},
+    {"windows-1256", "بيت", "\xC8\xED\xCA", "fa_IR"},
+    {"windows-1257", "ąž", "\xE0\xFE", "lt_LT"},
+    {"windows-1258", "a\u0301đ", "\x61\xEC\xF0", "vi_VN"},
+    {"windows-874", "บ้าน", "\xBA\xE9\xD2\xB9", "th_TH"},
+    {"windows-932", "家ソ\\~纊ｱ", "\x89\xC6\x83\x5C\x5C\x7E\xFA\x5C\xB1", "ja_JP"},
+    {"windows-936", "房子€", "\xB7\xBF\xD7\xD3\x80", "zh_CN"},
+    {"windows-949", "집똠", "\xC1\xFD\x8C\x63", "ko_KR"},
+    {"windows-950", "功許", "\xA5\x5C\xB3\x5C", "zh_TW"},
 };
 
 /// No value when the character set cannot hold the text.
@@ -28,11 +28,13 @@ std::optional<QByteArray> encoded(const CodePage &codePage, const QString &text)
 
 TEST(CodePage, ReadsAndWritesWordsAndEveryByte)
 {
-    for (const auto &[name, word, itsBytes] : Samples) {
+    for (const auto &[name, word, itsBytes, locales] : Sets) {
         const CodePage codePage(name);
         EXPECT_EQ(codePage.name(), name);
         EXPECT_EQ(encoded(codePage, word).value_or("none").toHex(), itsBytes.toHex()) << name;
         EXPECT_EQ(codePage.decode(itsBytes), word) << name;
+        for (const QString &locale : locales.split(' '))
+            EXPECT_EQ(CodePage::nameFor(QLocale(locale)), name) << locale.toStdString();
         QString letters;
         for (int byte = 0; byte < 256; ++byte) {
             const QByteArray bytes(1, char(byte));
@@ -49,7 +51,7 @@ TEST(CodePage, ReadsAndWritesWordsAndEveryByte)
 TEST(CodePage, WritesNothingThatReadsDifferently)
 {
     std::minstd_rand random(7);
-    for (const auto &[name, word, itsBytes] : Samples) {
+    for (const auto &[name, word, itsBytes, locales] : Sets) {
         const CodePage codePage(name);
         int written = 0;
         for (int i = 0; i < 20000; ++i) {
@@ -66,19 +68,4 @@ TEST(CodePage, WritesNothingThatReadsDifferently)
              {QString("\U0001F3E0"), QString(QChar(0xD83C)), QString("a\uFFFD"), QString("\u0915")})
             EXPECT_FALSE(encoded(codePage, text)) << name << qPrintable(text);
     }
-}
-
-TEST(CodePage, BelongsToTheLanguage)
-{
-    const std::pair<const char *, const char *> cases[] = {
-        {"C", "windows-1252"},          {"en_GB", "windows-1252"},      {"sv_SE", "windows-1252"},
-        {"pl_PL", "windows-1250"},      {"sr_Latn_RS", "windows-1250"}, {"sr_Cyrl_RS", "windows-1251"},
-        {"ru_RU", "windows-1251"},      {"el_GR", "windows-1253"},      {"tr_TR", "windows-1254"},
-        {"he_IL", "windows-1255"},      {"fa_IR", "windows-1256"},      {"lt_LT", "windows-1257"},
-        {"vi_VN", "windows-1258"},      {"th_TH", "windows-874"},       {"ja_JP", "windows-932"},
-        {"zh_CN", "windows-936"},       {"ko_KR", "windows-949"},       {"zh_TW", "windows-950"},
-        {"uz_Latn_UZ", "windows-1254"}, {"az_Cyrl_AZ", "windows-1251"}, {"hi_IN", "windows-1252"},
-    };
-    for (const auto &[locale, name] : cases)
-        EXPECT_EQ(CodePage::nameFor(QLocale(QString::fromLatin1(locale))), name) << locale;
 }
