@@ -46,13 +46,9 @@ TEST_F(FileCommandsTest, ALoadedFileFillsADocumentAndIsSavedAsItWas)
     files.saveAs();
     EXPECT_EQ(prompts.folder, folder.path());
     EXPECT_EQ(document.Caption(), "Copy");
-}
-
-TEST_F(FileCommandsTest, AFileWithoutAnyPairCanBeWrittenIn)
-{
-    const frmDoc &document = load(write("bare.gla", Words.first(Words.indexOf("English"))));
-    EXPECT_EQ(document.Rutor()->Rows(), 2);
-    EXPECT_EQ(document.language(2), resText(502));
+    const frmDoc &bare = load(write("bare.gla", Words.first(Words.indexOf("English"))));
+    EXPECT_EQ(bare.Rutor()->Rows(), 2) << "one can write in it";
+    EXPECT_EQ(bare.language(2), resText(502));
 }
 
 TEST_F(FileCommandsTest, EveryFailureHasItsMessageAndLeavesNoWindow)
@@ -152,7 +148,8 @@ TEST_F(FileCommandsTest, WordsBelowTheLastRowWrittenAreToldAndKeepTheDocumentCha
         EXPECT_EQ(readFile(document.DocName()).count("Wort"), 0) << "the format has no place for them";
         EXPECT_EQ(document.Dirty(), !told.isEmpty());
         const QString prompt = "The words in " + told + " are not in the file " + document.DocName() +
-                               ": a vocabulary file ends with the last row that has a word under [English].";
+                               ": a vocabulary file ends with the last row that has a word under [English].\nThey are "
+                               "still in the window.";
         EXPECT_TRUE(told.isEmpty() ? alert.shown.empty() : alert.onlyPrompt().startsWith(prompt)) << qPrintable(told);
     }
     alert.answers = {AlertBox::AnswerYes, AlertBox::AnswerOk};

@@ -108,11 +108,11 @@ TEST_F(FrmDocTest, ActivationEndsTheUndoRecordAndShowsTheStatusTexts)
     undo.setKind(UndoKind::Sort, &document);
     frmDoc &other = *documents.create();
     other.Rutor()->setTextMatrix(0, 1, "English");
-    other.Rutor()->Select(2, 1, 3, 2);
+    other.Rutor()->Select(3, 1, 2, 1);
     documents.setActive(&other);
     EXPECT_EQ(undo.kind(), UndoKind::None);
     EXPECT_FALSE(undo.belongsTo(&document));
-    EXPECT_EQ(status.text(1), " A2:B3");
+    EXPECT_EQ(status.text(1), " A2:A3");
     EXPECT_TRUE(status.text(2).startsWith("English -> "));
 }
 

@@ -66,6 +66,7 @@ TEST_F(RecoveryTest, WhatDiffersFromTheFileIsKeptAndNothingElse)
     const std::tuple<const char *, bool, Change> cases[] = {
         {"nothing", false, [](frmDoc &, ctlGrid &) {}},
         {"a word", true, [](frmDoc &, ctlGrid &grid) { grid.setTextMatrix(2, 1, "só 猫"); }},
+        {"a language's name", true, [](frmDoc &, ctlGrid &grid) { grid.setTextMatrix(0, 1, "x"); }},
         {"a row's height", true, [](frmDoc &, ctlGrid &grid) { grid.setRowHeight(1, 777); }},
         {"a column's width", true, [](frmDoc &, ctlGrid &grid) { grid.setColWidth(1, 777); }},
         {"the font's size", true, [](frmDoc &, ctlGrid &grid) { grid.setGridFont(QFont("Arial", 33)); }},
@@ -102,7 +103,7 @@ TEST_F(RecoveryTest, EveryLaterChangeReachesTheCopyAndGoesWhenItIsUndone)
     grid.setRowHeight(1, 777);
     grid.setColWidth(2, 555);
     grid.setForeColor(0xFF00);
-    grid.setGridFont(QFont("Liberation Serif", 12, QFont::Bold, true));
+    grid.setGridFont(QFont("Liberation Serif", 1, QFont::Bold, true));
     const Vocabulary words = GridContent::read(grid);
     EXPECT_EQ(copies().size(), 1);
     const RecoveryFolder::Orphan orphan = restart().at(0);
@@ -234,12 +235,17 @@ TEST_F(RecoveryTest, StrangeCopiesAreNeitherOfferedNorDeletedAndHoldNobodyUp)
     ASSERT_EQ(::mkfifo(qPrintable(pipe), 0600), 0);
     const QString copy = restart().at(0).path;
     const QByteArray whole = readFile(copy);
-    for (qsizetype size = 0; size < whole.size(); size += 7) {
-        QByteArray damaged = size ? whole.left(size) : whole + 'x';
-        QBuffer device(&damaged);
+    QByteArrayList damaged{whole + 'x', 'x' + whole.mid(1)};
+    for (qsizetype size = 0; size < whole.size(); size += 7)
+        damaged += whole.left(size);
+    for (QByteArray &bytes : damaged) {
+        QBuffer device(&bytes);
         ASSERT_TRUE(device.open(QIODevice::ReadOnly));
-        EXPECT_FALSE(RecoveryCopy::read(device)) << size;
+        EXPECT_FALSE(RecoveryCopy::read(device)) << bytes.size();
     }
+    RecoveryFolder blocked(writeFile(path, "in the way"));
+    EXPECT_EQ(blocked.adopt(copy), copy) << "it cannot be moved";
+    EXPECT_TRUE(blocked.remove(copy + 'x')) << "it is not there";
     ASSERT_TRUE(QFile::resize(copy, RecoveryCopy::LargestSize + 1));
     EXPECT_TRUE(run->keeper.orphans().empty());
     EXPECT_EQ(copies().size(), 1);

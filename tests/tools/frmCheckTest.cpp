@@ -1,7 +1,9 @@
 #include "tools/frmCheck.h"
 
 #include "document/EditCommands.h"
+#include "document/ctlGridEdit.h"
 #include "support/OpenDocument.h"
+#include "support/Play.h"
 #include "support/Shown.h"
 #include "widgets/grid/FlexGridView.h"
 
@@ -20,7 +22,6 @@ struct Checking : ::testing::Test, OpenDocument
     frmCheck dialog{document, {commands, undo}, &window};
     QListView &list = *dialog.findChild<QListView *>();
     const FlexGridView &view = *grid.hwndGrid();
-    const Words before = words();
 };
 
 TEST_F(Checking, GoesThroughTheFindingsAndSelectsTheirCells)
@@ -50,38 +51,43 @@ TEST_F(Checking, GoesThroughTheFindingsAndSelectsTheirCells)
     QTest::keyClick(&dialog, Qt::Key_Escape);
     EXPECT_FALSE(document.Dirty());
     EXPECT_FALSE(dialog.isVisible());
+    select(1, 1, 1, 1);
+    dialog.workOn(document);
+    EXPECT_EQ(document.selection(), (GridSelection{1, 1, 1, 1})) << "it is not shown";
 }
 
-TEST_F(Checking, MendsWhatIsSafeInOneUndoStepEach)
+TEST_F(Checking, MendsWhatIsSafeInTheLatestStateInOneUndoStepEach)
 {
-    const std::tuple<const char *, int, Words> steps[] = {
-        {"btnTrim", 0, {before[0], {"b", "2"}, before[2], before[3], before[4], before[5], {}}},
-        {"btnTrimAll", 0, {before[0], {"b", "2"}, before[2], {"c c", "3"}, before[4], before[5], {}}},
-        {"btnRemove", 1, {before[0], before[1], before[3], before[4], before[5], {}}}};
-    for (const auto &[button, line, mended] : steps) {
-        document.setDirty(false);
-        dialog.workOn(document);
-        if (line == 1)
-            click("btnNext");
-        click(button);
-        EXPECT_EQ(words(), mended);
-        EXPECT_EQ(list.currentIndex().row(), line);
-        EXPECT_TRUE(document.Dirty());
-        commands.Undo(document);
-        EXPECT_EQ(words(), before);
-    }
-    dialog.workOn(document);
-    grid.setTextMatrix(2, 1, "b"); // outside the dialog
-    click("btnTrim");
-    EXPECT_EQ(undo.kind(), UndoKind::None);
-    EXPECT_EQ(list.model()->rowCount(), 5);
-    grid.setTextMatrix(1, 1, " ");
-    for (QWidget *active : {&window, static_cast<QWidget *>(&dialog)}) {
-        active->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(active));
-    }
-    EXPECT_EQ(list.model()->rowCount(), 6) << "looked through again";
-    dialog.leaveDocument();
-    EXPECT_EQ(list.model()->rowCount(), 0);
-    click("btnNext");
+    std::map<QString, std::function<void()>> actions = {
+        {"undo", [this] { commands.Undo(document), document.setDirty(false); }},
+        {"work", [this] { dialog.workOn(document); }},
+        {"leave", [this] { dialog.leaveDocument(); }},
+        {"mend", [this] { grid.setTextMatrix(2, 1, "b"); }},
+        {"spoil", [this] { grid.setTextMatrix(6, 2, "5 "); }},
+        {"edit", [this] { grid.Select(1, 1, 1, 1), grid.GridEdit(0), grid.hwndText()->setText(" "); }},
+        {"return",
+         [this] {
+             for (QWidget *next : {&window, static_cast<QWidget *>(&dialog)}) {
+                 next->activateWindow();
+                 EXPECT_TRUE(QTest::qWaitForWindowActive(next));
+             }
+         }},
+    };
+    for (const char *name : {"Next", "Trim", "TrimAll", "Remove"})
+        actions[name] = [this, name] { click(("btn" + std::string(name)).c_str()); };
+    // the current line of how many, and the words
+    const QString steps =
+        "Trim -> 0/5 a1 b2 a1 c  c 3 (d4 5 *, undo -> 0/5 WORDS , work -> 0/6 WORDS , "
+        "TrimAll -> 0/3 a1 b2 a1 c c3 (d4 5 *, undo -> 0/3 WORDS , work -> 0/6 WORDS , Next -> 1/6 WORDS , "
+        "Remove -> 1/5 a1 b 2 c  c 3 (d4 5 *, undo -> 1/5 WORDS , work -> 0/6 WORDS , "
+        "mend -> 0/6 a1 b2 a1 c  c 3 (d4 5 , Trim -> -1/5 a1 b2 a1 c  c 3 (d4 5 , "
+        "spoil -> -1/5 a1 b2 a1 c  c 3 (d4 5  , TrimAll -> 0/3 a1 b2 a1 c c3 (d4 5 *, "
+        "edit -> 0/3 a1 b2 a1 c c3 (d4 5 *, return -> -1/4  1 b2 a1 c c3 (d4 5 *, leave -> -1/0  1 b2 a1 c c3 (d4 5 *, "
+        "Next -> -1/0  1 b2 a1 c c3 (d4 5 *";
+    play(actions, QString(steps).replace("WORDS", "a1 b 2 a1 c  c 3 (d4 5"), [this] {
+        QString text = QString("%1/%2").arg(list.currentIndex().row()).arg(list.model()->rowCount());
+        for (const auto &row : words())
+            text += ' ' + row[0] + row[1];
+        return text + (document.Dirty() ? "*" : "");
+    });
 }

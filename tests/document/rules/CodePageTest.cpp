@@ -2,7 +2,7 @@
 
 /// The character sets: a word, its bytes, and whose set it is.
 const std::tuple<const char *, QString, QByteArray, QString> Sets[] = {
-    {"windows-1250", "Łódź", "\xA3\xF3\x64\x9F", "pl_PL sr_Latn_RS"},
+    {"windows-1250", "Łódź\u00A0", "\xA3\xF3\x64\x9F\xA0", "pl_PL sr_Latn_RS"},
     {"windows-1251", "Дом", "\xC4\xEE\xEC", "ru_RU sr_Cyrl_RS az_Cyrl_AZ"},
     {"windows-1252", "€é\u0081\u008D\u008F\u0090\u009D", "\x80\xE9\x81\x8D\x8F\x90\x9D", "C en_GB sv_SE hi_IN"},
     {"windows-1253", "Ωμή", "\xD9\xEC\xDE", "el_GR"},

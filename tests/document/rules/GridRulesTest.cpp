@@ -48,13 +48,6 @@ TEST(GridRules, PastedTextGrowsFromASingleCellAndAtTheEndOnly)
     }
 }
 
-TEST(GridRules, NamesCells)
-{
-    EXPECT_EQ(cellReference({4, 2, 4, 2}), " B4");
-    EXPECT_EQ(cellReference({3, 2, 3, 1}), " A3:B3");
-    EXPECT_EQ(cellReference({5, 1, 7, 1}), " A5:A7");
-}
-
 TEST(QuizModeText, TellsDirectionAndOrder)
 {
     const char *const texts[] = {

@@ -52,18 +52,3 @@ TEST(RunningEdit, ItsEndTellsWhatWasEntered)
         EXPECT_TRUE(kind != Entry || (undo.selection.Row == 3 && undo.selection.Col == 2));
     }
 }
-
-TEST(RunningEdit, GoesFromStateToState)
-{
-    UndoRecord undo;
-    ProgramFlags flags;
-    RunningEdit edit(undo, flags, this);
-    edit.begin(1, 1, "house");
-    EXPECT_EQ(edit.state(), RunningEdit::State::Editing);
-    EXPECT_TRUE(edit.isToStore("house", "house"));
-    edit.store("barn");
-    EXPECT_EQ(edit.state(), RunningEdit::State::Stored);
-    flags.FindMode = true;
-    EXPECT_TRUE(edit.isToStore("barns", "barn"));
-    EXPECT_FALSE(edit.isToStore("barn", "barn"));
-}

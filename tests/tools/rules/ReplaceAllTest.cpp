@@ -4,14 +4,6 @@
 
 using namespace SearchFlag;
 
-Search searchFor(const QString &what, int flags)
-{
-    Search search;
-    search.FindWhat = what;
-    search.SearchFlags = flags;
-    return search;
-}
-
 /// Replaces match by match: each step replaces the match of the step before and finds the next.
 ReplaceAll::Summary replaceStepByStep(MemoryCells &cells, Search search, const QString &with)
 {
@@ -30,8 +22,9 @@ ReplaceAll::Summary replaceStepByStep(MemoryCells &cells, Search search, const Q
 TEST(ReplaceAll, EqualsTheSingleStepsOnRandomWords)
 {
     std::mt19937 engine(1);
-    const QStringList alphabet{"a", "A", "b", " ", "é", "😀"};
     for (int round = 0; round < 4000; ++round) {
+        const QString letters = round % 2 ? "a " : "aAb é";
+        const QStringList alphabet = letters.split("", Qt::SkipEmptyParts) << "😀";
         MemoryCells cells = MemoryCells::random(engine, 6, alphabet);
         MemoryCells expected = cells;
         const QString what = MemoryCells::randomWord(engine, alphabet, 3),

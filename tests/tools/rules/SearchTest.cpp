@@ -18,9 +18,7 @@ TEST(IsLetter, FollowsTheCodesOfWindows1252)
 /// Everything found until the region ends, as "A1:0 B3:2": column, row and position.
 std::string foundIn(const MemoryCells &cells, const QString &what, int flags)
 {
-    Search search;
-    search.FindWhat = what;
-    search.SearchFlags = flags;
+    Search search = searchFor(what, flags);
     QStringList found, backwards;
     const auto name = [&](const Search::Match &match) {
         EXPECT_EQ(match.length, what.size());
@@ -73,9 +71,7 @@ TEST(Search, GoesOnFromACellInBothDirections)
         {Language2, 2, 1, true, {1, 2, 0, 1}},      {Language1 | WholeWords, 1, 1, true, {3, 1, 3, 1}},
     };
     for (const auto &[flags, row, col, backwards, expected] : cases) {
-        Search search;
-        search.FindWhat = "x";
-        search.SearchFlags = flags;
+        Search search = searchFor("x", flags);
         search.LeaveCell(row, col, backwards);
         EXPECT_EQ(backwards ? search.FindPrevious(cells) : search.FindNext(cells), expected) << flags << row << col;
     }
@@ -84,9 +80,7 @@ TEST(Search, GoesOnFromACellInBothDirections)
 TEST(Search, LooksOnlyAtColumnTwoOnceThereUntilTheRegionEnds)
 {
     MemoryCells cells{{"", "x"}, {"", "x"}};
-    Search search;
-    search.FindWhat = "x";
-    search.SearchFlags = WholeDocument;
+    Search search = searchFor("x", WholeDocument);
     EXPECT_EQ(search.FindNext(cells), (Search::Match{1, 2, 0, 1}));
     cells.words[1][0] = "x";
     EXPECT_EQ(search.FindNext(cells), (Search::Match{2, 2, 0, 1}));
