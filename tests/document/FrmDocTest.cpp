@@ -45,22 +45,19 @@ TEST_F(FrmDocTest, WhatIsComposedIsSavedAndUndone)
 
 TEST_F(FrmDocTest, NewDocumentsAreSetUpFromTheSettings)
 {
-    QFont font("Liberation Serif", 14);
-    font.setBold(true);
+    const QFont font("Liberation Serif", 14, QFont::Bold);
     settings.setFontName(font.family());
     settings.setFontSize(14);
     settings.setFontBold(true);
     settings.setFontColor(0x0000FF);
     const ctlGrid &fresh = *newDocument()->Rutor();
     EXPECT_EQ(fresh.Font(), font);
-    EXPECT_EQ(fresh.ForeColor(), 0x0000FF);
-    EXPECT_EQ(fresh.Rows(), 101);
     EXPECT_EQ(fresh.TextMatrix(0, 1) + fresh.TextMatrix(0, 2) + fresh.TextMatrix(100, 0),
               resText(501) + resText(502) + "100");
     EXPECT_EQ((QList<int>{fresh.ColAlignment(0), fresh.ColAlignment(1), fresh.ColAlignment(2), fresh.ColWidth(0),
                           fresh.AllowUserResizing(), fresh.WordWrap(), fresh.FillStyle(), fresh.HighLight(),
-                          fresh.FocusRect()}),
-              (QList<int>{7, 1, 1, 340, 3, 1, 1, 1, 1}));
+                          fresh.ForeColor(), fresh.Rows(), fresh.FocusRect()}),
+              (QList<int>{7, 1, 1, 340, 3, 1, 1, 1, 255, 101, 1}));
     EXPECT_TRUE(fresh.ColWidth(1) == fresh.ColWidth(2) && fresh.ColWidth(1) > 960);
 }
 
@@ -81,8 +78,7 @@ TEST_F(FrmDocTest, KeysTypeCommitGiveUpAndWalk)
         parts.removeAll("");
         return parts.join(' ') + (document.Dirty() ? " *" : "") + QString(" clear").repeated(int(clears.count()));
     };
-    play({},
-         "b -> house 1,1 [b] typing <house>, a -> house 1,1 [ba] typing <house>, Return -> ba 1,2 entry <house> *, "
+    play("b -> house 1,1 [b] typing <house>, a -> house 1,1 [ba] typing <house>, Return -> ba 1,2 entry <house> *, "
          "Shift+Return -> ba 1,1 entry <house> *, Shift+Return -> ba 100,2 entry <house> *, Return -> ba 1,1 entry "
          "<house> *, z -> ba 1,1 [z] typing <ba> *, Ctrl+Esc -> ba 1,1 [z] typing <ba> *, Esc -> ba 1,1 entry <ba> *, "
          "t -> ba 1,1 [t] typing <ba> *, Tab -> t 1,2 entry <ba> *, x -> t 1,2 [x] typing <> *, "
@@ -130,7 +126,8 @@ TEST_F(FrmDocTest, ZoomIsAViewThatTellsItsSizeForAMoment)
 {
     grid.resize(600, 400);
     const std::pair<int, int> sizes(grid.ColWidth(1), grid.RowHeight(1));
-    const auto grow = [this](int zoom) {
+    QList<int> grown; // which is the same however the words are shown
+    for (const int zoom : {300, 100}) {
         document.zoomTo(zoom);
         grid.setRowHeight(2, -1);
         grid.Select(2, 1, 2, 1);
@@ -139,10 +136,9 @@ TEST_F(FrmDocTest, ZoomIsAViewThatTellsItsSizeForAMoment)
         EXPECT_EQ(grid.hwndText()->font(), grid.shownFont());
         grid.hwndText()->setText(QString("long word ").repeated(20));
         press(Qt::Key_Return);
-        return grid.RowHeight(2);
-    };
-    const int grown = grow(300);
-    EXPECT_EQ(grow(100), grown) << "the row takes the same height";
+        grown << grid.RowHeight(2);
+    }
+    EXPECT_EQ(grown[0], grown[1]);
     document.setDirty(false);
     document.zoomBy(1);
     EXPECT_FALSE(document.Dirty());

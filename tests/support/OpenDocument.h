@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/EditCommands.h"
 #include "document/ctlGrid.h"
 #include "document/frmDoc.h"
 #include "platform/registry/RegistryTree.h"
@@ -73,4 +74,5 @@ struct OpenDocument
     QWidget window;
     frmDoc document{{flags, undo, status, settings}};
     ctlGrid &grid = *document.Rutor();
+    EditCommands commands{undo, *QGuiApplication::clipboard()};
 };

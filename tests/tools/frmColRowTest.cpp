@@ -6,11 +6,6 @@
 
 struct SizeDialog : ::testing::Test, OpenDocument
 {
-    SizeDialog()
-        : OpenDocument(Words(9))
-    {
-    }
-
     /// Types a size over the one shown and presses a key. What the dialog showed.
     std::string answer(frmColRow::Mode mode, const QString &size, Qt::Key key)
     {
@@ -25,11 +20,11 @@ struct SizeDialog : ::testing::Test, OpenDocument
         return before;
     }
     int heightPixels(int row) const { return Twips::toPixelsY(grid.RowHeight(row)); }
-    int widthPixels(int col) const { return Twips::toPixelsX(grid.ColWidth(col)); }
 };
 
 TEST_F(SizeDialog, SetsTheSelectedRowsWhenASizeIsGiven)
 {
+    setWords(Words(9));
     grid.setRowHeight(7, 600);
     select(7, 1, 3, 1);
     EXPECT_EQ(answer(frmColRow::RowHeight, "", Qt::Key_Return),
@@ -52,6 +47,6 @@ TEST_F(SizeDialog, SetsTheSelectedColumnsAndKeepsTheNumbersReadable)
     select(1, 1, 1, 2);
     EXPECT_EQ(answer(frmColRow::ColumnWidth, "5", Qt::Key_Return),
               "Set Column Width | &Column Width: | ><200> | OK | Cancel | ?");
-    EXPECT_EQ(widthPixels(1) + widthPixels(2), 10);
-    EXPECT_GE(widthPixels(0), QFontMetricsF(grid.Font()).horizontalAdvance("100000") + 6);
+    EXPECT_EQ(grid.ColWidth(1) + grid.ColWidth(2), Twips::fromPixelsX(10));
+    EXPECT_GE(Twips::toPixelsX(grid.ColWidth(0)), QFontMetricsF(grid.Font()).horizontalAdvance("100000") + 6);
 }

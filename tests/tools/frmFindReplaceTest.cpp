@@ -1,6 +1,5 @@
 #include "tools/frmFindReplace.h"
 
-#include "document/EditCommands.h"
 #include "document/ctlGridEdit.h"
 #include "resources/StringTable.h"
 #include "services/FormTexts.h"
@@ -10,15 +9,11 @@
 #include "support/Shown.h"
 #include "tools/FindOn.h"
 
-using Words = OpenDocument::Words;
-
 struct FindReplace : ::testing::Test, OpenDocument
 {
     FindReplace()
         : OpenDocument(Words{{"cat", "Katze"}, {"the cat sat", "die Katze saß"}, {"cats", "a"}})
     {
-        for (const char *name : {"btnFind", "btnReplace", "chkCase", "chkWord", "optScope1"})
-            actions[name] = [this, name] { click(name); };
     }
 
     void open(bool replace, const QString &what = {}, const QString &with = {})
@@ -47,15 +42,14 @@ struct FindReplace : ::testing::Test, OpenDocument
         return grid.EditMode() ? place.arg(grid.hwndText()->cursorPosition() - grid.SelText().size()) : "nothing";
     }
 
-    EditCommands commands{undo, *QGuiApplication::clipboard()};
     ScriptedAlertBox alert;
     Search last;
     std::unique_ptr<frmFindReplace> dialog;
-    std::map<QString, std::function<void()>> actions; ///< a click on each control of that name
 };
 
 TEST_F(FindReplace, OpensWithTheCurrentCellsTextAndWidens)
 {
+    window.resize(600, 500);
     open(false);
     EXPECT_EQ(shown(*dialog).toStdString(),
               "Find | &Find | ><cat> | Scope | [x] Whole &Document | [ ] &1 Language 1 | "
@@ -63,6 +57,7 @@ TEST_F(FindReplace, OpensWithTheCurrentCellsTextAndWidens)
     EXPECT_EQ(control<QLineEdit>("txtFind")->selectedText(), "cat");
     EXPECT_EQ(FormTexts::helpContextId(dialog.get()), 1160);
     EXPECT_EQ(dialog->whatsThis(), resText(20043));
+    EXPECT_EQ(dialog->frameGeometry().right(), window.frameGeometry().right());
     const int height = dialog->height();
     type("txtFind", "");
     dialog->showAgain(true);
@@ -87,16 +82,15 @@ TEST_F(FindReplace, ShowsMatchAfterMatchAndReportsTheEnd)
     EXPECT_TRUE(grid.RowIsVisible(203));
     grid.removeRows(2, 200);
     type("txtFind", "cat");
-    actions["KATZE"] = [this] { type("txtFind", "KATZE"); };
-    actions["cat"] = [this] { type("txtFind", "cat"); };
     // the match and how often the user was told of the end
-    play(actions,
-         "Return -> 1,1:[cat]0 0, Return -> 2,1:[cat]4 0, Return -> 3,1:[cat]0 0, btnFind -> 3,1:[cat]0 1, "
-         "btnFind -> 1,1:[cat]0 1, F3 -> 2,1:[cat]4 1, Shift+F3 -> 1,1:[cat]0 1, KATZE -> 1,1:[cat]0 1, "
-         "chkCase -> 1,1:[cat]0 1, btnFind -> 1,1:[cat]0 2, chkCase -> 1,1:[cat]0 2, btnFind -> 1,2:[Katze]0 2, "
-         "optScope1 -> 1,2:[Katze]0 2, btnFind -> 1,2:[Katze]0 3, cat -> 1,2:[Katze]0 3, chkWord -> 1,2:[Katze]0 3, "
-         "Shift+F3 -> 2,1:[cat]4 3, btnFind -> 2,1:[cat]4 4, chkWord -> 2,1:[cat]4 4, Return -> 1,1:[cat]0 4",
-         [this] { return match() + ' ' + QString::number(alert.shown.size()); });
+    play(
+        "Return -> 1,1:[cat]0 0, Return -> 2,1:[cat]4 0, Return -> 3,1:[cat]0 0, btnFind -> 3,1:[cat]0 1, "
+        "btnFind -> 1,1:[cat]0 1, F3 -> 2,1:[cat]4 1, Shift+F3 -> 1,1:[cat]0 1, KATZE -> 1,1:[cat]0 1, "
+        "chkCase -> 1,1:[cat]0 1, btnFind -> 1,1:[cat]0 2, chkCase -> 1,1:[cat]0 2, btnFind -> 1,2:[Katze]0 2, "
+        "optScope1 -> 1,2:[Katze]0 2, btnFind -> 1,2:[Katze]0 3, cat -> 1,2:[Katze]0 3, chkWord -> 1,2:[Katze]0 3, "
+        "Shift+F3 -> 2,1:[cat]4 3, btnFind -> 2,1:[cat]4 4, chkWord -> 2,1:[cat]4 4, Return -> 1,1:[cat]0 4",
+        [this] { return match() + ' ' + QString::number(alert.shown.size()); },
+        {{"KATZE", [this] { type("txtFind", "KATZE"); }}, {"cat", [this] { type("txtFind", "cat"); }}}, dialog.get());
     EXPECT_EQ(alert.shown[0].prompt, "The specified region has been searched.");
     EXPECT_EQ(alert.shown[1].prompt, "The search string was not found.");
 
@@ -104,10 +98,10 @@ TEST_F(FindReplace, ShowsMatchAfterMatchAndReportsTheEnd)
     EXPECT_TRUE(!flags.searching() && !grid.EditMode());
     EXPECT_EQ(undo.kind(), UndoKind::None);
     EXPECT_FALSE(document.Dirty());
-    play({{"on", [this] { FindOn::run(document, last, false, alert, &window); }},
-          {"back", [this] { FindOn::run(document, last, true, alert, &window); }}},
-         "on -> 2 4, on -> 3 4, back -> 2 4, on -> 3 4, on -> 1 5, back -> 3 5",
-         [this] { return QString("%1 %2").arg(document.selection().bottom()).arg(alert.shown.size()); });
+    play("on -> 2 4, on -> 3 4, back -> 2 4, on -> 3 4, on -> 1 5, back -> 3 5",
+         [this] { return QString("%1 %2").arg(document.selection().bottom()).arg(alert.shown.size()); },
+         {{"on", [this] { FindOn::run(document, last, false, alert, &window); }},
+          {"back", [this] { FindOn::run(document, last, true, alert, &window); }}});
     last.FindWhat = "dog";
     FindOn::run(document, last, false, alert, &window);
     EXPECT_EQ(alert.shown.back().prompt, "The search string was not found.");
@@ -116,14 +110,14 @@ TEST_F(FindReplace, ShowsMatchAfterMatchAndReportsTheEnd)
 TEST_F(FindReplace, ReplacesTheSelectedMatchOnly)
 {
     open(true, "cat", "dog");
-    actions["part"] = [this] { grid.SelectEditText(0, 2); };
-    actions["long"] = [this] { control<QLineEdit>("txtReplace")->setText(QString(200, u'x')); };
     play(
-        actions,
-        "btnReplace -> 1,1:[cat]0 cat, btnReplace -> 2,1:[cat]4 dog, btnFind -> 3,1:[cat]0 dog, part -> 3,1:[ca]0 dog, "
-        "btnReplace -> 3,1:[ca]0 dog, btnFind -> 2,1:[cat]4 dog, btnReplace -> 3,1:[cat]0 dog, long -> 3,1:[cat]0 dog, "
-        "btnFind -> 3,1:[cat]0 dog, btnFind -> 3,1:[cat]0 dog, btnReplace -> 3,1:[]200 dog",
-        [this] { return match() + ' ' + grid.TextMatrix(1, 1); });
+        "btnReplace -> 1,1:[cat]0 cat, btnReplace -> 2,1:[cat]4 dog, btnFind -> 3,1:[cat]0 dog, part -> 3,1:[ca]0 "
+        "dog, btnReplace -> 3,1:[ca]0 dog, btnFind -> 2,1:[cat]4 dog, btnReplace -> 3,1:[cat]0 dog, long -> "
+        "3,1:[cat]0 dog, btnFind -> 3,1:[cat]0 dog, btnFind -> 3,1:[cat]0 dog, btnReplace -> 3,1:[]200 dog",
+        [this] { return match() + ' ' + grid.TextMatrix(1, 1); },
+        {{"part", [this] { grid.SelectEditText(0, 2); }},
+         {"long", [this] { control<QLineEdit>("txtReplace")->setText(QString(200, u'x')); }}},
+        dialog.get());
     EXPECT_EQ(words(),
               (Words{{"dog", "Katze"}, {"the dog sat", "die Katze saß"}, {QString(200, u'x') + 's', "a"}, {}}));
     QTest::keyClick(dialog.get(), Qt::Key_Escape);

@@ -26,7 +26,7 @@ std::optional<QByteArray> encoded(const CodePage &codePage, const QString &text)
     return end ? std::optional(bytes.first(end - bytes.constData())) : std::nullopt;
 }
 
-TEST(CodePage, ReadsAndWritesWordsAndEveryByte)
+TEST(CodePage, ReadsWhatItWritesAndBelongsToLanguages)
 {
     for (const auto &[name, word, itsBytes, locales] : Sets) {
         const CodePage codePage(name);
@@ -44,16 +44,8 @@ TEST(CodePage, ReadsAndWritesWordsAndEveryByte)
             EXPECT_EQ(encoded(codePage, text), bytes) << name << byte;
             letters += text;
         }
-    }
-    EXPECT_EQ(CodePage("no-such-set").decode("\xE9"), "é");
-}
-
-TEST(CodePage, WritesNothingThatReadsDifferently)
-{
-    std::minstd_rand random(7);
-    for (const auto &[name, word, itsBytes, locales] : Sets) {
-        const CodePage codePage(name);
-        int written = 0;
+        std::minstd_rand random(7);
+        int written = 0; // and never what reads differently
         for (int i = 0; i < 20000; ++i) {
             QByteArray bytes(int(random() % 8), Qt::Uninitialized);
             for (char &byte : bytes)
@@ -68,4 +60,5 @@ TEST(CodePage, WritesNothingThatReadsDifferently)
              {QString("\U0001F3E0"), QString(QChar(0xD83C)), QString("a\uFFFD"), QString("\u0915")})
             EXPECT_FALSE(encoded(codePage, text)) << name << qPrintable(text);
     }
+    EXPECT_EQ(CodePage("no-such-set").decode("\xE9"), "é");
 }

@@ -4,22 +4,16 @@
 
 using VocabularyCodec::Outcome;
 
-struct VocabularyFileTest : ::testing::Test
+TEST(VocabularyFile, WhatIsNoReadableFileFails)
 {
-    Outcome load() const
-    {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("words.gla");
+    const auto save = [&path] { return VocabularyFile(path).save(Vocabulary(), CodePage()); };
+    const auto load = [&path] {
         VocabularyFile file(path);
         const VocabularyCodec::Header header = file.readHeader();
         return header.outcome == Outcome::Ok ? file.read(CodePage()).outcome : header.outcome;
-    }
-    bool save() const { return VocabularyFile(path).save(Vocabulary(), CodePage()); }
-
-    QTemporaryDir folder;
-    const QString path = folder.filePath("words.gla");
-};
-
-TEST_F(VocabularyFileTest, WhatIsNoReadableFileFails)
-{
+    };
     EXPECT_EQ(load(), Outcome::Failed);
     EXPECT_EQ(VocabularyFile("/proc/self/mem").readHeader().outcome, Outcome::Failed) << "an error of the disk, say";
     ASSERT_TRUE(QDir().mkdir(path));
@@ -36,7 +30,7 @@ TEST_F(VocabularyFileTest, WhatIsNoReadableFileFails)
     ASSERT_TRUE(QFile::resize(writeFile(path, "PK"), VocabularyFile::LargestSize));
     EXPECT_EQ(load(), Outcome::BadFormat) << "of another kind, and not read whole";
     ASSERT_EQ(::chmod(qPrintable(path), 0) | ::chmod(qPrintable(folder.path()), 0755), 0);
-    EXPECT_TRUE(OrdinaryUser::run([this] { return load() == Outcome::Failed; }));
+    EXPECT_TRUE(OrdinaryUser::run([&load] { return load() == Outcome::Failed; }));
 }
 
 TEST(Lessons, AreShortAskableAndAsTheProgramSavesThem)

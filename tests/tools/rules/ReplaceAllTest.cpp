@@ -25,10 +25,17 @@ TEST(ReplaceAll, EqualsTheSingleStepsOnRandomWords)
     for (int round = 0; round < 4000; ++round) {
         const QString letters = round % 2 ? "a " : "aAb é";
         const QStringList alphabet = letters.split("", Qt::SkipEmptyParts) << "😀";
-        MemoryCells cells = MemoryCells::random(engine, 6, alphabet);
+        const auto word = [&](unsigned longest) {
+            QString text;
+            for (auto length = engine() % (longest + 1); length > 0; --length)
+                text += alphabet[int(engine() % unsigned(alphabet.size()))];
+            return text;
+        };
+        MemoryCells cells{};
+        for (cells.words.resize(6); MemoryCells::Row & row : cells.words)
+            row = {word(7), word(7)};
         MemoryCells expected = cells;
-        const QString what = MemoryCells::randomWord(engine, alphabet, 3),
-                      with = MemoryCells::randomWord(engine, alphabet, 4);
+        const QString what = word(3), with = word(4);
         const int scopes[] = {Language1, Language2, WholeDocument};
         const int flags = scopes[engine() % 3] | (engine() % 2 ? MatchCase : 0) | (engine() % 2 ? WholeWords : 0);
         const Search search = searchFor(what.isEmpty() ? "a" : what, flags);
@@ -42,8 +49,5 @@ TEST(ReplaceAll, GoesThroughLongCellsOnce)
 {
     const QString a(200000, u'a');
     EXPECT_EQ(ReplaceAll(searchFor("ab", WholeDocument), "ca").replaced(a + u'b').text, QString(199999, u'a') + "ca");
-    MemoryCells cells{{a, QString()}};
-    EXPECT_EQ(ReplaceAll(searchFor("A", WholeDocument), "xyz").run(cells).count, 200000);
-    EXPECT_EQ(cells.words[0][0].size(), 600000);
-    EXPECT_EQ(cells.words.size(), 2U); // a change in the last row appends one
+    EXPECT_EQ(ReplaceAll(searchFor("A", WholeDocument), "xyz").replaced(a).text.size(), 600000);
 }
