@@ -29,17 +29,22 @@ SWITCH = """#pragma once
 #include <cstdio>
 #include <fcntl.h>
 #include <unistd.h>
+inline int mutantReport()
+{
+    static const char *path = std::getenv("MUTANTS_REACHED");
+    static const int file = path ? ::open(path, O_WRONLY | O_APPEND | O_CREAT, 0666) : -1;
+    return file;
+}
+inline const int mutantReportAtStart = mutantReport(); // a child of the test may have no right to open it
 inline bool mutantOn(int number)
 {
     static const char *wanted = std::getenv("MUTANT");
-    static const char *report = std::getenv("MUTANTS_REACHED");
     static const int on = wanted ? std::atoi(wanted) : -1;
     static std::atomic<char> reached[100000];
-    if (report && !reached[number].exchange(1)) {
+    if (mutantReport() >= 0 && !reached[number].exchange(1)) {
         char line[12];
-        const int file = ::open(report, O_WRONLY | O_APPEND | O_CREAT, 0666);
-        if (file >= 0 && ::write(file, line, size_t(std::snprintf(line, sizeof line, "%d\\n", number))) > 0)
-            ::close(file);
+        const ssize_t written [[maybe_unused]] =
+            ::write(mutantReport(), line, size_t(std::snprintf(line, sizeof line, "%d\\n", number)));
     }
     return number == on;
 }
