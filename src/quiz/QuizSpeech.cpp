@@ -34,7 +34,8 @@ namespace QuizSpeech {
 QString verdict(const QuizSession &session, bool correct)
 {
     QStringList sentences{correct ? resText(12007) : resText(12008).arg(session.question().correctAnswer())};
-    if (const QString remark = QuizSpeech::remark(session.judgement(), correct); !remark.isEmpty()) {
+    const bool isTyped = session.kind() == QuizKind::QuestionAndAnswer;
+    if (const QString remark = QuizSpeech::remark(session.judgement(), correct); isTyped && !remark.isEmpty()) {
         if (correct)
             sentences << resText(14209).arg(session.question().correctAnswer());
         sentences << remark + u'.';
