@@ -37,16 +37,3 @@ std::vector<size_t> AnswerMemory::hardest(const std::vector<WordKey> &keys, int 
         order.resize(size_t(atMost));
     return order;
 }
-
-std::optional<int> AnswerMemory::daysUntilDue(const std::vector<WordKey> &keys)
-{
-    const int day = today();
-    std::optional<int> least;
-    for (const Card &card : cards(keys)) {
-        if (card.isNew())
-            continue;
-        const int days = Schedule::isDue(card, day) ? 0 : card.due - day;
-        least = std::min(least.value_or(days), days);
-    }
-    return least;
-}

@@ -3,7 +3,6 @@
 #include "memory/Schedule.h"
 #include "memory/WordKey.h"
 
-#include <optional>
 #include <vector>
 
 /// One answer of a quiz whose verdict will not change any more.
@@ -43,6 +42,4 @@ public:
     int countDue(const std::vector<WordKey> &keys);
     /// Positions of the keys that were missed most often, the most often missed first; only keys that were missed.
     std::vector<size_t> hardest(const std::vector<WordKey> &keys, int atMost = Hardest);
-    /// Days until the next of the keys is due, 0 when one is due already; nothing when all are new.
-    std::optional<int> daysUntilDue(const std::vector<WordKey> &keys);
 };

@@ -55,16 +55,15 @@ MemoryDatabase::Transaction::Transaction(MemoryDatabase &database)
     m_database.run(QStringLiteral("BEGIN IMMEDIATE"));
 }
 
+/// After a commit there is nothing to undo.
 MemoryDatabase::Transaction::~Transaction()
 {
-    if (!m_committed)
-        m_database.tryTo(QStringLiteral("ROLLBACK"));
+    m_database.tryTo(QStringLiteral("ROLLBACK"));
 }
 
 void MemoryDatabase::Transaction::commit()
 {
     m_database.run(QStringLiteral("COMMIT"));
-    m_committed = true;
 }
 
 MemoryDatabase::MemoryDatabase(const QString &path)
@@ -117,10 +116,8 @@ bool MemoryDatabase::next(QSqlQuery &query)
 {
     if (query.next())
         return true;
-    const QSqlError error = query.lastError();
-    query.finish();
-    if (error.isValid())
-        fail(error);
+    if (query.lastError().isValid())
+        fail(query.lastError());
     return false;
 }
 

@@ -34,7 +34,6 @@ public:
 
     private:
         MemoryDatabase &m_database;
-        bool m_committed = false;
     };
 
     /// Opens the file, or makes one.

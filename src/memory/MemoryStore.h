@@ -6,6 +6,8 @@
 #include <QHash>
 #include <QSet>
 
+#include <optional>
+
 /// An answer as it is stored.
 struct StoredAnswer
 {

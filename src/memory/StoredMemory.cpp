@@ -27,8 +27,6 @@ QSet<qint64> setOf(const std::vector<WordKey> &keys)
 /// What is in it is nobody else's business.
 void makeFolder(const QString &folder)
 {
-    if (QFile::exists(folder))
-        return;
     QDir().mkpath(QFileInfo(folder).path());
     QDir().mkdir(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
@@ -156,8 +154,6 @@ void StoredMemory::countWaiting()
 
 bool StoredMemory::storeWaiting()
 {
-    if (m_waiting.empty())
-        return true;
     if (!QFile::exists(m_path))
         m_store.reset(); // it was deleted meanwhile
     const auto work = [this](MemoryStore &store) {
