@@ -25,6 +25,12 @@ bool isPlausible(const Card &card)
            card.due > card.last;
 }
 
+/// To a database a null text is no text.
+QString neverNull(const QString &text)
+{
+    return text.isNull() ? QStringLiteral("") : text;
+}
+
 /// Reads the columns of a card from that column on.
 Card cardIn(const QSqlQuery &query, int column)
 {
@@ -164,7 +170,7 @@ Card MemoryStore::appendOne(const StoredAnswer &stored)
     const Card before = MemoryDatabase::next(m_readCard) ? cardIn(m_readCard, 0) : Card();
     m_readCard.finish();
     if (before.isNew()) {
-        MemoryDatabase::bind(m_addWord, {word, answer.word.asked, answer.word.answer});
+        MemoryDatabase::bind(m_addWord, {word, neverNull(answer.word.asked), neverNull(answer.word.answer)});
         MemoryDatabase::execute(m_addWord);
     }
     MemoryDatabase::bind(m_addAnswer, {word, stored.time, stored.day, int(answer.kind), int(answer.right),
@@ -199,8 +205,6 @@ void MemoryStore::rebuild()
     for (auto it = made.cbegin(); it != made.cend(); ++it)
         writeCard(m_writeCard, it.key(), it->card, it->answer);
     change.commit();
-    m_dataVersion = -1;
-    m_lastRead = 0;
 }
 
 QHash<int, int> MemoryStore::answersByDay(const QSet<qint64> &words, int first, int last)
