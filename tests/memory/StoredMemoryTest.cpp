@@ -7,24 +7,36 @@
 
 namespace {
 
-const WordKey Dog = WordKey::of(QStringLiteral("dog"), QStringLiteral("Hund"));
-const WordKey Cat = WordKey::of(QStringLiteral("cat"), QStringLiteral("Katze"));
-const WordKey Bird = WordKey::of(QStringLiteral("bird"), QStringLiteral("Vogel"));
+const WordKey Dog = WordKey::of("dog", "Hund");
+const WordKey Cat = WordKey::of("cat", "Katze");
+const WordKey Bird = WordKey::of("bird", "Vogel");
 
-Answer answer(const WordKey &word, bool right)
+/// Another program that has the store open.
+struct Other
 {
-    return {word, Answer::Kind::QuestionAndAnswer, right, false, 1500};
-}
+    explicit Other(const QString &path)
+    {
+        database.setDatabaseName(path);
+        EXPECT_TRUE(database.open());
+    }
+    ~Other() { database = {}, QSqlDatabase::removeDatabase("other"); }
+    /// The first value of its result.
+    QString run(const QString &statement)
+    {
+        QSqlQuery query(database);
+        EXPECT_TRUE(query.exec(statement)) << statement.toStdString();
+        return query.next() ? query.value(0).toString() : QString();
+    }
+
+    QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", "other");
+};
 
 struct StoredMemoryTest : testing::Test
 {
     std::unique_ptr<StoredMemory> open()
     {
         auto memory = std::make_unique<StoredMemory>(m_path, [this] { return m_now; });
-        const auto note = [this](MemoryTrouble trouble, const QString &setAside) {
-            m_troubles.push_back(trouble);
-            m_setAside = setAside;
-        };
+        const auto note = [this](auto trouble, auto name) { m_troubles.push_back(trouble), m_setAside = name; };
         QObject::connect(memory.get(), &StoredMemory::troubled, memory.get(), note, Qt::DirectConnection);
         return memory;
     }
@@ -33,24 +45,13 @@ struct StoredMemoryTest : testing::Test
     void fill()
     {
         const auto memory = open();
-        memory->remember(answer(Dog, true));
-        memory->remember(answer(Cat, false));
+        memory->remember({.word = Dog, .right = true});
+        memory->remember({.word = Cat});
     }
-    QVariant sql(const QString &statement)
-    {
-        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("test"));
-        database.setDatabaseName(m_path);
-        database.open();
-        QVariant result;
-        if (QSqlQuery query(database); query.exec(statement) && query.next())
-            result = query.value(0);
-        database = QSqlDatabase();
-        QSqlDatabase::removeDatabase(QStringLiteral("test"));
-        return result;
-    }
+    QString sql(const QString &statement) { return Other(m_path).run(statement); }
 
     QTemporaryDir m_home;
-    QString m_path = m_home.path() + QStringLiteral("/glosaria/memory.sqlite");
+    QString m_path = m_home.path() + "/glosaria/memory.sqlite";
     QDateTime m_now{QDate(2026, 11, 25), QTime(12, 0)};
     std::vector<MemoryTrouble> m_troubles;
     QString m_setAside;
@@ -58,95 +59,116 @@ struct StoredMemoryTest : testing::Test
 
 } // namespace
 
-TEST_F(StoredMemoryTest, KeepsAnswersFromTheFirstOneOnAndForgetsThem)
+TEST_F(StoredMemoryTest, KnowsEveryAnswerThroughEndsDoubtsOtherProgramsAndForgetting)
 {
-    EXPECT_EQ(std::vector<Card>(3), stored());
     open()->forgetAll();
-    EXPECT_FALSE(QFile::exists(m_path));
-    fill();
-    const int today = open()->today();
-    std::vector<Card> cards = stored();
-    EXPECT_EQ(Schedule::next({}, Grade::Good, today), cards[0]);
-    EXPECT_EQ(Schedule::next({}, Grade::Again, today), cards[1]);
-    EXPECT_TRUE(cards[2].isNew());
-    m_now = m_now.addDays(2);
-    const auto memory = open();
-    memory->remember(answer(Dog, true));
-    EXPECT_EQ(Schedule::next(cards[0], Grade::Good, today + 2), memory->cards({Dog})[0]);
-    EXPECT_EQ((std::vector<int>{0, 2, 0, 1}), memory->answersByDay({Dog, Cat}, today - 1, 4));
-    EXPECT_EQ((std::vector<int>{0, 1, 0, 0}), memory->answersByDay({Cat}, today - 1, 4));
-    memory->forget({Dog});
-    cards = memory->cards({Dog, Cat});
-    EXPECT_TRUE(cards[0].isNew());
-    EXPECT_EQ(1, cards[1].asked);
-    memory->finish();
-    EXPECT_FALSE(readFile(m_path).contains("Hund"));
-    memory->forgetAll();
-    EXPECT_EQ(std::vector<Card>(2), memory->cards({Dog, Cat}));
-    EXPECT_TRUE(m_troubles.empty());
-}
-
-TEST_F(StoredMemoryTest, MakesCardsAnewWhenInDoubt)
-{
-    fill();
-    m_now = m_now.addDays(3);
-    fill();
-    const std::vector<Card> before = stored();
-    EXPECT_EQ(2, before[0].asked);
-    for (const char *fault : {"DELETE FROM card", "DELETE FROM card WHERE answer = 4", "UPDATE card SET stability = -1",
-                              "UPDATE card SET difficulty = 1e300", "UPDATE card SET missed = asked + 1"}) {
-        sql(QLatin1String(fault));
-        EXPECT_EQ(before, stored()) << fault;
+    open()->answersByDay({Dog}, 0, 1);
+    EXPECT_FALSE(QFile::exists(m_path)) << "made with the first answer";
+    const std::vector<WordKey> words = {Dog, WordKey::of(QString(100000, QChar(0xE9)), QString(100000, QChar(0x30A2))),
+                                        WordKey::of("\U0001F436", "كلب"), WordKey::of(QString(QChar(0xD800)), {})};
+    const char *faults[] = {"stability = -1", "stability = 36501", "difficulty = 10.5",  "difficulty = 0.9",
+                            "due = last",     "missed = -1",       "missed = asked + 1", "asked = 0, missed = 0"};
+    const QString newest = " WHERE answer = (SELECT max(answer) FROM card)";
+    std::mt19937 chance(1);
+    const auto draw = [&chance](size_t end) { return size_t(chance() % end); };
+    std::vector<Card> cards(words.size());
+    std::vector<std::vector<int>> days(words.size()); // of the answers to each word
+    std::unique_ptr<StoredMemory> programs[] = {open(), open()};
+    for (int i = 0; i < 250; ++i) {
+        m_now = m_now.addDays(draw(3) == 0 ? int(draw(9)) : 0);
+        const int today = Day::of(m_now);
+        const size_t word = draw(words.size());
+        const size_t what = draw(12);
+        if (what == 0 && QFile::exists(m_path)) {
+            programs[1].reset(), programs[0].reset();
+            sql(draw(2) ? "DELETE FROM card" + newest : "UPDATE card SET " + QString(faults[draw(std::size(faults))]));
+            programs[0] = open(), programs[1] = open();
+        } else if (what == 1 && word > 0) {
+            programs[0]->forget({words[word]});
+            cards[word] = {};
+            days[word].clear();
+        } else {
+            Answer answer{words[word], Answer::Kind(draw(3)), draw(3) != 0, draw(4) == 0, i};
+            if (word == 0) // is always known, and gets ever easier
+                answer = {.word = words[0], .right = true};
+            programs[0]->remember(answer);
+            cards[word] = Schedule::next(cards[word], answer.grade(), today);
+            days[word].push_back(today);
+            programs[0]->finish();
+            what == 2 ? sql("UPDATE card SET stability = -1" + newest) : QString();
+        }
+        EXPECT_EQ(cards, programs[0]->cards(words)) << i << ' ' << what;
+        std::vector<int> counts;
+        for (int day = today - 8; day <= today; ++day)
+            counts.push_back(int(std::count(days[word].begin(), days[word].end(), day)));
+        EXPECT_EQ(counts, programs[1]->answersByDay({words[word]}, today - 8, 9));
+        swap(programs[0], programs[1]);
     }
-    EXPECT_TRUE(m_troubles.empty());
+    Card bird;
+    for (int i = 0; i < 40; ++i) { // both at the same time
+        programs[i % 2]->remember({.word = Bird, .right = true});
+        bird = Schedule::next(bird, Grade::Good, Day::of(m_now));
+    }
+    programs[0]->finish();
+    EXPECT_EQ(bird, programs[1]->cards({Bird})[0]);
+    programs[1].reset();
+    EXPECT_EQ("dogHund", sql("SELECT asked || answer FROM word WHERE id = " + QString::number(Dog.number())));
+    EXPECT_EQ(sql("SELECT count(*) FROM card"), sql("SELECT count(*) FROM word"));
+    programs[0]->forget(words);
+    programs[0]->finish();
+    EXPECT_FALSE(readFile(m_path).contains("Hund"));
+    programs[0]->remember({.word = Dog, .right = true});
+    programs[0]->forgetAll();
+    programs[0]->finish();
+    EXPECT_FALSE(readFile(m_path).contains("Hund"));
+    EXPECT_TRUE(programs[0]->cards({Dog})[0].isNew() && m_troubles.empty());
 }
 
 TEST_F(StoredMemoryTest, SetsADamagedStoreAsideAndBeginsAnew)
 {
-    fill();
+    auto memory = open();
+    for (int i = 0; i < 300; ++i)
+        memory->remember({.word = WordKey::of(QString::number(i), {}), .right = true});
+    memory.reset();
+    EXPECT_EQ(QString(), MemoryStore::setAside(m_path)) << "it is whole";
     const QByteArray sound = readFile(m_path);
-    QByteArray scribbled = sound;
-    for (qsizetype i = 4096; i < scribbled.size(); i += 7)
-        scribbled[i] = 'x';
-    sql(QStringLiteral("DROP TABLE card"));
-    const std::vector<QByteArray> damaged = {readFile(m_path), "no database", sound.left(5000), sound.left(100),
-                                             scribbled};
+    const QByteArray lost(sound.size() - 4096, 'x');
+    sql("DROP TABLE card");
+    const QByteArray damaged[] = {readFile(m_path), "no database",           sound.left(5000),
+                                  sound.left(100),  sound.left(4096) + lost, sound.left(2 * sound.size() / 3) + lost};
     for (const QByteArray &content : damaged) {
+        memory.reset();
         m_troubles.clear();
         writeFile(m_path, content);
-        {
-            const auto memory = open();
-            memory->remember(answer(Bird, true));
-            EXPECT_EQ(1, memory->cards({Bird})[0].asked) << content.size();
-        }
+        memory = open();
+        if (content.size() > 5000)
+            memory->cards({}); // finds what is damaged elsewhere
+        memory->remember({.word = Bird, .right = true});
+        EXPECT_EQ(1, memory->cards({Bird})[0].asked) << content.size();
         EXPECT_EQ(std::vector{MemoryTrouble::Damaged}, m_troubles) << content.size();
         EXPECT_FALSE(readFile(m_setAside).isEmpty()) << content.size();
         EXPECT_EQ(1, stored()[2].asked) << content.size();
     }
-    EXPECT_EQ(qsizetype(damaged.size()),
-              QDir(m_home.path() + QStringLiteral("/glosaria")).entryList({"*damaged*"}).size());
+    EXPECT_EQ(qsizetype(std::size(damaged)), QDir(m_home.path() + "/glosaria").entryList({"*damaged*"}).size());
 }
 
 TEST_F(StoredMemoryTest, GoesOnWithoutAStoreThatItCannotUse)
 {
-    const auto makeNewer = [this] { sql("PRAGMA user_version = 99"); };
-    const auto makeFolder = [this] { QFile::remove(m_path), QDir().mkdir(m_path); };
-    const auto goWhereNoneCanBe = [this] { m_path = "/proc/glosaria/memory.sqlite"; };
-    const std::pair<std::function<void()>, MemoryTrouble> cases[] = {{makeNewer, MemoryTrouble::Newer},
-                                                                     {makeFolder, MemoryTrouble::Unavailable},
-                                                                     {goWhereNoneCanBe, MemoryTrouble::Unavailable}};
+    const std::pair<std::function<void()>, MemoryTrouble> cases[] = {
+        {[this] { sql("PRAGMA user_version = 99"); }, MemoryTrouble::Newer},
+        {[this] { QFile::remove(m_path), QDir().mkdir(m_path); }, MemoryTrouble::Unavailable},
+        {[this] { m_path = "/proc/glosaria/memory.sqlite"; }, MemoryTrouble::Unavailable}};
     const auto content = [this] { return QFileInfo(m_path).isFile() ? readFile(m_path) : QByteArray(); };
     for (const auto &[prepare, trouble] : cases) {
         fill();
         m_troubles.clear();
         prepare();
         const QByteArray before = content();
-        {
-            const auto memory = open();
-            memory->remember(answer(Bird, true));
-            memory->remember(answer(Bird, false));
-            EXPECT_EQ(2, memory->cards({Bird})[0].asked) << "until the end it counts";
-        }
+        auto memory = open();
+        memory->remember({.word = Bird, .right = true});
+        memory->remember({.word = Bird});
+        EXPECT_EQ(2, memory->cards({Bird})[0].asked) << "until the end it counts";
+        memory.reset();
         EXPECT_EQ(std::vector{trouble}, m_troubles) << "told once";
         EXPECT_EQ(before, content());
     }
@@ -157,28 +179,30 @@ TEST_F(StoredMemoryTest, WritesLaterWhatFoundNoRoom)
     fill();
     const auto memory = open();
     EXPECT_EQ(1, memory->cards({Dog})[0].asked);
-    {
-        const FileSizeLimit full(rlim_t(QFileInfo(m_path).size()) / 2);
-        memory->remember(answer(Dog, false));
-        memory->remember(answer(Bird, true));
-        EXPECT_EQ(2, memory->cards({Dog})[0].asked);
-        EXPECT_EQ(std::vector{MemoryTrouble::Refused}, m_troubles);
+    for (const bool forgets : {false, true}) {
+        {
+            const FileSizeLimit full(rlim_t(QFileInfo(m_path).size()) / 2);
+            memory->remember({.word = Dog});
+            memory->remember({.word = Bird, .right = true});
+            EXPECT_EQ(forgets ? 3 : 2, memory->cards({Dog})[0].asked);
+            EXPECT_EQ(std::vector{MemoryTrouble::Refused}, m_troubles);
+        }
+        forgets ? memory->forget({Bird}) : memory->remember({.word = Bird, .right = true});
+        const std::vector<Card> cards = memory->cards({Dog, Cat, Bird});
+        EXPECT_EQ(forgets ? 0 : 2, cards[2].asked);
+        EXPECT_EQ(cards, stored());
     }
-    memory->remember(answer(Bird, true));
-    const std::vector<Card> cards = memory->cards({Dog, Cat, Bird});
-    EXPECT_EQ(2, cards[2].asked);
-    EXPECT_EQ(cards, stored());
 }
 
 TEST_F(StoredMemoryTest, ReadsWhatItMayNotWrite)
 {
     EXPECT_TRUE(OrdinaryUser::run([this] {
         QTemporaryDir home;
-        m_path = home.path() + QStringLiteral("/memory.sqlite");
+        m_path = home.path() + "/memory.sqlite";
         fill();
         QFile::setPermissions(m_path, QFile::ReadOwner);
         const auto memory = open();
-        memory->remember(answer(Dog, true));
+        memory->remember({.word = Dog, .right = true});
         EXPECT_EQ(2, memory->cards({Dog})[0].asked);
         EXPECT_EQ(std::vector{MemoryTrouble::Refused}, m_troubles);
         EXPECT_EQ(1, stored()[0].asked);
@@ -189,51 +213,26 @@ TEST_F(StoredMemoryTest, ReadsWhatItMayNotWrite)
 TEST_F(StoredMemoryTest, WaitsForAnotherProgramWithoutHoldingAnyoneUp)
 {
     fill();
-    QSqlDatabase other = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("other"));
-    other.setDatabaseName(m_path);
-    ASSERT_TRUE(other.open());
-    QSqlQuery(other).exec(QStringLiteral("BEGIN EXCLUSIVE"));
+    std::optional<Other> other(m_path);
+    other->run("BEGIN EXCLUSIVE");
     const auto memory = open();
     QElapsedTimer timer;
     timer.start();
-    memory->remember(answer(Bird, true));
+    memory->remember({.word = Bird, .right = true});
     EXPECT_LT(timer.elapsed(), 100);
     memory->cards({Dog});
     EXPECT_LT(timer.elapsed(), 2 * StoredMemory::Patience);
-    QSqlQuery(other).exec(QStringLiteral("COMMIT"));
-    other = QSqlDatabase();
-    QSqlDatabase::removeDatabase(QStringLiteral("other"));
+    other->run("COMMIT");
     memory->finish();
+    EXPECT_TRUE(m_troubles.empty());
+    other->run("BEGIN EXCLUSIVE");
+    auto ending = open();
+    ending->remember({.word = Bird, .right = true});
+    ending->remember({.word = Bird, .right = true});
+    timer.start();
+    ending.reset();
+    EXPECT_TRUE(timer.elapsed() >= StoredMemory::EndPatience - 500 && timer.elapsed() < 2 * StoredMemory::EndPatience);
+    EXPECT_EQ(std::vector{MemoryTrouble::Locked}, m_troubles);
+    other.reset();
     EXPECT_EQ(1, stored()[2].asked);
-    EXPECT_TRUE(m_troubles.empty());
-}
-
-TEST_F(StoredMemoryTest, SharesTheStoreWithAnotherProgram)
-{
-    const auto one = open();
-    const auto two = open();
-    for (int i = 0; i < 20; ++i) {
-        one->remember(answer(Dog, true));
-        two->remember(answer(Dog, i % 2));
-    }
-    one->finish();
-    two->finish();
-    EXPECT_EQ(40, one->cards({Dog})[0].asked);
-    EXPECT_EQ(one->cards({Dog}), two->cards({Dog}));
-    EXPECT_EQ(10, one->cards({Dog})[0].missed);
-    one->forget({Dog});
-    one->finish();
-    EXPECT_TRUE(two->cards({Dog})[0].isNew());
-    EXPECT_TRUE(m_troubles.empty());
-}
-
-TEST_F(StoredMemoryTest, KeepsLongWordsAndManyScripts)
-{
-    const std::vector<WordKey> keys = {WordKey::of(QString(100000, QChar(0xE9)), QString(100000, QChar(0x30A2))),
-                                       WordKey::of(QStringLiteral("\U0001F436"), QStringLiteral("كلب")),
-                                       WordKey::of(QString(QChar(0xD800)), QString())};
-    for (const WordKey &key : keys)
-        open()->remember(answer(key, true));
-    for (const Card &card : open()->cards(keys))
-        EXPECT_EQ(1, card.asked);
 }
