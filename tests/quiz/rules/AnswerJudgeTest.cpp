@@ -9,24 +9,15 @@ AnswerTolerance tolerant(const QString &options)
             options.contains(u's')};
 }
 
-QString optionsOf(int subset)
-{
-    QString options;
-    for (int i = 0; i < 5; ++i)
-        options += subset & (1 << i) ? QStringLiteral("cabks").mid(i, 1) : QString();
-    return options;
-}
-
 /// What a judgement says: "=" for right, "-" for wrong, else what was forgiven.
 QString said(const Judgement &judgement)
 {
     if (judgement.verdict != Judgement::Verdict::Forgiven)
         return judgement.verdict == Judgement::Verdict::Right ? "=" : "-";
-    for (int subset = 1; subset < 32; ++subset) {
-        if (judgement.forgiven == tolerant(optionsOf(subset)))
-            return optionsOf(subset);
-    }
-    return "nothing";
+    const AnswerTolerance &forgiven = judgement.forgiven;
+    return QString(forgiven.letterCase ? "c" : "") + (forgiven.accents ? "a" : "") +
+           (forgiven.blanksAndPunctuation ? "b" : "") + (forgiven.brackets ? "k" : "") +
+           (forgiven.oneOfSeveral ? "s" : "");
 }
 
 /// Both texts with their differences in brackets: "H[x]s / H[aa]s".
@@ -60,7 +51,9 @@ TEST(AnswerJudge, ForgivesWhatTheOptionsSayAndNothingElse)
     AnswerJudge judge;
     for (const QStringList &parts : rows(3)) {
         for (int subset = 0; subset < 32; ++subset) {
-            const QString options = optionsOf(subset);
+            QString options;
+            for (int i = 0; i < 5; ++i)
+                options += subset & (1 << i) ? QStringLiteral("cabks").mid(i, 1) : QString();
             QStringList possible = parts[2].split(u'/');
             possible.removeIf([&](const QString &each) {
                 return std::any_of(each.begin(), each.end(), [&](QChar one) { return !(options + '=').contains(one); });
@@ -90,11 +83,11 @@ TEST(AnswerJudge, TakesLongTextsInTheirStride)
     EXPECT_EQ("-", said(judge.judge(text, text + "x", tolerant("cabks"))).toStdString());
     EXPECT_EQ("c", said(judge.judge(text.toUpper(), text, tolerant("cabks"))).toStdString());
     EXPECT_EQ("-", said(judge.judge(text.toUpper() + text, text + text, tolerant("c"))).toStdString()) << "too long";
-    const Judgement judgement =
-        judge.judge("start " + QString(10000, u'x') + " end", "start " + QString(600, u'y') + " end", {});
-    EXPECT_EQ(0U, judgement.difference.changes.size()) << "too little in common";
+    const QString little = "start " + QString(10000, u'x') + " end";
+    EXPECT_TRUE(judge.judge(little, QString(little).replace(u'x', u'y'), {}).difference.changes.empty());
     const QString same(2400, u'z');
-    EXPECT_EQ(marked(same + "[x]" + same, same + "[yy]" + same, {}),
-              marked(same + "x" + same, same + "yy" + same,
-                     judge.judge(same + "x" + same, same + "yy" + same, {}).difference));
+    const QString given = same + 'x' + same;
+    const QString wanted = same + "yy" + same;
+    EXPECT_EQ(same + "[x]" + same + " / " + same + "[yy]" + same,
+              marked(given, wanted, judge.judge(given, wanted, {}).difference));
 }

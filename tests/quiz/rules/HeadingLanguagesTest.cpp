@@ -10,16 +10,11 @@ TEST(HeadingLanguages, AHeadingNamesALanguageInManyWays)
          "Немецкий язык|اللغة الألمانية"},
         {QLocale::French, "French|français|FRANCAIS|Französisch|francuski|Fra|fr-CA|1. French"},
         {QLocale::Spanish, "Spanish|Español|espanol|Spanisch|西班牙语|es"},
-        {QLocale::Italian, "Italiano|Italienisch|it|włoski"},
         {QLocale::English, "English|British English|anglais|английский|英語|en_GB"},
         {QLocale::Japanese, "Japanese (kana)|日本語|Japonais|ja"},
         {QLocale::Chinese, "Chinese|中文|中文（简体）|Chinesisch|zh"},
-        {QLocale::Russian, "русский|Russisch|ru"},
         {QLocale::Arabic, "العربية|Arabic|ar"},
-        {QLocale::Swedish, "Swedish|svenska|Schwedisch|sv"},
         {QLocale::NorwegianBokmal, "Norwegian|norsk|no"},
-        {QLocale::Hungarian, "magyar|ungherese"},
-        {QLocale::Turkish, "Türkçe|Turkce"},
         {QLocale::Hebrew, "עברית|hebräisch"},
         {QLocale::AnyLanguage, "| |Language 1|Sprache 2|Words|Question|A|1|No. 5|it is|de la|Qq|C|dog"}};
     for (const auto &[language, headings] : cases) {

@@ -14,9 +14,8 @@ struct Spelled : AnswerMemory
     {
         std::vector<Card> cards;
         for (const WordKey &key : keys) {
-            const bool isDue = key.asked[0].isUpper();
-            cards.push_back(
-                {.stability = 1, .due = isDue ? 10 : 11, .last = 9, .asked = 100, .missed = int(key.asked.size()) - 1});
+            const int due = key.asked[0].isUpper() ? 10 : 11;
+            cards.push_back({.stability = 1, .due = due, .last = 9, .asked = 100, .missed = int(key.asked.size()) - 1});
         }
         return cards;
     }
