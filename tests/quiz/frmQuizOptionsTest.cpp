@@ -6,35 +6,34 @@ TEST(frmQuizOptionsTest, EveryControlChangesItsOptionOnOKOnly)
 {
     StoredSettings stored;
     clsAppProperties &settings = stored.settings;
-    const auto change = [&](const char *name, Qt::Key end) {
-        frmQuizOptions dialog(settings, true);
-        dialog.show();
-        if (auto *number = dialog.findChild<QSpinBox *>(name))
-            QTest::keyClicks(number, "10"); // in place of what is selected
-        else
-            QTest::keyClick(dialog.findChild<QCheckBox *>(name), Qt::Key_Space);
-        QTest::keyClick(&dialog, end);
-        EXPECT_FALSE(dialog.isVisible());
+    QuizOptions expected;
+    const std::pair<const char *, std::function<void()>> cases[] = {
+        {"txtMost", [&] { expected.mostWords = 10; }},
+        {"chkCase", [&] { expected.tolerance.letterCase = true; }},
+        {"chkAccents", [&] { expected.tolerance.accents = true; }},
+        {"chkBlanks", [&] { expected.tolerance.blanksAndPunctuation = true; }},
+        {"chkBrackets", [&] { expected.tolerance.brackets = true; }},
+        {"chkOneOfSeveral", [&] { expected.tolerance.oneOfSeveral = true; }},
+        {"chkReadQuestion", [&] { expected.readQuestion = true; }},
+        {"chkReadAnswer", [&] { expected.readAnswer = true; }},
+        {"chkRemember", [&] { expected.rememberAnswers = false; }},
     };
-    const std::pair<const char *, QuizOptions> cases[] = {
-        {"txtMost", {.mostWords = 10}},
-        {"chkCase", {.tolerance = {.letterCase = true}}},
-        {"chkAccents", {.tolerance = {.accents = true}}},
-        {"chkBlanks", {.tolerance = {.blanksAndPunctuation = true}}},
-        {"chkBrackets", {.tolerance = {.brackets = true}}},
-        {"chkOneOfSeveral", {.tolerance = {.oneOfSeveral = true}}},
-        {"chkReadQuestion", {.readQuestion = true}},
-        {"chkReadAnswer", {.readAnswer = true}},
-        {"chkRemember", {.rememberAnswers = false}},
-    };
-    for (const auto &[name, changed] : cases) {
-        settings.setQuizOptions({});
-        change(name, Qt::Key_Escape);
-        EXPECT_EQ(settings.quizOptions(), QuizOptions()) << name;
-        change(name, Qt::Key_Return);
-        EXPECT_EQ(settings.quizOptions(), changed) << name;
+    for (const auto &[name, change] : cases) {
+        for (const Qt::Key end : {Qt::Key_Escape, Qt::Key_Return}) {
+            frmQuizOptions dialog(settings, true);
+            dialog.show();
+            auto *control = dialog.findChild<QWidget *>(name);
+            // in place of the number that is selected
+            QTest::keyClicks(control, qobject_cast<QSpinBox *>(control) ? "10" : " ");
+            if (end == Qt::Key_Return)
+                change();
+            QTest::keyClick(&dialog, end);
+            EXPECT_FALSE(dialog.isVisible());
+            EXPECT_EQ(settings.quizOptions(), expected) << name;
+        }
     }
     frmQuizOptions silent(settings, false);
     silent.show();
     EXPECT_FALSE(silent.findChild<QWidget *>("chkReadQuestion")->isVisible());
+    EXPECT_EQ(u"10", silent.findChild<QSpinBox *>("txtMost")->text());
 }

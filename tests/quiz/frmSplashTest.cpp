@@ -2,21 +2,6 @@
 
 #include "resources/StringTable.h"
 
-struct frmSplashTest : ::testing::Test
-{
-    template <class Control> Control *control(const char *name) { return window.findChild<Control *>(name); }
-
-    void open(frmSplash::Status status)
-    {
-        window.setLoadStatus(status);
-        window.Form_Load();
-        window.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-    }
-
-    frmSplash window{QVersionNumber(3, 1, 7)};
-};
-
 /// Stands in for the desktop's browser and mail program.
 class LinkOpener : public QObject
 {
@@ -28,27 +13,66 @@ public:
     QStringList opened;
 };
 
+struct frmSplashTest : ::testing::Test
+{
+    template <class Control = QWidget> Control *control(const QString &name)
+    {
+        return window.findChild<Control *>(name);
+    }
+    void open(frmSplash::Status status)
+    {
+        window.setLoadStatus(status);
+        window.Form_Load();
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    }
+
+    frmSplash window{QVersionNumber(3, 1, 7)};
+};
+
 TEST_F(frmSplashTest, TheSplashStandsInTheMiddleAndHasNothingToClick)
 {
     open(frmSplash::StartUp);
     EXPECT_TRUE(window.windowFlags() & Qt::FramelessWindowHint);
-    EXPECT_FALSE(control<QPushButton>("btnOK")->isVisible() || control<QToolButton>("imgLink0")->isEnabled());
+    EXPECT_FALSE(control("btnOK")->isVisible() || control("imgLink0")->isEnabled());
     const QPoint off = window.frameGeometry().center() - window.screen()->availableGeometry().center();
     EXPECT_LE(off.manhattanLength(), 2);
     EXPECT_EQ(u"Version 3.1", control<QLabel>("lblVersion")->text());
+    // what is painted from the left edge: a line, the frame, the patterned strip, the ground; then two white cards
+    const QImage image = window.grab().toImage();
+    QString seen;
+    for (const auto &[from, end] : {std::pair(0, 1), {1, 10}, {10, 34}, {34, 36}, {36, image.width()}}) {
+        QSet<QRgb> colours;
+        for (int x = from; x < end; ++x)
+            for (int y = 40; y < 80; ++y)
+                colours.insert(image.pixel(x, y) & RGB_MASK);
+        seen += colours.size() == 1 ? QString::number(*colours.begin(), 16) + u' ' : "many ";
+    }
+    EXPECT_EQ("0 c4c4c4 many ffff9c many ", seen);
 }
 
-TEST_F(frmSplashTest, TheAboutBoxOpensItsLinksAndHidesADedication)
+TEST_F(frmSplashTest, TheAboutBoxTellsAndOpensItsLinksAndHidesADedication)
 {
     LinkOpener opener;
+    QStringList told;
+    QObject::connect(&window, &frmSplash::linkHovered, [&told](const QString &target) { told += target; });
+    QObject::connect(&window, &frmSplash::statusRequested, [&told](int) { told += "ready"; });
     for (const char *scheme : {"https", "mailto"})
         QDesktopServices::setUrlHandler(scheme, &opener, "open");
     open(frmSplash::About);
-    QTest::mouseClick(control<QToolButton>("imgLink0"), Qt::LeftButton);
-    QTest::keyClick(control<QToolButton>("imgLink1"), Qt::Key_Space);
+    const QStringList links{resText(2001), resText(2002)};
+    for (const int i : {0, 1}) {
+        auto *link = control<QToolButton>(QStringLiteral("imgLink%1").arg(i));
+        EXPECT_FALSE(link->icon().isNull() || link->toolTip() != resText(2006 + i));
+        told.clear();
+        link->setFocus();
+        i == 0 ? QTest::mouseClick(link, Qt::LeftButton) : QTest::keyClick(link, Qt::Key_Space);
+        control("btnOK")->setFocus();
+        EXPECT_EQ(QStringList({links[i], "ready"}), told);
+    }
     for (const char *scheme : {"https", "mailto"})
         QDesktopServices::unsetUrlHandler(scheme);
-    EXPECT_EQ(QStringList({resText(2001), resText(2002)}), opener.opened);
+    EXPECT_EQ(links, opener.opened);
 
     auto *line = control<QLabel>("lblCopyright");
     QTest::mousePress(line, Qt::LeftButton);
