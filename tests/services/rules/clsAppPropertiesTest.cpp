@@ -1,25 +1,16 @@
 #include "services/settings/clsAppProperties.h"
 
-#include "platform/registry/RegistryTree.h"
-
-namespace {
+#include "platform/registry/RegistryText.h"
 
 const QString Key = "Software\\Glosaria";
-const QString Program = "/opt/glosaria/glosaria";
 
-QByteArray storedRecord(const RegistryStore &store)
+struct AppPropertiesTest : ::testing::Test
 {
-    const auto value = store.value(HKEY_CURRENT_USER, Key, "Settings");
-    return value ? std::get<QByteArray>(value->data) : QByteArray();
-}
+    RegistryTree store;
+    clsAppProperties settings{store, "/opt/glosaria/glosaria"};
 
-std::string defaultOf(const RegistryStore &store, const char *key)
-{
-    const auto value = store.value(HKEY_CLASSES_ROOT, QString::fromLatin1(key), QString());
-    return value ? std::get<QString>(value->data).toStdString() : "none";
-}
-
-} // namespace
+    std::string stored() const { return RegistryText::write(store).simplified().toStdString(); }
+};
 
 TEST(SettingsRecord, LayoutByteForByte)
 {
@@ -37,100 +28,83 @@ TEST(SettingsRecord, LayoutByteForByte)
     EXPECT_FALSE(SettingsRecord::fromBytes(onlySecondFlag).AutoCheck);
 }
 
-TEST(AppProperties, FirstRunSetsDefaultsAndRegistersTheFileType)
+TEST_F(AppPropertiesTest, AFirstRunRegistersTheFileTypeAndStoresTheDefaults)
 {
-    RegistryTree store;
-    clsAppProperties properties(store, Program);
-    properties.ReadProperties();
-    EXPECT_TRUE(properties.firstRun());
-    EXPECT_EQ(properties.FontName(), "Arial");
-    properties.SaveProperties();
-    EXPECT_EQ(storedRecord(store).toHex(' '), "00 00 00 00 00 00 00 00 01 00 00 00 00 00 00 00 00 00 0a 00 01 00 00 00 "
-                                              "ff ff ff ff ff ff ff ff ff ff ff ff ff ff ff");
-    EXPECT_EQ(defaultOf(store, ".gla"), "Glosaria.Document");
-    EXPECT_EQ(defaultOf(store, "Glosaria.Document"), "Glosaria Document");
-    EXPECT_EQ(defaultOf(store, "Glosaria.Document\\shell\\open\\command"), "/opt/glosaria/glosaria \"%1\"");
-    EXPECT_EQ(defaultOf(store, "Glosaria.Document\\DefaultIcon"), "/opt/glosaria/glosaria,1");
+    settings.ReadProperties();
+    EXPECT_TRUE(settings.firstRun());
+    settings.SaveProperties();
+    EXPECT_EQ(
+        stored(),
+        R"(Glosaria registry 1 HKEY_CLASSES_ROOT ".gla" "" = string "Glosaria.Document" HKEY_CLASSES_ROOT )"
+        R"("Glosaria.Document" "" = string "Glosaria Document" HKEY_CLASSES_ROOT "Glosaria.Document\\DefaultIcon" )"
+        R"("" = string "/opt/glosaria/glosaria,1" HKEY_CLASSES_ROOT "Glosaria.Document\\shell" HKEY_CLASSES_ROOT )"
+        R"("Glosaria.Document\\shell\\open" HKEY_CLASSES_ROOT "Glosaria.Document\\shell\\open\\command" "" = )"
+        R"(string "/opt/glosaria/glosaria \"%1\"" HKEY_CURRENT_USER "Software" HKEY_CURRENT_USER )"
+        R"("Software\\Glosaria" "FontName" = string "Arial" "Settings" = binary 00 00 00 00 00 00 00 00 01 00 00 )"
+        R"(00 00 00 00 00 00 00 0a 00 01 00 00 00 ff ff ff ff ff ff ff ff ff ff ff ff ff ff ff end)");
 }
 
-TEST(AppProperties, SavedSettingsComeBack)
+TEST_F(AppPropertiesTest, WhatWasChangedIsStoredByItsNameAndComesBack)
 {
-    RegistryTree store;
     store.createKey(HKEY_CURRENT_USER, Key + "\\MRUFiles");
-    clsAppProperties saved(store, Program);
-    saved.ReadProperties(); // there is a key, but no record in it
-    EXPECT_TRUE(saved.ErrorBeep() && !saved.firstRun());
-    saved.setFontName("Noto Sans");
-    saved.setQuizMode(4);
-    saved.SaveProperties();
-    clsAppProperties read(store, Program);
-    read.ReadProperties();
-    EXPECT_EQ(read.FontName(), "Noto Sans");
-    EXPECT_EQ(read.QuizMode(), 4);
-    EXPECT_EQ(defaultOf(store, ".gla"), "none");
+    settings.ReadProperties(); // there is a key, but no record in it
+    EXPECT_TRUE(settings.ErrorBeep() && !settings.firstRun());
+    settings.SaveProperties();
+    const std::string before = stored();
+    settings.setFontName("Noto Sans");
+    settings.setQuizMode(4);
+    settings.setQuizOptions({32767, {true, true, true, true, true}, true, true, false});
+    settings.setQuizWindow({-5, 20, 700, 500});
+    settings.setShowLetters(true);
+    settings.setGridZoom(150);
+    for (int round = 0; round < 2; ++round) {
+        settings.SaveProperties();
+        EXPECT_EQ(
+            stored(),
+            R"(Glosaria registry 1 HKEY_CURRENT_USER "Software" HKEY_CURRENT_USER "Software\\Glosaria" "FontName" = )"
+            R"(string "Noto Sans" "GridZoom" = number 150 "QuizForgiveAccents" = number 1 "QuizForgiveBlanks" = number )"
+            R"(1 "QuizForgiveBrackets" = number 1 "QuizForgiveCase" = number 1 "QuizMostWords" = number 32767 )"
+            R"("QuizOneOfSeveral" = number 1 "QuizReadAnswer" = number 1 "QuizReadQuestion" = number 1 )"
+            R"("QuizRememberAnswers" = number 0 "QuizWindowHeight" = number 500 "QuizWindowLeft" = number 4294967291 )"
+            R"("QuizWindowTop" = number 20 "QuizWindowWidth" = number 700 "Settings" = binary 00 00 00 00 00 00 00 00 )"
+            R"(01 00 00 00 00 00 00 00 00 00 0a 00 04 00 00 00 ff ff ff ff ff ff ff ff ff ff ff ff ff ff ff )"
+            R"("ShowLetters" = number 1 HKEY_CURRENT_USER "Software\\Glosaria\\MRUFiles" end)");
+        settings.ReadProperties();
+    }
+    clsAppProperties(store, "").SaveProperties(); // the defaults
+    EXPECT_EQ(stored(), before);
 }
 
-TEST(AppProperties, QuizOptionsAreStoredOneByOneOnceTheyDifferFromTheDefault)
+TEST_F(AppPropertiesTest, ValuesThatCannotBeTrustedAreRepaired)
 {
-    RegistryTree store;
-    const QuizOptions changed{.mostWords = 10,
-                              .tolerance = {.letterCase = true, .oneOfSeveral = true},
-                              .readAnswer = true,
-                              .rememberAnswers = false};
-    for (const QuizOptions &options : {QuizOptions(), changed, QuizOptions()}) {
-        clsAppProperties saved(store, Program);
-        saved.setQuizOptions(options);
-        saved.SaveProperties();
-        clsAppProperties read(store, Program);
-        read.ReadProperties();
-        EXPECT_EQ(read.quizOptions(), options);
-        EXPECT_EQ(store.value(HKEY_CURRENT_USER, Key, "QuizMostWords").has_value(), options.mostWords == 10);
+    const auto with = [this](const QByteArray &record) {
+        store.setValue(HKEY_CURRENT_USER, Key, "Settings", {RegistryType::Binary, record});
+        settings.ReadProperties();
+        return std::array{settings.FontSize(), settings.QuizMode(), settings.AutoTimerInterval()};
+    };
+    EXPECT_EQ(with(QByteArray("\2", 1)), (std::array{10, 1, 0}));
+    EXPECT_EQ(with(QByteArray(39, '\xff')), (std::array{10, 1, 0}));
+    EXPECT_EQ(with(QByteArray(39, '\x7f')), (std::array{clsAppProperties::LargestFontSize, 1, 0x7f7f7f7f}));
+    EXPECT_EQ(with(QByteArray(18, '\0') + QByteArray("\1\0\5\0", 4)), (std::array{1, 5, 0}));
+    const std::pair<const char *, RegistryValue> values[] = {{"QuizMostWords", {RegistryType::Number, 32768u}},
+                                                             {"QuizMostWords", {RegistryType::Number, 0xffffffffu}},
+                                                             {"QuizMostWords", {RegistryType::String, QString("10")}},
+                                                             {"QuizRememberAnswers", {RegistryType::Number, 7u}},
+                                                             {"ShowLetters", {RegistryType::Number, 2u}},
+                                                             {"FontName", {RegistryType::String, QString(" ")}}};
+    for (const auto &[name, value] : values) {
+        store.setValue(HKEY_CURRENT_USER, Key, name, value);
+        settings.ReadProperties();
+        EXPECT_EQ(settings.quizOptions(), QuizOptions()) << name;
+        EXPECT_TRUE(settings.FontName() == "Arial" && !settings.ShowLetters()) << name;
     }
-    const std::pair<RegistryValue, int> stored[] = {{{RegistryType::Number, 32767u}, 32767},
-                                                    {{RegistryType::Number, 32768u}, 0},
-                                                    {{RegistryType::Number, 0xffffffffu}, 0},
-                                                    {{RegistryType::String, QString("10")}, 0}};
-    for (const auto &[value, words] : stored) {
-        store.setValue(HKEY_CURRENT_USER, Key, "QuizMostWords", value);
-        store.setValue(HKEY_CURRENT_USER, Key, "QuizRememberAnswers", {RegistryType::Number, 7u});
-        clsAppProperties read(store, Program);
-        read.ReadProperties();
-        EXPECT_EQ(read.quizOptions().mostWords, words);
-        EXPECT_TRUE(read.quizOptions().rememberAnswers);
-    }
-}
-
-TEST(AppProperties, ThePlaceOfTheQuizWindowIsKeptIfAScreenCanHaveIt)
-{
     const std::pair<QRect, bool> places[] = {{{-5, 0, 700, 500}, true},
                                              {{10, 20, 0, 500}, false},
                                              {{10, 20, 700, -500}, false},
                                              {{INT_MIN, 0, 700, 500}, false},
                                              {{0, 0, INT_MAX, 500}, false}};
     for (const auto &[place, kept] : places) {
-        RegistryTree store;
-        clsAppProperties saved(store, Program);
-        saved.setQuizWindow(place);
-        saved.SaveProperties();
-        clsAppProperties read(store, Program);
-        read.ReadProperties();
-        EXPECT_EQ(read.QuizWindow(), kept ? place : QRect());
+        settings.setQuizWindow(place);
+        EXPECT_EQ(settings.QuizWindow(), kept ? place : QRect());
     }
-}
-
-TEST(AppProperties, ValuesOutOfRangeAreRepaired)
-{
-    const auto with = [](const QByteArray &record) {
-        RegistryTree store;
-        store.setValue(HKEY_CURRENT_USER, Key, "Settings", {RegistryType::Binary, record});
-        store.setValue(HKEY_CURRENT_USER, Key, "FontName", {RegistryType::String, QString(" ")});
-        clsAppProperties properties(store, Program);
-        properties.ReadProperties();
-        EXPECT_EQ(properties.FontName(), "Arial");
-        return std::array{properties.FontSize(), properties.QuizMode(), properties.AutoTimerInterval()};
-    };
-    EXPECT_EQ(with(QByteArray("\2", 1)), (std::array{10, 1, 0}));
-    EXPECT_EQ(with(QByteArray(39, '\xff')), (std::array{10, 1, 0}));
-    EXPECT_EQ(with(QByteArray(39, '\x7f')), (std::array{clsAppProperties::LargestFontSize, 1, 0x7f7f7f7f}));
-    EXPECT_EQ(with(QByteArray(18, '\0') + QByteArray("\1\0\5\0", 4)), (std::array{1, 5, 0}));
 }

@@ -3,54 +3,37 @@
 #include "platform/registry/RegistryTree.h"
 #include "services/settings/clsRegistry.h"
 
-namespace {
-
-int tenPixelsALetter(const QString &text)
+struct MRUFileListTest : ::testing::Test
 {
-    return int(text.size()) * 10;
+    MRUFileListTest() { registry.setSectionKey("Files"); }
+    /// A list in a menu whose letters are ten pixels wide.
+    static clsMRUFileList with(const QString &paths)
+    {
+        clsMRUFileList list([](const QString &text) { return int(text.size()) * 10; });
+        for (const QString &path : paths.split(' ', Qt::SkipEmptyParts))
+            list.AddFile(path);
+        return list;
+    }
+    static std::string filesOf(const clsMRUFileList &list)
+    {
+        QStringList files;
+        for (int i = 1; i <= list.FileCount(); ++i)
+            files += list.File(i);
+        return files.join(' ').toStdString();
+    }
+
+    RegistryTree store;
+    clsRegistry registry{store};
+};
+
+TEST_F(MRUFileListTest, NewestFirstWithoutDoubles)
+{
+    for (const auto &[added, expected] :
+         {std::pair("", ""), {"A B C D E", "E D C B"}, {"A B C D b", "b D C A"}, {"A B b", "b A"}})
+        EXPECT_EQ(filesOf(with(added)), expected) << added;
 }
 
-std::string filesOf(const clsMRUFileList &list)
-{
-    QStringList files;
-    for (int i = 1; i <= list.FileCount(); ++i)
-        files += list.File(i);
-    return files.join(QLatin1Char(' ')).toStdString();
-}
-
-clsMRUFileList listWith(const char *paths)
-{
-    clsMRUFileList list(tenPixelsALetter);
-    for (const QString &path : QString::fromUtf8(paths).split(QLatin1Char(' '), Qt::SkipEmptyParts))
-        list.AddFile(path);
-    return list;
-}
-
-clsRegistry registryOf(RegistryStore &store)
-{
-    clsRegistry registry(store);
-    registry.setSectionKey("Software\\Glosaria\\MRUFiles");
-    registry.setValueType(RegistryType::Number);
-    return registry;
-}
-
-} // namespace
-
-TEST(MRUFileList, NewestFirstWithoutDoubles)
-{
-    const char *const cases[][2] = {
-        {"", ""},
-        {"A B C D E", "E D C B"},
-        {"A B C D b", "b D C A"},
-        {"A B C D a", "a D C B"},
-        {"A B C D d", "d C B A"},
-        {"A B b", "b A"},
-    };
-    for (const auto &[added, expected] : cases)
-        EXPECT_EQ(filesOf(listWith(added)), expected) << added;
-}
-
-TEST(MRUFileList, CaptionShortensTheMiddleOfThePath)
+TEST_F(MRUFileListTest, CaptionShortensTheMiddleOfThePath)
 {
     const char *const cases[][2] = {
         {"/a/exactly_20_px.g", "&1 /a/exactly_20_px.g"},
@@ -63,16 +46,14 @@ TEST(MRUFileList, CaptionShortensTheMiddleOfThePath)
         {"/ab\U0001F600\U0001F600\U0001F600\U0001F600\U0001F600/words.gla", "&1 /ab\U0001F600.../words.gla"},
     };
     for (const auto &[path, caption] : cases)
-        EXPECT_EQ(listWith(path).MenuCaption(1).toStdString(), caption);
+        EXPECT_EQ(with(path).MenuCaption(1).toStdString(), caption);
 }
 
-TEST(MRUFileList, SavedListComesBack)
+TEST_F(MRUFileListTest, SavedListComesBack)
 {
-    RegistryTree store;
-    clsRegistry registry = registryOf(store);
-    listWith("A B C D").Save(registry);
-    listWith("E F").Save(registry);
-    clsMRUFileList list = listWith("X Y Z");
+    with("A B C D").Save(registry);
+    with("E F").Save(registry);
+    clsMRUFileList list = with("X Y Z");
     list.Load(registry);
     EXPECT_EQ(filesOf(list), "F E");
     EXPECT_EQ(list.MaxFileCount(), 4);
@@ -80,19 +61,15 @@ TEST(MRUFileList, SavedListComesBack)
     EXPECT_EQ(registry.Value(), QVariant("B"));
 }
 
-TEST(MRUFileList, StoredNumbersThatCannotBeTrusted)
+TEST_F(MRUFileListTest, StoredNumbersThatCannotBeTrusted)
 {
     const int huge = std::numeric_limits<int>::max();
     const int cases[][3] = {
         {2, 4, 2}, {4, 3, 3}, {-1, 3, 0}, {4, -1, 0}, {huge, huge, clsMRUFileList::LargestCapacity}};
     for (const auto &[maxCount, count, expected] : cases) {
-        RegistryTree store;
-        clsRegistry registry = registryOf(store);
-        registry.setValueKey("MaxCount");
-        registry.setValue(maxCount);
-        registry.setValueKey("Count");
-        registry.setValue(count);
-        clsMRUFileList list(tenPixelsALetter);
+        for (const auto &[name, number] : {std::pair("MaxCount", maxCount), {"Count", count}})
+            store.setValue(HKEY_CURRENT_USER, "Files", name, {RegistryType::Number, quint32(number)});
+        clsMRUFileList list = with("");
         list.Load(registry);
         EXPECT_EQ(list.FileCount(), expected);
         list.setMaxFileCount(2);
