@@ -32,6 +32,7 @@ TEST(FormTexts, ComeFromTheIdsOfControlsAndNameThem)
         EXPECT_FALSE(named.property("helpContextId").isValid());
         for (const QWidget *control : {static_cast<QWidget *>(&line), static_cast<QWidget *>(&named)})
             EXPECT_EQ(FormTexts::helpContextId(control), 1400);
+        EXPECT_EQ(FormTexts::helpContextId(std::make_unique<QDialog>(&dialog).get()), 0) << "a window of its own";
     }
     QWidget plain;
     plain.setProperty("whatsThisId", 20088);

@@ -128,7 +128,9 @@ TEST_F(HelpViewerTest, KeysDoWhatTheToolsDo)
                                                            {"Ctrl+F, z, q", "<Using help find: 0"},
                                                            {"Return", "<Using help find:Not on this page 0"},
                                                            {"Backspace", "<Using help find: 0"},
-                                                           {"Return", "<Using help find:Z 0"},
+                                                           {"q, Return", "<Using help find:Not on this page 0"},
+                                                           {"Alt+Left, Alt+Right", "<Using help find: 0"},
+                                                           {"Backspace, Return", "<Using help find:Z 0"},
                                                            {"Return", "<Using help find:z 0"},
                                                            {"Esc", "<Using help 0"},
                                                            {"Ctrl++, Ctrl++", "<Using help 2"},
@@ -183,6 +185,8 @@ TEST_F(HelpViewerTest, WindowsHaveTheirSizesToolsAndPanes)
         QCoreApplication::sendEvent(browser->viewport(), &wheel);
     }
     EXPECT_EQ(browser->font().pointSizeF(), before + 1);
+    browser->resetZoom();
+    EXPECT_EQ(browser->font().pointSizeF(), before);
     part<QLineEdit>("findText")->setText("the");
     QList<int> found;
     for (const char *button : {"findNext", "findNext", "findPrevious"}) {

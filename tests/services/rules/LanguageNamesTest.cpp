@@ -12,5 +12,7 @@ TEST(LanguageNames, AreThoseOfTheProgramsLanguageInItsOrder)
         EXPECT_GE(names.indexOf(QString(first)), 0) << language;
         EXPECT_EQ(called.translated("German"), later) << language;
         EXPECT_EQ(called.translated("Colours"), "Colours");
+        EXPECT_EQ(names.size(), QSet(names.begin(), names.end()).size());
     }
+    EXPECT_EQ(LanguageNames("fr").translated("German"), "allemand");
 }

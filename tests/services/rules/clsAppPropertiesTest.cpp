@@ -30,6 +30,9 @@ TEST(SettingsRecord, LayoutByteForByte)
 
 TEST_F(AppPropertiesTest, AFirstRunRegistersTheFileTypeAndStoresTheDefaults)
 {
+    settings.setGridZoom(150);
+    settings.setShowLetters(true);
+    settings.setFontName("Noto Sans");
     settings.ReadProperties();
     EXPECT_TRUE(settings.firstRun());
     settings.SaveProperties();
