@@ -53,15 +53,13 @@ TEST_F(AtomicFileTest, KeepsLinksAndMode)
 
 TEST_F(AtomicFileTest, OldContentSurvivesEveryFailure)
 {
-    const AtomicFile::Producer failing[] = {
-        [](const AtomicFile::Sink &sink) { return sink(QByteArray(200000, 'n')); },
-        [](const AtomicFile::Sink &sink) { return sink("half") && false; },
-        [](const AtomicFile::Sink &sink) {
-            for (int i = 0; i < 100000; ++i)
-                sink("0123456789"); // whatever it answers
-            return true;
-        },
-    };
+    const AtomicFile::Producer failing[] = {[](const AtomicFile::Sink &sink) { return sink(QByteArray(200000, 'n')); },
+                                            [](const AtomicFile::Sink &sink) { return sink("half") && false; },
+                                            [](const AtomicFile::Sink &sink) {
+                                                for (int i = 0; i < 100000; ++i)
+                                                    sink("0123456789"); // whatever it answers
+                                                return true;
+                                            }};
     const QString file = put("a.gla", "old content");
     const FileSizeLimit limit(100000);
     for (const AtomicFile::Producer &producer : failing) {

@@ -75,12 +75,10 @@ TEST_F(FileAssociationTest, InstalledPackageComesFirst)
 
 TEST(FileAssociation, ProgramPathIsQuoted)
 {
-    const char *const cases[][2] = {
-        {"/opt/my programs/glosaria", R"("/opt/my programs/glosaria" %f)"},
-        {"/opt/100%/glosaria", R"("/opt/100%%/glosaria" %f)"},
-        {"/a\"b$c`d/glosaria", R"("/a\\"b\\$c\\`d/glosaria" %f)"},
-        {"/a\\b/%1/glosaria", R"("/a\\\\b/%%1/glosaria" %f)"},
-    };
+    const char *const cases[][2] = {{"/opt/my programs/glosaria", R"("/opt/my programs/glosaria" %f)"},
+                                    {"/opt/100%/glosaria", R"("/opt/100%%/glosaria" %f)"},
+                                    {"/a\"b$c`d/glosaria", R"("/a\\"b\\$c\\`d/glosaria" %f)"},
+                                    {"/a\\b/%1/glosaria", R"("/a\\\\b/%%1/glosaria" %f)"}};
     for (const auto &[path, exec] : cases)
         EXPECT_TRUE(glosaria(path).userEntry().contains(QByteArray("\nExec=").append(exec).append('\n'))) << path;
 }

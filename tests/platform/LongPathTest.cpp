@@ -17,17 +17,15 @@ QString onOldDisk(const QString &folder, const QString &name)
 
 TEST(LongPath, EveryComponentIsSpelledAsListed)
 {
-    const char *const cases[][2] = {
-        {"/disk/program files/MY WORDS.GLA", "/Disk/Program Files/My Words.gla"},
-        {"//DISK//./program files/", "/Disk/Program Files"},
-        {"/disk/program files/../.HIDDEN", "/Disk/.hidden"},
-        {"/../../disk", "/Disk"},
-        {"/", "/"},
-        {"/disk/missing/a.gla", ""},
-        {"/disk/program files/my words.gla/a.gla", ""},
-        {"disk/.hidden", ""},
-        {"", ""},
-    };
+    const char *const cases[][2] = {{"/disk/program files/MY WORDS.GLA", "/Disk/Program Files/My Words.gla"},
+                                    {"//DISK//./program files/", "/Disk/Program Files"},
+                                    {"/disk/program files/../.HIDDEN", "/Disk/.hidden"},
+                                    {"/../../disk", "/Disk"},
+                                    {"/", "/"},
+                                    {"/disk/missing/a.gla", ""},
+                                    {"/disk/program files/my words.gla/a.gla", ""},
+                                    {"disk/.hidden", ""},
+                                    {"", ""}};
     for (const auto &[path, expected] : cases)
         EXPECT_EQ(LongPath::ExpandLongPath(QString::fromUtf8(path), onOldDisk).toStdString(), expected);
 }

@@ -26,15 +26,13 @@ TEST(RegistryText, NothingIsLost)
 
 TEST(RegistryText, DamageIsNoticed)
 {
-    const QByteArray lines[] = {
-        "\"a\" = number 4294967296", "\"a\" = number -1",          "\"a\" = number",
-        "\"a\" = binary 0",          "\"a\" = binary 000",         "\"a\" = binary 0g",
-        "\"a\" = binary +1",         "\"a\" = string \"x",         "\"a\" = string \"x\" y",
-        "\"a\" = string \"\\x\"",    "\"a\" = string \"\\u12\"",   "\"a\" = string \"\\",
-        "\"a\" = strange \"x\"",     "\"a\" string \"x\"",         "\"a\"",
-        "HKEY_OTHER \"x\"",          "HKEY_CURRENT_USER x",        "\"a\" = string-list \"x",
-        "\"a\" = string \"\xff\"",   "\"a\" = string \"\\u+123\"",
-    };
+    const QByteArray lines[] = {"\"a\" = number 4294967296", "\"a\" = number -1",         "\"a\" = number",
+                                "\"a\" = binary 0",          "\"a\" = binary 000",        "\"a\" = binary 0g",
+                                "\"a\" = binary +1",         "\"a\" = string \"x",        "\"a\" = string \"x\" y",
+                                "\"a\" = string \"\\x\"",    "\"a\" = string \"\\u12\"",  "\"a\" = string \"\\",
+                                "\"a\" = strange \"x\"",     "\"a\" string \"x\"",        "\"a\"",
+                                "HKEY_OTHER \"x\"",          "HKEY_CURRENT_USER x",       "\"a\" = string-list \"x",
+                                "\"a\" = string \"\xff\"",   "\"a\" = string \"\\u+123\""};
     const QByteArray head = "Glosaria registry 1\nHKEY_CURRENT_USER \"K\"\n";
     for (const QByteArray &line : lines)
         EXPECT_FALSE(RegistryText::read(QByteArray(head + line + "\nend\n")).has_value()) << line.constData();

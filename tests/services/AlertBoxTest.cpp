@@ -9,8 +9,7 @@ TEST(AlertBox, ShowsWhatItIsAskedToAndAnswersByKeys)
         {Alert::Ok, ">OK", AlertBox::AnswerOk, AlertBox::AnswerOk},
         {Alert::OkHelp, ">OK | &Help", AlertBox::AnswerOk, AlertBox::AnswerOk},
         {Alert::YesNo, "&Yes | >&No", AlertBox::AnswerNo, AlertBox::AnswerNo},
-        {Alert::YesNoCancelHelp, ">&Yes | &No | Cancel | &Help", AlertBox::AnswerYes, AlertBox::AnswerCancel},
-    };
+        {Alert::YesNoCancelHelp, ">&Yes | &No | Cancel | &Help", AlertBox::AnswerYes, AlertBox::AnswerCancel}};
     for (const auto &[buttons, parts, enter, escape] : cases) {
         std::vector<int> topics;
         int beeps = 0;

@@ -10,8 +10,7 @@ TEST(LetterCount, FindsTheLettersBeyondAsciiInOrder)
         {"sv", {"öåä"}, "å ä ö"},
         {"tr", {"İstanbul", "ılık"}, "ı İ"},
         {"ru", {"ёж", "Е́ж"}, "е́ ё ж"},
-        {"en", {"\U0001F600 \U00010428"}, "\U00010428"},
-    };
+        {"en", {"\U0001F600 \U00010428"}, "\U00010428"}};
     for (const auto &[locale, words, letters] : cases) {
         LetterCount count;
         for (const QString &word : words)

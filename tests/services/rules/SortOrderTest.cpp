@@ -29,8 +29,7 @@ TEST(SortOrder, OrdersNumbersThenWordsThenEmptyCells)
         {"b|B|a|é|e|f", "a|b|B|e|é|f", "f|é|e|B|b|a", QLocale::c()},
         {"яблоко|Арбуз|груша", "Арбуз|груша|яблоко", "яблоко|груша|Арбуз", QLocale(QLocale::Russian)},
         {"10|9,9|-10|-9|7|007|0.1|0,09|-0.1|-0.09", "-10|-9|-0.1|-0.09|0,09|0.1|7|007|9,9|10",
-         "10|9,9|7|007|0.1|0,09|-0.09|-0.1|-9|-10", German},
-    };
+         "10|9,9|7|007|0.1|0,09|-0.09|-0.1|-9|-10", German}};
     for (const auto &[texts, ascending, descending, locale] : cases) {
         EXPECT_EQ(sorted(texts, false, locale), ascending);
         EXPECT_EQ(sorted(texts, true, locale), descending);

@@ -43,8 +43,7 @@ TEST_F(MRUFileListTest, CaptionShortensTheMiddleOfThePath)
         {"/a/b/c&d/e/f/g/h/x&y.gla", "&1 /a/b/c&&.../x&&y.gla"},
         {"/folder/a_name_wider_than_the_menu.gla", "&1 .../a_name_wider_than_the_menu.gla"},
         {"no_folder_but_a_long_name.gla", "&1 no_folder_but_a_long_name.gla"},
-        {"/ab\U0001F600\U0001F600\U0001F600\U0001F600\U0001F600/words.gla", "&1 /ab\U0001F600.../words.gla"},
-    };
+        {"/ab\U0001F600\U0001F600\U0001F600\U0001F600\U0001F600/words.gla", "&1 /ab\U0001F600.../words.gla"}};
     for (const auto &[path, caption] : cases)
         EXPECT_EQ(with(path).MenuCaption(1).toStdString(), caption);
 }

@@ -23,8 +23,7 @@ TEST(Registry, ValueComesBackByItsStoredType)
         {Number, -1, -1, Number},
         {BigEndianNumber, 4294967295u, -1, BigEndianNumber},
         {StringList, list.split(QChar::Null), list, StringList},
-        {StringList, list, list, StringList},
-    };
+        {StringList, list, list, StringList}};
     for (const auto &[type, written, read, stored] : cases) {
         RegistryTree store;
         clsRegistry registry(store);
