@@ -53,19 +53,25 @@ TEST_F(AtomicFileTest, KeepsLinksAndMode)
 
 TEST_F(AtomicFileTest, OldContentSurvivesEveryFailure)
 {
-    const AtomicFile::Producer failing[] = {[](const AtomicFile::Sink &sink) { return sink(QByteArray(200000, 'n')); },
-                                            [](const AtomicFile::Sink &sink) { return sink("half") && false; },
-                                            [](const AtomicFile::Sink &sink) {
-                                                for (int i = 0; i < 100000; ++i)
-                                                    sink("0123456789"); // whatever it answers
-                                                return true;
-                                            }};
+    using Sink = AtomicFile::Sink;
+    const QString full = std::strerror(EFBIG), stopped = "The content could not be produced";
+    const auto once = [](const Sink &sink) { return sink(QByteArray(200000, 'n')); };
+    const auto whateverItAnswers = [](const Sink &sink) { return sink(QByteArray(200000, 'n')) || true; };
+    const auto half = [](const Sink &sink) { return sink("half") && false; };
+    const auto inPieces = [](const Sink &sink) {
+        for (int i = 0; i < 100000; ++i)
+            sink("0123456789");
+        return true;
+    };
     const QString file = put("a.gla", "old content");
     const FileSizeLimit limit(100000);
-    for (const AtomicFile::Producer &producer : failing) {
+    for (const auto &[producer, reason] : {std::pair<AtomicFile::Producer, QString>(once, full),
+                                           {whateverItAnswers, full},
+                                           {half, stopped},
+                                           {inPieces, full}}) {
         QString error;
         EXPECT_FALSE(AtomicFile::write(file, producer, &error));
-        EXPECT_FALSE(error.isEmpty());
+        EXPECT_EQ(error, reason);
         EXPECT_EQ(readFile(file), "old content");
         EXPECT_EQ(names().size(), 1);
     }

@@ -1,4 +1,5 @@
 #include "platform/JobThread.h"
+#include "platform/FontReader.h"
 
 #include "support/OrdinaryUser.h"
 
@@ -13,6 +14,7 @@ TEST(JobThread, DoesAllJobsInTheirOrderAlsoWhereNoThreadCanBeHad)
                 return false;
             std::vector<int> done;
             JobThread thread;
+            const FontReader fonts;
             for (int job = 0; job < 100; ++job)
                 thread.start([&done, job] { done.push_back(job); });
             thread.finish();

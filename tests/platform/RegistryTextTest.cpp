@@ -7,7 +7,7 @@ TEST(RegistryText, NothingIsLost)
                           QString::fromUtf8("\U0001F600");
     RegistryTree tree;
     int number = 0;
-    for (const QString &text : {QString(), nasty, QString(" end "), QString(QChar(0xd800))}) {
+    for (const QString &text : {QString(), nasty, QString(" end "), QString(QChar(0xd800)), QString("\U0001F600")}) {
         const RegistryValue values[] = {{RegistryType::String, text},
                                         {RegistryType::ExpandString, text},
                                         {RegistryType::Binary, text.toUtf8()},
@@ -26,17 +26,17 @@ TEST(RegistryText, NothingIsLost)
 
 TEST(RegistryText, DamageIsNoticed)
 {
-    const QByteArray lines[] = {"\"a\" = number 4294967296", "\"a\" = number -1",         "\"a\" = number",
-                                "\"a\" = binary 0",          "\"a\" = binary 000",        "\"a\" = binary 0g",
-                                "\"a\" = binary +1",         "\"a\" = string \"x",        "\"a\" = string \"x\" y",
-                                "\"a\" = string \"\\x\"",    "\"a\" = string \"\\u12\"",  "\"a\" = string \"\\",
-                                "\"a\" = strange \"x\"",     "\"a\" string \"x\"",        "\"a\"",
-                                "HKEY_OTHER \"x\"",          "HKEY_CURRENT_USER x",       "\"a\" = string-list \"x",
-                                "\"a\" = string \"\xff\"",   "\"a\" = string \"\\u+123\""};
+    const QByteArray lines =
+        R"("a" = number 4294967296|"a" = number -1|"a" = number|"a" = binary 0|"a" = binary 000|"a" = binary 0g|)"
+        R"("a" = binary +1|"a" = string "x|"a" = string "x" y|"a" = string "\x"|"a" = string "\u12"|"a" = string "\|)"
+        R"("a" = strange "x"|"a" string "x"|"a"|HKEY_OTHER "x"|HKEY_CURRENT_USER xy"|"a" = string-list "x|)"
+        R"("a" = string "\u+123"|"a" = string ")"
+        "\xff\"";
     const QByteArray head = "Glosaria registry 1\nHKEY_CURRENT_USER \"K\"\n";
-    for (const QByteArray &line : lines)
+    for (const QByteArray &line : lines.split('|'))
         EXPECT_FALSE(RegistryText::read(QByteArray(head + line + "\nend\n")).has_value()) << line.constData();
-    EXPECT_FALSE(RegistryText::read("Glosaria registry 1\n\"a\" = number 1\nend\n").has_value());
+    for (const char *text : {"Glosaria registry 1\n\"a\" = number 1\nend\n", "Glosaria registry 2\nend\n"})
+        EXPECT_FALSE(RegistryText::read(text).has_value()) << text;
     const QByteArray whole = head + "\"a\" = string \"text\"\nend\n";
     for (qsizetype size = 0; size < whole.size() - 1; ++size)
         EXPECT_FALSE(RegistryText::read(whole.left(size)).has_value()) << size;

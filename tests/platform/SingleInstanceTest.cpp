@@ -12,13 +12,17 @@ constexpr int Patience = 20000; // ms, only spent when something is wrong
 /// Copies of a program that are real processes.
 struct SingleInstanceTest : ::testing::Test
 {
-    using Copy = std::unique_ptr<QProcess>;
+    using Copy = std::shared_ptr<QProcess>;
     using Socket = std::unique_ptr<QLocalSocket>;
 
     QString path() const { return m_folder.filePath("copy"); }
     Copy start(const QString &text, int answerLimit = 5000, const QString &token = {}) const
     {
-        auto copy = std::make_unique<QProcess>();
+        Copy copy(new QProcess, [](QProcess *process) {
+            process->kill();
+            process->waitForFinished(Patience);
+            delete process;
+        });
         copy->start(QStringLiteral(SINGLE_INSTANCE_HELPER), {path(), text, QString::number(answerLimit), token});
         return copy;
     }
@@ -53,11 +57,6 @@ struct SingleInstanceTest : ::testing::Test
         if (socket->waitForConnected(0))
             socket->write(bytes);
         return socket;
-    }
-    static void kill(const Copy &copy)
-    {
-        ::kill(pid_t(copy->processId()), SIGKILL);
-        copy->waitForFinished(Patience);
     }
 
     QTemporaryDir m_folder;
@@ -95,12 +94,11 @@ TEST_F(SingleInstanceTest, LaterCopiesHandOverTheirCommandLineUntilTheFirstEnds)
     EXPECT_EQ(line(next), "activated");
     expectSecond("", 5000, "token");
     EXPECT_EQ(line(next), "activated token");
-    kill(next);
 }
 
 TEST_F(SingleInstanceTest, OfManySimultaneousStartsOneIsFirst)
 {
-    kill(startFirst());
+    startFirst();
     ASSERT_TRUE(QFileInfo::exists(path())) << "the killed copy leaves its socket behind";
     std::vector<Copy> copies;
     for (int i = 0; i < 10; ++i)
@@ -110,8 +108,6 @@ TEST_F(SingleInstanceTest, OfManySimultaneousStartsOneIsFirst)
     ASSERT_EQ(first, copies.begin());
     for (int i = 0; i < 9; ++i)
         expectReceived(*first, "copy");
-    for (const Copy &copy : copies)
-        kill(copy);
 }
 
 TEST_F(SingleInstanceTest, StoppedFirstCopyHoldsNobodyUpAndFindsTheMessageLater)
@@ -126,7 +122,6 @@ TEST_F(SingleInstanceTest, StoppedFirstCopyHoldsNobodyUpAndFindsTheMessageLater)
     crowd.clear();
     ASSERT_EQ(::kill(pid_t(first->processId()), SIGCONT), 0);
     expectReceived(first, "/a.gla");
-    kill(first);
 }
 
 TEST_F(SingleInstanceTest, BadMessagesAreDroppedAndBlockNobody)
@@ -150,7 +145,6 @@ TEST_F(SingleInstanceTest, BadMessagesAreDroppedAndBlockNobody)
         crowd.push_back(connectWith(QByteArray()));
     expectSecond("/c.gla");
     expectReceived(first, "/c.gla");
-    kill(first);
 }
 
 TEST_F(SingleInstanceTest, NoMessageIsLostAtTheStartOrTheEndOfTheFirst)
@@ -173,7 +167,7 @@ TEST_F(SingleInstanceTest, NoMessageIsLostAtTheStartOrTheEndOfTheFirst)
     EXPECT_EQ(waiting->bytesAvailable(), 0) << "it tries again";
     QCoreApplication::processEvents();
     EXPECT_EQ(received.size(), 1);
-    kill(startFirst());
+    startFirst();
 }
 
 TEST(InstancePlace, ShortPathInAPrivateFolderForEachDisplay)
@@ -188,17 +182,18 @@ TEST(InstancePlace, ShortPathInAPrivateFolderForEachDisplay)
         return InstancePlace::socketPath();
     };
     const QString before = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    QDir(folder.path()).mkdir("glosaria"); // where others may look
     for (const QString &runtime : {folder.path(), longFolder, QString("/missing"), QString()}) {
-        const QString path = placeIn(runtime, "", ":0");
-        EXPECT_EQ(path.startsWith(runtime + "/glosaria/"), runtime == folder.path());
+        const QString path = placeIn(runtime, "", ":0"), inside = QFileInfo(path).path();
+        EXPECT_EQ(inside == runtime + "/glosaria", runtime == folder.path());
         EXPECT_LE(path.size(), InstancePlace::LongestPath);
         struct stat status = {};
-        ASSERT_EQ(::lstat(qPrintable(QFileInfo(path).path()), &status), 0);
+        ASSERT_EQ(::lstat(qPrintable(inside), &status), 0);
         EXPECT_EQ(status.st_mode & 07777, 0700u);
         EXPECT_NE(placeIn(runtime, "", ":1"), path);
         EXPECT_EQ(placeIn(runtime, "", ":0.1"), path);
         EXPECT_EQ(placeIn(runtime, "wayland-0", ":0"), placeIn(runtime, "wayland-0", ":1"));
-        QDir().rmdir(QFileInfo(path).path());
+        QDir().rmdir(inside);
     }
     placeIn(before, "", "");
 }
