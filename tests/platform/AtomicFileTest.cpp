@@ -4,8 +4,6 @@
 #include "support/FileSizeLimit.h"
 #include "support/OrdinaryUser.h"
 
-namespace {
-
 struct AtomicFileTest : ::testing::Test
 {
     QString path(const QString &name) const { return m_folder.filePath(name); }
@@ -17,8 +15,6 @@ struct AtomicFileTest : ::testing::Test
 
     QTemporaryDir m_folder;
 };
-
-} // namespace
 
 TEST_F(AtomicFileTest, PiecesOfEverySizeArriveInOrder)
 {

@@ -1,7 +1,5 @@
 #include "platform/FileAssociation.h"
 
-namespace {
-
 QByteArray packaged(const char *name)
 {
     return readFile(QStringLiteral(SOURCE_FOLDER "/src/resources/desktop/") + name);
@@ -31,8 +29,6 @@ struct FileAssociationTest : ::testing::Test
     const QByteArray path = qgetenv("PATH");
     const QTemporaryDir user, system, tools;
 };
-
-} // namespace
 
 TEST_F(FileAssociationTest, DesktopLearnsTypeIconsAndProgram)
 {

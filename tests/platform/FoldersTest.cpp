@@ -8,9 +8,8 @@
 TEST(Folders, StandWhereTheDesktopWantsThem)
 {
     const QByteArray before = qgetenv("XDG_STATE_HOME");
-    for (const auto &[variable, folder] : {std::pair("/a/b/", QString("/a/b")),
-                                           {"b", QDir::homePath() + "/.local/state"},
-                                           {"", QDir::homePath() + "/.local/state"}}) {
+    const QString home = QDir::homePath() + "/.local/state";
+    for (const auto &[variable, folder] : {std::pair("/a/b/", QString("/a/b")), {"b", home}, {"", home}}) {
         qputenv("XDG_STATE_HOME", variable);
         EXPECT_EQ(UserFolders::state(), folder + "/glosaria");
     }
@@ -24,12 +23,11 @@ TEST(Folders, StandWhereTheDesktopWantsThem)
 TEST(Folders, AreLockedForOneAtATime)
 {
     const QTemporaryDir folder;
-    auto first = std::make_unique<FolderLock>(folder.path(), 0);
-    QElapsedTimer waited;
-    waited.start();
-    const FolderLock second(folder.path(), 60);
-    EXPECT_TRUE(first->isHeld() && !second.isHeld() && waited.elapsed() >= 60);
-    first.reset();
+    {
+        const FolderLock first(folder.path(), 0);
+        const QDeadlineTimer wait(60);
+        EXPECT_TRUE(first.isHeld() && !FolderLock(folder.path(), 60).isHeld() && wait.hasExpired());
+    }
     EXPECT_TRUE(FolderLock(folder.path(), 0).isHeld());
     EXPECT_TRUE(FolderLock("/no/such/folder", 0).isHeld());
 }

@@ -22,19 +22,17 @@ struct RegistryFileTest : ::testing::Test
 
     QTemporaryDir m_folder;
     const QString m_path = m_folder.filePath("registry");
-    const QString m_a = "a";
-    const QString m_b = "b";
 };
 
 TEST_F(RegistryFileTest, EveryOperationReachesTheFile)
 {
     RegistryFile store(m_path);
-    EXPECT_TRUE(set(store, m_a, "1") && set(store, m_b, "2"));
-    EXPECT_TRUE(store.deleteValue(HKEY_CURRENT_USER, Key, m_a));
-    EXPECT_FALSE(store.deleteValue(HKEY_CURRENT_USER, Key, m_a));
+    EXPECT_TRUE(set(store, "a", "1") && set(store, "b", "2"));
+    EXPECT_TRUE(store.deleteValue(HKEY_CURRENT_USER, Key, "a"));
+    EXPECT_FALSE(store.deleteValue(HKEY_CURRENT_USER, Key, "a"));
     EXPECT_TRUE(store.createKey(HKEY_CLASSES_ROOT, ".gla"));
     const RegistryFile read(m_path);
-    EXPECT_EQ(text(read, m_a) + text(read, m_b), "none2");
+    EXPECT_EQ(text(read, "a") + text(read, "b"), "none2");
     EXPECT_TRUE(read.keyExists(HKEY_CLASSES_ROOT, ".GLA"));
     EXPECT_TRUE(store.deleteKey(HKEY_CURRENT_USER, "SOFTWARE"));
     EXPECT_FALSE(RegistryFile(m_path).keyExists(HKEY_CURRENT_USER, Key));
@@ -49,14 +47,14 @@ TEST_F(RegistryFileTest, CopiesKeepEachOthersValues)
         if (::fork() != 0)
             continue;
         for (int i = 0; i < 10; ++i)
-            set(store, QString::number(10 * copy + i), m_a);
+            set(store, QString::number(10 * copy + i), "a");
         ::_exit(0);
     }
     while (::wait(nullptr) > 0) {
     }
     const RegistryFile store(m_path);
     for (int i = 0; i < 40; ++i)
-        EXPECT_EQ(text(store, QString::number(i)), m_a) << i;
+        EXPECT_EQ(text(store, QString::number(i)), "a") << i;
 }
 
 TEST_F(RegistryFileTest, DamagedFilesAreKeptUnderAnotherName)
@@ -65,8 +63,8 @@ TEST_F(RegistryFileTest, DamagedFilesAreKeptUnderAnotherName)
         writeFile(m_path, damage);
         RegistryFile store(m_path);
         EXPECT_FALSE(store.keyExists(HKEY_CURRENT_USER, Key));
-        EXPECT_TRUE(set(store, m_a, m_b));
-        EXPECT_EQ(text(RegistryFile(m_path), m_a), m_b);
+        EXPECT_TRUE(set(store, "a", "b"));
+        EXPECT_EQ(text(RegistryFile(m_path), "a"), "b");
     }
     EXPECT_EQ(names().join(' '), "registry registry.damaged registry.damaged-2 registry.damaged-3");
     EXPECT_EQ(QFileInfo(m_path + ".damaged").size(), 12);
@@ -78,7 +76,7 @@ TEST_F(RegistryFileTest, UnreadableFileIsLeftAlone)
     ASSERT_EQ(::chmod(qPrintable(m_folder.path()), 0777) | ::chmod(qPrintable(m_path), 0200), 0);
     EXPECT_TRUE(OrdinaryUser::run([&] {
         RegistryFile store(m_path);
-        return !store.keyExists(HKEY_CURRENT_USER, Key) && !set(store, m_a, m_b);
+        return !store.keyExists(HKEY_CURRENT_USER, Key) && !set(store, "a", "b");
     }));
     EXPECT_EQ(names(), QStringList{"registry"});
 }

@@ -8,13 +8,11 @@ TEST(RegistryText, NothingIsLost)
     RegistryTree tree;
     int number = 0;
     for (const QString &text : {QString(), nasty, QString(" end "), QString(QChar(0xd800)), QString("\U0001F600")}) {
-        const RegistryValue values[] = {{RegistryType::String, text},
-                                        {RegistryType::ExpandString, text},
-                                        {RegistryType::Binary, text.toUtf8()},
-                                        {RegistryType::Number, 0xffffffffu},
-                                        {RegistryType::BigEndianNumber, 0u},
-                                        {RegistryType::StringList, QStringList()},
-                                        {RegistryType::StringList, QStringList({text, QString(), text})}};
+        using enum RegistryType;
+        const QStringList list{text, QString(), text};
+        const RegistryValue values[] = {{String, text},        {ExpandString, text},  {Binary, text.toUtf8()},
+                                        {Number, 0xffffffffu}, {BigEndianNumber, 0u}, {StringList, QStringList()},
+                                        {StringList, list}};
         for (const RegistryValue &value : values) {
             tree.setValue(HKEY_CLASSES_ROOT, text, QString::number(++number), value);
             tree.setValue(HKEY_CURRENT_USER, text + "\\x", text, value);

@@ -2,11 +2,7 @@
 
 TEST(TitleBar, HasAQuestionMarkWhereTheDesktopDrawsOne)
 {
-    for (const auto &[platform, desktop, has] : {std::tuple("xcb", "KDE", true),
-                                                 {"xcb", "ubuntu:KDE", true},
-                                                 {"windows", "", true},
-                                                 {"xcb", "GNOME", false},
-                                                 {"xcb", "", false},
-                                                 {"wayland", "KDE", false}})
-        EXPECT_EQ(TitleBar::hasHelpButton(platform, desktop), has) << platform << desktop;
+    const auto has = TitleBar::hasHelpButton;
+    EXPECT_TRUE(has("xcb", "KDE") && has("xcb", "ubuntu:KDE") && has("windows", ""));
+    EXPECT_FALSE(has("xcb", "GNOME") || has("xcb", "") || has("wayland", "KDE"));
 }

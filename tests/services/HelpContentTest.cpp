@@ -1,8 +1,6 @@
 #include "resources/TextLanguage.h"
 #include "services/help/HelpFile.h"
 
-namespace {
-
 const QString HelpFolder = SOURCE_FOLDER "/src/resources/help/";
 
 /// Every page, in every language.
@@ -55,5 +53,3 @@ TEST(HelpContent, EveryPageStandsInTheContentsOnceUnderItsTitleAndHasNoColoursAn
     EXPECT_EQ(listed, pageFiles());
     EXPECT_GT(links, 100);
 }
-
-} // namespace

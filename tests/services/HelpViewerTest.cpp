@@ -18,10 +18,8 @@ struct HelpViewerTest : ::testing::Test
     static QStringList texts(const QListWidget *list)
     {
         QStringList shown;
-        for (int row = 0; row < list->count(); ++row) {
-            if (!list->item(row)->isHidden())
-                shown.append(list->item(row)->text());
-        }
+        for (const QListWidgetItem *item : list->findItems("", Qt::MatchContains))
+            shown += item->isHidden() ? QStringList() : QStringList(item->text());
         return shown;
     }
 };
@@ -30,14 +28,12 @@ TEST_F(HelpViewerTest, WhatIsMissingIsToldAndHarmsNothing)
 {
     EXPECT_FALSE(viewers.HtmlHelp(target, HH_HELP_CONTEXT, 4711));
     EXPECT_FALSE(viewers.HtmlHelp(target, HH_DISPLAY_TOPIC, "html/nothing.html"));
-    EXPECT_EQ(alert.shown.size(), 2u);
     target.HTMLHelpFile = folder.filePath("glhelp.qch");
     EXPECT_FALSE(viewers.HtmlHelp(target, HH_DISPLAY_TOC));
     EXPECT_TRUE(alert.shown.back().prompt.contains(target.HTMLHelpFile));
     writeFile(target.HTMLHelpFile, "no help file");
     EXPECT_FALSE(viewers.HtmlHelp(target, HH_DISPLAY_TOC));
-    EXPECT_EQ(alert.shown.size(), 4u);
-    EXPECT_FALSE(main());
+    EXPECT_TRUE(alert.shown.size() == 4 && !main());
 }
 
 TEST_F(HelpViewerTest, SearchMarksTheWordsOfATopicOrTellsThatNoneHoldsThem)
@@ -66,16 +62,14 @@ TEST_F(HelpViewerTest, TheIndexIsSortedAndNarrowsToWhatIsTyped)
     });
     EXPECT_EQ(texts(list), sorted);
     // what is typed, the entry that is chosen then, and the page that Enter shows
-    const std::array<const char *, 3> cases[] = {{"ac", "accents", "html/accents.html"},
-                                                 {"an", "answers", "html/quizzes.html"},
-                                                 {"xyzzy", "", "html/quizzes.html"}};
-    for (const auto &[typed, chosen, page] : cases) {
+    for (const auto &[typed, chosen, page] :
+         {std::tuple("ac", "accents", "accents"), {"an", "answers", "quizzes"}, {"xyzzy", "", "quizzes"}}) {
         part<QLineEdit>("keyword")->clear();
         QTest::keyClicks(part<QLineEdit>("keyword"), typed);
         EXPECT_EQ(texts(list), sorted.filter(typed, Qt::CaseInsensitive));
         EXPECT_EQ(list->currentItem() ? list->currentItem()->text() : "", chosen);
         QTest::keyClick(part<QLineEdit>("keyword"), Qt::Key_Return);
-        EXPECT_EQ(main()->page(), page);
+        EXPECT_EQ(main()->page(), QString("html/%1.html").arg(page));
     }
 }
 

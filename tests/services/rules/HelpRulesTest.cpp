@@ -2,8 +2,6 @@
 #include "services/help/rules/HelpFavorites.h"
 #include "services/help/rules/HelpSearch.h"
 
-namespace {
-
 QString found(const QString &query)
 {
     HelpSearch search;
@@ -61,5 +59,3 @@ TEST(HelpFavorites, StandInTheirFileOnceEach)
     writeFile(path, "x\r\n\ny \nx\n");
     EXPECT_EQ(HelpFavorites(path).pages(), (QStringList{"x", "y"}));
 }
-
-} // namespace

@@ -1,7 +1,5 @@
 #include "services/rules/SortOrder.h"
 
-namespace {
-
 const QLocale German(QLocale::German, QLocale::Germany);
 const QLocale Swedish(QLocale::Swedish, QLocale::Sweden);
 
@@ -80,5 +78,3 @@ TEST(SortOrder, OfRandomWordsFollowsTheDefinition)
         EXPECT_EQ(SortOrder::sortedRows(text, request), expected) << round;
     }
 }
-
-} // namespace
