@@ -141,28 +141,37 @@ TEST_F(HelpTest, F1InADropDownOpensItsTopic)
     }
 }
 
-TEST_F(HelpTest, WhatsThisExplainsToolbarButtonsAndNoSeparators)
+// The numbers of the texts run on, those of the status bar with one for each separator.
+TEST_F(HelpTest, EveryButtonHasItsTextsANameAndAPictureAndNoSeparatorHas)
 {
     newDocument();
-    for (const auto &[band, first] : {std::pair("tbrStandard", 20000), std::pair("tbrPreview", 20018)}) {
-        if (first == 20018)
+    window->resize(1400, 700);
+    for (auto [band, toolTip, inStatusBar, whatsThis] :
+         {std::tuple("tbrStandard", 1000, 200, 20000), std::tuple("tbrPreview", 1101, 231, 20018)}) {
+        if (whatsThis == 20018)
             window->DoMenuClick("mnuFilePrintPreview");
-        auto *bar = window->findChild<QToolBar *>(QString::fromLatin1(band));
-        window->resize(1400, 700);
         QCoreApplication::processEvents();
-        int expected = first;
+        auto *bar = window->findChild<QToolBar *>(band);
+        EXPECT_FALSE(bar->isMovable() || bar->isFloatable() || bar->toggleViewAction()->isEnabled());
         for (QAction *action : bar->actions()) {
-            if (!action->isSeparator() && isAddition(*action))
-                continue;
-            const std::vector<int> texts = textsAt(bar->widgetForAction(action));
-            EXPECT_EQ(texts, action->isSeparator() ? std::vector<int>{} : std::vector{expected}) << expected;
-            expected += !action->isSeparator();
-            EXPECT_FALSE(QWhatsThis::inWhatsThisMode());
+            QWidget *shown = bar->widgetForAction(action);
+            QEvent enter(QEvent::Enter);
+            QApplication::sendEvent(shown, &enter);
+            EXPECT_TRUE(action->isSeparator() || status(0) == resText(inStatusBar)) << inStatusBar;
+            ++inStatusBar;
             help.calls.clear();
-            QCursor::setPos(bar->widgetForAction(action)->mapToGlobal(QPoint(2, 9)));
+            textsAt(shown);
+            QCursor::setPos(shown->mapToGlobal(QPoint(2, 9)));
             QTest::keyClick(window.get(), Qt::Key_F1);
-            EXPECT_TRUE(help.calls.empty());
             QCursor::setPos(QPoint());
+            EXPECT_TRUE(help.calls.empty() && !QWhatsThis::inWhatsThisMode());
+            EXPECT_EQ(help.popUps, action->isSeparator() ? std::vector<int>{} : std::vector({whatsThis, whatsThis}));
+            if (action->isSeparator())
+                continue;
+            ++whatsThis;
+            EXPECT_EQ(action->objectName() == "Undo" ? resText(1008) : action->toolTip(), resText(toolTip++));
+            EXPECT_EQ(shown->accessibleName(), action->toolTip());
+            EXPECT_FALSE(action->icon().isNull());
         }
     }
     EXPECT_EQ(documents().open().size(), 1u) << "a button was pressed";

@@ -1,75 +1,106 @@
 #include "MainWindowFixture.h"
 
+#include "exchange/ImportTexts.h"
+#include "exchange/ListCommands.h"
+#include "support/Shown.h"
 #include "widgets/LinkList.h"
 
 namespace {
 
 struct ListsTest : MainWindowFixture
 {
-    /// Runs a command, or follows the link of the start page with that text.
-    void begin(const QString &command)
+    /// The words of a grid, "a|b" a row, the names first.
+    static QString words(const FlexGrid &grid)
     {
-        for (LinkButton *link : window->findChildren<LinkButton *>()) {
-            if (link->text() == command)
-                return QTest::mouseClick(link, Qt::LeftButton);
-        }
-        window->DoMenuClick(command);
-    }
-    /// Begins, changes the preview and accepts it.
-    void accept(const QString &command, const std::function<void(QDialog &)> &change = {})
-    {
-        QCoreApplication::processEvents(); // the page shows
-        QTimer::singleShot(0, window.get(), [&] {
-            auto &dialog = dynamic_cast<QDialog &>(*QApplication::activeModalWidget());
-            if (change)
-                change(dialog);
-            EXPECT_TRUE(child<QPushButton>(dialog, "btnOK")->isEnabled());
-            child<QPushButton>(dialog, "btnOK")->click();
-        });
-        begin(command);
-    }
-    template <typename Control> static Control *child(QDialog &dialog, const char *name)
-    {
-        return dialog.findChild<Control *>(name);
-    }
-    static QString previewed(QDialog &dialog) { return child<FlexGrid>(dialog, "grdPreview")->TextMatrix(1, 1); }
-    /// The words of the active document, "a|b" a row, the names first.
-    QStringList words()
-    {
-        const ctlGrid &grid = *documents().active()->Rutor();
         QStringList rows;
         for (int row = 0; row < grid.Rows(); ++row)
             rows += grid.TextMatrix(row, 1) + '|' + grid.TextMatrix(row, 2);
-        return rows;
+        return rows.join(", ");
     }
-    void offer(const QByteArray &bytes) { prompts.openPath = writeFile(folder.filePath("list"), bytes); }
+    QString words() { return words(*documents().active()->Rutor()); }
+    static QString preview(QDialog &dialog) { return words(*dialog.findChild<FlexGrid *>("grdPreview")); }
+    /// Chooses in one part of the dialog after the other: "name=entry" in a box, "name" clicks.
+    static void choose(QDialog &dialog, const QStringList &choices)
+    {
+        for (const QString &choice : choices) {
+            if (auto *box = dialog.findChild<QComboBox *>(choice.section('=', 0, 0)))
+                box->setCurrentText(choice.section('=', 1));
+            else
+                dialog.findChild<QAbstractButton *>(choice)->click();
+        }
+    }
 };
+
+const QString Data = SOURCE_FOLDER "/tests/exchange/data/";
 
 } // namespace
 
+TEST_F(ListsTest, EachKindShowsTheChoicesThatItHas)
+{
+    const QString vocabulary = writeVocabulary("v.gla");
+    const std::pair<QString, const char *> cases[] = {
+        {vocabulary,
+         "Language &1: | {Column 1: English} | Language &2: | {Column 2: German} | S&wap | [ ] Turn &markup "
+         "into text | 0 rows arrive. | ? | (OK) | Cancel"},
+        {writeFile(folder.filePath("t"), "a\tb\nc\t<i>d</i>\n"),
+         "&Separator: | {Tab} | <Tab> | &Encoding: | {Unicode (UTF-8)} | Language &1: | {Column 1} | Language &2: | "
+         "{Column 2} | S&wap | [ ] &First row holds the names of the languages | [x] Turn &markup into text | 2 rows "
+         "arrive. | ? | OK | Cancel"},
+        {Data + "libreoffice.ods",
+         "S&heet: | {Words} | Language &1: | {Column 1: English} | Language &2: | {Column 2: German} | S&wap | [x] "
+         "&First row holds the names of the languages | [ ] Turn &markup into text | 10 rows arrive.\nDropped: 3 rows "
+         "without a word. | ? | OK | Cancel"},
+        {Data + "new.apkg",
+         "&Deck: | {All Decks} | Language &1: | {Column 1: Deutsch} | Language &2: | {Column 2: "
+         "English} | S&wap | [x] Turn &markup into text | 3 rows arrive.\nDropped: 1 other column. | "
+         "? | OK | Cancel"},
+    };
+    window->OpenRequestedFile(vocabulary);
+    const QString where = " | [x] Into a &new vocabulary | [ ] Into &this vocabulary, at the current row";
+    for (const auto &[path, text] : cases) {
+        prompts.openPath = path;
+        EXPECT_TRUE(inDialog("mnuFileImport", [&, text = text](QDialog &dialog) {
+            EXPECT_EQ(status(0), resText(504));
+            EXPECT_EQ(shown(dialog).remove(where).section(" | ", 1).toStdString(), text);
+            const auto &grid = *dialog.findChild<FlexGrid *>("grdPreview");
+            EXPECT_TRUE(grid.Rows() == 1 || grid.selection() == (GridSelection{1, 1, 1, 1}));
+            EXPECT_FALSE(grid.findChild<QAbstractScrollArea *>()->horizontalScrollBar()->isVisible());
+        }));
+        EXPECT_EQ(status(0), resText(506));
+    }
+    EXPECT_EQ(prompts.folder, folder.path());
+    EXPECT_EQ(words(), "English|German, |") << "each was left";
+}
+
 TEST_F(ListsTest, AListIsReadAsThePreviewShowsIt)
 {
-    offer("x;English;German;note\n1;house;Haus;\n2;;;n\n3;a,b;c,d;\n");
-    accept("Import a list...", [](QDialog &dialog) {
+    window->context().lists.exportActive(); // there is nothing to export
+    prompts.openPath = writeFile(folder.filePath("list"), "x;English;German;note\n1;house;Haus;\n2;;;n\n3;a,b;c,d;\n");
+    QCoreApplication::processEvents(); // the page shows
+    inNextDialog([](QDialog &dialog) {
         EXPECT_EQ(dialog.windowTitle(), "Import - list");
-        EXPECT_EQ(previewed(dialog), "x");
-        EXPECT_FALSE(child<QRadioButton>(dialog, "optThis")->isEnabled());
-        child<QComboBox>(dialog, "cboFirst")->setCurrentIndex(1);
-        child<QComboBox>(dialog, "cboSecond")->setCurrentIndex(2);
-        child<QCheckBox>(dialog, "chkNames")->setChecked(true);
-        EXPECT_EQ(child<QComboBox>(dialog, "cboFirst")->currentText(), "Column 2: English");
-        EXPECT_EQ(child<QLabel>(dialog, "lblDropped")->text(),
-                  "2 rows arrive.\nDropped: 2 other columns, 1 row without a word.");
-        child<QPushButton>(dialog, "btnSwap")->click();
-        EXPECT_EQ(previewed(dialog), "Haus");
-        child<QComboBox>(dialog, "cboSeparator")->setCurrentText("Comma");
-        child<QComboBox>(dialog, "cboSeparator")->setCurrentText(";");
-        EXPECT_EQ(child<QComboBox>(dialog, "cboFirst")->currentIndex(), 0) << "other columns, another proposal";
-        child<QCheckBox>(dialog, "chkNames")->setChecked(true);
-        child<QComboBox>(dialog, "cboFirst")->setCurrentIndex(2);
-        child<QComboBox>(dialog, "cboSecond")->setCurrentIndex(1);
+        EXPECT_FALSE(dialog.findChild<QWidget *>("optThis")->isEnabled());
+        const std::pair<QStringList, const char *> steps[] = {
+            {{"cboSeparator=Dash"},
+             "Language 1|Language 2, x;English;German;note|, 1;house;Haus;|, 2;;;n|, 3;a,b;c,d;|"},
+            {{"cboSeparator=Semicolon"}, "Language 1|Language 2, x|English, 1|house, 2|, 3|a,b"},
+            {{"cboFirst=Column 2", "cboSecond=Column 3", "chkNames"}, "English|German, house|Haus, a,b|c,d"},
+            {{"btnSwap"}, "German|English, Haus|house, c,d|a,b"},
+            {{"cboSeparator=Comma"}, "Language 1|Language 2, x;English;German;note|, 1;house;Haus;|, 2;;;n|, 3;a|b;c"},
+            {{"cboSeparator=;", "chkNames"}, "x|English, 1|house, 2|, 3|a,b"},
+            {{"cboFirst=Column 3: German", "cboSecond=Column 2: English"}, "German|English, Haus|house, c,d|a,b"},
+        };
+        for (const auto &[choices, text] : steps) {
+            choose(dialog, choices);
+            EXPECT_EQ(preview(dialog).toStdString(), text);
+        }
+        choose(dialog, {"btnOK"});
     });
-    EXPECT_EQ(words(), QStringList({"German|English", "Haus|house", "c,d|a,b", "|"}));
+    for (LinkButton *link : window->findChildren<LinkButton *>()) {
+        if (link->text() == "Import a list...")
+            link->click();
+    }
+    EXPECT_EQ(words(), "German|English, Haus|house, c,d|a,b, |");
     EXPECT_EQ(documents().active()->Caption(), "Untitled 1");
     EXPECT_TRUE(documents().active()->Dirty());
     EXPECT_EQ(status(0), "2 rows imported");
@@ -79,15 +110,12 @@ TEST_F(ListsTest, RowsGoInAboveTheCurrentOneAndOutAgain)
 {
     newDocument()->Rutor()->setWords({"A", "1", "2", ""}, {"B", "3", "4", ""}, {});
     documents().active()->select({2, 2, 2, 2});
-    const QStringList before = words();
-    QGuiApplication::clipboard()->setText("house - Haus\ntree - Baum\n");
-    accept("mnuEditPasteList", [](QDialog &dialog) {
-        EXPECT_FALSE(child<QComboBox>(dialog, "cboEncoding")->isVisible());
-        child<QRadioButton>(dialog, "optThis")->click();
-    });
-    EXPECT_EQ(words(), QStringList({"A|B", "1|3", "house|Haus", "tree|Baum", "2|4", "|"}));
+    const QString before = words();
+    QGuiApplication::clipboard()->setText("house - Haus\n");
+    EXPECT_TRUE(inDialog("mnuEditPasteList", [](QDialog &dialog) { choose(dialog, {"optThis", "btnOK"}); }));
+    EXPECT_EQ(words(), "A|B, 1|3, house|Haus, 2|4, |");
     EXPECT_EQ(window->UndoAction(), "&Undo Import");
-    EXPECT_EQ(status(0), "2 rows imported");
+    EXPECT_EQ(status(0), resText(14374));
     window->DoMenuClick("mnuEditUndo");
     EXPECT_EQ(words(), before);
     EXPECT_EQ(documents().active()->selection(), (GridSelection{2, 2, 2, 2}));
@@ -95,18 +123,36 @@ TEST_F(ListsTest, RowsGoInAboveTheCurrentOneAndOutAgain)
 
 TEST_F(ListsTest, WhatCannotBeReadOrWrittenIsTold)
 {
-    offer("PK\x03\x04");
-    QCoreApplication::processEvents();
-    begin("Import a list...");
-    EXPECT_EQ(alert.onlyPrompt(), "The file list is damaged.");
-    EXPECT_TRUE(documents().open().empty());
-    newDocument()->Rutor()->setWords({"A", "1,2", ""}, {"B", "3", ""}, {});
-    prompts.savePath = folder.filePath("none/a.csv");
-    window->DoMenuClick("mnuFileExport");
-    EXPECT_EQ(alert.shown.size(), 2u);
-    prompts.savePath = folder.filePath("a.csv");
-    window->DoMenuClick("mnuFileExport");
-    EXPECT_EQ(readFile(prompts.savePath), "A,B\r\n\"1,2\",3\r\n");
+    newDocument();
+    window->DoMenuClick("mnuFileImport");
+    EXPECT_TRUE(alert.shown.empty()) << "no file was chosen";
+    prompts.openPath = writeFile(folder.filePath("list"), "PK\x03\x04");
+    window->DoMenuClick("mnuFileImport");
+    documents().active()->Rutor()->setWords({"A", "1,2", ""}, {"B", QString(QChar(0xD800)), ""}, {});
+    for (const char *name : {"", "none/a.csv", "a.csv"}) {
+        prompts.savePath = *name ? folder.filePath(name) : QString();
+        window->DoMenuClick("mnuFileExport");
+    }
+    QStringList told;
+    for (const Alert &each : alert.shown) {
+        told += each.prompt.left(30).remove(folder.path());
+        EXPECT_TRUE(each.sound && each.exclamation && each.buttons == Alert::OkHelp && each.helpId == 3030);
+    }
+    EXPECT_EQ(told.join(" | "), "The file list is damaged. | /none/a.cs | Some signs in the words are no");
+    EXPECT_EQ(readFile(prompts.savePath), "\xEF\xBB\xBF"
+                                          "A,B\r\n\"1,2\",?\r\n");
     EXPECT_EQ(status(0), "1 row exported; font, row heights and column widths stay in the vocabulary");
     EXPECT_TRUE(documents().active()->DocName().isEmpty());
+}
+
+TEST(ImportTextsTest, TellWhatArrivesAndWhatDoesNot)
+{
+    EXPECT_EQ(ImportTexts::arriving({1, {}}, 1), "1 row arrives.");
+    EXPECT_EQ(
+        ImportTexts::arriving({1000, {1, 1, 1, 1}}, 1000),
+        "1,000 rows arrive.\nDropped: 1 other column, 1 row without a word, 1 row beyond the most that a vocabulary "
+        "holds, 1 formula whose result the file does not hold.");
+    EXPECT_EQ(ImportTexts::arriving({1001, {2, 3, 4, 5}}, 1000),
+              "1,001 rows arrive. The first 1000 are shown.\nDropped: 2 other columns, 3 rows without a word, 4 rows "
+              "beyond the most that a vocabulary holds, 5 formulas whose results the file does not hold.");
 }

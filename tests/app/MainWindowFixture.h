@@ -73,47 +73,36 @@ struct MainWindowFixture : ::testing::Test, DocumentCopies
         }
         return list;
     }
-    /// What stands beside the entries and buttons whose texts run on by position: it has texts from 14000 on, and its
-    /// separators in menus have no name.
-    static bool isAddition(const QAction &action)
-    {
-        return action.property("textId").toInt() >= 14000 || (action.isSeparator() && action.objectName().isEmpty());
-    }
-    QStringList menuTitles()
-    {
-        QStringList titles;
-        for (const QAction *action : window->menuBar()->actions()) {
-            if (action->isVisible())
-                titles.append(action->text().remove(QLatin1Char('&')));
-        }
-        return titles;
-    }
     QToolButton *button(const QString &band, const QString &key)
     {
         auto *bar = window->findChild<QToolBar *>(band);
-        for (QAction *action : bar->actions()) {
-            if (action->objectName() == key)
-                return qobject_cast<QToolButton *>(bar->widgetForAction(action));
-        }
-        return nullptr;
+        return qobject_cast<QToolButton *>(bar->widgetForAction(bar->findChild<QAction *>(key)));
     }
-    /// Runs a command and gives its dialog to the visitor while it is open; false when none opened.
-    bool inDialog(const QString &command, const std::function<void(QDialog &)> &visit)
+    using Visitor = std::function<void(QDialog &)>;
+    static void visit(QDialog &dialog, const Visitor &visitor)
+    {
+        visitor(dialog);
+        if (dialog.isVisible())
+            dialog.reject();
+    }
+    /// Gives the modal dialog that opens next to the visitor, and leaves it when it is still open then.
+    void inNextDialog(const Visitor &visitor)
+    {
+        QTimer::singleShot(0, window.get(), [visitor] {
+            if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+                visit(*dialog, visitor);
+        });
+    }
+    /// Runs a command and does so with its dialog, modal or not; false when none opened.
+    bool inDialog(const QString &command, const Visitor &visitor)
     {
         bool opened = false;
-        const auto visitAndClose = [&](QDialog &dialog) {
-            opened = true;
-            visit(dialog);
-            dialog.reject();
-        };
-        QTimer::singleShot(0, window.get(), [&] {
-            if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
-                visitAndClose(*dialog);
-        });
+        const Visitor noting = [&](QDialog &dialog) { visitor(dialog), opened = true; };
+        inNextDialog(noting);
         window->DoMenuClick(command);
         for (QDialog *modeless : window->findChildren<QDialog *>()) {
             if (modeless->isVisible())
-                visitAndClose(*modeless);
+                visit(*modeless, noting);
         }
         QTest::qWait(1);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -34,25 +34,12 @@ TEST_F(MainWindowTest, NewDocumentsCascadeInsideTheAreaAndTheirColumnsFillThem)
     }
 }
 
-TEST_F(MainWindowTest, ClosingADocumentAmidAnEditLeavesNothingToDo)
-{
-    newDocument()->Rutor()->GridEdit('x');
-    QApplication::processEvents();
-    QTest::keyClicks(QApplication::focusWidget(), "yz");
-    EXPECT_EQ(status(0), resText(503));
-    alert.answers = {AlertBox::AnswerNo};
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_W, Qt::ControlModifier);
-    QApplication::processEvents();
-    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_EQ(window->state(), AppState::StateNoDocument);
-    EXPECT_EQ(window->UndoAction(), resText(419));
-}
-
-TEST_F(MainWindowTest, AnEditThatAnotherDocumentInterruptedGoesOn)
+TEST_F(MainWindowTest, AnEditGoesOnAfterAnotherDocumentAndEndsWithItsOwn)
 {
     frmDoc *document = newDocument();
     document->Rutor()->GridEdit('x');
     QApplication::processEvents();
+    EXPECT_EQ(status(0), resText(503));
     window->OpenRequestedFile(writeVocabulary("other.gla"));
     EXPECT_EQ(window->state(), AppState::StateDocument);
     QApplication::processEvents();
@@ -61,19 +48,23 @@ TEST_F(MainWindowTest, AnEditThatAnotherDocumentInterruptedGoesOn)
     QGuiApplication::clipboard()->setText("y");
     window->DoMenuClick("mnuEditPaste");
     EXPECT_EQ(document->Rutor()->EditText(), QString("xy"));
+    documents().open().back()->frame()->close();
+    alert.answers = {AlertBox::AnswerNo};
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_W, Qt::ControlModifier);
+    QApplication::processEvents();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(window->state(), AppState::StateNoDocument);
+    EXPECT_EQ(window->UndoAction(), resText(419));
 }
 
 TEST_F(MainWindowTest, ControlTabGoesAroundTheDocuments)
 {
     const std::array made = {newDocument(), newDocument(), newDocument()};
-    const auto press = [this](Qt::Key key, Qt::KeyboardModifiers modifiers) {
-        QTest::keyClick(window->focusWidget(), key, modifiers);
-        return documents().active();
-    };
-    for (const int next : {0, 1, 2, 0})
-        EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier), made[size_t(next)]);
-    for (const int next : {2, 1, 0})
-        EXPECT_EQ(press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier), made[size_t(next)]);
+    for (const int next : {1, 2, 3, 1, -3, -2, -1}) { // the shift key goes back
+        const Qt::KeyboardModifiers shift = next > 0 ? Qt::NoModifier : Qt::ShiftModifier;
+        QTest::keyClick(window->focusWidget(), shift ? Qt::Key_Backtab : Qt::Key_Tab, Qt::ControlModifier | shift);
+        EXPECT_EQ(documents().active(), made[size_t(std::abs(next)) - 1]) << next;
+    }
     window->documentArea()->activate(*made[2]);
     window->DoMenuClick("mnuFileClose");
     EXPECT_EQ(documents().active(), made[0]) << "the one that was active before";
@@ -87,8 +78,9 @@ TEST_F(MainWindowTest, DocumentsAreTiledCascadedAndLinedUpAsIcons)
         frames.push_back(newDocument()->frame());
         places.push_back(frames.back()->geometry());
     }
-    const QRect area = window->documentArea()->viewport()->rect();
-    const auto covered = [&] {
+    DocumentArea &documentArea = *window->documentArea();
+    const QRect area = documentArea.viewport()->rect();
+    const auto covered = [&frames] {
         QRegion all;
         for (const QWidget *each : frames) {
             EXPECT_FALSE(all.intersects(each->geometry()));
@@ -96,19 +88,18 @@ TEST_F(MainWindowTest, DocumentsAreTiledCascadedAndLinedUpAsIcons)
         }
         return all;
     };
-    for (const char *key : {"mnuWindow(1)", "mnuWindow(2)"}) {
+    for (const bool below : {true, false}) {
         frames[1]->showMaximized();
-        window->DoMenuClick(QLatin1String(key));
-        EXPECT_EQ(covered(), QRegion(area)) << key;
-        EXPECT_EQ(frames[0]->width() == area.width(), key == QLatin1String("mnuWindow(1)"));
+        window->DoMenuClick(below ? "mnuWindow(1)" : "mnuWindow(2)");
+        EXPECT_EQ(covered(), QRegion(area));
+        EXPECT_EQ(frames[0]->width() == area.width(), below);
     }
-    window->documentArea()->activate(*documents().open()[0]);
+    documentArea.activate(*documents().open()[0]);
     window->DoMenuClick("mnuWindow(0)");
     for (size_t i = 0; i < frames.size(); ++i) {
         EXPECT_EQ(frames[i]->geometry(), places[i]) << "as new ones";
-        EXPECT_EQ(window->documentArea()->subWindowList(QMdiArea::StackingOrder)[int(i)], frames[i]);
+        EXPECT_EQ(documentArea.subWindowList(QMdiArea::StackingOrder)[int(i)], frames[i]);
     }
-    const QRect open = frames.back()->geometry();
     for (int i = 0; i < 6; ++i)
         frames.insert(frames.begin(), newDocument()->frame());
     frames.pop_back();
@@ -119,37 +110,37 @@ TEST_F(MainWindowTest, DocumentsAreTiledCascadedAndLinedUpAsIcons)
     EXPECT_EQ(covered().boundingRect().bottomLeft(), area.bottomLeft());
     window->DoMenuClick("mnuWindow(1)");
     EXPECT_TRUE(frames.front()->isMinimized());
-    EXPECT_EQ(window->documentArea()->subWindowList().at(2)->geometry(), area) << "icons are left alone";
-    EXPECT_NE(open, area);
+    EXPECT_EQ(documentArea.subWindowList().at(2)->geometry(), area) << "icons are left alone";
 }
 
 TEST_F(MainWindowTest, RecentFilesAreKeptFromRunToRun)
 {
     const QString one = writeVocabulary("one.gla");
-    const QString two = writeVocabulary("two & more.gla");
     window->OpenRequestedFile(one);
-    window->OpenRequestedFile('"' + two + '"');
+    window->OpenRequestedFile('"' + writeVocabulary("two & more.gla") + '"');
     EXPECT_EQ(documents().open().size(), 2u);
     window->close();
     SetUp();
-    const QStringList file = entries("mnuFile");
-    ASSERT_EQ(file.size(), 7) << "New, Open, separator, two files, separator, Exit";
-    EXPECT_TRUE(file[3].startsWith("1 ") && file[3].endsWith("two  more.gla")) << file[3].toStdString();
+    const QString file = entries("mnuFile").join('|').replace(QRegularExpression("\\|(\\d) [^|]*/"), "|\\1 ");
+    EXPECT_EQ(file.toStdString(), "New|Open...|-|1 two  more.gla|2 one.gla|-|Exit");
     window->DoMenuClick("mnuFileMRU(2)");
     ASSERT_EQ(documents().open().size(), 1u);
     EXPECT_EQ(documents().open().front()->DocName(), one);
+    EXPECT_EQ(status(0), resText(506));
 }
 
 TEST_F(MainWindowTest, OnlyVocabulariesDroppedOnTheDocumentAreaOpen)
 {
     const QString file = writeVocabulary("dropped.GLA");
-    drop(file, window->toolbarHeight());
-    drop(file, window->height() - window->context().status.height() - 52);
+    const int top = window->documentArea()->mapTo(window.get(), QPoint()).y();
+    const int bottom = window->height() - window->context().status.height() - 52;
+    for (const int beside : {top, bottom})
+        drop(file, beside);
     drop(folder.filePath("notes.txt"), window->height() / 2);
     EXPECT_TRUE(documents().open().empty() && alert.shown.empty());
     ctlGrid &grid = *newDocument()->Rutor();
     grid.setEditMode(true);
-    drop(file, window->height() / 2, grid.hwndText());
+    drop(file, top + 1, grid.hwndText());
     EXPECT_EQ(documents().open().size(), 2u);
     EXPECT_EQ(grid.EditText(), "");
 }
@@ -158,21 +149,23 @@ TEST_F(MainWindowTest, ItsPlaceIsRestoredOrReplacedByTheWorkArea)
 {
     const int workArea = QGuiApplication::primaryScreen()->availableGeometry().width() * 15;
     EXPECT_EQ(settings.WinPosRight(), workArea) << "the first run covers the work area";
-    window->resize(700, 500);
-    window->move(40, 30);
-    const QPoint place = window->pos();
-    const QSize withFrame = window->frameSize();
+    window->setGeometry(40, 30, 700, 500);
+    const QRect place = window->frameGeometry();
     window->close();
     clsAppProperties stored(store, QString());
     stored.ReadProperties();
-    EXPECT_EQ(QSize(stored.WinPosRight(), stored.WinPosBottom()), withFrame * 15);
+    EXPECT_EQ(QRect(stored.WinPosLeft(), stored.WinPosTop(), stored.WinPosRight(), stored.WinPosBottom()),
+              QRect(place.topLeft() * 15, place.size() * 15));
     SetUp();
-    EXPECT_EQ(window->pos(), place);
+    EXPECT_EQ(window->pos(), place.topLeft());
+    window->showMaximized();
+    window->close();
+    SetUp();
+    EXPECT_TRUE(window->isMaximized());
     for (const int state : {1, 7}) {
         settings.setAppWinState(state);
         window->PositionWindow();
-        EXPECT_EQ(settings.AppWinState(), 0);
-        EXPECT_EQ(settings.WinPosRight(), workArea);
+        EXPECT_EQ(std::pair(settings.AppWinState(), settings.WinPosRight()), std::pair(0, workArea));
     }
 }
 
