@@ -4,6 +4,7 @@
 #include "resources/StringTable.h"
 #include "services/AlertBox.h"
 #include "services/FormTexts.h"
+#include "services/rules/TextDigits.h"
 #include "ui_frmRecovery.h"
 
 #include <QFileInfo>
@@ -57,7 +58,7 @@ void frmRecovery::fill()
         const RecoveryCopy &copy = orphan.copy;
         const QString name = copy.isFileChanged() ? resText(12628).arg(copy.caption) : copy.caption;
         const QString folder = copy.docName.isEmpty() ? resText(12619) : QFileInfo(copy.docName).path();
-        const QString time = QLocale().toString(copy.time, QLocale::ShortFormat);
+        const QString time = TextDigits::inText(QLocale().toString(copy.time, QLocale::ShortFormat));
         auto *item = new QTreeWidgetItem(m_ui->lstCopies, {name, causeText(copy.cause), time, folder});
         item->setToolTip(NameColumn, name);
         item->setToolTip(FolderColumn, folder);

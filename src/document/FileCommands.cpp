@@ -11,6 +11,7 @@
 #include "resources/TextLanguage.h"
 #include "services/AlertBox.h"
 #include "services/Hourglass.h"
+#include "services/rules/TextDigits.h"
 #include "services/settings/clsMRUFileList.h"
 #include "services/status/modSBFunc.h"
 
@@ -270,7 +271,7 @@ void FileCommands::load(const QString &path, OpenAs how)
     const Outcome outcome = header.outcome == Outcome::Ok ? readInto(file, path, how) : header.outcome;
     if (outcome == Outcome::TooManyRows)
         tell(Tone::Plain, resText(712) + TextLanguage::isolated(path) +
-                              resText(14075).arg(QLocale().toString(Vocabulary::MostRows)));
+                              resText(14075).arg(TextDigits::numbers().toString(Vocabulary::MostRows)));
     else if (outcome != Outcome::Ok)
         tell(Tone::Plain, resText(712) + TextLanguage::isolated(path));
 }

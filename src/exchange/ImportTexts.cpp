@@ -2,6 +2,7 @@
 
 #include "exchange/rules/text/TextEncoding.h"
 #include "resources/StringTable.h"
+#include "services/rules/TextDigits.h"
 
 #include <QLocale>
 
@@ -11,7 +12,7 @@ constexpr int FirstEncodingId = 14600;
 
 QString number(qsizetype count)
 {
-    return QLocale().toString(qlonglong(count));
+    return TextDigits::numbers().toString(qlonglong(count));
 }
 
 } // namespace

@@ -11,6 +11,7 @@
 #include "resources/StringTable.h"
 #include "services/AlertBox.h"
 #include "services/Hourglass.h"
+#include "services/rules/TextDigits.h"
 #include "services/status/modSBFunc.h"
 
 #include <QClipboard>
@@ -30,7 +31,7 @@ enum TextId {
 
 QString withNumber(int one, int many, qsizetype number)
 {
-    return number == 1 ? resText(one) : resText(many).arg(QLocale().toString(qlonglong(number)));
+    return number == 1 ? resText(one) : resText(many).arg(TextDigits::numbers().toString(qlonglong(number)));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "memory/Day.h"
 #include "resources/StringTable.h"
+#include "services/rules/TextDigits.h"
 
 #include <QLocale>
 
@@ -68,17 +69,18 @@ QString ProgressModel::text(int position, int column) const
         return word.answer;
     if (card.isNew() && column != Asked)
         return {};
-    const QLocale locale;
+    const auto day = [](int number) {
+        return TextDigits::inText(QLocale().toString(Day::date(number), QLocale::ShortFormat));
+    };
     switch (column) {
     case Asked:
-        return locale.toString(card.asked);
+        return TextDigits::numbers().toString(card.asked);
     case Right:
-        return locale.toString(card.asked - card.missed);
+        return TextDigits::numbers().toString(card.asked - card.missed);
     case Last:
-        return locale.toString(Day::date(card.last), QLocale::ShortFormat);
+        return day(card.last);
     case NextDue:
-        return m_list.state(position) == ProgressList::Due ? resText(DueNow)
-                                                           : locale.toString(Day::date(card.due), QLocale::ShortFormat);
+        return m_list.state(position) == ProgressList::Due ? resText(DueNow) : day(card.due);
     default:
         return resText(14426).arg(m_list.strength(position));
     }

@@ -12,6 +12,7 @@
 #include "services/FormTexts.h"
 #include "services/Hourglass.h"
 #include "services/rules/QuizModes.h"
+#include "services/rules/TextDigits.h"
 
 #include "ui_frmProgress.h"
 
@@ -46,8 +47,8 @@ std::vector<BarChart::Bar> daily(const std::vector<int> &counts, int first)
     for (int i = 0; i < int(counts.size()); ++i) {
         const QDate date = Day::date(first + i);
         const bool isMarked = i % (2 * DaysOfWeek) == 0;
-        bars.push_back({locale.toString(date, QLocale::ShortFormat), counts[size_t(i)],
-                        isMarked ? locale.toString(date, resText(14908)) : QString()});
+        bars.push_back({TextDigits::inText(locale.toString(date, QLocale::ShortFormat)), counts[size_t(i)],
+                        isMarked ? TextDigits::inText(locale.toString(date, resText(14908))) : QString()});
     }
     return bars;
 }
@@ -84,7 +85,7 @@ void frmProgress::dressTable()
 {
     constexpr int Margin = 16; ///< pixels
     const QFontMetrics metrics = m_ui->tblWords->fontMetrics();
-    const QString date = QLocale().toString(QDate(2028, 12, 28), QLocale::ShortFormat);
+    const QString date = TextDigits::inText(QLocale().toString(QDate(2028, 12, 28), QLocale::ShortFormat));
     QHeaderView *header = m_ui->tblWords->header();
     header->setStretchLastSection(false);
     for (int column = 0; column < ProgressModel::Columns; ++column) {

@@ -1,5 +1,7 @@
 #include "quiz/rules/Seconds.h"
 
+#include "services/rules/TextDigits.h"
+
 #include <QLocale>
 
 #include <cmath>
@@ -39,7 +41,7 @@ std::optional<int> Seconds::toMilliseconds(const QString &text)
 
 QString Seconds::fromMilliseconds(int milliseconds)
 {
-    QLocale locale;
+    QLocale locale = TextDigits::numbers();
     locale.setNumberOptions(QLocale::OmitGroupSeparator);
     return locale.toString(milliseconds / PerSecond, 'f', QLocale::FloatingPointShortest);
 }

@@ -12,7 +12,7 @@ QRegularExpression pattern();
 
 /// Milliseconds, capped at what an int holds; nothing if the text is no number greater than 0.
 std::optional<int> toMilliseconds(const QString &text);
-/// In the digits of the user's locale.
+/// With the decimal mark of the user's locale.
 QString fromMilliseconds(int milliseconds);
 
 } // namespace Seconds
