@@ -6,6 +6,7 @@
 #include <QLayout>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QResizeEvent>
 #include <QShortcut>
 #include <QStyle>
 
@@ -70,7 +71,7 @@ QMdiSubWindow *DocumentArea::place(frmDoc &document)
     QMdiSubWindow *frame = addSubWindow(&document);
     frame->setAttribute(Qt::WA_DeleteOnClose);
     frame->setWindowIcon(picture(PictureDocument));
-    frame->setGeometry(WindowLayout::nextPlace(viewport()->rect(), document.Tag(), cascadeStep()));
+    frame->setGeometry(mirrored(WindowLayout::nextPlace(viewport()->rect(), document.Tag(), cascadeStep())));
     frame->layout()->activate(); // the document measures its columns before it is shown
     if (const QMdiSubWindow *active = activeSubWindow(); active && active->isMaximized())
         document.resize(viewport()->size()); // so will this one be
@@ -82,6 +83,24 @@ QMdiSubWindow *DocumentArea::place(frmDoc &document)
 int DocumentArea::cascadeStep() const
 {
     return style()->pixelMetric(QStyle::PM_TitleBarHeight) + style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+}
+
+QRect DocumentArea::mirrored(const QRect &place) const
+{
+    return QStyle::visualRect(layoutDirection(), viewport()->rect(), place);
+}
+
+void DocumentArea::resizeEvent(QResizeEvent *event)
+{
+    const int wider = event->oldSize().isValid() ? event->size().width() - event->oldSize().width() : 0;
+    QMdiArea::resizeEvent(event);
+    if (!isRightToLeft() || wider == 0)
+        return;
+    const QList<QMdiSubWindow *> windows = subWindowList();
+    for (QMdiSubWindow *window : windows) {
+        if (!window->isMaximized())
+            window->move(window->x() + wider, window->y());
+    }
 }
 
 std::vector<QRect> DocumentArea::placesFor(WindowArrangement how, const QList<QMdiSubWindow *> &windows) const
@@ -123,7 +142,7 @@ void DocumentArea::arrange(WindowArrangement how)
     for (qsizetype i = 0; i < windows.size(); ++i) {
         if (windows[i]->isMaximized())
             windows[i]->showNormal();
-        windows[i]->setGeometry(places[size_t(i)]);
+        windows[i]->setGeometry(mirrored(places[size_t(i)]));
         if (how == WindowArrangement::Cascade)
             windows[i]->raise();
     }

@@ -23,10 +23,16 @@ public:
     void activate(frmDoc &document);
     void arrange(WindowArrangement how);
 
+protected:
+    /// Where lines begin at the right, windows keep their distance from that edge.
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void addKeys();
     void goAround(bool forward);
     /// How far the title bar of a window stands from that of the one behind it, in pixels.
     int cascadeStep() const;
+    /// The place on the side where lines begin, for one that counts from the left.
+    QRect mirrored(const QRect &place) const;
     std::vector<QRect> placesFor(WindowArrangement how, const QList<QMdiSubWindow *> &windows) const;
 };

@@ -70,6 +70,17 @@ TEST_F(MainWindowTest, ControlTabGoesAroundTheDocuments)
     EXPECT_EQ(documents().active(), made[0]) << "the one that was active before";
 }
 
+TEST_F(MainWindowTest, DocumentsStandAtTheRightWhereLinesBeginThere)
+{
+    const QList<QRect> atLeft{newDocument()->frame()->geometry(), newDocument()->frame()->geometry()};
+    const QRect area = window->documentArea()->viewport()->rect();
+    window->documentArea()->setLayoutDirection(Qt::RightToLeft);
+    window->DoMenuClick("mnuWindow(0)");
+    window->resize(window->width() + 70, window->height());
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(documents().open()[i]->frame()->x(), area.right() + 70 - atLeft[i].right()) << i;
+}
+
 TEST_F(MainWindowTest, DocumentsAreTiledCascadedAndLinedUpAsIcons)
 {
     std::vector<QWidget *> frames;

@@ -69,7 +69,7 @@ class Tour:
         self._stop("main, cells selected", "Escape", "Down", "Down", "shift+Down", "shift+Down", "shift+Right")
         self._stop("main, editing a cell", "Down", "space", role="text")
         self._press("Escape", "shift+F1")
-        self._desktop.click(250, 250)
+        self._desktop.click_on(self._desktop.wait_for("table"))
         self._visit("main, what's this")
         self._press("Escape")
         self._dialog(718, "save as", "alt+400", 406)
