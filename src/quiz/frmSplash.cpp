@@ -10,6 +10,7 @@
 
 #include <QDesktopServices>
 #include <QScreen>
+#include <QStyle>
 #include <QSvgRenderer>
 #include <QToolButton>
 #include <QUrl>
@@ -55,6 +56,10 @@ frmSplash::frmSplash(const QVersionNumber &version, QWidget *parent)
     , m_version(version)
 {
     m_ui->setupUi(this);
+    if (isRightToLeft()) { // which mirrors what a layout holds, not its margins
+        const QMargins margins = layout()->contentsMargins();
+        layout()->setContentsMargins(margins.right(), margins.top(), margins.left(), margins.bottom());
+    }
     setPalette(QPalette(ButtonGrey, PaleYellow));
     m_imgLink = {m_ui->imgLink0, m_ui->imgLink1};
     m_ui->lblCopyright->installEventFilter(this);
@@ -160,14 +165,16 @@ void frmSplash::paintEvent(QPaintEvent *)
     painter.fillRect(rect(), Ground);
     const QRect inner = rect().adjusted(Frame, Frame, -Frame, -Frame);
     painter.fillRect(inner, PaleYellow);
-    painter.drawTiledPixmap(QRect(inner.topLeft(), QSize(Strip, inner.height())), patternTile(devicePixelRatioF()));
+    const auto mirrored = [this](const QRect &part) { return QStyle::visualRect(layoutDirection(), rect(), part); };
+    const QRect strip(inner.topLeft(), QSize(Strip, inner.height()));
+    painter.drawTiledPixmap(mirrored(strip), patternTile(devicePixelRatioF()));
 
-    QRect card = m_ui->imgGL->geometry().adjusted(-CardMargin, -CardMargin, CardMargin, CardMargin);
+    QRect card = mirrored(m_ui->imgGL->geometry()).adjusted(-CardMargin, -CardMargin, CardMargin, CardMargin);
     card.setRight(inner.right() - CardMargin - CardOffset);
     painter.setPen(Ground.darker(120));
     painter.setBrush(Qt::white);
-    painter.drawRect(card.translated(CardOffset, CardOffset));
-    painter.drawRect(card);
+    painter.drawRect(mirrored(card.translated(CardOffset, CardOffset)));
+    painter.drawRect(mirrored(card));
 
     painter.setPen(Qt::black);
     painter.setBrush(Qt::NoBrush);

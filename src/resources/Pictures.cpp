@@ -9,6 +9,7 @@
 #include <QPixmapCache>
 #include <QSvgRenderer>
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -36,12 +37,12 @@ bool isPicture(int number)
     return number >= 1 && number <= int(Files.size());
 }
 
-/// Arrows point the way that the eye goes: to the left for what follows, where lines begin at the right.
-int towardsReading(int number)
+/// Arrows point the way that the eye goes, and windows stand as they do: mirrored where lines begin at the right.
+bool followsReading(int number)
 {
-    if (!QGuiApplication::isRightToLeft())
-        return number;
-    return number == PicturePrevious ? PictureNext : number == PictureNext ? PicturePrevious : number;
+    constexpr std::array Following = {PictureUndo,       PictureCascade, PicturePrevious,      PictureNext,
+                                      PictureNavigation, PictureMore,    PictureMultipleChoice};
+    return std::find(Following.begin(), Following.end(), number) != Following.end();
 }
 
 QByteArray pictureSource(int number)
@@ -63,6 +64,7 @@ class PictureEngine : public QIconEngine
 public:
     explicit PictureEngine(int number)
         : m_number(number)
+        , m_mirrored(QGuiApplication::isRightToLeft() && followsReading(number))
     {
     }
 
@@ -80,13 +82,14 @@ public:
     {
         const auto [line, accent] = colours(mode);
         const int pixels = std::min(size.width(), size.height());
-        const QString key = QStringLiteral("picture %1 %2 %3 %4")
+        const QString key = QStringLiteral("picture %1 %2 %3 %4 %5")
                                 .arg(m_number)
                                 .arg(pixels)
+                                .arg(m_mirrored)
                                 .arg(line.name(QColor::HexArgb), accent.name(QColor::HexArgb));
         QPixmap drawn;
         if (!QPixmapCache::find(key, &drawn)) {
-            drawn = QPixmap::fromImage(drawPicture(m_number, pixels, line, accent));
+            drawn = QPixmap::fromImage(drawPicture(m_number, pixels, line, accent).mirrored(m_mirrored, false));
             QPixmapCache::insert(key, drawn);
         }
         return drawn;
@@ -116,13 +119,14 @@ private:
     }
 
     int m_number;
+    bool m_mirrored;
 };
 
 } // namespace
 
 QIcon picture(int number)
 {
-    return isPicture(number) ? QIcon(new PictureEngine(towardsReading(number))) : QIcon();
+    return isPicture(number) ? QIcon(new PictureEngine(number)) : QIcon();
 }
 
 QImage drawPicture(int number, int pixels, const QColor &line, const QColor &accent)

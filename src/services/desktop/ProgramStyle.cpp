@@ -3,7 +3,9 @@
 #include "resources/Pictures.h"
 #include "resources/TextLanguage.h"
 #include "services/desktop/Contrast.h"
+#include "services/rules/TextDigits.h"
 
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -76,23 +78,32 @@ void drawSeparator(QPainter &painter, const QStyleOption &option)
     painter.restore();
 }
 
-/// The entry with a check mark in the place of its picture: a plate behind the picture, which is all that the style
+/// Gives the entry a check mark in the place of its picture: a plate behind the picture, which is all that the style
 /// would show, is no mark to the eye.
-QStyleOptionMenuItem withCheckMark(const QStyleOptionMenuItem &entry)
+void showCheckMark(QStyleOptionMenuItem &entry)
 {
-    QStyleOptionMenuItem marked = entry;
-    marked.icon = picture(PictureChecked);
-    marked.checked = false;
-    return marked;
+    if (!entry.checked || entry.icon.isNull())
+        return;
+    entry.icon = picture(PictureChecked);
+    entry.checked = false;
 }
 
-/// The entry with its picture in the colour of chosen text, as it is drawn on the highlight.
-QStyleOptionMenuItem withChosenPicture(const QStyleOptionMenuItem &entry, int size, const QWidget *widget)
+/// Gives the chosen entry its picture in the colour of chosen text, as it is drawn on the highlight.
+void showChosenPicture(QStyleOptionMenuItem &entry, int size, const QWidget *widget)
 {
-    QStyleOptionMenuItem chosen = entry;
+    const QStyle::State chosen = QStyle::State_Selected | QStyle::State_Enabled;
+    if ((entry.state & chosen) != chosen || entry.icon.isNull())
+        return;
     const double scale = widget ? widget->devicePixelRatioF() : 1.0;
-    chosen.icon = QIcon(entry.icon.pixmap(QSize(size, size), scale, QIcon::Selected));
-    return chosen;
+    entry.icon = QIcon(entry.icon.pixmap(QSize(size, size), scale, QIcon::Selected));
+}
+
+/// Lets the signs of a shortcut, as in "Ctrl++", stay where they are in a menu that is written from right to left.
+void isolateShortcut(QStyleOptionMenuItem &entry)
+{
+    const qsizetype tab = entry.text.indexOf(u'\t');
+    if (tab >= 0)
+        entry.text.replace(tab + 1, entry.text.size(), TextLanguage::isolated(entry.text.mid(tab + 1)));
 }
 
 /// The title bar of a document with letters and signs that can be read. Fusion gives the letters of an active one a
@@ -132,20 +143,22 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
         drawOutline(*painter, *option, shape);
 }
 
+void ProgramStyle::drawEntry(QStyleOptionMenuItem entry, QPainter *painter, const QWidget *widget) const
+{
+    showCheckMark(entry);
+    showChosenPicture(entry, pixelMetric(PM_SmallIconSize, &entry, widget), widget);
+    isolateShortcut(entry);
+    QProxyStyle::drawControl(CE_MenuItem, &entry, painter, widget);
+    if (entry.menuItemType == QStyleOptionMenuItem::Separator && hidesOutlines(entry))
+        drawSeparator(*painter, entry);
+}
+
 void ProgramStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                                const QWidget *widget) const
 {
     const auto *entry = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
-    if (element == CE_MenuItem && entry && entry->checked && !entry->icon.isNull()) {
-        const QStyleOptionMenuItem marked = withCheckMark(*entry);
-        drawControl(element, &marked, painter, widget);
-        return;
-    }
-    const State chosen = State_Selected | State_Enabled;
-    if (element == CE_MenuItem && entry && (entry->state & chosen) == chosen && !entry->icon.isNull()) {
-        const int size = pixelMetric(PM_SmallIconSize, option, widget);
-        const QStyleOptionMenuItem shown = withChosenPicture(*entry, size, widget);
-        QProxyStyle::drawControl(element, &shown, painter, widget);
+    if (element == CE_MenuItem && entry) {
+        drawEntry(*entry, painter, widget);
         return;
     }
     const auto *item = qstyleoption_cast<const QStyleOptionViewItem *>(option);
@@ -155,10 +168,14 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption *optio
         QProxyStyle::drawControl(element, &shown, painter, widget);
         return;
     }
+    const auto *box = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+    if (element == CE_ComboBoxLabel && box && box->direction == Qt::RightToLeft) {
+        QStyleOptionComboBox shown = *box;
+        shown.currentText = TextLanguage::isolated(box->currentText); // as in its list
+        QProxyStyle::drawControl(element, &shown, painter, widget);
+        return;
+    }
     QProxyStyle::drawControl(element, option, painter, widget);
-    if (element == CE_MenuItem && entry && entry->menuItemType == QStyleOptionMenuItem::Separator &&
-        hidesOutlines(*option))
-        drawSeparator(*painter, *option);
 }
 
 void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
@@ -220,6 +237,14 @@ void ProgramStyle::polish(QApplication *application)
     QProxyStyle::polish(application);
     if (QGuiApplication::isRightToLeft())
         application->installEventFilter(this);
+}
+
+void ProgramStyle::polish(QWidget *widget)
+{
+    QProxyStyle::polish(widget);
+    const QLocale numbers = TextDigits::numbers();
+    if (qobject_cast<QAbstractSpinBox *>(widget) && widget->locale().zeroDigit() != numbers.zeroDigit())
+        widget->setLocale(numbers);
 }
 
 bool ProgramStyle::eventFilter(QObject *watched, QEvent *event)

@@ -2,6 +2,7 @@
 
 #include "resources/Pictures.h"
 #include "resources/StringTable.h"
+#include "resources/TextLanguage.h"
 #include "services/FormTexts.h"
 #include "services/desktop/ScreenFit.h"
 #include "services/help/HelpBrowser.h"
@@ -65,8 +66,10 @@ QAction *HelpViewer::addTool(int textId, int pictureNumber, const QList<QKeySequ
 {
     QAction *tool = m_ui->toolBar->addAction(picture(pictureNumber), resText(textId));
     tool->setShortcuts(shortcuts);
-    if (!shortcuts.isEmpty())
-        tool->setToolTip(tool->text() + QStringLiteral(" (%1)").arg(shortcuts[0].toString(QKeySequence::NativeText)));
+    if (!shortcuts.isEmpty()) {
+        const QString key = shortcuts[0].toString(QKeySequence::NativeText);
+        tool->setToolTip(tool->text() + QStringLiteral(" (%1)").arg(TextLanguage::isolated(key)));
+    }
     connect(tool, &QAction::triggered, this, run);
     return tool;
 }
