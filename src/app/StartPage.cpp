@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QGridLayout>
 #include <QResizeEvent>
+#include <QStyle>
 
 #include <utility>
 
@@ -24,11 +25,14 @@ constexpr int RecentText = NewText + 2;
 constexpr int LessonText = NewText + 3;
 constexpr int ImportText = NewText + 4;
 
-/// Most folders are named after languages.
+/// Most folders are named after languages. A heading begins with a capital in every language.
 QString titleOf(const Lessons::Group &group)
 {
     const QString &language = TextLanguage::inUse();
-    return language.isEmpty() ? group.title : LanguageNames(language, LanguageNames::InList).translated(group.title);
+    if (language.isEmpty())
+        return group.title;
+    const QString name = LanguageNames(language, LanguageNames::InList).translated(group.title);
+    return name.left(1).toUpper() + name.mid(1);
 }
 
 } // namespace
@@ -106,8 +110,9 @@ void StartPage::placeLessons()
     int width = 1;
     for (const LinkList *list : m_lessons)
         width = std::max(width, list->sizeHint().width());
-    const int left = std::max(m_recentFiles->sizeHint().width(), m_recentFiles->parentWidget()->x());
-    const int room = m_area.width() - left - 4 * Margin;
+    const int left = widget()->layout()->itemAt(0)->sizeHint().width();
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    const int room = m_area.width() - scrollBar - left - 4 * Margin;
     const int count = std::clamp(room / (width + Margin), 1, std::max(1, int(m_lessons.size())));
     if (std::exchange(m_listsBeside, count) == count)
         return;

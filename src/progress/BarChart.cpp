@@ -1,6 +1,7 @@
 #include "progress/BarChart.h"
 
 #include "resources/StringTable.h"
+#include "services/rules/TextDigits.h"
 
 #include <QAccessibleWidget>
 
@@ -69,17 +70,27 @@ QString BarChart::numbers() const
 QString BarChart::name(int bar) const
 {
     const Bar &shown = m_bars[size_t(bar)];
-    return resText(14425).arg(shown.label, QLocale().toString(shown.value));
+    return resText(14425).arg(shown.label, TextDigits::numbers().toString(shown.value));
 }
 
 QSize BarChart::sizeHint() const
 {
-    return {std::max(260, int(m_bars.size()) * 4), UsualHeight + 3 * fontMetrics().height() + 2 * Margin};
+    const QSize usual(std::max(260, int(m_bars.size()) * 4), UsualHeight + 3 * fontMetrics().height() + 2 * Margin);
+    return usual.expandedTo(minimumSizeHint());
 }
 
 QSize BarChart::minimumSizeHint() const
 {
-    return {int(m_bars.size()) * LeastBarWidth + 2 * Margin, LeastHeight + 3 * fontMetrics().height() + 2 * Margin};
+    const int title = QFontMetrics(titleFont()).horizontalAdvance(m_title);
+    return {std::max(title, int(m_bars.size()) * LeastBarWidth) + 2 * Margin,
+            LeastHeight + 3 * fontMetrics().height() + 2 * Margin};
+}
+
+QFont BarChart::titleFont() const
+{
+    QFont bold = font();
+    bold.setBold(true);
+    return bold;
 }
 
 QRectF BarChart::barsArea() const
@@ -169,12 +180,11 @@ void BarChart::paintTexts(QPainter &painter) const
 {
     const int line = fontMetrics().height();
     const QRect head = rect().adjusted(Margin, 0, -Margin, 0);
-    QFont bold = font();
-    bold.setBold(true);
-    painter.setFont(bold);
+    painter.setFont(titleFont());
     painter.drawText(head, Qt::AlignLeading | Qt::AlignTop | Qt::TextSingleLine, m_title);
     painter.setFont(font());
-    const QString told = m_current == None ? resText(14427).arg(QLocale().toString(m_highest)) : name(m_current);
+    const QString told =
+        m_current == None ? resText(14427).arg(TextDigits::numbers().toString(m_highest)) : name(m_current);
     painter.drawText(head.translated(0, line), Qt::AlignLeading | Qt::AlignTop | Qt::TextSingleLine, told);
 }
 

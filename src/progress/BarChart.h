@@ -39,6 +39,7 @@ protected:
 private:
     static constexpr int None = -1;
 
+    QFont titleFont() const;
     QRectF barsArea() const;
     QRectF place(int bar) const;
     QString numbers() const;

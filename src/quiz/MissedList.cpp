@@ -40,7 +40,6 @@ MissedList::MissedList(QWidget &before, QWidget *parent)
     m_table->setAccessibleName(resText(14360));
     m_table->setHorizontalHeaderLabels({resText(14361), resText(911), resText(913)});
     m_table->verticalHeader()->hide();
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     m_table->horizontalHeader()->setHighlightSections(false);
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -69,6 +68,7 @@ MissedList::MissedList(QWidget &before, QWidget *parent)
 void MissedList::setAnswers(const std::vector<MissedAnswer> &answers, bool withGiven)
 {
     m_table->setColumnHidden(Given, !withGiven);
+    shareWidth();
     m_table->setRowCount(int(answers.size()));
     int row = 0;
     for (const MissedAnswer &each : answers) {
@@ -86,6 +86,25 @@ void MissedList::setAnswers(const std::vector<MissedAnswer> &answers, bool withG
     // The toolkit would tell screen readers that the focus is in the table.
     const QSignalBlocker unannounced(m_table->selectionModel());
     m_table->setCurrentCell(answers.empty() ? -1 : 0, Asked, QItemSelectionModel::NoUpdate);
+}
+
+/// The columns are equally wide, but one whose heading needs more room has that.
+void MissedList::shareWidth()
+{
+    QHeaderView *header = m_table->horizontalHeader();
+    const int share = (m_table->width() - 2 * m_table->frameWidth()) / (Columns - header->hiddenSectionCount());
+    for (int column = 0; column < Columns; ++column) {
+        const int heading = header->sectionSizeHint(column);
+        header->setSectionResizeMode(column, heading > share ? QHeaderView::Fixed : QHeaderView::Stretch);
+        if (heading > share)
+            header->resizeSection(column, heading);
+    }
+}
+
+void MissedList::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    shareWidth();
 }
 
 QSize MissedList::sizeHint() const

@@ -26,7 +26,11 @@ public:
 Q_SIGNALS:
     void keepRequested();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    void shareWidth();
     void copy();
 
     QWidget &m_before;

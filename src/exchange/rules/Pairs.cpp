@@ -13,6 +13,7 @@ namespace {
 
 constexpr int FirstLanguageId = 501;
 constexpr int ColumnId = 14530;
+constexpr int NamedColumnId = 14425;
 constexpr qsizetype SampleRows = 1000;
 
 /// The names of languages in English, in themselves and as the program has them, small.
@@ -209,7 +210,7 @@ QStringList Pairs::columnNames(const TextTable &table, bool names)
         if (names && row < table.rows())
             name = table.cell(row, column).trimmed().toString();
         const QString number = resText(ColumnId).arg(column + 1);
-        all += name.isEmpty() ? number : number + QStringLiteral(": ") + CellText::cleaned(name).left(40);
+        all += name.isEmpty() ? number : resText(NamedColumnId).arg(number, CellText::cleaned(name).left(40));
     }
     return all;
 }
