@@ -220,7 +220,9 @@ TEST_F(HelpViewerTest, PagesAreShownInTheLanguageThatTheyExistIn)
     for (const auto &[language, page, title, direction] : cases) {
         HelpViewers translated{alert, folder.filePath("favorites"), language};
         translated.HtmlHelp(target, HH_DISPLAY_TOPIC, QString("html\\%1.html").arg(page));
-        const HelpViewer &viewer = *translated.window("Main");
+        HelpViewer &viewer = *translated.window("Main");
+        viewer.resize(500, 400);
+        EXPECT_EQ(viewer.findChild<HelpBrowser *>()->horizontalScrollBar()->maximum(), 0) << "pictures fit";
         EXPECT_EQ(viewer.page(), QString("html/%1.html").arg(page));
         EXPECT_EQ(viewer.findChild<HelpBrowser *>()->document()->firstBlock().textDirection(), direction);
         EXPECT_EQ(viewer.windowTitle().section(" - ", 0, 0), title) << language;

@@ -5,6 +5,7 @@
 
 #include <QDesktopServices>
 #include <QRegularExpression>
+#include <QStyle>
 #include <QTextBlock>
 #include <QWheelEvent>
 
@@ -65,6 +66,7 @@ void HelpBrowser::doSetSource(const QUrl &name, QTextDocument::ResourceType type
 {
     QUrl source = urlOf(m_file->shownFor(fileOf(name)));
     source.setFragment(name.fragment());
+    m_pictures.clear();
     QTextBrowser::doSetSource(source, type);
 }
 
@@ -80,9 +82,32 @@ void HelpBrowser::setDirection(const QUrl &source)
 QVariant HelpBrowser::loadResource(int type, const QUrl &name)
 {
     const QByteArray bytes = m_file->contents(fileOf(source().resolved(name)));
-    if (type == QTextDocument::ImageResource)
-        return QImage::fromData(bytes);
-    return QString::fromUtf8(bytes);
+    if (type != QTextDocument::ImageResource)
+        return QString::fromUtf8(bytes);
+    m_pictures[name] = QImage::fromData(bytes);
+    return fitted(m_pictures[name]);
+}
+
+QImage HelpBrowser::fitted(const QImage &picture) const
+{
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this); // which may come or go
+    const int room = width() - 2 * frameWidth() - scrollBar - 2 * PageMargin;
+    if (picture.width() <= room)
+        return picture;
+    const double scale = devicePixelRatioF();
+    QImage smaller = picture.scaledToWidth(std::max(1, int(room * scale)), Qt::SmoothTransformation);
+    smaller.setDevicePixelRatio(scale);
+    return smaller;
+}
+
+void HelpBrowser::resizeEvent(QResizeEvent *event)
+{
+    QTextBrowser::resizeEvent(event);
+    if (m_pictures.isEmpty() || event->size().width() == event->oldSize().width())
+        return;
+    for (auto picture = m_pictures.cbegin(); picture != m_pictures.cend(); ++picture)
+        document()->addResource(QTextDocument::ImageResource, picture.key(), fitted(*picture));
+    document()->markContentsDirty(0, document()->characterCount());
 }
 
 bool HelpBrowser::findText(const QString &text, bool backward)

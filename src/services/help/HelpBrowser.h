@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QHash>
+#include <QImage>
 #include <QTextBrowser>
 
 class HelpFile;
@@ -34,12 +36,16 @@ public:
 protected:
     void doSetSource(const QUrl &name, QTextDocument::ResourceType type) override;
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:
     void follow(const QUrl &link);
     void setDirection(const QUrl &source);
+    /// The picture, made smaller where it is wider than the page.
+    QImage fitted(const QImage &picture) const;
 
     const HelpFile *m_file = nullptr;
-    int m_zoom = 0; ///< steps above (or below) the normal size
+    QHash<QUrl, QImage> m_pictures; ///< of the page
+    int m_zoom = 0;                 ///< steps above (or below) the normal size
 };
