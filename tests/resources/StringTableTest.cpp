@@ -18,6 +18,13 @@ TEST(StringTable, TheProgramCarriesFaultlessTablesAndAPlainSound)
             for (const QRegularExpression &bone : bones)
                 EXPECT_EQ(text->count(bone), resText(text.key()).count(bone)) << text.key() << text->toStdString();
         }
+        const QString toolkit = QString(SOURCE_FOLDER "/src/resources/toolkit.%1.txt").arg(language);
+        for (const QByteArray &line : QFile::exists(toolkit) ? readFile(toolkit).split('\n') : QByteArrayList()) {
+            const QStringList parts = QString::fromUtf8(line).split('\t');
+            EXPECT_TRUE(line.isEmpty() || line.startsWith('#') || parts.size() == 2) << line.toStdString();
+            for (const QRegularExpression &bone : bones)
+                EXPECT_EQ(parts.first().count(bone), parts.last().count(bone)) << line.toStdString();
+        }
     }
     EXPECT_TRUE(ResourceFiles::contents(ResourceFiles::ErrorSound).contains({"WAVEfmt \20\0\0\0\1\0\1\0", 16}));
 }
