@@ -1,6 +1,7 @@
 #include "app/ToolkitLanguage.h"
 #include "app/modKod.h"
 #include "app/rules/CommandLine.h"
+#include "platform/DarkWish.h"
 #include "platform/FontReader.h"
 #include "resources/Pictures.h"
 #include "resources/TextLanguage.h"
@@ -37,9 +38,11 @@ int main(int argc, char **argv)
         return modKod::convert(commandLine.convertFiles);
     }
 
+    std::optional<DarkWish> darkWish(std::in_place);
     std::optional<FontReader> fontReader(std::in_place);
     QApplication application(argc, argv);
     fontReader.reset();
+    darkWish.reset();
     QApplication::setWindowIcon(picture(PictureApplication));
     QApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setDesktopFileName(QStringLiteral("glosaria"));
