@@ -34,6 +34,7 @@
 #include "services/desktop/EscapeKey.h"
 #include "services/desktop/HandleReserve.h"
 #include "services/desktop/PasteGuard.h"
+#include "services/desktop/PopupCloser.h"
 #include "services/desktop/ProgramStyle.h"
 #include "services/desktop/ScreenFit.h"
 #include "services/help/DialogHelp.h"
@@ -274,6 +275,7 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     QApplication::setStyle(new ProgramStyle);
     const ContextMenuKey contextMenuKey(application);
     const EscapeKey escapeKey(application);
+    const PopupCloser popupCloser(application);
     ClipboardOwner clipboardOwner;
     const PasteGuard pasteGuard(application, clipboardOwner);
     const ScreenFit screenFit(application);

@@ -3,9 +3,12 @@
 #include "services/desktop/Contrast.h"
 #include "services/desktop/EnterKey.h"
 #include "services/desktop/EscapeKey.h"
+#include "services/desktop/PopupCloser.h"
 #include "services/desktop/ProgramStyle.h"
 #include "services/desktop/ScreenFit.h"
 #include "support/Pixels.h"
+
+#include <QCompleter>
 
 const QPalette Dark(QColor(50, 50, 50)), Light(QColor(239, 239, 239));
 
@@ -314,4 +317,23 @@ TEST(DesktopKeys, EscapeClosesTheListAndThenTheDialog)
     EXPECT_TRUE(dialog.isVisible());
     QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
     EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST(DesktopPopups, ListsOfADialogEndWithIt)
+{
+    const PopupCloser closer(*qApp);
+    QDialog dialog, other;
+    QLineEdit line(&dialog);
+    QComboBox box(&dialog);
+    box.addItem("one");
+    line.setCompleter(new QCompleter({"words"}, &line));
+    for (const bool ofLine : {true, false}) {
+        dialog.show();
+        other.show();
+        ofLine ? line.completer()->complete() : box.showPopup();
+        other.hide();
+        EXPECT_TRUE(QApplication::activePopupWidget());
+        dialog.hide();
+        EXPECT_FALSE(QApplication::activePopupWidget());
+    }
 }
