@@ -44,6 +44,7 @@
 #include "services/settings/clsAppProperties.h"
 #include "services/settings/clsRegistry.h"
 #include "services/status/modSBFunc.h"
+#include "widgets/QuietPanes.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -273,6 +274,7 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     }
     SignalWatcher watcher;
     QApplication::setStyle(new ProgramStyle);
+    QuietPanes::install();
     const ContextMenuKey contextMenuKey(application);
     const EscapeKey escapeKey(application);
     const PopupCloser popupCloser(application);
