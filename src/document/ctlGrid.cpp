@@ -86,15 +86,17 @@ void ctlGrid::GridEdit(int KeyAscii)
         beginEdit(Text());
 }
 
+/// The focus comes before the text: a screen reader that has heard of the text's caret does not read the box again.
 bool ctlGrid::beginEdit(const QString &text)
 {
-    if (!openEditBox(text))
+    if (!openEditBox())
         return false;
     m_text1->setFocus();
+    m_text1->begin(text);
     return true;
 }
 
-bool ctlGrid::openEditBox(const QString &text)
+bool ctlGrid::openEditBox()
 {
     int row = Row();
     int col = Col();
@@ -103,7 +105,6 @@ bool ctlGrid::openEditBox(const QString &text)
     if (cancel)
         return false;
     dressEditBox();
-    m_text1->begin(text);
     showCell(Row(), Col());
     m_text1->show();
     RefreshTextPos();
@@ -354,8 +355,11 @@ void ctlGrid::inputMethodUsed(QInputMethodEvent *event)
         typeCharacter(int(character));
     if (event->preeditString().isEmpty())
         return;
-    if (!EditMode() && (Row() < 0 || Col() < 0 || !openEditBox(QString())))
-        return;
+    if (!EditMode()) {
+        if (Row() < 0 || Col() < 0 || !openEditBox())
+            return;
+        m_text1->begin(QString());
+    }
     QInputMethodEvent composing(event->preeditString(), event->attributes());
     QCoreApplication::sendEvent(m_text1, &composing);
     view().composeIn(m_text1);

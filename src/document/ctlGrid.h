@@ -79,7 +79,7 @@ protected:
 private:
     void connectEditBox();
     bool beginEdit(const QString &text);
-    bool openEditBox(const QString &text);
+    bool openEditBox();
     void commit();
     void closeEditBox();
     void editKeyPressed(int keyCode, int shift, bool &taken);
