@@ -45,6 +45,7 @@
 #include "services/settings/clsRegistry.h"
 #include "services/status/modSBFunc.h"
 #include "widgets/QuietPanes.h"
+#include "widgets/TextBoxAccessible.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -275,6 +276,7 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     SignalWatcher watcher;
     QApplication::setStyle(new ProgramStyle);
     QuietPanes::install();
+    TextBoxAccessible::install();
     const ContextMenuKey contextMenuKey(application);
     const EscapeKey escapeKey(application);
     const PopupCloser popupCloser(application);

@@ -1,5 +1,6 @@
 #include "widgets/ExtendedComboBox.h"
 #include "widgets/NumberBox.h"
+#include "widgets/TextBoxAccessible.h"
 #include "widgets/clsTimer.h"
 
 TEST(NumberBox, TakesDigitsOnlyAndRefusesTheRestAsAWhole)
@@ -101,4 +102,23 @@ TEST(Timer, TellsItsIntervalWhileItRuns)
         EXPECT_EQ(timer.Interval(), std::max(0, interval));
     }
     EXPECT_TRUE(QTest::qWaitFor([&ticks] { return ticks.size() > 1; }));
+}
+
+TEST(TextBox, IsToldToScreenReadersInOnePiece)
+{
+    TextBoxAccessible::install();
+    QLineEdit box("Katze");
+    box.resize(200, 30);
+    auto &told = *dynamic_cast<TextBoxAccessible *>(QAccessible::queryAccessibleInterface(&box));
+    box.setSelection(1, 2);
+    int start = -1, end = -1;
+    told.selection(0, &start, &end);
+    EXPECT_EQ(std::pair(start, end), std::pair(1, 3));
+    for (int letter = 0; letter < 5; ++letter) {
+        told.attributes(letter, &start, &end);
+        EXPECT_EQ(told.text(start, end), "Katze");
+        EXPECT_EQ(told.offsetAtPoint(told.characterRect(letter).topLeft() + QPoint(1, 5)), letter);
+    }
+    told.replaceText(4, 5, "en");
+    EXPECT_EQ(told.text(QAccessible::Value), "Katzen");
 }
