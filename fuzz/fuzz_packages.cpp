@@ -1,5 +1,6 @@
 // Any bytes as a file of any kind that is imported, archives and databases among them.
 
+#include "Application.h"
 #include "Require.h"
 
 #include "exchange/rules/ListReader.h"
@@ -9,6 +10,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
+    beApplication();
     const QByteArray bytes(reinterpret_cast<const char *>(data), qsizetype(size));
     const ListReader::Result opened = ListReader::open(bytes, {"windows-1252", QLocale::c()});
     require((opened.source == nullptr) == (opened.error != ReadError::None), "a list or a reason");

@@ -1,6 +1,7 @@
 // Any bytes as the XML of a workbook and as a format of its numbers: the first byte chooses the reader, the rest goes
 // to it as it would after unpacking.
 
+#include "Application.h"
 #include "Archive.h"
 #include "Require.h"
 
@@ -40,6 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     if (size == 0)
         return 0;
+    beApplication();
     const QByteArray bytes(reinterpret_cast<const char *>(data) + 1, qsizetype(size) - 1);
     try {
         for (const Workbook::Sheet &sheet : read(data[0] % 3, bytes)) {

@@ -2,7 +2,7 @@
 
 #include "exchange/rules/archive/PackedStream.h"
 
-struct zip;
+class ZipArchive;
 
 /// A zip archive in memory. Nothing of it is written under the names that stand in it.
 class ZipPackage
@@ -20,5 +20,5 @@ public:
     QByteArray start(const QString &name, qsizetype most) const;
 
 private:
-    zip *m_archive = nullptr;
+    std::unique_ptr<ZipArchive> m_archive;
 };

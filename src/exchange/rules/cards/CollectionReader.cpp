@@ -1,5 +1,7 @@
 #include "exchange/rules/cards/CollectionReader.h"
 
+#include "exchange/rules/archive/PackageLibraries.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -8,9 +10,7 @@
 #include <QSqlQuery>
 #include <QUuid>
 
-#include <cstring>
 #include <map>
-#include <sqlite3.h>
 
 namespace {
 
@@ -24,11 +24,7 @@ QString deckName(QString name)
 
 /// Newer collections order names by a rule that only their own program has. Tables can be looked at only where there is
 /// one of its name; nothing here depends on what it says.
-int anyOrder(void *, int firstSize, const void *first, int secondSize, const void *second)
-{
-    const int order = std::memcmp(first, second, size_t(std::min(firstSize, secondSize)));
-    return order != 0 ? order : firstSize - secondSize;
-}
+constexpr char NameOrder[] = "unicase";
 
 } // namespace
 
@@ -40,8 +36,8 @@ CollectionReader::CollectionReader(const QString &path, const Limits &limits)
     m_database.setDatabaseName(path);
     m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
     require(m_database.open());
-    auto *handle = *static_cast<sqlite3 **>(m_database.driver()->handle().data());
-    sqlite3_create_collation(handle, "unicase", SQLITE_UTF8, nullptr, anyOrder);
+    void *handle = *static_cast<void **>(m_database.driver()->handle().data());
+    PackageLibraries::loaded().addOrder(handle, NameOrder);
     for (const char *guard : {"PRAGMA query_only = ON", "PRAGMA trusted_schema = OFF", "PRAGMA cell_size_check = ON"})
         QSqlQuery(m_database).exec(QString::fromLatin1(guard));
 }
