@@ -6,6 +6,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -22,26 +23,76 @@ bool unescape(QString &text)
     return true;
 }
 
-/// Takes one line into the table; returns what is wrong with it, or an empty text.
-QString takeLine(QByteArrayView line, QHash<int, QString> &table)
+struct Line
+{
+    std::optional<int> id; ///< none: there is no number before a tab
+    QByteArrayView text;   ///< as it stands in the file
+};
+
+Line split(QByteArrayView line)
 {
     const qsizetype tab = line.indexOf('\t');
     bool isNumber = false;
     const int id = line.first(std::max<qsizetype>(tab, 0)).toInt(&isNumber);
-    QString text = QString::fromUtf8(line.sliced(tab + 1));
-    if (!isNumber || text.isEmpty() || text.front().isSpace() || text.back().isSpace() || !unescape(text))
+    return {isNumber ? std::optional(id) : std::nullopt, line.sliced(tab + 1)};
+}
+
+/// Takes one line into the table; returns what is wrong with it, or an empty text.
+QString takeLine(const Line &line, QHash<int, QString> &table)
+{
+    QString text = QString::fromUtf8(line.text);
+    if (!line.id || text.isEmpty() || text.front().isSpace() || text.back().isSpace() || !unescape(text))
         return QStringLiteral("malformed");
-    if (table.contains(id))
-        return QStringLiteral("doubled id %1").arg(id);
-    table.insert(id, text);
+    if (table.contains(*line.id))
+        return QStringLiteral("doubled id %1").arg(*line.id);
+    table.insert(*line.id, text);
     return {};
 }
 
-/// The texts in use: English ones until another table is laid over them.
-QHash<int, QString> &texts()
+/// Calls with every line that holds something, and its number.
+template <typename Take> void forEachLine(QByteArrayView source, Take take)
 {
-    static QHash<int, QString> table = parseStringTable(ResourceFiles::contents(ResourceFiles::StringTable));
-    return table;
+    for (int number = 1; !source.isEmpty(); ++number) {
+        const qsizetype end = source.indexOf('\n');
+        const QByteArrayView line = end < 0 ? source : source.first(end);
+        source = end < 0 ? QByteArrayView() : source.sliced(end + 1);
+        if (!line.isEmpty() && !line.startsWith('#'))
+            take(split(line), number);
+    }
+}
+
+/// The texts in use, as they stand in their files: of a thousand a start asks for two hundred.
+class Texts
+{
+public:
+    Texts() { lay(ResourceFiles::StringTable); }
+
+    /// Lays a table over those that are there. It holds no faults, which a test looks for.
+    void lay(QLatin1String file)
+    {
+        m_files.push_back(ResourceFiles::contents(file));
+        m_texts.reserve(m_files.back().count('\n'));
+        forEachLine(m_files.back(), [this](const Line &line, int) { m_texts.insert(line.id.value_or(0), line.text); });
+    }
+
+    QString text(int id) const
+    {
+        QString text = QString::fromUtf8(m_texts.value(id));
+        unescape(text);
+        return text;
+    }
+    QList<int> ids() const { return m_texts.keys(); }
+
+private:
+    std::vector<QByteArray> m_files;
+    QHash<int, QByteArrayView> m_texts;
+};
+
+/// English ones until another table is laid over them.
+Texts &texts()
+{
+    static Texts texts;
+    return texts;
 }
 
 /// Whose table lies over the English one.
@@ -71,39 +122,32 @@ void TextLanguage::use(const QString &language)
         return;
     languageInUse() = language;
     const QByteArray name = "strings." + language.toLatin1() + ".txt";
-    texts().insert(parseStringTable(ResourceFiles::contents(QLatin1String(name))));
+    texts().lay(QLatin1String(name));
 }
 
 QHash<int, QString> parseStringTable(QByteArrayView source, QStringList *faults)
 {
     QHash<int, QString> table;
     table.reserve(source.count('\n'));
-    for (int number = 1; !source.isEmpty(); ++number) {
-        const qsizetype end = source.indexOf('\n');
-        const QByteArrayView line = end < 0 ? source : source.first(end);
-        source = end < 0 ? QByteArrayView() : source.sliced(end + 1);
-        if (line.isEmpty() || line.startsWith('#'))
-            continue;
+    forEachLine(source, [&table, faults](const Line &line, int number) {
         const QString fault = takeLine(line, table);
         if (faults && !fault.isEmpty())
             faults->append(QStringLiteral("line %1: %2").arg(number).arg(fault));
-    }
+    });
     return table;
 }
 
 QString resText(int id)
 {
-    const auto found = texts().constFind(id);
-    if (found == texts().constEnd()) {
+    QString text = texts().text(id);
+    if (text.isEmpty())
         qWarning("There is no text with the id %d", id);
-        return {};
-    }
-    return *found;
+    return text;
 }
 
 QList<int> resTextIds()
 {
-    QList<int> ids = texts().keys();
+    QList<int> ids = texts().ids();
     std::sort(ids.begin(), ids.end());
     return ids;
 }

@@ -41,18 +41,21 @@ CodePage::CodePage(const QByteArray &name)
 
 void CodePage::readSingleBytes()
 {
+    // Each byte stands on a line of its own, so that a wrong one cannot disturb the next.
+    QByteArray bytes;
+    for (int byte = AsciiEnd; byte < 256; ++byte)
+        bytes.append(char(byte)).append('\n');
+    const QStringList lines = QString(QStringDecoder(m_name.constData())(bytes)).split(u'\n');
     for (int byte = AsciiEnd; byte < 256; ++byte) {
-        const char bytes[] = {char(byte)};
-        QStringDecoder decoder(m_name.constData());
-        const QString text = decoder(QByteArrayView(bytes, 1));
-        m_defined[byte] = !decoder.hasError() && text.size() == 1 && isLetter(text[0].unicode());
-        m_single[byte] = m_defined[byte] ? text[0].unicode() : keptByte(byte);
+        const QString line = lines.value(byte - AsciiEnd);
+        m_defined[byte] = line.size() == 1 && isLetter(line[0].unicode());
+        m_single[byte] = m_defined[byte] ? line[0].unicode() : keptByte(byte);
     }
 }
 
 void CodePage::readPairs()
 {
-    // Each pair stands on a line of its own, so that a wrong one cannot disturb the next.
+    // Each pair stands on a line of its own, too.
     QByteArray bytes;
     for (int lead = AsciiEnd; lead < 256; ++lead) {
         for (int trail = 0x30; trail < 256 && !isDefined(uchar(lead)); ++trail)
