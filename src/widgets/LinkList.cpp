@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -79,9 +80,21 @@ LinkButton::LinkButton(const QString &text, QWidget *parent)
 
 QSize LinkButton::sizeHint() const
 {
-    if (!m_size.isValid())
-        m_size = fontMetrics().size(Qt::TextSingleLine, text()) + QSize(2 * Margin, 2 * Margin);
+    layOut();
     return m_size;
+}
+
+void LinkButton::layOut() const
+{
+    if (m_size.isValid())
+        return;
+    QTextOption option;
+    option.setTextDirection(layoutDirection());
+    m_shape.setTextOption(option);
+    m_shape.setTextFormat(Qt::PlainText);
+    m_shape.setText(TextLanguage::isolated(text()));
+    m_shape.prepare({}, font());
+    m_size = {int(std::ceil(m_shape.size().width())) + 2 * Margin, fontMetrics().height() + 2 * Margin};
 }
 
 void LinkButton::changeEvent(QEvent *event)
@@ -97,8 +110,8 @@ void LinkButton::paintEvent(QPaintEvent *)
     type.setUnderline(underMouse() || hasFocus());
     painter.setFont(type);
     painter.setPen(Contrast::readable(palette().color(QPalette::Link), palette()));
-    painter.drawText(rect().adjusted(Margin, 0, -Margin, 0), Qt::AlignVCenter | Qt::TextSingleLine,
-                     TextLanguage::isolated(text()));
+    layOut();
+    painter.drawStaticText(Margin, Margin, m_shape);
     if (!hasFocus())
         return;
     QStyleOptionFocusRect option;
@@ -142,8 +155,10 @@ void LinkList::add(const Link &link)
 {
     auto *button = new LinkButton(link.text, this);
     button->setAccessibleDescription(m_heading);
-    button->setToolTip(FormTexts::plainToolTip(link.toolTip));
-    button->setAccessibleName(link.toolTip);
+    if (!link.toolTip.isEmpty()) {
+        button->setToolTip(FormTexts::plainToolTip(link.toolTip));
+        button->setAccessibleName(link.toolTip);
+    }
     FormTexts::setWhatsThis(button, link.whatsThisId);
     button->installEventFilter(this);
     connect(button, &LinkButton::clicked, this, link.run);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPushButton>
+#include <QStaticText>
 #include <QWidget>
 
 #include <functional>
@@ -27,7 +28,10 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    mutable QSize m_size; ///< invalid until it is asked for; layouts ask often
+    void layOut() const;
+
+    mutable QStaticText m_shape; ///< of the text: its letters are placed once, for its size and for the screen
+    mutable QSize m_size;        ///< invalid until it is asked for; layouts ask often
 };
 
 /// Links one below the other under a heading. The Tab key stops at the list once, the arrow keys, Home and End go

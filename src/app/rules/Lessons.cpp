@@ -1,30 +1,44 @@
 #include "app/rules/Lessons.h"
 
 #include <QDir>
-#include <QRegularExpression>
 
 namespace {
 
+const QString Ending = QStringLiteral(".gla");
+
+bool isDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+bool isGap(QChar c)
+{
+    return c == u'-' || c == u'_' || c == u' ';
+}
+
+/// "02-at-home" is "2 At home".
 QString titleOf(const QString &name)
 {
-    static const QRegularExpression number(QStringLiteral("^0*(\\d+)[-_ ]+(?=.)"));
-    QString title = name;
-    QString digits;
-    if (const QRegularExpressionMatch match = number.match(name); match.hasMatch()) {
-        digits = match.captured(1) + u' ';
-        title.remove(0, match.capturedLength());
-    }
+    const auto digitsEnd = std::find_if_not(name.begin(), name.end(), isDigit);
+    const auto rest = std::find_if_not(digitsEnd, name.end(), isGap);
+    const bool isNumbered = digitsEnd != name.begin() && rest != digitsEnd && rest != name.end();
+    QString number = isNumbered ? name.left(digitsEnd - name.begin()) + u' ' : QString();
+    while (number.size() > 2 && number.startsWith(u'0'))
+        number.remove(0, 1);
+    QString title = isNumbered ? name.mid(rest - name.begin()) : name;
     title.replace(u'-', u' ').replace(u'_', u' ');
     title[0] = title[0].toUpper();
-    return digits + title;
+    return number + title;
 }
 
 Lessons::Group groupIn(const QDir &folder, const QString &title)
 {
     Lessons::Group group{title, {}};
-    const QFileInfoList files = folder.entryInfoList({QStringLiteral("*.gla")}, QDir::Files, QDir::Name);
-    for (const QFileInfo &file : files)
-        group.lessons.push_back({titleOf(file.completeBaseName()), file.filePath()});
+    const QStringList files = folder.entryList(QDir::Files, QDir::Name); // filters by name take longer than the folder
+    for (const QString &file : files) {
+        if (file.size() > Ending.size() && file.endsWith(Ending, Qt::CaseInsensitive))
+            group.lessons.push_back({titleOf(file.chopped(Ending.size())), folder.filePath(file)});
+    }
     return group;
 }
 
