@@ -41,11 +41,10 @@ int main(int argc, char **argv)
     std::optional<DarkWish> darkWish(std::in_place);
     std::optional<FontReader> fontReader(std::in_place);
     QApplication application(argc, argv);
-    fontReader.reset();
     darkWish.reset();
     QApplication::setWindowIcon(picture(PictureApplication));
     QApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setDesktopFileName(QStringLiteral("glosaria"));
     const ToolkitLanguage toolkitLanguage(application, language);
-    return modKod::run(application, commandLine);
+    return modKod::run(application, commandLine, [&fontReader] { fontReader.reset(); });
 }

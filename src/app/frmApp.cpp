@@ -311,7 +311,7 @@ void frmApp::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
     QTimer::singleShot(FrameDelay, this, [this] { m_position->makeRoomForFrame(); });
-    QTimer::singleShot(0, this, &frmApp::updateStartPage); // the window is not kept waiting for it
+    QTimer::singleShot(0, this, &frmApp::updateStartPage); // no file may have opened
 }
 
 void frmApp::changeEvent(QEvent *event)

@@ -87,6 +87,9 @@ public:
     /// What is not named like a vocabulary is ignored.
     void OpenRequestedFile(const QString &text);
 
+    /// The start page shows while no document is open.
+    void updateStartPage();
+
     /// Shows the window, restores it if it is minimised, and brings it to the front.
     void bringToFront();
 
@@ -115,7 +118,6 @@ private:
     void createParts(const Needs &needs);
     QWidget *createCentre();
     void createStartPage(const QString &lessonFolder);
-    void updateStartPage();
     void placeDocument(frmDoc *document);
     void onRemoved();
     void updateState();

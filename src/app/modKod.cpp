@@ -209,7 +209,10 @@ void showInTurn(frmSplash *splash, frmApp &window, const QString &file, Recovery
 {
     if (splash)
         splash->show();
-    const auto timMain_ThatTime = [splash, &window] {
+    const bool opensFile = !splash && !file.isEmpty();
+    const auto timMain_ThatTime = [splash, &window, opensFile] {
+        if (!opensFile)
+            window.updateStartPage(); // so that it is drawn with the window
         window.show();
         if (splash)
             splash->raise();
@@ -262,7 +265,7 @@ bool modKod::answer(const CommandLine &commandLine, int &exitCode)
     return true;
 }
 
-int modKod::run(QApplication &application, const CommandLine &commandLine)
+int modKod::run(QApplication &application, const CommandLine &commandLine, const std::function<void()> &beforeWindows)
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     SingleInstance instance(InstancePlace::socketPath());
@@ -285,6 +288,8 @@ int modKod::run(QApplication &application, const CommandLine &commandLine)
     const ScreenFit screenFit(application);
     const HandleReserve handleReserve(application);
     readSettings(program);
+    if (beforeWindows)
+        beforeWindows();
 
     const std::unique_ptr<frmSplash> splash = makeSplash(commandLine);
     RecoveryKeeper keeper(program.codePage, recoveryFolder());

@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+#include <functional>
+
 struct CommandLine;
 class QApplication;
 
@@ -19,7 +21,7 @@ bool answer(const CommandLine &commandLine, int &exitCode);
 int convert(const QStringList &files);
 
 /// Runs as the only copy on the user's desktop, or hands the command line to the copy that runs already and returns.
-/// Returns the exit code of the process.
-int run(QApplication &application, const CommandLine &commandLine);
+/// What must be ready for the first window is waited for by beforeWindows. Returns the exit code of the process.
+int run(QApplication &application, const CommandLine &commandLine, const std::function<void()> &beforeWindows = {});
 
 } // namespace modKod

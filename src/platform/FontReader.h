@@ -2,8 +2,8 @@
 
 #include <thread>
 
-/// Reads the desktop's font configuration in the background while it lives, which takes about as long as connecting to
-/// the display. To be ended before the first window is made, so that the toolkit finds everything read.
+/// Reads the desktop's font configuration in the background while it lives, which takes longer than connecting to the
+/// display. To be ended before the first window is made, so that the toolkit finds everything read.
 class FontReader
 {
 public:

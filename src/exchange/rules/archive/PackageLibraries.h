@@ -13,8 +13,8 @@ public:
     virtual PackedStream::Source open(const QByteArray &name, bool &locked) const = 0;
 };
 
-/// What the libraries do that only packages of other programs need. These bring more libraries along, so that they stand
-/// in a module of their own, loaded with the first package: no start has to wait for them.
+/// What the libraries do that only packages of other programs need. These bring more libraries along, so they stand in
+/// a module of their own, loaded with the first package: no start has to wait for them.
 class PackageLibraries
 {
 public:
