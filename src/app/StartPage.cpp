@@ -8,6 +8,7 @@
 #include "widgets/LinkList.h"
 
 #include <QBoxLayout>
+#include <QCoreApplication>
 #include <QDir>
 #include <QGridLayout>
 #include <QResizeEvent>
@@ -134,6 +135,15 @@ void StartPage::showEvent(QShowEvent *event)
     setGeometry(place());
     placeLessons();
     QScrollArea::showEvent(event);
+    layOut();
+}
+
+/// At once, not when the event loop comes to it: it would be drawn twice, the first time out of place.
+void StartPage::layOut()
+{
+    for (LinkList *list : widget()->findChildren<LinkList *>())
+        QCoreApplication::sendPostedEvents(list, QEvent::LayoutRequest);
+    QCoreApplication::sendPostedEvents(widget(), QEvent::LayoutRequest);
 }
 
 void StartPage::resizeEvent(QResizeEvent *event)

@@ -42,6 +42,7 @@ private:
     void addLessons();
     void showRecentFiles();
     void placeLessons();
+    void layOut();
     QRect place() const;
 
     QWidget &m_area;
