@@ -94,7 +94,8 @@ void LinkButton::layOut() const
     m_shape.setTextFormat(Qt::PlainText);
     m_shape.setText(TextLanguage::isolated(text()));
     m_shape.prepare({}, font());
-    m_size = {int(std::ceil(m_shape.size().width())) + 2 * Margin, fontMetrics().height() + 2 * Margin};
+    const QSizeF size = m_shape.size();
+    m_size = QSize(int(std::ceil(size.width())), int(std::ceil(size.height()))) + QSize(2 * Margin, 2 * Margin);
 }
 
 void LinkButton::changeEvent(QEvent *event)
@@ -106,17 +107,28 @@ void LinkButton::changeEvent(QEvent *event)
 void LinkButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    QFont type = font();
-    type.setUnderline(underMouse() || hasFocus());
-    painter.setFont(type);
     painter.setPen(Contrast::readable(palette().color(QPalette::Link), palette()));
-    layOut();
-    painter.drawStaticText(Margin, Margin, m_shape);
+    drawText(painter);
     if (!hasFocus())
         return;
     QStyleOptionFocusRect option;
     option.initFrom(this);
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+}
+
+/// The line below it is no part of a laid out text.
+void LinkButton::drawText(QPainter &painter) const
+{
+    if (underMouse() || hasFocus()) {
+        QFont underlined = font();
+        underlined.setUnderline(true);
+        painter.setFont(underlined);
+        painter.drawText(rect().adjusted(Margin, 0, -Margin, 0), Qt::AlignVCenter | Qt::TextSingleLine,
+                         TextLanguage::isolated(text()));
+    } else {
+        layOut();
+        painter.drawStaticText(Margin, Margin, m_shape);
+    }
 }
 
 void LinkButton::keyPressEvent(QKeyEvent *event)

@@ -8,6 +8,7 @@
 #include <vector>
 
 class QLabel;
+class QPainter;
 class QVBoxLayout;
 
 /// A line of text that does something when it is clicked, or when Enter or the space bar is pressed on it. A screen
@@ -29,6 +30,7 @@ protected:
 
 private:
     void layOut() const;
+    void drawText(QPainter &painter) const;
 
     mutable QStaticText m_shape; ///< of the text: its letters are placed once, for its size and for the screen
     mutable QSize m_size;        ///< invalid until it is asked for; layouts ask often
