@@ -41,10 +41,12 @@ int main(int argc, char **argv)
     std::optional<DarkWish> darkWish(std::in_place);
     std::optional<FontReader> fontReader(std::in_place);
     QApplication application(argc, argv);
-    darkWish.reset();
     QApplication::setWindowIcon(picture(PictureApplication));
     QApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setDesktopFileName(QStringLiteral("glosaria"));
     const ToolkitLanguage toolkitLanguage(application, language);
-    return modKod::run(application, commandLine, [&fontReader] { fontReader.reset(); });
+    return modKod::run(application, commandLine, [&] {
+        fontReader.reset();
+        darkWish.reset(); // the thread before it may look at the environment
+    });
 }

@@ -2,7 +2,7 @@
 
 /// Lets GTK 3, from which the toolkit takes colours and dialogs on GNOME's desktop, begin in dark colours where the
 /// user has chosen dark windows there: GTK 3 itself knows only themes. Lives while the application connects to the
-/// desktop.
+/// desktop, and while no other thread reads the environment when it begins and ends.
 class DarkWish
 {
 public:
