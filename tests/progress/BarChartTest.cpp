@@ -64,7 +64,9 @@ TEST_F(BarChartTest, ShowsItsNumbersInTheOrderOfReadingAndNamesThemForKeysAndPoi
     EXPECT_NEAR(beyond("", 2 * line + 105), 300, 2);
     setBars({});
     EXPECT_EQ(along(99), three);
-    EXPECT_EQ(chart.minimumSizeHint() + chart.sizeHint(), QSize(280, 6 * line + 146));
+    EXPECT_EQ(chart.minimumSizeHint().height() + chart.sizeHint().height(), 6 * line + 146);
+    EXPECT_TRUE(chart.sizeHint().width() == 260 &&
+                chart.minimumSizeHint().width() > chart.fontMetrics().horizontalAdvance(title));
     EXPECT_EQ(chart.asText().toStdString(), title + std::string("\none: 3,000\ntwo: 0\nthree: 6,000\nfour: 1"));
     chart.setFocus();
     // keys, and places of the pointer
