@@ -85,9 +85,8 @@ TEST_F(BarChartTest, ShowsItsNumbersInTheOrderOfReadingAndNamesThemForKeysAndPoi
     }
     setBars({});
     EXPECT_EQ(chart.accessibleDescription(), "two: 0") << "still has the focus";
-    chart.clearFocus();
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&chart)->role(), QAccessible::Chart);
     chart.setBars("None", {});
-    chart.setFocus();
     QTest::keyClick(&chart, Qt::Key_Left);
     EXPECT_EQ(chart.accessibleDescription(), "");
 }

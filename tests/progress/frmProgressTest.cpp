@@ -4,6 +4,7 @@
 #include "support/OpenDocument.h"
 #include "support/Pixels.h"
 #include "support/ScriptedAlertBox.h"
+#include "support/Shown.h"
 
 /// Opened with the quiz mode "backwards in order".
 struct Progress : ::testing::Test, OpenDocument
@@ -14,7 +15,6 @@ struct Progress : ::testing::Test, OpenDocument
         for (const bool right : {true, false})
             memory.remember({WordKey::of("cat", "Katze"), Answer::Kind::Practice, right, false, 1});
         memory.remember({WordKey::of("Vogel", "bird"), Answer::Kind::Practice, true, false, 1});
-        const frmProgress::Needs needs{memory, alert, [this](QWidget *, const QString &) { return file; }};
         dialog = std::make_unique<frmProgress>(document, 2, needs, &window);
         dialog->show();
         table = dialog->findChild<QTreeView *>();
@@ -33,6 +33,7 @@ struct Progress : ::testing::Test, OpenDocument
     QString file = folder.filePath("table.csv");
     StoredMemory memory{folder.filePath("memory.sqlite"), [] { return QDateTime(QDate(2026, 11, 25), QTime(12, 0)); }};
     ScriptedAlertBox alert;
+    const frmProgress::Needs needs{memory, alert, [this](QWidget *, const QString &) { return file; }};
     std::unique_ptr<frmProgress> dialog;
     QTreeView *table;
 };
@@ -40,21 +41,38 @@ struct Progress : ::testing::Test, OpenDocument
 TEST_F(Progress, ShowsTheWordsInTheDirectionThatIsChosenExportsThemAndLeadsToOne)
 {
     EXPECT_EQ(lines(), "Hund dog 0 , Katze cat 0 , Vogel bird 1 1 25 Nov 2026 27 Nov 2026 20 %,");
+    EXPECT_EQ(shown(*dialog).toStdString(), "Progress -  | As&ked: | {Language 2 to Language 1} | [ ] &Numbers instead "
+                                            "of pictures | ? | &Select in Vocabulary | &Forget | &Export... | &Close");
     click("chkNumbers");
     const auto *numbers = dialog->findChild<QPlainTextEdit *>();
-    EXPECT_EQ(numbers->toPlainText().split('\n').filter(QRegularExpression(": [1-9]")).join(", ").toStdString(),
-              "New: 2, Learning: 1, 27 Nov 2026: 1, 25 Nov 2026: 1");
+    EXPECT_EQ(numbers->toPlainText().split('\n').filter(QRegularExpression(": [1-9]|[a-z]$")).join(", ").toStdString(),
+              "Words by state, New: 2, Learning: 1, Words due, next 30 days, 27 Nov 2026: 1, Answers a day, last 12 "
+              "weeks, 25 Nov 2026: 1");
     auto *direction = dialog->findChild<QComboBox *>();
     direction->setCurrentIndex(0);
     EXPECT_EQ(direction->currentText() + direction->itemText(1), "Language 1 to Language 2Language 2 to Language 1");
     EXPECT_EQ(lines(), "dog Hund 0 , cat Katze 2 1 25 Nov 2026 26 Nov 2026 10 %, bird Vogel 0 ,");
     EXPECT_EQ(table->model()->index(0, ProgressModel::Last).data(Qt::AccessibleTextRole), "none");
-    EXPECT_TRUE(numbers->isVisible() && !table->model()->data({}).isValid() &&
+    EXPECT_EQ(table->model()->index(0, ProgressModel::Asked).data(Qt::TextAlignmentRole).toInt(), 130);
+    EXPECT_EQ(table->model()->headerData(ProgressModel::Strength, Qt::Horizontal), "Strength");
+    EXPECT_TRUE(numbers->isVisible() && numbers->blockCount() == 123 && !table->model()->data({}).isValid() &&
                 !table->model()->headerData(0, Qt::Vertical).isValid());
     EXPECT_NEAR(table->columnWidth(0), table->columnWidth(1), 2);
-    const QRect strength = table->visualRect(table->model()->index(1, ProgressModel::Strength));
-    const QImage left = table->viewport()->grab(strength).toImage().copy(0, 6, strength.width() / 2, 1);
-    EXPECT_EQ(inkOf(left, left.pixelColor(0, 0)), QRect(4, 0, (strength.width() - 8) / 10, 1));
+    const auto strength = [this](int row) {
+        return table->viewport()
+            ->grab(table->visualRect(table->model()->index(row, ProgressModel::Strength)))
+            .toImage();
+    };
+    const QImage bar = strength(1);
+    EXPECT_EQ(inkOf(bar, bar.pixelColor(0, 0)), bar.rect().adjusted(4, 4, -4, -4));
+    const QImage left = bar.copy(0, 6, bar.width() / 2, 1);
+    EXPECT_EQ(inkOf(left, left.pixelColor(0, 0)), QRect(4, 0, (bar.width() - 8) / 10, 1));
+    EXPECT_TRUE(inkOf(strength(2), Qt::white).isEmpty());
+    const auto wide = [this](const char *text) { return table->fontMetrics().horizontalAdvance(text) + 16; };
+    EXPECT_EQ(table->columnWidth(ProgressModel::Asked), wide("Asked"));
+    EXPECT_EQ(table->columnWidth(ProgressModel::Strength), wide("28 Dec 2028"));
+    for (const auto &[mode, chosen] : {std::pair(1, 0), {2, 1}, {5, 0}})
+        EXPECT_EQ(frmProgress(document, mode, needs, &window).findChild<QComboBox *>()->currentIndex(), chosen) << mode;
     table->setCurrentIndex(table->model()->index(1, 0));
     table->sortByColumn(ProgressModel::Word, Qt::AscendingOrder);
     click("btnExport");
@@ -66,15 +84,16 @@ TEST_F(Progress, ShowsTheWordsInTheDirectionThatIsChosenExportsThemAndLeadsToOne
     table->sortByColumn(ProgressModel::Right, Qt::DescendingOrder);
     EXPECT_EQ(lines(), "cat Katze 2 1 25 Nov 2026 26 Nov 2026 10 %, dog Hund 0 , bird Vogel 0 ,");
     click("btnSelect");
-    EXPECT_TRUE(!dialog->isVisible() && dialog->chosenRow() == 2 && alert.shown.size() == 1);
+    EXPECT_TRUE(!dialog->isVisible() && dialog->chosenRow() == 2 && alert.shown.at(0).sound &&
+                alert.shown.at(0).exclamation);
 }
 
 TEST_F(Progress, ForgetsOnlyAfterAsking)
 {
     table->setCurrentIndex(table->model()->index(2, 0));
-    alert.answers = {AlertBox::AnswerNo, AlertBox::AnswerYes, AlertBox::AnswerYes};
+    alert.answers = {AlertBox::AnswerNo, AlertBox::AnswerYes, AlertBox::AnswerNo, AlertBox::AnswerYes};
     std::string kept;
-    for (const int entry : {0, 0, 2}) {
+    for (const int entry : {0, 0, 1, 2}) {
         QAction *forget = dialog->findChild<QMenu *>()->actions().at(entry);
         forget->trigger();
         memory.finish();
@@ -82,7 +101,9 @@ TEST_F(Progress, ForgetsOnlyAfterAsking)
             kept += std::to_string(card.asked);
         kept += ' ' + (forget->text() + alert.shown.back().prompt.section(' ', 2)).toStdString() + '\n';
     }
-    EXPECT_EQ(kept, "21 &Selected Words...answers to the selected word?\n20 &Selected Words...answers to the selected "
-                    "word?\n00 &Everything...answers that were ever given, to this and to every other vocabulary?\n");
+    EXPECT_EQ(kept,
+              "21 &Selected Words...answers to the selected word?\n20 &Selected Words...answers to the selected "
+              "word?\n20 All Words of this &Vocabulary...answers to the 3 words of this vocabulary, as it is asked "
+              "here?\n00 &Everything...answers that were ever given, to this and to every other vocabulary?\n");
     EXPECT_TRUE(QTest::qWaitFor([this] { return lines() == "Hund dog 0 , Katze cat 0 , Vogel bird 0 ,"; }));
 }

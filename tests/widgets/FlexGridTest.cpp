@@ -37,29 +37,12 @@ TEST(FlexGridSortTest, OrdersTheSelectedRowsByEveryKind)
     }
 }
 
-TEST(FlexGridProperties, AreStoredByNameAndReadBack)
-{
-    FlexGrid grid;
-    for (int i = grid.metaObject()->propertyOffset(); i < grid.metaObject()->propertyCount(); ++i) {
-        const QMetaProperty property = grid.metaObject()->property(i);
-        property.write(&grid, property.read(&grid).toInt() == 2 ? 1 : 2);
-    }
-    QVariantMap stored = grid.saveProperties();
-    stored.remove("MouseIcon"); // pictures are never equal
-    FlexGrid other;
-    other.loadProperties(stored);
-    QVariantMap read = other.saveProperties();
-    read.remove("MouseIcon");
-    EXPECT_EQ(read, stored);
-    other.loadProperties({{"Cols", 3}});
-    EXPECT_EQ(other.FixedRows() * 10 + other.Cols(), 13) << "what is not stored is as in a new grid";
-}
-
 TEST(FlexGridOperations, DoWhatTheySayAlsoWhereNobodyUsesThem)
 {
     FlexGrid grid;
     grid.setFormatString("|^Word|Meaning;|first|second|third");
-    EXPECT_EQ(column(grid, 0) + grid.TextMatrix(0, 2), "first,second,thirdMeaning");
+    EXPECT_EQ(column(grid, 0) + grid.TextMatrix(0, 1) + grid.TextMatrix(0, 2), "first,second,thirdWordMeaning");
+    EXPECT_NEAR(grid.ColWidth(1) / 15, QFontMetricsF(grid.Font()).horizontalAdvance("Word") + 7, 1);
     EXPECT_EQ(grid.ColAlignment(1) * 10 + grid.FixedAlignment(1), 44) << "as the column";
     grid.setFixedAlignment(1, 1);
     grid.setMergeCol(1, true);
@@ -84,9 +67,24 @@ TEST(FlexGridOperations, DoWhatTheySayAlsoWhereNobodyUsesThem)
         EXPECT_EQ(grid.CellTextStyle() * 10 + grid.CellPictureAlignment(), formatted ? 25 : 0);
         EXPECT_EQ(grid.CellPicture().isNull(), !formatted);
     }
+    grid.Select(0, 1, 0, 1);
+    EXPECT_EQ(grid.CellAlignment(), 1) << "that of fixed cells";
+    QStringList limits;
+    for (const char *name :
+         {"Appearance", "AllowUserResizing", "BorderStyle", "FillStyle", "FocusRect", "GridLines", "GridLinesFixed",
+          "GridLineWidth", "HighLight", "PictureType", "ScrollBars", "SelectionMode", "TextStyle", "TextStyleFixed"}) {
+        for (const int value : {-9, 99}) {
+            grid.setProperty(name, value);
+            limits += grid.property(name).toString();
+        }
+    }
+    EXPECT_EQ(limits.join(' ').toStdString(), "0 1 0 3 0 1 0 1 0 2 0 3 0 3 1 10 0 2 0 1 0 3 0 2 0 4 0 4");
+    grid.loadProperties({{"Cols", 3}});
+    EXPECT_EQ(QPair(grid.FixedRows(), grid.Cols()), QPair(1, 3)) << "what is not stored is as in a new grid";
     QStandardItemModel model(0, 2);
     grid.setDataSource(&model);
     model.setHorizontalHeaderLabels({"L1", "L2"});
     model.appendRow({new QStandardItem("x"), new QStandardItem("y")});
-    EXPECT_EQ(grid.TextMatrix(0, 2) + column(grid, 1) + column(grid, 2), "L2xy");
+    model.appendRow(new QStandardItem("z"));
+    EXPECT_EQ(grid.TextMatrix(0, 2) + column(grid, 1) + column(grid, 2), "L2x,zy,");
 }

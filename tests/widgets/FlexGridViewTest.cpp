@@ -133,14 +133,15 @@ TEST_F(ShownGrid, DraggingBeyondTheEdgeScrollsOn)
         grid.setTopRow(1);
         QTest::mousePress(viewport(), Qt::LeftButton, {}, cell(3, 1));
         moveTo(at(150, 400));
-        QTRY_VERIFY(grid.TopRow() > 3);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return grid.TopRow() > 3; }));
         QTest::mouseRelease(viewport(), Qt::LeftButton, {}, at(150, 400));
         EXPECT_EQ(grid.Row(), 3);
         EXPECT_GT(grid.RowSel(), 12);
         grid.showCell(50, 1);
         QTest::mousePress(viewport(), Qt::LeftButton, {}, cell(50, 1));
         moveTo(at(700, -50));
-        QTRY_VERIFY(grid.TopRow() < 40 && grid.hwndGrid()->horizontalScrollBar()->value() > 50);
+        const auto *across = grid.hwndGrid()->horizontalScrollBar();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return grid.TopRow() < 40 && across->value() > 50; }));
         QTest::mouseRelease(viewport(), Qt::LeftButton, {}, cell(30, 2));
     }
 }
@@ -210,7 +211,7 @@ TEST_F(ShownGrid, KeysAndMouseAreToldInTheirNumbers)
     QObject::connect(&grid, &FlexGrid::MouseUp, &grid, note("mouse up"));
     QObject::connect(&grid, &FlexGrid::Click, &grid, note("click"));
     for (const char *keys :
-         {"Shift+PgDown", "Return", "Ctrl+Q", "Alt+F2", "Z", "Del", "Num+5", "5", "F24", ";", "Esc", "Backspace"})
+         {"Shift+PgDown", "Return", "Ctrl+Q", "Alt+F1", "Z", "Del", "Num+5", "5", "F24", ";", "Esc", "Backspace"})
         QTest::keySequence(grid.hwndGrid(), QKeySequence(keys));
     drag(QPoint(40, 30), QPoint(41, 31), Qt::RightButton, Qt::ControlModifier);
     drag(QPoint(40, 30), QPoint(40, 30));
@@ -220,7 +221,7 @@ TEST_F(ShownGrid, KeysAndMouseAreToldInTheirNumbers)
     EXPECT_EQ(
         log.join(", ").toStdString(),
         "down 16 1, down 34 1, up 34 1, up 16 0, down 13 0, press 13, up 13 0, down 17 2, down 81 2, up 81 2, "
-        "up 17 0, down 18 4, down 113 4, up 113 4, up 18 0, down 90 0, press 122, up 90 0, down 46 0, up 46 0, "
+        "up 17 0, down 18 4, down 112 4, up 112 4, up 18 0, down 90 0, press 122, up 90 0, down 46 0, up 46 0, "
         "down 101 0, press 53, up 101 0, down 53 0, press 53, up 53 0, down 135 0, up 135 0, down 0 0, press 59, "
         "up 0 0, down 27 0, press 27, up 27 0, down 8 0, press 8, up 8 0, mouse down 2 2 600 450, move 1 0 615 465, "
         "mouse up 2 2 615 465, mouse down 1 0 600 450, mouse up 1 0 600 450, click, mouse down 2 0 2235 1635, "
@@ -263,7 +264,7 @@ TEST_F(ShownGrid, TheWheelScrollsAndWithCtrlWantsAnotherSize)
     EXPECT_EQ(places.toStdString(), "Z1 0,1 Z-2 0,1 0,1 0,1 Z1 0,1 72,1 72,4 0,4 72,4 72,1 0,1 ");
 }
 
-TEST_F(ShownGrid, AfterEveryChangeTheScreenShowsWhatTheGridHolds)
+TEST_F(ShownGrid, AfterEveryChangeTheScreenShowsWhatTheGridHoldsAndPropertiesAreToldAndStored)
 {
     const auto expectShown = [this](const char *what) {
         grid.setRedraw(true);
@@ -277,13 +278,13 @@ TEST_F(ShownGrid, AfterEveryChangeTheScreenShowsWhatTheGridHolds)
     const std::pair<const char *, std::function<void()>> steps[] = {
         {"text", [this] { grid.setTextMatrix(2, 2, "word"); }},
         {"clip", [this] { grid.setClip("pasted"); }},
+        {"colour", [this] { grid.setCellForeColor(0xFF); }},
+        {"all", [this] { grid.Clear(); }},
         {"rows", [this] { grid.removeRows(2, 1); }},
         {"columns", [this] { grid.setColPosition(1, 2); }},
         {"width", [this] { grid.setColWidth(2, 3000); }},
         {"place", [this] { grid.setTopRow(40); }},
-        {"colour", [this] { grid.setCellForeColor(0xFF); }},
-        {"drawing", [this] { grid.setRedraw(false), grid.setRows(5000), grid.setTopRow(4999), grid.setRedraw(true); }},
-        {"all", [this] { grid.Clear(); }}};
+        {"drawing", [this] { grid.setRedraw(false), grid.setRows(5000), grid.setTopRow(4999), grid.setRedraw(true); }}};
     for (const auto &[what, step] : steps) {
         step();
         expectShown(what);
@@ -299,6 +300,9 @@ TEST_F(ShownGrid, AfterEveryChangeTheScreenShowsWhatTheGridHolds)
             EXPECT_TRUE(!changed || told.value(0).value(0) == property.name()) << property.name();
             changes += changed;
             expectShown(property.name());
+            FlexGrid other;
+            other.loadProperties(grid.saveProperties());
+            EXPECT_TRUE(property.read(&other) == property.read(&grid) || property.name() == QString("MouseIcon"));
         }
         EXPECT_GT(changes, 0) << property.name();
     }

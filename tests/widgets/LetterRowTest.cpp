@@ -17,6 +17,8 @@ TEST(LetterRowTest, ClicksAndKeysTypeLettersAndTheirCapitals)
     const QList<QToolButton *> buttons = row->findChildren<QToolButton *>();
     ASSERT_EQ(buttons.size(), 3);
     EXPECT_EQ(buttons[2]->toolTip(), "Ctrl+3");
+    const auto wide = [&buttons](int i) { return buttons[i]->sizeHint().width(); };
+    EXPECT_EQ(row->childrenRect(), QRect(0, 0, wide(0) + wide(1) + wide(2), row->height()));
     box->setFocus();
     for (QToolButton *button : buttons)
         QTest::mouseClick(button, Qt::LeftButton);
@@ -25,14 +27,22 @@ TEST(LetterRowTest, ClicksAndKeysTypeLettersAndTheirCapitals)
     EXPECT_EQ(buttons[0]->accessibleName(), "Ä");
     QTest::mouseClick(buttons[1], Qt::LeftButton, Qt::ShiftModifier);
     QTest::mouseClick(buttons[2], Qt::LeftButton, Qt::ShiftModifier);
+    QEvent away(QEvent::ApplicationDeactivate);
+    QCoreApplication::sendEvent(qApp, &away);
+    EXPECT_EQ(buttons[0]->accessibleName() + buttons[0]->text(), "ää");
     QTest::keyRelease(box, Qt::Key_Shift);
     QTest::keyClick(box, Qt::Key_1, Qt::ControlModifier);
     QTest::keyClick(box, Qt::Key_1, Qt::ControlModifier | Qt::ShiftModifier);
     QTest::keyClick(box, Qt::Key_4, Qt::ControlModifier); // there is none
     EXPECT_EQ(box->text(), "äßжßЖäÄ");
     QTest::keyClick(box, Qt::Key_Tab);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+    for (const QString &step : QString("Right 1, Left 0, Left 0, Right 1, Right 2, Right 2").split(", ")) {
+        QTest::keySequence(QApplication::focusWidget(), QKeySequence(step.section(' ', 0, 0)));
+        for (int i = 0; i < 3; ++i)
+            EXPECT_EQ(buttons[i]->hasFocus() && buttons[i]->focusPolicy() == Qt::TabFocus,
+                      i == step.back().digitValue());
+        EXPECT_EQ((buttons[0]->focusPolicy() | buttons[1]->focusPolicy() | buttons[2]->focusPolicy()), Qt::TabFocus);
+    }
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
     EXPECT_EQ(box->text(), "äßжßЖäÄж");
     row->setLetters({});

@@ -12,14 +12,18 @@ TEST(LinkListTest, KeysGoAlongItsLinksAndReadersAreToldOfThem)
     list.adjustSize();
     const auto &links = list.links();
     EXPECT_EQ(list.childrenRect(), list.rect());
-    EXPECT_EQ(list.height(), list.findChild<QLabel *>()->height() + 3 * links[0]->height());
+    const auto *heading = list.findChild<QLabel *>();
+    EXPECT_TRUE(heading->font().bold() && heading->margin() == 3 && list.accessibleName() == "Files");
+    EXPECT_EQ(list.height(), heading->height() + 3 * links[0]->height());
+    EXPECT_EQ(links[0]->size(), links[0]->fontMetrics().size(0, "one") + QSize(6, 6));
     links[2]->setFocus();
     const QImage plain = links[0]->grab().toImage();
     links[0]->setAttribute(Qt::WA_UnderMouse);
-    EXPECT_NE(links[0]->grab().toImage(), plain);
+    const QImage underMouse = links[0]->grab().toImage();
     links[0]->setAttribute(Qt::WA_UnderMouse, false);
     links[0]->setFocus();
-    EXPECT_NE(links[0]->grab().toImage(), plain);
+    const QImage focused = links[0]->grab().toImage();
+    EXPECT_TRUE(underMouse != plain && focused != plain);
     for (const QString &step : QString("Down 1, Down 2, Down 2, Up 1, A 1, Home 0, Up 0, End 2, Up 1").split(", ")) {
         QTest::keySequence(QApplication::focusWidget(), QKeySequence(step.section(' ', 0, 0)));
         for (size_t i = 0; i < 3; ++i) {
