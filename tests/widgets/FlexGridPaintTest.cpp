@@ -1,110 +1,8 @@
 #include "widgets/grid/FlexGrid.h"
 
 #include "services/desktop/Contrast.h"
-#include "support/Pixels.h"
 #include "widgets/grid/FlexGridColours.h"
 #include "widgets/grid/FlexGridView.h"
-
-/// A grid of large cells that is looked at pixel by pixel.
-struct PaintedGrid : ::testing::Test
-{
-    PaintedGrid()
-    {
-        grid.setRows(4);
-        grid.setCols(3);
-        grid.setRowHeight(-1, 600);
-        grid.setColWidth(-1, 1500);
-        grid.setBorderStyle(0);
-        grid.setFocusRect(0);
-        grid.setHighLight(0);
-        QPalette palette = grid.palette();
-        palette.setColor(QPalette::Light, Qt::red);
-        grid.setPalette(palette);
-        grid.resize(320, 200);
-        grid.show();
-    }
-
-    QImage image(int row, int col) { return grid.grab(grid.hwndGrid()->cellRect(row, col)).toImage(); }
-    /// The part of a cell's picture in which something other than its ground is drawn.
-    QRect inkOf(int row, int col)
-    {
-        const QImage cell = image(row, col);
-        return ::inkOf(cell.copy(1, 1, cell.width() - 3, cell.height() - 3), cell.pixelColor(1, 1)).translated(1, 1);
-    }
-
-    FlexGrid grid;
-};
-
-TEST_F(PaintedGrid, TextsStandWhereTheirReadersLook)
-{
-    const std::tuple<const char *, int, bool, int> cases[] = {{"ab", 1, true, 1},
-                                                              {"ab", 7, false, 1},
-                                                              {"ab", 9, true, 1},
-                                                              {"12", 9, false, 1},
-                                                              {"\u05d0\u05d1", 1, false, 1},
-                                                              {"\u0628\u064a\u062a", 9, false, 1},
-                                                              {"ab", 0, true, 0},
-                                                              {"ab", 8, false, 2}};
-    for (const auto &[text, alignment, left, third] : cases) {
-        grid.setTextMatrix(1, 1, text);
-        grid.setColAlignment(1, alignment);
-        const QRect ink = inkOf(1, 1);
-        EXPECT_TRUE((ink.left() < 8) == left && (ink.right() > 90) == !left && ink.center().y() * 3 / 40 == third)
-            << text;
-        for (const int style : {1, 2, 3, 4, 0}) { // raised and inset, which throw light to one side
-            grid.setTextStyle(style);
-            const int step = style == 0 ? 0 : style % 2 ? -1 : 1;
-            EXPECT_EQ(inkOf(1, 1), (ink | ink.translated(step, step)) & QRect(1, 1, 97, 37)) << style;
-        }
-    }
-}
-
-TEST_F(PaintedGrid, FirstLinesAreShownWhenNotAllFit)
-{
-    const double line = QFontMetricsF(grid.Font()).height();
-    grid.setWordWrap(true);
-    grid.setTextMatrix(1, 1, "one two three four five six seven eight");
-    EXPECT_NEAR(grid.fittingRowHeight(1) / 15, 3 * line + 2, 2);
-    grid.setRowHeight(1, int(line * 1.6 * 15));
-    EXPECT_LT(inkOf(1, 1).height(), line) << "no half line below the first";
-}
-
-TEST_F(PaintedGrid, TextsAreCutAtEverySizeWhereTheyAreAtTheNormalOneAndShowAllOfThemselvesAsToolTip)
-{
-    const QFontMetricsF metrics(grid.Font());
-    grid.resize(500, 300);
-    grid.setRows(9);
-    grid.setRowHeight(-1, 300);
-    grid.setWordWrap(true);
-    QString word;
-    for (int row = 1; row < 9; ++row, word += "il") // what just fits
-        grid.setTextMatrix(
-            row, 1, word + QString(int((93 - metrics.horizontalAdvance(word)) / metrics.horizontalAdvance("m")), 'm'));
-    const QString cut = "<b> & two three four five six seven";
-    grid.setTextMatrix(2, 1, cut);
-    grid.setTextMatrix(4, 1, "one two three four");
-    grid.setRowHeight(4, grid.fittingRowHeight(4));
-    const int fitting = grid.fittingRowHeight(2);
-    const auto toolTip = [this](int row) {
-        grid.setTopRow(row);
-        const QPoint at = grid.hwndGrid()->cellRect(row, 1).topLeft() + QPoint(2, 2);
-        QHelpEvent asked(QEvent::ToolTip, at, grid.hwndGrid()->viewport()->mapToGlobal(at));
-        QEvent newWindow(QEvent::WindowActivate); // before which a tool tip goes at once
-        QCoreApplication::sendEvent(&grid, &newWindow);
-        QCoreApplication::sendEvent(grid.hwndGrid()->viewport(), &asked);
-        return QToolTip::isVisible() ? QToolTip::text() : "";
-    };
-    for (const int percent : {50, 60, 70, 80, 90, 110, 125, 175, 200, 250, 300, 400, 100}) {
-        grid.setZoom(percent);
-        EXPECT_EQ(grid.fittingRowHeight(2), fitting) << percent;
-        const double points = QFontInfo(QToolTip::font()).pointSizeF() * percent / 100;
-        const QString style = percent == 100 ? "" : QString(" style='font-size:%1pt'").arg(points);
-        for (int row = 1; row < 9; ++row)
-            EXPECT_EQ(toolTip(row), row == 2 ? "<p dir='ltr'" + style + ">" + cut.toHtmlEscaped() + "</p>" : "") << row;
-    }
-    grid.setWordWrap(false);
-    EXPECT_EQ(toolTip(4), "<p dir='ltr'>one two three four</p>");
-}
 
 /// Grids of two by two small cells without letters, drawn with a sign for each colour: w b cells, f fixed ones, s
 /// selected, o focus, + x lines, L D light and dark edges, r a picture and . what lies beyond.
@@ -232,19 +130,17 @@ TEST(DrawnGrid, LinesSelectionFocusMergesAndPicturesStandInTheirPlaces)
 
 TEST(FlexGridColoursTest, TextsStayReadableOnEveryPalette)
 {
-    const QPalette dark(QColor(230, 230, 230), Qt::gray, {}, {}, {}, QColor(230, 230, 230), QColor(30, 30, 30));
-    const QPalette light(QColor(10, 10, 10), Qt::white, {}, {}, {}, QColor(10, 10, 10), Qt::white);
-    const auto text = [](unsigned colour, const QPalette &palette) {
-        return FlexGridColours::text(int(colour), palette, palette.base().color());
-    };
-    for (const QPalette &palette : {dark, light}) {
+    for (const auto &[text, base] :
+         {std::pair(QColor(230, 230, 230), QColor(30, 30, 30)), {QColor(10, 10, 10), QColor(Qt::white)}}) {
+        const QPalette palette(text, Qt::gray, {}, {}, {}, text, base);
         for (const unsigned value : {0x80000005U, 0x80000008U, 0x8000000FU, 0x800000FFU})
-            EXPECT_EQ(text(value, palette), palette.text().color()) << value;
+            EXPECT_EQ(FlexGridColours::text(int(value), palette, base), text) << value;
+        for (const int value : {0, 0x800000, 0x808080, 0x101010, 0x0000FF}) {
+            const QColor shown = FlexGridColours::text(value, palette, base);
+            EXPECT_TRUE(base == Qt::white ? shown == QColor(value & 0xFF, value >> 8 & 0xFF, value >> 16)
+                                          : Contrast::between(shown, base) >= 4.5)
+                << value;
+        }
+        EXPECT_EQ(FlexGridColours::ground(int(0x8000000D), palette), palette.highlight().color());
     }
-    EXPECT_EQ(text(0, dark), dark.text().color());
-    EXPECT_EQ(text(0, light), QColor(Qt::black));
-    EXPECT_EQ(text(0x0000FF, light), QColor(Qt::red));
-    for (const unsigned value : {0x800000U, 0x0000FFU, 0x808080U, 0x101010U})
-        EXPECT_GE(Contrast::between(text(value, dark), dark.base().color()), 4.5) << value;
-    EXPECT_EQ(FlexGridColours::ground(0x8000000D, light), light.highlight().color());
 }

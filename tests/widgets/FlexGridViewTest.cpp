@@ -1,6 +1,6 @@
 #include "widgets/grid/FlexGridView.h"
+#include "support/Pixels.h"
 #include "widgets/grid/FlexGrid.h"
-#include "widgets/grid/FlexGridZoom.h"
 
 /// A shown grid of 200 rows of 20 pixels and three word columns of 100.
 struct ShownGrid : ::testing::Test
@@ -50,6 +50,13 @@ struct ShownGrid : ::testing::Test
             .arg(grid.RowSel())
             .arg(grid.ColSel())
             .toStdString();
+    }
+
+    /// The part of cell 1 of row 1 in which something other than its ground is drawn.
+    QRect inkOfCell()
+    {
+        const QImage cell = grid.grab(grid.hwndGrid()->cellRect(1, 1)).toImage();
+        return inkOf(cell.copy(1, 1, cell.width() - 3, cell.height() - 3), cell.pixelColor(1, 1)).translated(1, 1);
     }
 
     FlexGrid grid;
@@ -308,19 +315,69 @@ TEST_F(ShownGrid, AfterEveryChangeTheScreenShowsWhatTheGridHoldsAndPropertiesAre
     }
 }
 
-TEST(FlexGridZoom, LeadsThroughTheUsualSizesAndChangesNothingThatIsKept)
+TEST_F(ShownGrid, TextsStandWhereTheirReadersLook)
 {
-    const std::tuple<int, int, int> cases[] = {
-        {100, 1, 110}, {100, -1, 90}, {110, -1, 100}, {123, 1, 125}, {123, -1, 110}, {100, 3, 150},  {350, 9, 400},
-        {400, 1, 400}, {60, -1, 50},  {50, -1, 50},   {30, -1, 50},  {900, 1, 400},  {900, -1, 400}, {77, 0, 77}};
-    for (const auto &[from, steps, to] : cases)
-        EXPECT_EQ(FlexGridZoom::stepped(from, steps), to) << from << " by " << steps;
-    FlexGrid grid;
-    QSignalSpy written(&grid, &FlexGrid::PropertyChanged);
-    for (const auto &[wanted, percent] : {std::pair(9, 50), {100, 100}, {150, 150}, {999, 400}}) {
-        grid.setZoom(wanted);
-        EXPECT_EQ(grid.Zoom(), percent);
-        EXPECT_NEAR(grid.shownFont().pointSizeF(), grid.Font().pointSizeF() * percent / 100, 0.01);
-        EXPECT_TRUE(grid.RowHeight(1) == 285 && grid.ColWidth(1) == 960 && written.isEmpty());
+    QPalette palette = grid.palette();
+    palette.setColor(QPalette::Light, Qt::red);
+    grid.setPalette(palette);
+    grid.setRowHeight(1, 600);
+    // a text, its alignment, and the side and the third of the height where it stands
+    for (const QString &test : QString("ab 1 left 1, ab 7 right 1, ab 9 left 1, 12 9 right 1, \u05d0\u05d1 1 right 1, "
+                                       "\u0628\u064a\u062a 9 right 1, ab 0 left 0, ab 8 right 2")
+                                   .split(", ")) {
+        grid.setTextMatrix(1, 1, test.section(' ', 0, 0));
+        grid.setColAlignment(1, test.section(' ', 1, 1).toInt());
+        const QRect ink = inkOfCell();
+        const QString side = ink.left() < 8 ? "left" : ink.right() > 90 ? "right" : "middle";
+        EXPECT_EQ(side + QString(" %1").arg(ink.center().y() * 3 / 40), test.section(' ', 2)) << test.toStdString();
+        for (const int style : {1, 2, 3, 4, 0}) { // raised and inset, which throw light to one side
+            grid.setTextStyle(style);
+            const int step = style == 0 ? 0 : style % 2 ? -1 : 1;
+            EXPECT_EQ(inkOfCell(), (ink | ink.translated(step, step)) & QRect(1, 1, 97, 37)) << style;
+        }
     }
+}
+
+TEST_F(ShownGrid, FirstLinesAreShownWhenNotAllFit)
+{
+    const double line = QFontMetricsF(grid.Font()).height();
+    grid.setWordWrap(true);
+    grid.setTextMatrix(1, 1, "one two three four five six seven eight");
+    EXPECT_NEAR(grid.fittingRowHeight(1) / 15, 3 * line + 2, 2);
+    grid.setRowHeight(1, int(line * 1.6 * 15));
+    EXPECT_LT(inkOfCell().height(), line) << "no half line below the first";
+}
+
+TEST_F(ShownGrid, TextsAreCutAtEverySizeWhereTheyAreAtTheNormalOneAndShowAllOfThemselvesAsToolTip)
+{
+    const QFontMetricsF metrics(grid.Font());
+    grid.setWordWrap(true);
+    QString word;
+    for (int row = 1; row < 9; ++row, word += "il") // what just fits
+        grid.setTextMatrix(
+            row, 1, word + QString(int((93 - metrics.horizontalAdvance(word)) / metrics.horizontalAdvance("m")), 'm'));
+    const QString cut = "<b> & two three four five six seven";
+    grid.setTextMatrix(2, 1, cut);
+    grid.setTextMatrix(4, 1, "one two three four");
+    grid.setRowHeight(4, grid.fittingRowHeight(4));
+    const int fitting = grid.fittingRowHeight(2);
+    const auto toolTip = [this](int row) {
+        grid.setTopRow(row);
+        const QPoint at = grid.hwndGrid()->cellRect(row, 1).topLeft() + QPoint(2, 2);
+        QHelpEvent asked(QEvent::ToolTip, at, grid.hwndGrid()->viewport()->mapToGlobal(at));
+        QEvent newWindow(QEvent::WindowActivate); // before which a tool tip goes at once
+        QCoreApplication::sendEvent(&grid, &newWindow);
+        QCoreApplication::sendEvent(grid.hwndGrid()->viewport(), &asked);
+        return QToolTip::isVisible() ? QToolTip::text() : "";
+    };
+    for (const int percent : {50, 60, 70, 80, 90, 110, 125, 175, 200, 250, 300, 400, 100}) {
+        grid.setZoom(percent);
+        EXPECT_EQ(grid.fittingRowHeight(2), fitting) << percent;
+        const double points = QFontInfo(QToolTip::font()).pointSizeF() * percent / 100;
+        const QString style = percent == 100 ? "" : QString(" style='font-size:%1pt'").arg(points);
+        for (int row = 1; row < 9; ++row)
+            EXPECT_EQ(toolTip(row), row == 2 ? "<p dir='ltr'" + style + ">" + cut.toHtmlEscaped() + "</p>" : "") << row;
+    }
+    grid.setWordWrap(false);
+    EXPECT_EQ(toolTip(4), "<p dir='ltr'>one two three four</p>");
 }
