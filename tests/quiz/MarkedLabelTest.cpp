@@ -74,7 +74,6 @@ TEST_F(MarkedLabelTest, TwoLinesAreTakenBeforeTheTextEndsInAnEllipsis)
     label.setMarkedText(many, {{5, 1, Surplus}, {9000, 5, Right}}, "a note");
     EXPECT_EQ(twoLines, label.sizeHint().height());
     EXPECT_EQ(many + "\na note", label.toolTip());
-    EXPECT_FALSE(label.grab().isNull());
     label.setFullText("one line");
     EXPECT_EQ(oneLine, label.sizeHint().height());
     EXPECT_LT(20, ink(label.grab().toImage()).width());

@@ -11,11 +11,9 @@ TEST(QuizProgressTest, ShowsTheSharesOfRightAndWrongAnswersInTheOrderOfReading)
         bar.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
         const QImage image = bar.grab().toImage();
         const auto at = [&](int x) { return image.pixelColor(rightToLeft ? 99 - x : x, image.height() / 2).rgb(); };
-        for (const int x : {5, 20, 38})
-            EXPECT_EQ(at(x), QColor(QuizColours::Right).rgb()) << x;
-        for (const int x : {42, 55, 68})
-            EXPECT_EQ(at(x), QColor(QuizColours::Wrong).rgb()) << x;
-        EXPECT_EQ(at(72), at(90)) << "still to come";
-        EXPECT_NE(at(72), at(68));
+        QString seen; // right, wrong and still to come
+        for (const int x : {5, 20, 38, 42, 55, 68, 72, 90})
+            seen += at(x) == QuizColours::Right.rgb() ? 'r' : at(x) == QuizColours::Wrong.rgb() ? 'w' : '-';
+        EXPECT_EQ("rrrwww--", seen);
     }
 }

@@ -200,14 +200,13 @@ TEST_F(frmOvaTest, AHeldKeyOrADoubleClickAnswersOneQuestion)
 TEST_F(frmOvaTest, PracticeSpellsTheAnswersOutByItself)
 {
     open(Practice, {{"one", "1"}, {"two", "2"}});
-    auto *seconds = control<QLineEdit>("txtTime");
+    QWidget *seconds = control("txtTime");
     EXPECT_FALSE(seconds->isEnabled() || control("chkError")->isEnabled());
     click(control("chkAuto"));
     EXPECT_TRUE(settings.AutoCheck() && session()->revealing() && control("chkError")->isEnabled());
     ASSERT_EQ(seconds, window->focusWidget());
     type("0.05");
-    EXPECT_EQ(50, settings.AutoTimerInterval());
-    EXPECT_EQ(control("btnCheck"), window->focusWidget());
+    EXPECT_TRUE(settings.AutoTimerInterval() == 50 && control("btnCheck")->hasFocus());
     EXPECT_TRUE(QTest::qWaitFor([this] { return session()->done(); }));
     QAccessible::queryAccessibleInterface(seconds)->setText(QAccessible::Value, "0.02");
     EXPECT_EQ(20, settings.AutoTimerInterval());
@@ -232,14 +231,11 @@ TEST_F(frmOvaTest, TheDocumentStepsAsideAndComesBack)
 {
     m_document->showMaximized();
     load(MultipleChoice, {{"dog", "Hund"}, {"cat", "Katze"}});
-    EXPECT_EQ(u"0", window->Tag());
-    EXPECT_FALSE(m_document->isMinimized());
+    EXPECT_TRUE(window->Tag() == u"0" && !m_document->isMinimized());
     open(Practice);
     EXPECT_TRUE(m_document->isMinimized());
     key(Qt::Key_Escape);
-    EXPECT_FALSE(window->isVisible());
-    EXPECT_TRUE(m_document->isMaximized());
-    EXPECT_EQ(m_document, m_area.activeSubWindow());
+    EXPECT_TRUE(!window->isVisible() && m_document->isMaximized() && m_area.activeSubWindow() == m_document);
     open(Practice);
     delete m_document; // the program is told to end
     key(Qt::Key_Escape);
@@ -248,11 +244,20 @@ TEST_F(frmOvaTest, TheDocumentStepsAsideAndComesBack)
 
 TEST_F(frmOvaTest, WordsGrowWithTheWindowWhosePlaceIsRemembered)
 {
-    const auto type = [this](const char *name) { return control(QString::fromLatin1(name))->font().pointSizeF(); };
+    const auto types = [this] {
+        std::vector<double> sizes;
+        for (const char *name : {"lblFraga", "lblPrev", "lblCorr", "lblNote", "lblScore", "txtSvar", "optAnswer1"})
+            sizes.push_back(control(name)->font().pointSizeF());
+        return sizes;
+    };
+    using namespace testing;
     open(QuestionAndAnswer);
     const QSize first = window->size();
     const QSize larger = first * 1.25;
-    const std::pair before(type("lblFraga"), type("lblPrev"));
+    const std::vector<double> before = types();
+    std::vector<double> scaled;
+    for (const double size : before)
+        scaled.push_back(size * 1.25);
     key(Qt::Key_Escape);
     EXPECT_TRUE(settings.QuizWindow().isEmpty()) << "the user has changed nothing";
 
@@ -263,11 +268,10 @@ TEST_F(frmOvaTest, WordsGrowWithTheWindowWhosePlaceIsRemembered)
     EXPECT_EQ(QRect(QPoint(30, 20), larger), settings.QuizWindow());
     open(QuestionAndAnswer);
     EXPECT_EQ(larger, window->size());
-    EXPECT_NEAR(1.25 * before.first, type("lblFraga"), 0.5);
-    EXPECT_NEAR(1.25 * before.second, type("lblPrev"), 0.5);
-    window->resize(1, 1);
-    EXPECT_NEAR(before.first, type("lblFraga"), 0.1) << "large words do not hold the window open";
+    EXPECT_THAT(types(), Pointwise(DoubleNear(0.5), scaled));
+    window->resize(1, 1); // large words do not hold the window open
+    EXPECT_THAT(types(), Pointwise(DoubleNear(0.1), before));
     EXPECT_LE(window->height(), first.height());
-    window->resize(larger.width(), first.height());
-    EXPECT_NEAR(before.first, type("lblFraga"), 1) << "they need height, too";
+    window->resize(larger.width(), first.height()); // they need height, too
+    EXPECT_THAT(types(), Pointwise(DoubleNear(1), before));
 }

@@ -15,10 +15,7 @@ public:
 
 struct frmSplashTest : ::testing::Test
 {
-    template <class Control = QWidget> Control *control(const QString &name)
-    {
-        return window.findChild<Control *>(name);
-    }
+    QWidget *control(const QString &name) { return window.findChild<QWidget *>(name); }
     void open(frmSplash::Status status)
     {
         window.setLoadStatus(status);
@@ -37,7 +34,7 @@ TEST_F(frmSplashTest, TheSplashStandsInTheMiddleAndHasNothingToClick)
     EXPECT_FALSE(control("btnOK")->isVisible() || control("imgLink0")->isEnabled());
     const QPoint off = window.frameGeometry().center() - window.screen()->availableGeometry().center();
     EXPECT_LE(off.manhattanLength(), 2);
-    EXPECT_EQ(u"Version 3.1", control<QLabel>("lblVersion")->text());
+    EXPECT_EQ(u"Version 3.1", window.findChild<QLabel *>("lblVersion")->text());
     // what is painted from the left edge: a line, the frame, the patterned strip, the ground; then two white cards
     const QImage image = window.grab().toImage();
     QString seen;
@@ -62,7 +59,7 @@ TEST_F(frmSplashTest, TheAboutBoxTellsAndOpensItsLinksAndHidesADedication)
     open(frmSplash::About);
     const QStringList links{resText(2001), resText(2002)};
     for (const int i : {0, 1}) {
-        auto *link = control<QToolButton>(QStringLiteral("imgLink%1").arg(i));
+        auto *link = window.findChild<QToolButton *>(QStringLiteral("imgLink%1").arg(i));
         EXPECT_FALSE(link->icon().isNull() || link->toolTip() != resText(2006 + i));
         told.clear();
         link->setFocus();
@@ -74,7 +71,7 @@ TEST_F(frmSplashTest, TheAboutBoxTellsAndOpensItsLinksAndHidesADedication)
         QDesktopServices::unsetUrlHandler(scheme);
     EXPECT_EQ(links, opener.opened);
 
-    auto *line = control<QLabel>("lblCopyright");
+    auto *line = window.findChild<QLabel *>("lblCopyright");
     QTest::mousePress(line, Qt::LeftButton);
     EXPECT_EQ(resText(2005), line->text());
     QTest::mouseRelease(line, Qt::LeftButton);
