@@ -69,9 +69,8 @@ TEST_F(QuizReaderTest, WhatTheOptionsWantIsReadInItsLanguage)
         start(kind, question, answers);
         for (const char *given : {"Hund", "wrong", "Kuh"})
             answer(given);
-        EXPECT_TRUE(session->done());
         EXPECT_EQ(speaker.said.join(u'|'), said);
-        EXPECT_TRUE(button.isHidden()) << "there is no question any more";
+        EXPECT_TRUE(session->done() && button.isHidden()) << "there is no question any more";
     }
     reader.reset();
     EXPECT_EQ(speaker.said.last(), ".") << "reading ends with the quiz";
@@ -84,7 +83,6 @@ TEST_F(QuizReaderTest, TheButtonReadsTheQuestionWhereThereIsAVoice)
     button.click();
     button.click();
     EXPECT_EQ(speaker.said.join(u'|'), "en:dog|en:dog");
-    ASSERT_TRUE(speaker.waiting);
     speaker.waiting({QLocale::English});
     EXPECT_FALSE(button.isHidden());
     speaker.waiting({QLocale::German});

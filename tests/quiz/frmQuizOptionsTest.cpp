@@ -5,7 +5,6 @@
 TEST(frmQuizOptionsTest, EveryControlChangesItsOptionOnOKOnly)
 {
     StoredSettings stored;
-    clsAppProperties &settings = stored.settings;
     QuizOptions expected;
     const std::pair<const char *, std::function<void()>> cases[] = {
         {"txtMost", [&] { expected.mostWords = 10; }},
@@ -20,7 +19,7 @@ TEST(frmQuizOptionsTest, EveryControlChangesItsOptionOnOKOnly)
     };
     for (const auto &[name, change] : cases) {
         for (const Qt::Key end : {Qt::Key_Escape, Qt::Key_Return}) {
-            frmQuizOptions dialog(settings, true);
+            frmQuizOptions dialog(stored.settings, true);
             dialog.show();
             auto *control = dialog.findChild<QWidget *>(name);
             // in place of the number that is selected
@@ -29,10 +28,10 @@ TEST(frmQuizOptionsTest, EveryControlChangesItsOptionOnOKOnly)
                 change();
             QTest::keyClick(&dialog, end);
             EXPECT_FALSE(dialog.isVisible());
-            EXPECT_EQ(settings.quizOptions(), expected) << name;
+            EXPECT_EQ(stored.settings.quizOptions(), expected) << name;
         }
     }
-    frmQuizOptions silent(settings, false);
+    frmQuizOptions silent(stored.settings, false);
     silent.show();
     EXPECT_FALSE(silent.findChild<QWidget *>("chkReadQuestion")->isVisible());
     EXPECT_EQ(u"10", silent.findChild<QSpinBox *>("txtMost")->text());

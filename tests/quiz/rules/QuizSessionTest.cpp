@@ -97,8 +97,7 @@ TEST_F(QuizSessionTest, WholeQuizzesOfEachKindInEachModeUntilNoErrorIsLeft)
             ASSERT_EQ(asked, session.questionCount());
             std::vector<Question> missed;
             for (int k = 1; k <= asked; ++k) {
-                ASSERT_FALSE(session.done());
-                ASSERT_EQ(k, session.currentQuestion());
+                ASSERT_TRUE(!session.done() && session.currentQuestion() == k);
                 const Question question = session.question();
                 EXPECT_TRUE(expected.empty() || expected[size_t(k - 1)] == question);
                 const bool correctly = k % 3 != 0;
@@ -110,7 +109,6 @@ TEST_F(QuizSessionTest, WholeQuizzesOfEachKindInEachModeUntilNoErrorIsLeft)
                 const QString number = question.askedWord().mid(1);
                 words.insert({u'e' + number, u'g' + number});
                 EXPECT_EQ(question, missedAnswers.ofRound().back().question);
-                EXPECT_EQ(session.givenAnswer(), missedAnswers.ofRound().back().given);
             }
             EXPECT_TRUE(session.done());
             quiz.answer(true);
