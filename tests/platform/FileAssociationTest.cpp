@@ -20,9 +20,9 @@ struct FileAssociationTest : ::testing::Test
             const QString tool = writeFile(tools.filePath(name), "#!/bin/sh\necho ${0##*/} $* >> ${0%/*}/calls\n");
             QFile::setPermissions(tool, QFile::ReadOwner | QFile::ExeOwner);
         }
-        qputenv("XDG_DATA_HOME", QFile::encodeName(user.path()));
-        qputenv("XDG_DATA_DIRS", QFile::encodeName(system.path()));
-        qputenv("PATH", QFile::encodeName(tools.path()));
+        for (const auto &[name, folder] :
+             {std::pair("XDG_DATA_HOME", &user), {"XDG_DATA_DIRS", &system}, {"PATH", &tools}})
+            qputenv(name, folder->path().toUtf8());
     }
     ~FileAssociationTest() override { qputenv("PATH", path); }
 
@@ -32,35 +32,33 @@ struct FileAssociationTest : ::testing::Test
 
 TEST_F(FileAssociationTest, DesktopLearnsTypeIconsAndProgram)
 {
+    const QString log = writeFile(tools.filePath("calls"), "");
     ASSERT_TRUE(glosaria().registerType());
-    for (const char *name : {"icons/hicolor/scalable/apps/glosaria.svg", "applications/glosaria.desktop",
-                             "icons/hicolor/scalable/mimetypes/application-x-glosaria.svg"})
-        EXPECT_GT(QFileInfo(user.filePath(name)).size(), 0) << name;
-    QStringList calls;
-    for (int i = 0; i < 4000 && calls.size() < 3; ++i, QThread::msleep(5)) {
-        const QString log = tools.filePath("calls");
-        calls = QFile::exists(log) ? QString(readFile(log)).split('\n', Qt::SkipEmptyParts) : calls;
-    }
+    for (int i = 0; i < 4000 && readFile(log).count('\n') < 3; ++i)
+        QThread::msleep(5);
+    ASSERT_TRUE(glosaria().registerType()); // nothing has changed
+    QStringList calls = QString(readFile(log)).split('\n', Qt::SkipEmptyParts);
     calls.sort();
     EXPECT_EQ(calls.join(", "), QString("update-desktop-database %1/applications, update-mime-database %1/mime, "
                                         "xdg-mime default glosaria.desktop application/x-glosaria")
                                     .arg(user.path()));
-    ASSERT_TRUE(glosaria().registerType());
-    EXPECT_EQ(readFile(tools.filePath("calls")).count('\n'), 3) << "nothing has changed";
-    const QMimeType type = QMimeDatabase().mimeTypeForFile("x.gla", QMimeDatabase::MatchExtension);
-    EXPECT_EQ(type.name(), FileAssociation::mimeType());
-    EXPECT_TRUE(packaged("glosaria.desktop").split('\n').contains("MimeType=" + type.name().toUtf8() + ';'));
+    const QString icons = user.filePath("icons/hicolor/scalable/");
+    EXPECT_EQ(readFile(icons + "apps/glosaria.svg"), "<svg>program</svg>");
+    EXPECT_EQ(readFile(icons + "mimetypes/application-x-glosaria.svg"), "<svg>file</svg>");
+    EXPECT_EQ(readFile(user.filePath("applications/glosaria.desktop")), glosaria().userEntry());
+    EXPECT_EQ(QMimeDatabase().mimeTypeForFile("x.gla", QMimeDatabase::MatchExtension).name(), "application/x-glosaria");
+    EXPECT_TRUE(packaged("glosaria.desktop").contains("\nMimeType=application/x-glosaria;\n"));
 }
 
 TEST_F(FileAssociationTest, InstalledPackageComesFirst)
 {
-    for (const auto &[program, broken] : {std::pair("/bin/sh", false), std::pair("/missing\\it", true)}) {
+    for (const auto &[program, broken] : {std::pair("/bin/sh", false), {"/missing\\it", true}}) {
         ASSERT_TRUE(glosaria(program).registerType());
         EXPECT_EQ(FileAssociation::isBroken(), broken) << program;
     }
-    for (const char *name : {"mime/packages/glosaria.xml", "applications/glosaria.desktop"}) {
+    for (const QString name : {"mime/packages/glosaria.xml", "applications/glosaria.desktop"}) {
         EXPECT_FALSE(FileAssociation::isInstalled());
-        QDir(system.path()).mkpath(QFileInfo(name).path());
+        QDir(system.path()).mkpath(name.section('/', 0, -2));
         writeFile(system.filePath(name), "");
     }
     for (const char *attempt : {"gives way", "is not written again"}) {
@@ -71,10 +69,9 @@ TEST_F(FileAssociationTest, InstalledPackageComesFirst)
 
 TEST(FileAssociation, ProgramPathIsQuoted)
 {
-    const char *const cases[][2] = {{"/opt/my programs/glosaria", R"("/opt/my programs/glosaria" %f)"},
-                                    {"/opt/100%/glosaria", R"("/opt/100%%/glosaria" %f)"},
-                                    {"/a\"b$c`d/glosaria", R"("/a\\"b\\$c\\`d/glosaria" %f)"},
-                                    {"/a\\b/%1/glosaria", R"("/a\\\\b/%%1/glosaria" %f)"}};
-    for (const auto &[path, exec] : cases)
+    for (const auto &[path, exec] : {std::pair("/opt/my programs/glosaria", R"("/opt/my programs/glosaria" %f)"),
+                                     {"/opt/100%/glosaria", R"("/opt/100%%/glosaria" %f)"},
+                                     {"/a\"b$c`d/glosaria", R"("/a\\"b\\$c\\`d/glosaria" %f)"},
+                                     {"/a\\b/%1/glosaria", R"("/a\\\\b/%%1/glosaria" %f)"}})
         EXPECT_TRUE(glosaria(path).userEntry().contains(QByteArray("\nExec=").append(exec).append('\n'))) << path;
 }

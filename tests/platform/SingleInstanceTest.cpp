@@ -15,7 +15,6 @@ struct SingleInstanceTest : ::testing::Test
     using Copy = std::shared_ptr<QProcess>;
     using Socket = std::unique_ptr<QLocalSocket>;
 
-    QString path() const { return m_folder.filePath("copy"); }
     Copy start(const QString &text, int answerLimit = 5000, const QString &token = {}) const
     {
         Copy copy(new QProcess, [](QProcess *process) {
@@ -23,43 +22,40 @@ struct SingleInstanceTest : ::testing::Test
             process->waitForFinished(Patience);
             delete process;
         });
-        copy->start(QStringLiteral(SINGLE_INSTANCE_HELPER), {path(), text, QString::number(answerLimit), token});
+        copy->start(SINGLE_INSTANCE_HELPER, {path, text, QString::number(answerLimit), token});
         return copy;
     }
-    /// The next line that the copy says; empty when it ends without one.
-    static std::string line(const Copy &copy)
+    /// The next lines that the copy says, with slashes between them; fewer when it ends.
+    static std::string says(const Copy &copy, int lines = 1)
     {
         while (!copy->canReadLine() && copy->waitForReadyRead(Patience)) {
         }
-        return QString::fromUtf8(copy->readLine()).trimmed().toStdString();
+        const std::string line = copy->readLine().trimmed().toStdString();
+        return lines > 1 ? line + '/' + says(copy, lines - 1) : line;
     }
     Copy startFirst() const
     {
-        Copy copy = start(QString());
-        EXPECT_EQ(line(copy), "first");
+        Copy copy = start("");
+        EXPECT_EQ(says(copy), "first");
         return copy;
     }
-    void expectSecond(const char *text, int answerLimit = 5000, const char *token = "") const
+    void expectSecond(const QString &text, int answerLimit = 5000, const QString &token = {}) const
     {
-        const Copy second = start(QString::fromUtf8(text), answerLimit, token);
-        EXPECT_EQ(line(second), "second");
+        const Copy second = start(text, answerLimit, token);
+        EXPECT_EQ(says(second), "second");
         EXPECT_TRUE(second->waitForFinished(Patience));
-    }
-    static void expectReceived(const Copy &first, const char *text)
-    {
-        EXPECT_EQ(line(first), "activated");
-        EXPECT_EQ(line(first), std::string("received ") + text);
     }
     Socket connectWith(const QByteArray &bytes) const
     {
         auto socket = std::make_unique<QLocalSocket>();
-        socket->connectToServer(path());
+        socket->connectToServer(path);
         if (socket->waitForConnected(0))
             socket->write(bytes);
         return socket;
     }
 
-    QTemporaryDir m_folder;
+    QTemporaryDir folder;
+    const QString path = folder.filePath("copy");
 };
 
 TEST(HandOff, MessageIsTheBlockAndTheTextInUtf16)
@@ -80,34 +76,30 @@ TEST_F(SingleInstanceTest, LaterCopiesHandOverTheirCommandLineUntilTheFirstEnds)
 {
     const Copy first = startFirst();
     struct stat status = {};
-    ASSERT_EQ(::stat(qPrintable(path()), &status), 0);
-    EXPECT_EQ(status.st_mode & 0077, 0u);
-    const QByteArray longest(30000, 'x');
-    for (const char *text : {"\"/home/anna/my words.gla\"", longest.constData(), "quit"}) {
+    EXPECT_TRUE(::stat(qPrintable(path), &status) == 0 && (status.st_mode & 0077) == 0);
+    for (const QString &text : {QString("\"/home/anna/my words.gla\""), QString(30000, 'x'), QString("quit")}) {
         expectSecond(text);
-        expectReceived(first, text);
+        EXPECT_EQ(says(first, 2), "activated/received " + text.toStdString());
     }
     EXPECT_TRUE(first->waitForFinished(Patience));
-    EXPECT_FALSE(QFileInfo::exists(path()));
+    EXPECT_FALSE(QFileInfo::exists(path));
     const Copy next = startFirst();
     expectSecond("");
-    EXPECT_EQ(line(next), "activated");
     expectSecond("", 5000, "token");
-    EXPECT_EQ(line(next), "activated token");
+    EXPECT_EQ(says(next, 2), "activated/activated token");
 }
 
 TEST_F(SingleInstanceTest, OfManySimultaneousStartsOneIsFirst)
 {
     startFirst();
-    ASSERT_TRUE(QFileInfo::exists(path())) << "the killed copy leaves its socket behind";
+    ASSERT_TRUE(QFileInfo::exists(path)) << "the killed copy leaves its socket behind";
     std::vector<Copy> copies;
     for (int i = 0; i < 10; ++i)
         copies.push_back(start("copy"));
-    const auto isFirst = [](const Copy &copy) { return line(copy) == "first"; };
-    const auto first = std::partition(copies.begin(), copies.end(), isFirst) - 1;
-    ASSERT_EQ(first, copies.begin());
+    const auto isFirst = [](const Copy &copy) { return says(copy) == "first"; };
+    ASSERT_EQ(std::partition(copies.begin(), copies.end(), isFirst), copies.begin() + 1);
     for (int i = 0; i < 9; ++i)
-        expectReceived(*first, "copy");
+        EXPECT_EQ(says(copies[0], 2), "activated/received copy");
 }
 
 TEST_F(SingleInstanceTest, StoppedFirstCopyHoldsNobodyUpAndFindsTheMessageLater)
@@ -115,58 +107,52 @@ TEST_F(SingleInstanceTest, StoppedFirstCopyHoldsNobodyUpAndFindsTheMessageLater)
     const Copy first = startFirst();
     ASSERT_EQ(::kill(pid_t(first->processId()), SIGSTOP), 0);
     expectSecond("/a.gla", 100);
-    std::vector<Socket> crowd;
-    for (int i = 0; i < 80; ++i)
-        crowd.push_back(connectWith(QByteArray()));
+    std::vector<Socket> crowd(80);
+    std::generate(crowd.begin(), crowd.end(), [this] { return connectWith({}); });
     expectSecond("/lost.gla", 100);
     crowd.clear();
     ASSERT_EQ(::kill(pid_t(first->processId()), SIGCONT), 0);
-    expectReceived(first, "/a.gla");
+    EXPECT_EQ(says(first, 2), "activated/received /a.gla");
 }
 
 TEST_F(SingleInstanceTest, BadMessagesAreDroppedAndBlockNobody)
 {
     const Copy first = startFirst();
     const QByteArray whole = HandOff::message("/a.gla");
-    std::vector<Socket> sockets;
     for (const QByteArray &bytes : {QByteArray(), whole.chopped(1), QByteArray::fromHex("00000000ffffff7f"),
-                                    QByteArray(200000, '\xff'), QByteArray(whole + "more")})
-        sockets.push_back(connectWith(bytes));
-    expectSecond("/b.gla");
-    expectReceived(first, "/b.gla");
-    for (const Socket &socket : sockets) {
+                                    QByteArray(200000, '\xff'), QByteArray(whole + "more")}) {
+        const Socket socket = connectWith(bytes);
+        expectSecond("/b.gla");
+        EXPECT_EQ(says(first, 2), "activated/received /b.gla");
         EXPECT_TRUE(socket->state() == QLocalSocket::UnconnectedState || socket->waitForDisconnected(Patience));
         EXPECT_EQ(socket->bytesAvailable(), 0);
     }
     const rlimit fewHandles{40, 40};
     ASSERT_EQ(::prlimit(pid_t(first->processId()), RLIMIT_NOFILE, &fewHandles, nullptr), 0);
-    std::vector<Socket> crowd; // that stays
-    for (int i = 0; i < 200; ++i)
-        crowd.push_back(connectWith(QByteArray()));
+    std::vector<Socket> crowd(200); // that stays
+    std::generate(crowd.begin(), crowd.end(), [this] { return connectWith({}); });
     expectSecond("/c.gla");
-    expectReceived(first, "/c.gla");
+    EXPECT_EQ(says(first, 2), "activated/received /c.gla");
 }
 
 TEST_F(SingleInstanceTest, NoMessageIsLostAtTheStartOrTheEndOfTheFirst)
 {
     QStringList received;
-    SingleInstance first(path());
-    ASSERT_EQ(first.start(QString()), SingleInstance::Role::First);
-    const Socket early = connectWith(HandOff::message(QStringLiteral("/early.gla")));
+    SingleInstance first(path);
+    ASSERT_EQ(first.start({}), SingleInstance::Role::First);
+    const Socket early = connectWith(HandOff::message("/early.gla"));
     QCoreApplication::processEvents();
     QObject::connect(&first, &SingleInstance::received, [&](const QString &text) { received.append(text); });
     first.serve();
     while (!early->waitForReadyRead(1))
         QCoreApplication::processEvents();
-    EXPECT_EQ(received, QStringList{QStringLiteral("/early.gla")});
-
-    const Socket waiting = connectWith(HandOff::message(QStringLiteral("/waiting.gla")));
-    connectWith(HandOff::message(QStringLiteral("/given-up.gla")))->waitForBytesWritten();
-    EXPECT_EQ(first.leave(), QStringList{QStringLiteral("/given-up.gla")});
+    const Socket waiting = connectWith(HandOff::message("/waiting.gla"));
+    connectWith(HandOff::message("/given-up.gla"))->waitForBytesWritten();
+    EXPECT_EQ(first.leave(), QStringList("/given-up.gla"));
     EXPECT_TRUE(waiting->waitForDisconnected(Patience));
     EXPECT_EQ(waiting->bytesAvailable(), 0) << "it tries again";
     QCoreApplication::processEvents();
-    EXPECT_EQ(received.size(), 1);
+    EXPECT_EQ(received, QStringList("/early.gla"));
     startFirst();
 }
 
@@ -174,22 +160,21 @@ TEST(InstancePlace, ShortPathInAPrivateFolderForEachDisplay)
 {
     const QTemporaryDir folder;
     const QString longFolder = folder.filePath(QString(90, u'd'));
-    QDir().mkpath(longFolder);
+    for (const QString &name : {longFolder, folder.filePath("glosaria")}) // where others may look
+        QDir().mkpath(name);
     const auto placeIn = [](const QString &runtime, const QByteArray &wayland, const QByteArray &x11) {
-        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime));
+        qputenv("XDG_RUNTIME_DIR", runtime.toUtf8());
         qputenv("WAYLAND_DISPLAY", wayland);
         qputenv("DISPLAY", x11);
         return InstancePlace::socketPath();
     };
     const QString before = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    QDir(folder.path()).mkdir("glosaria"); // where others may look
     for (const QString &runtime : {folder.path(), longFolder, QString("/missing"), QString()}) {
         const QString path = placeIn(runtime, "", ":0"), inside = QFileInfo(path).path();
         EXPECT_EQ(inside == runtime + "/glosaria", runtime == folder.path());
         EXPECT_LE(path.size(), InstancePlace::LongestPath);
         struct stat status = {};
-        ASSERT_EQ(::lstat(qPrintable(inside), &status), 0);
-        EXPECT_EQ(status.st_mode & 07777, 0700u);
+        EXPECT_TRUE(::lstat(qPrintable(inside), &status) == 0 && (status.st_mode & 07777) == 0700);
         EXPECT_NE(placeIn(runtime, "", ":1"), path);
         EXPECT_EQ(placeIn(runtime, "", ":0.1"), path);
         EXPECT_EQ(placeIn(runtime, "wayland-0", ":0"), placeIn(runtime, "wayland-0", ":1"));
