@@ -79,10 +79,12 @@ TEST_F(AtomicFileTest, FolderThatAllowsNoNewFile)
                   ::chmod(qPrintable(m_folder.path()), 0555),
               0);
     EXPECT_TRUE(OrdinaryUser::run([&] {
-        bool told = false;
+        const QDir copies(UserFolders::state());
+        QString kept;
         const auto producer = [](const AtomicFile::Sink &sink) { return sink("shorter"); };
-        return AtomicFile::write(file, producer, nullptr, [&] { told = readFile(file).size() == 5000; }) && told &&
-               QDir(UserFolders::state()).isEmpty();
+        const auto overwriting = [&] { kept = readFile(file) + copies.entryList(QDir::Files).join('|').left(6); };
+        return AtomicFile::write(file, producer, nullptr, overwriting) && kept == QString(5000, u'o') + "saved-" &&
+               copies.isEmpty();
     }));
     EXPECT_EQ(readFile(file), "shorter");
     EXPECT_TRUE(OrdinaryUser::run([&] {

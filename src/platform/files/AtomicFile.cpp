@@ -241,7 +241,8 @@ bool writeInPlace(const QString &path, const AtomicFile::Producer &producer, QSt
         return false;
     }
     CheckedOutput copyOutput(copy);
-    if (!copyOutput.fill(copyOf(file))) {
+    // It has a name, by which it outlives a program that is killed meanwhile, only once it is asked for it.
+    if (!copyOutput.fill(copyOf(file)) || copy.fileName().isEmpty()) {
         error = copyOutput.error();
         return false;
     }
