@@ -102,7 +102,7 @@ TEST_F(SingleInstanceTest, OfManySimultaneousStartsOneIsFirst)
         EXPECT_EQ(says(copies[0], 2), "activated/received copy");
 }
 
-TEST_F(SingleInstanceTest, StoppedFirstCopyHoldsNobodyUpAndFindsTheMessageLater)
+TEST_F(SingleInstanceTest, NeitherAStopNorBadMessagesNorACrowdHoldAnybodyUp)
 {
     const Copy first = startFirst();
     ASSERT_EQ(::kill(pid_t(first->processId()), SIGSTOP), 0);
@@ -113,11 +113,6 @@ TEST_F(SingleInstanceTest, StoppedFirstCopyHoldsNobodyUpAndFindsTheMessageLater)
     crowd.clear();
     ASSERT_EQ(::kill(pid_t(first->processId()), SIGCONT), 0);
     EXPECT_EQ(says(first, 2), "activated/received /a.gla");
-}
-
-TEST_F(SingleInstanceTest, BadMessagesAreDroppedAndBlockNobody)
-{
-    const Copy first = startFirst();
     const QByteArray whole = HandOff::message("/a.gla");
     for (const QByteArray &bytes : {QByteArray(), whole.chopped(1), QByteArray::fromHex("00000000ffffff7f"),
                                     QByteArray(200000, '\xff'), QByteArray(whole + "more")}) {
@@ -129,7 +124,7 @@ TEST_F(SingleInstanceTest, BadMessagesAreDroppedAndBlockNobody)
     }
     const rlimit fewHandles{40, 40};
     ASSERT_EQ(::prlimit(pid_t(first->processId()), RLIMIT_NOFILE, &fewHandles, nullptr), 0);
-    std::vector<Socket> crowd(200); // that stays
+    crowd.resize(200); // that stays
     std::generate(crowd.begin(), crowd.end(), [this] { return connectWith({}); });
     expectSecond("/c.gla");
     EXPECT_EQ(says(first, 2), "activated/received /c.gla");

@@ -28,9 +28,8 @@ TEST(AlertBox, ShowsWhatItIsAskedToAndAnswersByKeys)
                 EXPECT_EQ(message->icon(), help ? QMessageBox::Warning : QMessageBox::NoIcon);
                 EXPECT_EQ(shown(*message).toStdString(),
                           std::string(help ? "Title" : "Glosaria Alert") + " | <b>A question</b> | " + parts);
-                for (const auto &[press, modifiers] :
-                     {std::pair(Qt::Key_H, Qt::AltModifier), {Qt::Key_F1, Qt::NoModifier}})
-                    QTest::keyClick(message, press, modifiers);
+                QTest::keyClick(message, Qt::Key_H, Qt::AltModifier);
+                QTest::keyClick(message, Qt::Key_F1);
                 EXPECT_TRUE(!help || QTest::qWaitFor([&topics] { return topics.size() == 2; }));
                 EXPECT_TRUE(message->isVisible());
                 QTest::keyClick(message->focusWidget(), key);

@@ -3,16 +3,6 @@
 
 const QString HelpFolder = SOURCE_FOLDER "/src/resources/help/";
 
-/// Every page, in every language.
-QStringList pageFiles()
-{
-    QStringList files;
-    for (QDirIterator file(HelpFolder + "html", QDir::Files, QDirIterator::Subdirectories); file.hasNext();)
-        files.append(QDir(HelpFolder).relativeFilePath(file.next()));
-    files.sort();
-    return files;
-}
-
 TEST(HelpContent, EveryTopicOfTheProgramAndEveryKeywordHasAPage)
 {
     const HelpBook book = parseHelpBook(readFile(HelpFolder + "glhelp.qhp"));
@@ -49,7 +39,8 @@ TEST(HelpContent, EveryPageStandsInTheContentsOnceUnderItsTitleAndHasNoColoursAn
             }
         }
     }
-    listed.sort();
-    EXPECT_EQ(listed, pageFiles());
+    for (QDirIterator file(HelpFolder + "html", QDir::Files, QDirIterator::Subdirectories); file.hasNext();)
+        EXPECT_EQ(listed.removeAll(QDir(HelpFolder).relativeFilePath(file.next())), 1) << file.filePath().toStdString();
+    EXPECT_TRUE(listed.isEmpty());
     EXPECT_GT(links, 100);
 }

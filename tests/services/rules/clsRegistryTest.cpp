@@ -2,12 +2,6 @@
 
 #include "platform/registry/RegistryTree.h"
 
-/// A store whose disk is full.
-struct FailingStore : RegistryTree
-{
-    bool setValue(int, const QString &, const QString &, const RegistryValue &) override { return false; }
-};
-
 TEST(Registry, ValueComesBackByItsStoredType)
 {
     using enum RegistryType;
@@ -38,17 +32,21 @@ TEST(Registry, ValueComesBackByItsStoredType)
 
 TEST(Registry, FailuresNameKeyAndValue)
 {
-    FailingStore store;
+    RegistryTree store;
     clsRegistry registry(store);
+    registry.setClassKey(7); // which the store does not know
     registry.setSectionKey("Software\\Glosaria");
     registry.setValueKey("FontName");
     try {
         registry.setValue("Arial");
-        FAIL() << "nothing was thrown";
+        ADD_FAILURE() << "nothing was thrown";
     } catch (const RegistryError &error) {
         EXPECT_EQ(error.Number(), 26001);
         EXPECT_EQ(error.Source(), "services_rules_test.cRegistry");
-        EXPECT_EQ(error.Description(), "Failed to set registry value Key: '-2147483647',Section: 'Software\\Glosaria',"
+        EXPECT_EQ(error.Description(), "Failed to set registry value Key: '7',Section: 'Software\\Glosaria',"
                                        "Key: 'FontName' to value: 'Arial'");
     }
+    EXPECT_THROW(registry.CreateKey(), RegistryError);
+    EXPECT_THROW(registry.DeleteKey(), RegistryError);
+    EXPECT_THROW(registry.DeleteValue(), RegistryError);
 }
