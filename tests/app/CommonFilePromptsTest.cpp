@@ -32,8 +32,7 @@ TEST(CommonFilePromptsTest, EachAsksForItsKindOfFile)
         {import, {"/f/a.csv"}, "/f/a.csv", "Import List|/f||5 All Files (*)|exists"},
         {import, {}, "", "Import List|/f||5 All Files (*)|exists"},
         {write, {"/f/there", "/f/c.txt"}, "/f/c.txt", "Export List|/f|/f/there.csv|4 Anki Text (*.anki.txt)|"},
-        {write, {}, "", "Export List|/f|old|4 Anki Text (*.anki.txt)|"},
-    };
+        {write, {}, "", "Export List|/f|old|4 Anki Text (*.anki.txt)|"}};
     for (const auto &[ask, chosen, path, offered] : cases) {
         dialogs.chosen = chosen;
         EXPECT_EQ(ask(), path);

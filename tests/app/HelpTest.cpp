@@ -68,24 +68,22 @@ TEST_F(HelpTest, EveryControlOfEveryDialogHasATopicATextANameAndAKey)
 {
     newDocument()->Rutor()->setWords({"", "1", "2", "3", "4", ""}, {"", "5", "6", "7", "8", ""}, {});
     QGuiApplication::clipboard()->setText("a - b");
-    const std::tuple<const char *, int, const char *> commands[] = {
-        {"mnuEditFind", 1160, "FD12MWNRC"},
-        {"mnuEditReplace", 1170, "FED12MWNRAC"},
-        {"mnuEditPasteList", 3030, "S12WFMNT"},
-        {"mnuVocabularyLanguage", 1180, "12"},
-        {"mnuVocabularyFont", 1204, "FSOBIU"},
-        {"mnuVocabularyRowHeight", 1200, "R"},
-        {"mnuVocabularyColumnWidth", 1200, "C"},
-        {"mnuVocabularySort", 1210, "12ADS"},
-        {"mnuVocabularyCheck", 3040, "LNTARC"},
-        {"mnuVocabularyProgress", 3020, "KNSFEC"},
-        {"mnuFilePrintTest", 3042, "SF12BOUNETAKPV"},
-        {"mnuQuizStudy", 1220, "KOASCBR"},
-        {"mnuQuizMultiple", 1230, "123ABR"},
-        {"mnuQuizQA", 1240, "HTBR"},
-        {"mnuHelpAbout", 1250, ""},
-        {"mnuQuizOptions", 3010, "MCABROY"},
-    };
+    const std::tuple<const char *, int, const char *> commands[] = {{"mnuEditFind", 1160, "FD12MWNRC"},
+                                                                    {"mnuEditReplace", 1170, "FED12MWNRAC"},
+                                                                    {"mnuEditPasteList", 3030, "S12WFMNT"},
+                                                                    {"mnuVocabularyLanguage", 1180, "12"},
+                                                                    {"mnuVocabularyFont", 1204, "FSOBIU"},
+                                                                    {"mnuVocabularyRowHeight", 1200, "R"},
+                                                                    {"mnuVocabularyColumnWidth", 1200, "C"},
+                                                                    {"mnuVocabularySort", 1210, "12ADS"},
+                                                                    {"mnuVocabularyCheck", 3040, "LNTARC"},
+                                                                    {"mnuVocabularyProgress", 3020, "KNSFEC"},
+                                                                    {"mnuFilePrintTest", 3042, "SF12BOUNETAKPV"},
+                                                                    {"mnuQuizStudy", 1220, "KOASCBR"},
+                                                                    {"mnuQuizMultiple", 1230, "123ABR"},
+                                                                    {"mnuQuizQA", 1240, "HTBR"},
+                                                                    {"mnuHelpAbout", 1250, ""},
+                                                                    {"mnuQuizOptions", 3010, "MCABROY"}};
     for (const auto &[command, id, keys] : commands) {
         EXPECT_TRUE(inDialog(command, [&, id = id, keys = keys](QDialog &dialog) {
             SCOPED_TRACE(dialog.objectName().toStdString());
@@ -158,6 +156,9 @@ TEST_F(HelpTest, EveryButtonHasItsTextsANameAndAPictureAndNoSeparatorHas)
             QEvent enter(QEvent::Enter);
             QApplication::sendEvent(shown, &enter);
             EXPECT_TRUE(action->isSeparator() || status(0) == resText(inStatusBar)) << inStatusBar;
+            const Command *own = window->commands().find(action->objectName());
+            EXPECT_TRUE(!own || toolTip == 1106 || (own->captionId == toolTip && own->helpId == inStatusBar))
+                << toolTip;
             ++inStatusBar;
             help.calls.clear();
             textsAt(shown);

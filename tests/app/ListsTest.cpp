@@ -53,8 +53,7 @@ TEST_F(ListsTest, EachKindShowsTheChoicesThatItHas)
         {Data + "new.apkg",
          "&Deck: | {All Decks} | Language &1: | {Column 1: Deutsch} | Language &2: | {Column 2: "
          "English} | S&wap | [x] Turn &markup into text | 3 rows arrive.\nDropped: 1 other column. | "
-         "? | OK | Cancel"},
-    };
+         "? | OK | Cancel"}};
     window->OpenRequestedFile(vocabulary);
     const QString where = " | [x] Into a &new vocabulary | [ ] Into &this vocabulary, at the current row";
     for (const auto &[path, text] : cases) {
@@ -88,8 +87,7 @@ TEST_F(ListsTest, AListIsReadAsThePreviewShowsIt)
             {{"btnSwap"}, "German|English, Haus|house, c,d|a,b"},
             {{"cboSeparator=Comma"}, "Language 1|Language 2, x;English;German;note|, 1;house;Haus;|, 2;;;n|, 3;a|b;c"},
             {{"cboSeparator=;", "chkNames"}, "x|English, 1|house, 2|, 3|a,b"},
-            {{"cboFirst=Column 3: German", "cboSecond=Column 2: English"}, "German|English, Haus|house, c,d|a,b"},
-        };
+            {{"cboFirst=Column 3: German", "cboSecond=Column 2: English"}, "German|English, Haus|house, c,d|a,b"}};
         for (const auto &[choices, text] : steps) {
             choose(dialog, choices);
             EXPECT_EQ(preview(dialog).toStdString(), text);

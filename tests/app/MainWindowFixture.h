@@ -23,6 +23,13 @@
 #include "support/ScriptedDialogs.h"
 #include "support/ScriptedPrompts.h"
 
+/// One of the current version without any word.
+inline QByteArray emptyVocabulary()
+{
+    return "Glosaria\r\n3.1.0\r\n[Font Info]\r\n\"Arial\"\r\n10\r\n#FALSE#\r\n#FALSE#\r\n0\r\n[Vocabulary]\r\nEnglish"
+           "\r\nGerman\r\n";
+}
+
 /// The main window with stand-ins for what comes from outside, shown on the offscreen platform.
 struct MainWindowFixture : ::testing::Test, DocumentCopies
 {
@@ -108,10 +115,5 @@ struct MainWindowFixture : ::testing::Test, DocumentCopies
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return opened;
     }
-    /// A vocabulary of the current version without any word.
-    QString writeVocabulary(const QString &name)
-    {
-        return writeFile(folder.filePath(name), "Glosaria\r\n3.1.0\r\n[Font Info]\r\n\"Arial\"\r\n10\r\n#FALSE#\r\n"
-                                                "#FALSE#\r\n0\r\n[Vocabulary]\r\nEnglish\r\nGerman\r\n");
-    }
+    QString writeVocabulary(const QString &name) { return writeFile(folder.filePath(name), emptyVocabulary()); }
 };

@@ -65,9 +65,11 @@ TEST_F(MainWindowTest, ControlTabGoesAroundTheDocuments)
         QTest::keyClick(window->focusWidget(), shift ? Qt::Key_Backtab : Qt::Key_Tab, Qt::ControlModifier | shift);
         EXPECT_EQ(documents().active(), made[size_t(std::abs(next)) - 1]) << next;
     }
-    window->documentArea()->activate(*made[2]);
+    window->documentArea()->activate(*made[1]);
     window->DoMenuClick("mnuFileClose");
     EXPECT_EQ(documents().active(), made[0]) << "the one that was active before";
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(window->documentArea()->subWindowList().size(), 2);
 }
 
 TEST_F(MainWindowTest, DocumentsStandAtTheRightWhereLinesBeginThere)

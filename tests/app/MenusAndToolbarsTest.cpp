@@ -59,8 +59,7 @@ TEST_F(MenusAndToolbarsTest, TheStateTellsWhatCanBeDone)
          "| Preview | Insert | Delete | Find | Font | Sort | Languages | Model | Quiz"},
         {AppState::StatePreview, "File (New) (Open...) (Close) (Save) (Save As...) (Import...) (Export...) (Print "
                                  "Test...) | Help | Previous | Next"},
-        {AppState::StateNoDocument, found.front().second},
-    };
+        {AppState::StateNoDocument, found.front().second}};
     EXPECT_EQ(found, expected);
     EXPECT_EQ(status(1) + status(2), "");
 }
@@ -92,28 +91,64 @@ TEST_F(MenusAndToolbarsTest, TheUndoCaptionNamesAndEnablesTheCommand)
     EXPECT_EQ(window->UndoAction(), resText(419));
 }
 
-TEST_F(MenusAndToolbarsTest, KeysOfTheGridFindOnAndClear)
+TEST_F(MenusAndToolbarsTest, TheSearchGoesOnByKeysAndAlongWithTheActiveDocument)
 {
-    ctlGrid &grid = *newDocument()->Rutor();
-    for (const int row : {1, 4, 7})
-        grid.setTextMatrix(row, 1, "word");
+    std::vector<ctlGrid *> grids;
+    for (const char *word : {"a cat", "the cat"}) {
+        grids.push_back(newDocument()->Rutor());
+        for (const int row : {1, 4, 7})
+            grids.back()->setTextMatrix(row, 2, word);
+    }
+    grids[0]->setTextMatrix(0, 2, "English");
     const auto press = [this](Qt::Key key) {
-        QTest::keyClick(QApplication::focusWidget(), key);
+        QTest::keyClick(QApplication::activeWindow()->focusWidget(), key);
         QCoreApplication::processEvents();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     };
     press(Qt::Key_F3);
-    auto *dialog = window->findChild<frmFindReplace *>();
-    ASSERT_TRUE(dialog) << "nothing was searched yet";
-    QTest::keyClick(dialog, Qt::Key_Return);
+    const QPointer<QDialog> search = window->findChild<frmFindReplace *>();
+    ASSERT_TRUE(search) << "nothing was searched yet";
+    EXPECT_TRUE(flags.FindMode && !flags.ReplaceMode);
+    search->findChild<QLineEdit *>("txtFind")->setText("cat");
+    QTest::keyClick(search, Qt::Key_Return);
+    EXPECT_EQ(grids[1]->SelText(), "cat");
+    window->documentArea()->activate(*documents().open()[0]);
+    EXPECT_FALSE(grids[1]->EditMode());
+    EXPECT_EQ(search->findChild<QAbstractButton *>("optScope2")->text(), "&2 English");
+    QTest::keyClick(search, Qt::Key_Return);
+    EXPECT_EQ(grids[0]->SelText(), "cat");
     window->DoMenuClick("mnuEditFindNext");
-    EXPECT_EQ(grid.Row(), 4);
-    dialog->close();
+    EXPECT_EQ(grids[0]->Row(), 4);
+    search->close();
     QApplication::setActiveWindow(window.get());
     press(Qt::Key_F3);
-    EXPECT_EQ(grid.Row(), 7);
+    EXPECT_FALSE(search);
+    EXPECT_EQ(grids[0]->Row(), 7);
     press(Qt::Key_Delete);
-    EXPECT_EQ(grid.TextMatrix(7, 1), "");
+    EXPECT_EQ(grids[0]->TextMatrix(7, 2), "");
     EXPECT_EQ(undo.kind(), UndoKind::Clear);
+    window->DoMenuClick("mnuEditReplace");
+    for (const bool left : {true, false}) {
+        alert.answers = {AlertBox::AnswerNo};
+        window->DoMenuClick("mnuFileClose");
+        QCoreApplication::processEvents();
+        EXPECT_EQ(flags.searching(), left) << "while a document is open";
+    }
+}
+
+TEST_F(MenusAndToolbarsTest, TheTableOfProgressGoesToTheFileThatTheUserChooses)
+{
+    newDocument()->Rutor()->setWords({"", "1", ""}, {"", "2", ""}, {});
+    dialogs.chosen = QStringList(folder.filePath("a"));
+    EXPECT_TRUE(inDialog("mnuVocabularyProgress", [this](QDialog &dialog) {
+        for (int i = 0; i < 2; ++i) // the second time the user does not want to
+            dialog.findChild<QPushButton *>("btnExport")->click();
+        EXPECT_EQ(dialogs.file.owner, &dialog);
+    }));
+    const FileRequest &asked = dialogs.file;
+    EXPECT_EQ((asked.title + '|' + asked.fileName + '|' + asked.nameFilters.join(' ')).toStdString(),
+              "Export Table|Untitled 1.csv|Tables (*.csv)");
+    EXPECT_TRUE(QFile::exists(folder.filePath("a.csv")) && alert.shown.empty());
 }
 
 TEST_F(MenusAndToolbarsTest, ModesStepInARingAndShowEverywhere)
@@ -152,8 +187,7 @@ TEST_F(MenusAndToolbarsTest, TheStatusBarFollowsTheHighlight)
         {Qt::Key_Return, {}, resText(506)},
         {Qt::Key_E, Qt::AltModifier, resText(22)}, // there is nothing to undo
         {Qt::Key_Escape, {}, resText(101)},
-        {Qt::Key_Escape, {}, resText(506)},
-    };
+        {Qt::Key_Escape, {}, resText(506)}};
     for (const auto &[key, modifiers, text] : keys) {
         QWidget *popup = QApplication::activePopupWidget();
         QTest::keyClick(popup ? popup : QApplication::focusWidget(), key, modifiers);
@@ -205,6 +239,7 @@ TEST_F(MenusAndToolbarsTest, ADialogKeepsItsTextWhenThePointerLeavesItsButton)
     }
     visitor.stop();
     EXPECT_TRUE(inDialog("mnuHelpAbout", [this](QDialog &about) {
+        EXPECT_EQ(about.findChild<QWidget *>("imgLink1")->toolTip(), resText(2007));
         QApplication::setActiveWindow(&about);
         for (const auto &[name, text] : {std::pair("imgLink1", 2002), {"btnOK", 506}}) {
             about.findChild<QWidget *>(name)->setFocus();
@@ -253,36 +288,6 @@ TEST_F(MenusAndToolbarsTest, ARightClickShowsTheProgramsOwnMenusOnly)
     EXPECT_EQ(grid->EditText(), "wd");
 }
 
-TEST_F(MenusAndToolbarsTest, TheSearchGoesAlongWithTheActiveDocument)
-{
-    std::vector<frmDoc *> opened;
-    for (const char *word : {"a cat", "the cat"}) {
-        opened.push_back(newDocument());
-        opened.back()->Rutor()->setTextMatrix(1, 2, word);
-    }
-    opened[0]->Rutor()->setTextMatrix(0, 2, "English");
-    const auto click = [this](const char *name) {
-        auto *search = window->findChild<QDialog *>("frmFindReplace");
-        QTest::mouseClick(search->findChild<QAbstractButton *>(name), Qt::LeftButton);
-    };
-    window->DoMenuClick("mnuEditReplace");
-    QPointer<QDialog> search = window->findChild<QDialog *>("frmFindReplace");
-    search->findChild<QLineEdit *>("txtFind")->setText("cat");
-    click("btnFind");
-    EXPECT_EQ(opened[1]->Rutor()->SelText(), "cat");
-    window->documentArea()->activate(*opened[0]);
-    EXPECT_FALSE(opened[1]->Rutor()->EditMode());
-    EXPECT_EQ(search->findChild<QAbstractButton *>("optScope2")->text(), "&2 English");
-    click("btnFind");
-    EXPECT_EQ(opened[0]->Rutor()->SelText(), "cat");
-    for (const bool left : {true, false}) {
-        alert.answers = {AlertBox::AnswerNo};
-        window->DoMenuClick("mnuFileClose");
-        QCoreApplication::processEvents();
-        EXPECT_EQ(flags.searching(), left) << "while a document is open";
-    }
-}
-
 // Captions run on from 400 with a number for each title, entry and separator; help texts follow them 399 below.
 TEST_F(MenusAndToolbarsTest, EveryTitleAndEntryHasItsCaptionAndHelpText)
 {
@@ -316,6 +321,7 @@ TEST_F(MenusAndToolbarsTest, EveryTitleAndEntryHasItsCaptionAndHelpText)
                 separators += entry->objectName();
                 continue;
             }
+            EXPECT_EQ(entry->property("textId").toInt(), id);
             EXPECT_TRUE(entry->text().startsWith(resText(id))) << id;
             EXPECT_TRUE(!entry->icon().isNull() || dropDown->objectName() == "mnuMode") << id;
             EXPECT_TRUE(entry->statusTip().startsWith(resText(id - 399))) << id;

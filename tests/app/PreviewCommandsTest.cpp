@@ -31,6 +31,7 @@ TEST_F(PreviewCommandsTest, ThePreviewTakesTheDocumentsPlaceAndGivesItBack)
     undo.setKind(UndoKind::Clear, active);
     window->DoMenuClick("mnuFilePrintPreview");
     EXPECT_EQ(window->state(), AppState::StatePreview);
+    EXPECT_TRUE(window->findChild<QWidget *>("PreviewArea")->isVisible());
     EXPECT_FALSE(window->findChild<QToolBar *>("tbrStandard")->isVisible());
     entries("mnuFile");
     const QAction *check = window->commands().action("mnuFilePrintPreview");

@@ -51,15 +51,13 @@ TEST_F(StartPageTest, KeysGoFromListToListAndFromLineToLine)
     ASSERT_NE(lessons, lists.end()) << "no lessons";
     const std::vector<LinkButton *> &links = (*lessons)->links();
     link("New vocabulary")->setFocus();
-    const std::pair<int, QWidget *> keys[] = {
-        {Qt::Key_Up, link("New vocabulary")},
-        {Qt::Key_Down, link("Open a vocabulary...")},
-        {Qt::Key_Tab, links[0]},
-        {Qt::Key_End, links.back()},
-        {Qt::Key_Backtab, link("Open a vocabulary...")},
-        {Qt::Key_Tab, links.back()},
-        {Qt::Key_Home, links[0]},
-    };
+    const std::pair<int, QWidget *> keys[] = {{Qt::Key_Up, link("New vocabulary")},
+                                              {Qt::Key_Down, link("Open a vocabulary...")},
+                                              {Qt::Key_Tab, links[0]},
+                                              {Qt::Key_End, links.back()},
+                                              {Qt::Key_Backtab, link("Open a vocabulary...")},
+                                              {Qt::Key_Tab, links.back()},
+                                              {Qt::Key_Home, links[0]}};
     for (const auto &[key, focused] : keys) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
         EXPECT_EQ(QApplication::focusWidget(), focused) << key;

@@ -3,7 +3,25 @@
 #include "document/GridContent.h"
 #include "document/rules/Vocabulary.h"
 #include "quiz/frmOva.h"
+#include "resources/Pictures.h"
 #include "widgets/LetterRow.h"
+
+/// A quiz while it is open.
+struct OpenQuiz
+{
+    frmOva &window;
+    const QuizSession &session = *window.session();
+    QLineEdit *box = window.findChild<QLineEdit *>("txtSvar");
+
+    /// Types answers; "!" is the right one.
+    void answer(const QStringList &answers) const
+    {
+        for (const QString &each : answers) {
+            box->setText(each == "!" ? session.question().correctAnswer() : each);
+            QTest::keyClick(box, Qt::Key_Return);
+        }
+    }
+};
 
 struct WordsToAskTest : MainWindowFixture
 {
@@ -20,12 +38,17 @@ struct WordsToAskTest : MainWindowFixture
         document->Rutor()->setWords(std::vector(words), std::move(words), {});
         document->refreshQuizMode();
     }
-    /// How many words a quiz asks; 0 when none starts.
-    int asked(const char *command)
+    /// Opens a quiz and leaves it after the visit. How many words it asks; 0 when none starts.
+    int asked(
+        const char *command, const std::function<void(const OpenQuiz &)> &visit = [](const OpenQuiz &) {})
     {
         int count = 0;
-        inDialog(command,
-                 [&count](QDialog &dialog) { count = dynamic_cast<frmOva &>(dialog).session()->questionCount(); });
+        inDialog(command, [&](QDialog &dialog) {
+            const OpenQuiz quiz{dynamic_cast<frmOva &>(dialog)};
+            QApplication::setActiveWindow(&dialog);
+            count = quiz.session.questionCount();
+            visit(quiz);
+        });
         return count;
     }
     QString note()
@@ -34,6 +57,19 @@ struct WordsToAskTest : MainWindowFixture
         return status(2).section(u'(', 1).section(u')', 0, 0);
     }
 };
+
+TEST_F(WordsToAskTest, TheButtonRepeatsTheLastKindOfQuizOnceThereAreWords)
+{
+    newDocument();
+    EXPECT_EQ(asked("mnuQuizQA"), 0);
+    EXPECT_EQ(resText(12013), status(0));
+    window->documentArea()->activate(*document);
+    for (const auto &[key, kind] :
+         {std::pair("mnuQuizStudy", 0), {"mnuQuizMultiple", 1}, {"mnuQuizQA", 2}, {"Quiz", 2}}) {
+        EXPECT_EQ(asked(key, [kind = kind](const OpenQuiz &quiz) { EXPECT_EQ(kind, quiz.window.QuizType()); }), 30);
+        EXPECT_EQ(PicturePractice + kind, window->buttonPicture("Quiz"));
+    }
+}
 
 TEST_F(WordsToAskTest, TheMenuOffersAllWordsAtFirstAndWithoutAMemoryNoneThatItWouldKnow)
 {
@@ -44,9 +80,6 @@ TEST_F(WordsToAskTest, TheMenuOffersAllWordsAtFirstAndWithoutAMemoryNoneThatItWo
         for (const QAction *entry : menu("mnuQuizWords")->actions())
             EXPECT_EQ(entry->isChecked(), entry->objectName() == chosen) << chosen;
     }
-    document->Rutor()->setEditMode(true);
-    Q_EMIT menu("mnuQuiz")->aboutToShow();
-    EXPECT_FALSE(menu("mnuQuizWords")->menuAction()->isEnabled());
 }
 
 TEST_F(WordsToAskTest, SelectedRowsAreCountedAndAsked)
@@ -64,9 +97,8 @@ TEST_F(WordsToAskTest, SelectedRowsAreCountedAndAsked)
     EXPECT_EQ(asked("mnuQuizQA"), 8);
     frmDoc *other = newDocument();
     EXPECT_EQ(note(), "selected: 0");
-    window->documentArea()->activate(*document);
-    EXPECT_EQ(note(), "selected: 10");
     other->frame()->close();
+    EXPECT_EQ(note(), "selected: 10");
     window->DoMenuClick("mnuWordsAll");
     EXPECT_EQ(note(), "");
     EXPECT_EQ(asked("mnuQuizQA"), 8);
@@ -94,51 +126,36 @@ TEST_F(WordsToAskTest, WhereNoChosenWordIsLeftAllAreOffered)
     EXPECT_EQ(status(0), resText(12013));
 }
 
-struct LeftQuizTest : WordsToAskTest
+TEST_F(WordsToAskTest, AQuizThatWasLeftGoesOnAsItWas)
 {
-    /// Types answers into a quiz; "!" is the right one.
-    static void answer(QDialog &dialog, const QStringList &answers)
-    {
-        const QuizSession &session = *dynamic_cast<frmOva &>(dialog).session();
-        auto *box = dialog.findChild<QLineEdit *>("txtSvar");
-        for (const QString &each : answers) {
-            box->setText(each == "!" ? session.question().correctAnswer() : each);
-            QTest::keyClick(box, Qt::Key_Return);
-        }
-    }
-    bool canContinue() { return window->commands().action("mnuQuizContinue")->isEnabled(); }
-};
-
-TEST_F(LeftQuizTest, AQuizThatWasLeftGoesOnAsItWas)
-{
-    EXPECT_FALSE(canContinue());
-    inDialog("mnuQuizQA", [](QDialog &) {});
+    const auto canContinue = [this] { return window->commands().action("mnuQuizContinue")->isEnabled(); };
+    asked("mnuQuizQA");
     EXPECT_FALSE(canContinue()) << "nothing was answered";
-    inDialog("mnuQuizQA", [](QDialog &dialog) {
-        answer(dialog, {"!", "wrong", "!"});
-        dialog.findChild<QLineEdit *>("txtSvar")->setText("half");
+    asked("mnuQuizQA", [](const OpenQuiz &quiz) {
+        quiz.answer({"!", "wrong", "!"});
+        quiz.box->setText("half");
     });
     EXPECT_TRUE(canContinue());
-    inDialog("mnuQuizStudy", [](QDialog &) {});
+    asked("mnuQuizStudy");
     frmDoc *other = newDocument();
     EXPECT_FALSE(canContinue());
     other->frame()->close();
     document->Rutor()->setWords({"", "new"}, {"", "new"}, {});
     document->setCaption("renamed");
-    EXPECT_TRUE(inDialog("mnuQuizContinue", [](QDialog &dialog) {
-        const QuizSession &session = *dynamic_cast<frmOva &>(dialog).session();
-        EXPECT_EQ(session.currentQuestion(), 4);
-        EXPECT_EQ(session.question().askedWord(), "4");
-        EXPECT_EQ(std::pair(session.correctCount(), session.errorCount()), std::pair(2, 1));
-        EXPECT_EQ(dialog.findChild<QLineEdit *>("txtSvar")->text(), "half");
-        EXPECT_TRUE(dialog.windowTitle().endsWith("renamed"));
-        answer(dialog, QStringList(27, "!"));
-        EXPECT_TRUE(session.done());
-    }));
+    EXPECT_EQ(30, asked("mnuQuizContinue", [](const OpenQuiz &quiz) {
+                  EXPECT_EQ(quiz.session.currentQuestion(), 4);
+                  EXPECT_EQ(quiz.session.question().askedWord(), "4");
+                  EXPECT_EQ(std::pair(quiz.session.correctCount(), quiz.session.errorCount()), std::pair(2, 1));
+                  EXPECT_EQ(quiz.box->text(), "half");
+                  EXPECT_TRUE(quiz.window.windowTitle().endsWith("renamed"));
+                  quiz.answer(QStringList(27, "!"));
+                  EXPECT_TRUE(quiz.session.done());
+              }));
+    EXPECT_EQ(window->buttonPicture("Quiz"), PictureQuestionAnswer);
     EXPECT_FALSE(canContinue()) << "it has come to its end";
 }
 
-TEST_F(LeftQuizTest, MissedWordsAreListedCopiedAskedAgainAndKept)
+TEST_F(WordsToAskTest, MissedWordsAreListedCopiedAskedAgainAndKept)
 {
     document->Rutor()->setTextMatrix(2, 2, "zwei");
     document->Rutor()->setTextMatrix(0, 2, "German");
@@ -148,20 +165,19 @@ TEST_F(LeftQuizTest, MissedWordsAreListedCopiedAskedAgainAndKept)
     for (const bool keep : {false, true}) {
         document->select({1, 1, 3, 2});
         window->DoMenuClick("mnuWordsSelected");
-        inDialog("mnuQuizQA", [&](QDialog &dialog) {
-            const QuizSession &session = *dynamic_cast<frmOva &>(dialog).session();
+        asked("mnuQuizQA", [&](const OpenQuiz &quiz) {
             expected.clear();
-            while (!session.done()) {
-                const bool second = session.question().askedWord() == "2" || session.question().askedWord() == "zwei";
-                if (second)
-                    expected += session.question().askedWord() + "\tx\t" + session.question().correctAnswer();
-                answer(dialog, {second ? "x" : "!"});
+            while (!quiz.session.done()) {
+                const QString word = quiz.session.question().askedWord();
+                const bool missed = word == "2" || word == "zwei";
+                if (missed)
+                    expected += word + "\tx\t" + quiz.session.question().correctAnswer();
+                quiz.answer({missed ? "x" : "!"});
             }
-            QApplication::setActiveWindow(&dialog);
-            dialog.findChild<QTableWidget *>("lstMissed")->setFocus();
-            QTest::keyClick(dialog.focusWidget(), Qt::Key_C, Qt::ControlModifier);
+            quiz.window.findChild<QTableWidget *>("lstMissed")->setFocus();
+            QTest::keyClick(quiz.window.focusWidget(), Qt::Key_C, Qt::ControlModifier);
             if (keep)
-                QTest::mouseClick(dialog.findChild<QWidget *>("btnKeepMissed"), Qt::LeftButton);
+                QTest::mouseClick(quiz.window.findChild<QWidget *>("btnKeepMissed"), Qt::LeftButton);
         });
         EXPECT_EQ(expected.size(), 2) << "both ways";
         EXPECT_EQ(QGuiApplication::clipboard()->text(), expected.join(u'\n'));
@@ -180,12 +196,11 @@ TEST_F(LeftQuizTest, MissedWordsAreListedCopiedAskedAgainAndKept)
     EXPECT_EQ(asked("mnuQuizStudy"), 2);
 }
 
-using LettersTest = LeftQuizTest;
-
-TEST_F(LettersTest, LettersOfTheAnswersColumnStandBelowTheAnswerAndOnWishBelowTheGrid)
+TEST_F(WordsToAskTest, LettersOfTheAnswersColumnStandBelowTheAnswerAndOnWishBelowTheGrid)
 {
-    document->Rutor()->setTextMatrix(1, 1, "ñ");
-    document->Rutor()->setTextMatrix(2, 2, "é");
+    ctlGrid &grid = *document->Rutor();
+    grid.setTextMatrix(1, 1, "ñ");
+    grid.setTextMatrix(2, 2, "é");
     const auto shown = [](const QWidget &place) {
         QString letters;
         for (const LetterRow *row : place.findChildren<LetterRow *>()) {
@@ -195,25 +210,24 @@ TEST_F(LettersTest, LettersOfTheAnswersColumnStandBelowTheAnswerAndOnWishBelowTh
         return letters;
     };
     settings.setQuizMode(2);
-    inDialog("mnuQuizQA", [&](QDialog &dialog) {
-        EXPECT_EQ(shown(dialog), "ñ");
-        QApplication::setActiveWindow(&dialog);
-        QTest::keyClick(dialog.focusWidget(), Qt::Key_1, Qt::ControlModifier);
-        EXPECT_EQ(dialog.findChild<QLineEdit *>("txtSvar")->text(), "ñ") << "in place of the prompt";
+    asked("mnuQuizQA", [&](const OpenQuiz &quiz) {
+        EXPECT_EQ(shown(quiz.window), "ñ");
+        QTest::keyClick(quiz.window.focusWidget(), Qt::Key_1, Qt::ControlModifier);
+        EXPECT_EQ(quiz.box->text(), "ñ") << "in place of the prompt";
     });
     EXPECT_EQ(shown(*document), "");
     window->DoMenuClick("mnuVocabularyLetters");
     EXPECT_TRUE(settings.ShowLetters());
     QCoreApplication::processEvents();
-    document->select({3, 1, 3, 1});
-    EXPECT_EQ(shown(*document), "ñ");
-    document->select({3, 2, 3, 2});
-    EXPECT_EQ(shown(*document), "é");
+    for (const auto &[column, letter] : {std::pair(1, "ñ"), {2, "é"}}) {
+        document->select({3, column, 3, column});
+        EXPECT_EQ(shown(*document), letter);
+    }
     for (int i = 0; i < 2; ++i)
         QTest::mouseClick(document->findChild<LetterRow *>()->findChild<QToolButton *>(), Qt::LeftButton);
-    EXPECT_EQ(document->Rutor()->EditText(), "éé");
+    EXPECT_EQ(grid.EditText(), "éé");
     document->endEdit();
-    EXPECT_EQ(document->Rutor()->TextMatrix(3, 2), "éé");
+    EXPECT_EQ(grid.TextMatrix(3, 2), "éé");
     EXPECT_TRUE(document->Dirty());
     EXPECT_EQ(undo.kind(), UndoKind::Entry);
     window->DoMenuClick("mnuVocabularyLetters");

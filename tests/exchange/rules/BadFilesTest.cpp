@@ -78,8 +78,7 @@ TEST(BadFiles, EachEndsInItsOwnReason)
         {cards({"CREATE TABLE notes (id integer, mid integer, flds text GENERATED ALWAYS AS (hex(zeroblob(1000))))",
                 Cards, Col}),
          ReadError::Damaged},
-        {cards({"CREATE VIRTUAL TABLE notes USING fts4(id, mid, flds)", Cards, Col}), ReadError::Damaged},
-    };
+        {cards({"CREATE VIRTUAL TABLE notes USING fts4(id, mid, flds)", Cards, Col}), ReadError::Damaged}};
     for (const auto &[bytes, error] : cases) {
         SCOPED_TRACE(bytes.left(60).toStdString());
         EXPECT_EQ(pairsOf(bytes), QStringList(QString::number(int(error))));
@@ -102,8 +101,7 @@ TEST(BadFiles, OddOnesArriveAllTheSame)
         {ods(row("<covered-table-cell/>" + Cell, "number-rows-repeated='2'")), {"|", "a|", "a|"}},
         {cards({Notes, Cards, Col, "INSERT INTO col VALUES ('no JSON', '[1]')",
                 "INSERT INTO notes VALUES (1, 2, 'a' || char(31) || 'b'), (2, 2, NULL), (3, 2, 'c')"}),
-         {"|", "a|b", "c|"}},
-    };
+         {"|", "a|b", "c|"}}};
     for (const auto &[bytes, words] : cases)
         EXPECT_EQ(pairsOf(bytes), words) << bytes.left(60).toStdString();
     const ListReader::Table table = ListReader::read(*openBytes(wide).source, openBytes(wide).source->proposal());

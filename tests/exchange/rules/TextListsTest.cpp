@@ -23,8 +23,7 @@ TEST(TextLists, TellsWhatStandsBetweenTheWords)
          {"Front|Back", "a|bé"}},
         {"#1\tone\n#2\ttwo\n", {"|", "#1|one", "#2|two"}},
         {"a<br>b\tc\n", {"|", "a b|c"}},
-        {"a < b\tc & d\n", {"|", "a < b|c & d"}},
-    };
+        {"a < b\tc & d\n", {"|", "a < b|c & d"}}};
     for (const auto &[text, words] : cases)
         EXPECT_EQ(pairsOf(QByteArray(text)), words) << text;
 }
@@ -38,8 +37,7 @@ TEST(TextLists, ReadsEveryCharacterSet)
         {german, "UTF-8", "UTF-8"},        {german, "windows-1252", "windows-1252"},
         {german, "UTF-16LE", "UTF-16LE"},  {german, "UTF-16BE", "UTF-16BE"},
         {russian, "UTF-16LE", "UTF-16LE"}, {russian, "windows-1251", "windows-1251"},
-        {russian, "KOI8-R", "KOI8-R"},     {russian, "UTF-8", "UTF-8"},
-    };
+        {russian, "KOI8-R", "KOI8-R"},     {russian, "UTF-8", "UTF-8"}};
     for (const auto &[text, written, told] : cases) {
         QStringEncoder encoder(written);
         const QByteArray bytes = encoder(text);
@@ -68,8 +66,7 @@ TEST(MarkupText, ShowsWhatAReaderSees)
         {"a<!-- <b> -->b<style>p { }</style>c", "abc"},
         {"1 < 2 and a <b", "1 < 2 and a <b"},
         {"<", "<"},
-        {"&", "&"},
-    };
+        {"&", "&"}};
     for (const auto &[markup, text] : cases)
         EXPECT_EQ(MarkupText::plain(QString::fromUtf8(markup)).toStdString(), text);
 }

@@ -51,8 +51,7 @@ TEST(Conversion, GoesByContentAndByTheEndsOfNames)
         {in, "a.pdf", 2, nullptr},
         {in, "none/a.csv", 1, nullptr},
         {folder.filePath("missing"), "c.csv", 1, nullptr},
-        {folder.path(), "c.csv", 1, nullptr},
-    };
+        {folder.path(), "c.csv", 1, nullptr}};
     for (const auto &[from, to, status, content] : cases) {
         QString told;
         QTextStream complaints(&told);
@@ -68,31 +67,29 @@ TEST(Conversion, GoesByContentAndByTheEndsOfNames)
 
 TEST(CellFormat, ShowsNumbersAsASpreadsheetDoes)
 {
-    const std::tuple<double, const char *, const char *> cases[] = {
-        {1234.5, "", "1234.5"},
-        {1e15, "General", "1e+15"},
-        {1234567890123., "General", "1234567890123"},
-        {0.1 + 0.2, "General", "0.3"},
-        {1234.5, "#,##0.00", "1,234.50"},
-        {-3, "0;\"minus \"0", "minus 3"},
-        {-3, "0.0", "-3.0"},
-        {5, "000", "005"},
-        {1.5, "0.##", "1.5"},
-        {12, "[$€-407] 0.00", "€ 12.00"},
-        {12, "0.00\\ \"EUR\"", "12.00 EUR"},
-        {0.125, "0.0%", "12.5%"},
-        {0.5, "# ?/?", "0.5"},
-        {45413, "dd.mm.yyyy", "01.05.2024"},
-        {45413, "yyyy\\-mm\\-dd", "2024-05-01"},
-        {45413, "d mmmm yy", "1 May 24"},
-        {45413.75, "h:mm AM/PM", "6:00 PM"},
-        {45413.75, "hh:mm:ss", "18:00:00"},
-        {-1, "dd.mm.yyyy", ""},
-        {1e300, "dd.mm.yyyy", ""},
-        {3, "\"", "3"},
-        {3, "[", "3"},
-        {3, "\\", "3"},
-    };
+    const std::tuple<double, const char *, const char *> cases[] = {{1234.5, "", "1234.5"},
+                                                                    {1e15, "General", "1e+15"},
+                                                                    {1234567890123., "General", "1234567890123"},
+                                                                    {0.1 + 0.2, "General", "0.3"},
+                                                                    {1234.5, "#,##0.00", "1,234.50"},
+                                                                    {-3, "0;\"minus \"0", "minus 3"},
+                                                                    {-3, "0.0", "-3.0"},
+                                                                    {5, "000", "005"},
+                                                                    {1.5, "0.##", "1.5"},
+                                                                    {12, "[$€-407] 0.00", "€ 12.00"},
+                                                                    {12, "0.00\\ \"EUR\"", "12.00 EUR"},
+                                                                    {0.125, "0.0%", "12.5%"},
+                                                                    {0.5, "# ?/?", "0.5"},
+                                                                    {45413, "dd.mm.yyyy", "01.05.2024"},
+                                                                    {45413, "yyyy\\-mm\\-dd", "2024-05-01"},
+                                                                    {45413, "d mmmm yy", "1 May 24"},
+                                                                    {45413.75, "h:mm AM/PM", "6:00 PM"},
+                                                                    {45413.75, "hh:mm:ss", "18:00:00"},
+                                                                    {-1, "dd.mm.yyyy", ""},
+                                                                    {1e300, "dd.mm.yyyy", ""},
+                                                                    {3, "\"", "3"},
+                                                                    {3, "[", "3"},
+                                                                    {3, "\\", "3"}};
     for (const auto &[value, code, text] : cases)
         EXPECT_EQ(CellFormat::shown(value, QString::fromUtf8(code), false, QLocale::c()).toStdString(), text) << code;
     EXPECT_EQ(CellFormat::shown(0, u"yyyy-mm-dd", true, QLocale::c()), "1904-01-01");
