@@ -18,7 +18,9 @@ TEST(TextLists, TellsWhatStandsBetweenTheWords)
         {"Language 1,Language 2\na,b\n", {"Language 1|Language 2", "a|b"}},
         {"house\nHaus\n", {"|", "house|", "Haus|"}},
         {"\tx\ty\n\tz\tw\n", {"|", "x|y", "z|w"}},
-        {"#separator:Semicolon\n#html:false\n#tags column:3\na;<b>;t\n", {"|", "a|<b>"}},
+        {"#separator: Semicolon\n#html:false\n#tags column:3\n#columns:A;B\na;<b>;t\n", {"A|B", "a|<b>"}},
+        {"#separator:pipe\n#tags:x\n#deck:y\na;b|c\nd;e|f\n", {"|", "a;b|c", "d;e|f"}},
+        {"english,b\na,German\n", {"|", "english|b", "a|German"}},
         {"#separator:tab\n#html:true\n#guid column:1\n#columns:id\tFront\tBack\n1\t<b>a</b>\tb&eacute;\n",
          {"Front|Back", "a|bé"}},
         {"#1\tone\n#2\ttwo\n", {"|", "#1|one", "#2|two"}},
@@ -26,6 +28,7 @@ TEST(TextLists, TellsWhatStandsBetweenTheWords)
         {"a < b\tc & d\n", {"|", "a < b|c & d"}}};
     for (const auto &[text, words] : cases)
         EXPECT_EQ(pairsOf(QByteArray(text)), words) << text;
+    EXPECT_EQ(DelimitedText::separatorOf(QString("alone\n").repeated(99) + "a;b\n"), ";");
 }
 
 TEST(TextLists, ReadsEveryCharacterSet)
@@ -44,13 +47,14 @@ TEST(TextLists, ReadsEveryCharacterSet)
         EXPECT_EQ(TextEncoding::detect(bytes, "windows-1252").toStdString(), told);
         EXPECT_EQ(TextEncoding::decode(bytes, told), text);
     }
-    EXPECT_EQ(pairsOf(QByteArray("\xEF\xBB\xBF"
-                                 "a,b\n")),
+    EXPECT_EQ(pairsOf("\xEF\xBB\xBF"
+                      "a,b\n"),
               QStringList({"|", "a|b"}));
     EXPECT_EQ(pairsOf(QByteArray("\xFF\xFE"
                                  "a\0\t\0b\0",
                                  8)),
               QStringList({"|", "a|b"}));
+    EXPECT_EQ(TextEncoding::decode("\xE9", "no character set"), "é");
     for (const QByteArray &name : TextEncoding::known())
         EXPECT_TRUE(QStringDecoder(name.constData()).isValid()) << name.toStdString();
 }
@@ -58,13 +62,13 @@ TEST(TextLists, ReadsEveryCharacterSet)
 TEST(MarkupText, ShowsWhatAReaderSees)
 {
     const char *const cases[][2] = {
-        {"<div>a</div><div>b</div>", "a b"},
+        {"<div>a</div><div>b</div >c", "a b c"},
         {"x<sup>2</sup> &lt; y &amp;&nbsp;z", "x2 < y & z"},
         {"caf&eacute; &#233; &#xE9; &yuml; &unknown; &#xD800;", "café é é ÿ &unknown; &#xD800;"},
         {"a [sound:a.mp3] b [x]", "a b [x]"},
-        {"{{c1::Haus::what}} and {{c2::b}} {{x}}", "Haus and b {{x}}"},
+        {"{{c1::Haus::what}} and {{c2::b}} {{x}} {{cd}}", "Haus and b {{x}} d"},
         {"a<!-- <b> -->b<style>p { }</style>c", "abc"},
-        {"1 < 2 and a <b", "1 < 2 and a <b"},
+        {"1 < 2 and a <b and <c", "1 < 2 and a <b and <c"},
         {"<", "<"},
         {"&", "&"}};
     for (const auto &[markup, text] : cases)

@@ -8,13 +8,20 @@ namespace {
 
 using ListWriter::Format;
 
-const QStringList Words{"English|German", "a,b;c|say \"x\"", "\"q\" and|#1", "#2|<b>&amp;", "|only", "дом|家", " x |"};
-
-Vocabulary vocabulary()
+/// Words of signs that mean something to one list or the other; letters beyond ASCII stand in the names only.
+Vocabulary oddWords()
 {
+    std::mt19937 random(1);
+    const auto word = [&random] {
+        QString text("a");
+        while (random() % 8)
+            text.insert(random() % 2 ? 0 : text.size(), QStringView(u"b ,;#\"<&-=|\"")[qsizetype(random() % 12)]);
+        return text;
+    };
     Vocabulary vocabulary;
-    for (const QString &pair : Words)
-        vocabulary.append(pair.section('|', 0, 0), pair.section('|', 1));
+    vocabulary.append("English", "日本語");
+    for (int row = 0; row < 4000; ++row)
+        vocabulary.append(word(), row % 3 ? word() : QString());
     vocabulary.append({}, {});
     return vocabulary;
 }
@@ -23,19 +30,26 @@ Vocabulary vocabulary()
 
 TEST(WrittenLists, ComeBackAsTheyWere)
 {
-    for (const Format format : {Format::Csv, Format::Tabs, Format::AnkiText}) {
-        const ListReader::Result opened = openBytes(ListWriter::write(vocabulary(), format, "t"));
-        const ListReader::Table read = ListReader::read(*opened.source, opened.source->proposal());
-        PairChoice choice = Pairs::proposal(read.table, false);
-        const Vocabulary words = Pairs::take(read.table, choice);
-        for (qsizetype row = 0; row < Words.size(); ++row)
-            EXPECT_EQ(words.first[size_t(row)] + '|' + words.second[size_t(row)], Words[row]) << int(format);
-        EXPECT_EQ(words.rows(), Words.size()) << int(format);
+    const Vocabulary odd = oddWords();
+    for (const auto &[format, separator] :
+         {std::pair(Format::Csv, ","), {Format::Tabs, "\t"}, {Format::AnkiText, "\t"}}) {
+        const ListReader::Result opened = openBytes(ListWriter::write(odd, format, "t"));
+        const ListReader::Table read = ListReader::read(*opened.source, {separator, "UTF-8", 0});
+        const Vocabulary words = Pairs::take(read.table, {0, 1, format != Format::AnkiText, false});
+        EXPECT_TRUE(words.first == std::vector(odd.first.begin(), odd.first.end() - 1)) << int(format);
+        EXPECT_TRUE(words.second == std::vector(odd.second.begin(), odd.second.end() - 1)) << int(format);
     }
-    const QByteArray html = ListWriter::write(vocabulary(), Format::Html, "<t>");
-    EXPECT_TRUE(html.contains("<title>&lt;t&gt;</title>") && html.contains("<th dir=\"auto\">English</th>"));
-    EXPECT_TRUE(html.contains("<tr><td dir=\"auto\">#2</td><td dir=\"auto\">&lt;b&gt;&amp;amp;</td></tr>"));
-    EXPECT_EQ(html.count("<tr>"), Words.size());
+    Vocabulary few;
+    few.append("A", "#");
+    few.append("x\ny", "<b>&");
+    few.append("#1", "z");
+    EXPECT_EQ(ListWriter::write(few, Format::Csv, "t"), "A,#\r\n\"x\ny\",<b>&\r\n#1,z\r\n");
+    EXPECT_TRUE(ListWriter::write(few, Format::AnkiText, "t").endsWith("\n\"#1\"\tz\n"));
+    EXPECT_TRUE(ListWriter::write(odd, Format::Csv, "t").startsWith("\xEF\xBB\xBF"));
+    const QByteArray html = ListWriter::write(few, Format::Html, "<t>");
+    EXPECT_TRUE(html.contains("<title>&lt;t&gt;</title>") && html.contains("<th dir=\"auto\">A</th>"));
+    EXPECT_TRUE(html.contains("<td dir=\"auto\">&lt;b&gt;&amp;</td></tr>\n") && html.endsWith("</html>\n"));
+    EXPECT_EQ(html.count("<tr>"), 3);
 }
 
 TEST(Conversion, GoesByContentAndByTheEndsOfNames)
@@ -67,31 +81,19 @@ TEST(Conversion, GoesByContentAndByTheEndsOfNames)
 
 TEST(CellFormat, ShowsNumbersAsASpreadsheetDoes)
 {
-    const std::tuple<double, const char *, const char *> cases[] = {{1234.5, "", "1234.5"},
-                                                                    {1e15, "General", "1e+15"},
-                                                                    {1234567890123., "General", "1234567890123"},
-                                                                    {0.1 + 0.2, "General", "0.3"},
-                                                                    {1234.5, "#,##0.00", "1,234.50"},
-                                                                    {-3, "0;\"minus \"0", "minus 3"},
-                                                                    {-3, "0.0", "-3.0"},
-                                                                    {5, "000", "005"},
-                                                                    {1.5, "0.##", "1.5"},
-                                                                    {12, "[$€-407] 0.00", "€ 12.00"},
-                                                                    {12, "0.00\\ \"EUR\"", "12.00 EUR"},
-                                                                    {0.125, "0.0%", "12.5%"},
-                                                                    {0.5, "# ?/?", "0.5"},
-                                                                    {45413, "dd.mm.yyyy", "01.05.2024"},
-                                                                    {45413, "yyyy\\-mm\\-dd", "2024-05-01"},
-                                                                    {45413, "d mmmm yy", "1 May 24"},
-                                                                    {45413.75, "h:mm AM/PM", "6:00 PM"},
-                                                                    {45413.75, "hh:mm:ss", "18:00:00"},
-                                                                    {-1, "dd.mm.yyyy", ""},
-                                                                    {1e300, "dd.mm.yyyy", ""},
-                                                                    {3, "\"", "3"},
-                                                                    {3, "[", "3"},
-                                                                    {3, "\\", "3"}};
-    for (const auto &[value, code, text] : cases)
-        EXPECT_EQ(CellFormat::shown(value, QString::fromUtf8(code), false, QLocale::c()).toStdString(), text) << code;
+    // Values, codes and what shows.
+    const QString cases =
+        "1234.5``1234.5  1e15`General`1e+15  1234567890123`General`1234567890123  1234.5`#,##0.00`1,234.50  "
+        "0.30000000000000004`General`0.3  -3`0;\"minus \"0`minus 3  -3`0.0`-3.0  5`000`005  1.5`0.##`1.5  "
+        "12`[$€-407] 0.00`€ 12.00  12`0.00\\ \"EUR\"`12.00 EUR  12`[$-407]0`12  0.125`0.0%`12.5%  "
+        "0.25`.00`0.25  0.5`# ?/?`0.5  45413`dd.mm.yyyy`01.05.2024  45413`yyyy\\-mm\\-dd`2024-05-01  "
+        "45413`d mmmm yy`1 May 24  45413.75`h:mm AM/PM`6:00 PM  45413.75`hh:mm:ss`18:00:00  "
+        "-1`dd.mm.yyyy`  1e300`dd.mm.yyyy`  3`\"`3  3`[`3  3`\\`3";
+    for (const QString &each : cases.split("  ")) {
+        const QStringList parts = each.split('`');
+        EXPECT_EQ(CellFormat::shown(parts[0].toDouble(), parts[1], false, QLocale::c()), parts[2])
+            << each.toStdString();
+    }
     EXPECT_EQ(CellFormat::shown(0, u"yyyy-mm-dd", true, QLocale::c()), "1904-01-01");
     EXPECT_EQ(CellFormat::shown(std::nan(""), u"0", false, QLocale::c()), QString());
 }
@@ -104,6 +106,8 @@ TEST(Pairs, NoMoreArriveThanAVocabularyHolds)
     const Pairs::Count count = Pairs::count(read.table, choice, 2);
     EXPECT_EQ(count.rows, 2);
     EXPECT_EQ(count.dropped, (Dropped{1, 1, 1, 0}));
+    EXPECT_EQ(Pairs::columnNames(read.table, true), QStringList({"Column 1: a", "Column 2: b", "Column 3: c"}));
+    EXPECT_EQ(Pairs::columnNames(read.table, false).last(), "Column 3");
     const Vocabulary words = Pairs::take(read.table, choice, 2);
     EXPECT_EQ(words.first, (std::vector<QString>{"", "b", ""}));
     EXPECT_EQ(words.second, (std::vector<QString>{"", "a", "d"}));
