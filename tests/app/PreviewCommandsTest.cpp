@@ -19,13 +19,13 @@ struct PreviewCommandsTest : MainWindowFixture
 
 TEST_F(PreviewCommandsTest, ThePreviewTakesTheDocumentsPlaceAndGivesItBack)
 {
-    std::vector<std::pair<frmDoc *, QRect>> places;
+    std::map<frmDoc *, QRect> places;
     for (int i = 0; i < 3; ++i) {
         frmDoc *made = document(2);
         made->frame()->move(20 + 31 * i, 10 + 17 * i);
-        places.emplace_back(made, made->frame()->geometry());
+        places[made] = made->frame()->geometry();
     }
-    frmDoc *active = places[1].first;
+    frmDoc *active = documents().open()[1];
     window->documentArea()->activate(*active);
     active->Rutor()->setRow(5);
     undo.setKind(UndoKind::Clear, active);
@@ -39,11 +39,9 @@ TEST_F(PreviewCommandsTest, ThePreviewTakesTheDocumentsPlaceAndGivesItBack)
     for (const auto &[made, place] : places)
         EXPECT_FALSE(made->frame()->isVisible());
     EXPECT_EQ(status(0) + status(1), "");
-    EXPECT_FALSE(button("tbrPreview", "Previous")->isEnabled());
     window->DoMenuClick("Next");
     EXPECT_EQ(preview().visiblePage(), 1);
-    EXPECT_TRUE(button("tbrPreview", "Previous")->isEnabled());
-    EXPECT_FALSE(button("tbrPreview", "Next")->isEnabled());
+    EXPECT_TRUE(button("tbrPreview", "Previous")->isEnabled() && !button("tbrPreview", "Next")->isEnabled());
     dialogs.pages = PrintChoice{1, 1, 2, false, false, true};
     window->DoMenuClick("mnuFilePrint");
     EXPECT_TRUE(printer.sheets.at(0).find(active->Caption() + " 1"));
@@ -101,12 +99,12 @@ TEST_F(PreviewCommandsTest, ATestIsPreviewedAndPrintedAsItWasChosen)
 {
     ctlGrid &grid = *newDocument()->Rutor();
     const auto press = [this](const QStringList &names) {
-        QTimer::singleShot(0, window.get(), [names] {
-            const QWidget *dialog = QApplication::activeModalWidget();
+        inNextDialog([names](QDialog &dialog) {
             for (const QString &name : names)
-                dialog->findChild<QAbstractButton *>(name)->click();
+                dialog.findChild<QAbstractButton *>(name)->click();
         });
         window->DoMenuClick("mnuFilePrintTest");
+        QCoreApplication::processEvents();
     };
     press({});
     EXPECT_EQ(alert.shown.size(), 1U) << "there are no words";

@@ -27,22 +27,19 @@ struct RecoveryOfferTest : MainWindowFixture
         documents().active()->setDirty(true);
         keeper->flush();
     }
-    QStringList captions()
+    QString captions()
     {
-        QStringList found;
+        QString found;
         for (const frmDoc *document : documents().open())
-            found.append(document->Caption() + (document->Dirty() ? "*" : ""));
+            found += document->Caption() + (document->Dirty() ? "* " : " ");
         return found;
     }
     /// Starts on a file and answers the offer by a button.
-    void answer(const QString &file, const QString &button, const std::function<void(QTreeWidget &)> &visit)
+    void answer(const QString &file, const QString &button, const std::function<void(QTreeWidget &)> &visitor)
     {
-        QTimer::singleShot(0, window.get(), [&] {
-            QWidget *dialog = QApplication::activeModalWidget();
-            ASSERT_TRUE(dialog);
-            visit(*dialog->findChild<QTreeWidget *>());
-            dialog->findChild<QPushButton *>(button)->click();
-            dialog->close();
+        inNextDialog([&](QDialog &dialog) {
+            visitor(*dialog.findChild<QTreeWidget *>());
+            dialog.findChild<QPushButton *>(button)->click();
         });
         offer->start(file);
     }
@@ -50,8 +47,7 @@ struct RecoveryOfferTest : MainWindowFixture
 
 TEST_F(RecoveryOfferTest, WhatIsRecoveredCountsAsTheFileThatWasAskedFor)
 {
-    const QString one = writeVocabulary("one.gla");
-    const QString two = writeVocabulary("two.gla");
+    const QString one = writeVocabulary("one.gla"), two = writeVocabulary("two.gla");
     const QString other = writeVocabulary("other.gla");
     change(one);
     change(two);
@@ -64,7 +60,7 @@ TEST_F(RecoveryOfferTest, WhatIsRecoveredCountsAsTheFileThatWasAskedFor)
         offer->open(other);
         EXPECT_TRUE(isOpen(other)) << "others do not";
     });
-    EXPECT_EQ(captions(), QStringList({"other", "two"}));
+    EXPECT_EQ(captions(), "other two ");
 
     start();
     window->OpenRequestedFile(one);
@@ -73,7 +69,7 @@ TEST_F(RecoveryOfferTest, WhatIsRecoveredCountsAsTheFileThatWasAskedFor)
         ASSERT_EQ(alert.onlyPrompt(), resText(710) + one + resText(711)) << "which it is";
         EXPECT_EQ(list.selectedItems().size(), 2);
     });
-    EXPECT_EQ(captions(), QStringList({"one*", "two*"})) << "each once";
+    EXPECT_EQ(captions(), "one* two* ") << "each once";
     EXPECT_EQ(documents().active()->Caption(), "two");
     EXPECT_EQ(alert.shown.size(), 1u);
 }
@@ -90,5 +86,5 @@ TEST_F(RecoveryOfferTest, TakesOnlyWhatIsSelected)
     });
     EXPECT_EQ(alert.onlyPrompt(), resText(12620).arg(2));
     answer({}, "btnRecover", [](QTreeWidget &list) { EXPECT_EQ(list.topLevelItemCount(), 1); });
-    EXPECT_EQ(captions(), QStringList("c*"));
+    EXPECT_EQ(captions(), "c* ");
 }

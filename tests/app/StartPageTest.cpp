@@ -7,14 +7,10 @@ namespace {
 
 struct StartPageTest : MainWindowFixture
 {
-    void SetUp() override
-    {
-        MainWindowFixture::SetUp();
-        QCoreApplication::processEvents();
-    }
     QWidget &page() { return *window->findChild<StartPage *>(); }
     LinkButton *link(const QString &text)
     {
+        QCoreApplication::processEvents(); // the page shows
         for (LinkButton *link : page().findChildren<LinkButton *>()) {
             if (link->text() == text && link->isVisible())
                 return link;
@@ -25,8 +21,7 @@ struct StartPageTest : MainWindowFixture
 
 TEST_F(StartPageTest, ShowsWhileNoDocumentIsOpen)
 {
-    EXPECT_TRUE(page().isVisible());
-    EXPECT_EQ(page().geometry(), window->documentArea()->geometry());
+    ASSERT_TRUE(link("New vocabulary"));
     window->resize(900, 500);
     EXPECT_EQ(page().geometry(), window->documentArea()->geometry());
     QTest::mouseClick(link("New vocabulary"), Qt::LeftButton);
@@ -46,31 +41,29 @@ TEST_F(StartPageTest, ShowsWhileNoDocumentIsOpen)
 
 TEST_F(StartPageTest, KeysGoFromListToListAndFromLineToLine)
 {
+    link("New vocabulary")->setFocus();
     const auto lists = page().findChildren<LinkList *>();
     const auto lessons = std::find_if(lists.begin(), lists.end(), [](auto *list) { return list->links().size() > 3; });
     ASSERT_NE(lessons, lists.end()) << "no lessons";
     const std::vector<LinkButton *> &links = (*lessons)->links();
-    link("New vocabulary")->setFocus();
-    const std::pair<int, QWidget *> keys[] = {{Qt::Key_Up, link("New vocabulary")},
-                                              {Qt::Key_Down, link("Open a vocabulary...")},
-                                              {Qt::Key_Tab, links[0]},
-                                              {Qt::Key_End, links.back()},
-                                              {Qt::Key_Backtab, link("Open a vocabulary...")},
-                                              {Qt::Key_Tab, links.back()},
-                                              {Qt::Key_Home, links[0]}};
-    for (const auto &[key, focused] : keys) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
-        EXPECT_EQ(QApplication::focusWidget(), focused) << key;
+    const QList<Qt::Key> keys{Qt::Key_Up,      Qt::Key_Down, Qt::Key_Tab, Qt::Key_End,
+                              Qt::Key_Backtab, Qt::Key_Tab,  Qt::Key_Home};
+    QWidget *const open = link("Open a vocabulary...");
+    QList<QWidget *> focused;
+    for (const Qt::Key key : keys) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        focused += QApplication::focusWidget();
     }
+    EXPECT_EQ(focused,
+              QList<QWidget *>({link("New vocabulary"), open, links[0], links.back(), open, links.back(), links[0]}));
     QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(links[1]);
     EXPECT_EQ(accessible->role(), QAccessible::Link);
     EXPECT_EQ(accessible->text(QAccessible::Name), links[1]->text());
     accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     ASSERT_TRUE(QTest::qWaitFor([this] { return documents().active(); }));
-    EXPECT_EQ(documents().active()->Caption(), "Untitled 1");
-    EXPECT_EQ(documents().active()->DocName(), "");
-    EXPECT_GT(documents().active()->Rutor()->Rows(), 5);
-    EXPECT_FALSE(documents().active()->Dirty());
+    const frmDoc &lesson = *documents().active();
+    EXPECT_TRUE(lesson.Caption() == "Untitled 1" && lesson.DocName().isEmpty() && !lesson.Dirty());
+    EXPECT_GT(lesson.Rutor()->Rows(), 5);
     EXPECT_EQ(window->context().recentFiles.FileCount(), 0);
 }
 

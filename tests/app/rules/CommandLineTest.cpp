@@ -3,26 +3,26 @@
 
 TEST(CommandLine, ArgumentsMakeOneAbsolutePath)
 {
-    // The arguments, separated by |, and the text.
-    const char *const cases[][2] = {{"", ""},
-                                    {"/a/b.gla", "/a/b.gla"},
-                                    {"b.gla", "/cwd/b.gla"},
-                                    {"../b.gla", "/cwd/../b.gla"},
-                                    {"my|words.gla", "/cwd/my words.gla"},
-                                    {"\"my words.gla\"", "\"/cwd/my words.gla\""},
-                                    {"\"/a/my words.gla\"", "\"/a/my words.gla\""},
-                                    {"\"/a/my|words.gla\"", "\"/a/my words.gla\""},
-                                    {"b.gla|--no-splash", "/cwd/b.gla"},
-                                    {"-session|id_1|--style=fusion|b.gla|-platform", "/cwd/b.gla"},
-                                    {"--|--help.gla", "/cwd/--help.gla"},
-                                    {"-", "/cwd/-"},
-                                    {"file:///a/my%20words.gla", "/a/my words.gla"}};
-    for (const auto &[given, text] : cases) {
-        const QStringList arguments = QString::fromUtf8(given).split(QLatin1Char('|'), Qt::SkipEmptyParts);
+    // Arguments, separated by |, and the text.
+    const QStringList cases{" => ",
+                            "/a/b.gla => /a/b.gla",
+                            "b.gla => /cwd/b.gla",
+                            "../b.gla => /cwd/../b.gla",
+                            "my|words.gla => /cwd/my words.gla",
+                            "\"my words.gla\" => \"/cwd/my words.gla\"",
+                            "\"/a/my words.gla\" => \"/a/my words.gla\"",
+                            "\"/a/my|words.gla\" => \"/a/my words.gla\"",
+                            "b.gla|--no-splash => /cwd/b.gla",
+                            "--style=fusion|-session|id_1|my|-reverse|words.gla|-platform => /cwd/my words.gla",
+                            "--|-name|--help.gla => /cwd/-name --help.gla",
+                            "- => /cwd/-",
+                            "file:///a/my%20words.gla => /a/my words.gla"};
+    for (const QString &each : cases) {
+        const QStringList arguments = each.section(" => ", 0, 0).split('|', Qt::SkipEmptyParts);
         const CommandLine line = CommandLine::parse(arguments, "/cwd");
-        EXPECT_EQ(line.text.toStdString(), text);
-        EXPECT_EQ(line.splash, !arguments.contains("--no-splash")) << given;
-        EXPECT_TRUE(!line.help && !line.version && line.unknownOption.isEmpty()) << given;
+        EXPECT_EQ(line.text, each.section(" => ", 1)) << each.toStdString();
+        EXPECT_EQ(line.splash, !arguments.contains("--no-splash")) << each.toStdString();
+        EXPECT_TRUE(!line.help && !line.version && line.unknownOption.isEmpty()) << each.toStdString();
     }
 }
 
@@ -40,14 +40,13 @@ TEST(CommandLine, OptionsAreToldFromPaths)
 TEST(CommandLine, EverythingBehindConvertIsAFile)
 {
     // The arguments and the files, separated by |.
-    const char *const cases[][2] = {{"--convert", ""},
-                                    {"--convert|in.csv", "in.csv"},
-                                    {"--no-splash|--convert|file:///a/my%20words.csv|-", "/a/my words.csv|-"},
-                                    {"--convert|--help|--|-x", "--help|--|-x"}};
-    for (const auto &[given, files] : cases) {
-        const CommandLine line = CommandLine::parse(QString::fromUtf8(given).split(QLatin1Char('|')), "/cwd");
-        EXPECT_TRUE(line.convert && !line.help && line.unknownOption.isEmpty()) << given;
-        EXPECT_EQ(line.convertFiles.join(QLatin1Char('|')).toStdString(), files);
+    const QStringList cases{"--convert => ", "--convert|in.csv => in.csv",
+                            "--no-splash|--convert|file:///a/my%20words.csv|- => /a/my words.csv|-",
+                            "--convert|--help|--|-x => --help|--|-x"};
+    for (const QString &each : cases) {
+        const CommandLine line = CommandLine::parse(each.section(" => ", 0, 0).split('|'), "/cwd");
+        EXPECT_TRUE(line.convert && !line.help && line.unknownOption.isEmpty()) << each.toStdString();
+        EXPECT_EQ(line.convertFiles.join('|'), each.section(" => ", 1));
     }
 }
 
@@ -56,23 +55,21 @@ TEST(RequestedFile, TextsFromOutside)
     QTemporaryDir folder;
     const QString root = QDir(folder.path()).canonicalPath();
     writeFile(root + "/My Words.gla", "");
-    // The text, and the path that it asks for; null: it is ignored. @ stands for the folder.
-    const char *const cases[][2] = {{"@/My Words.gla", "@/My Words.gla"},
-                                    {"\"@/My Words.gla\"", "@/My Words.gla"},
-                                    {"\"@/My Words.gla", "@/My Words.gla"},
-                                    {"@//./My Words.gla\"", "@/My Words.gla"},
-                                    {"@/missing/LIST.GLA", "@/missing/LIST.GLA"},
-                                    {"relative.gla", "relative.gla"},
-                                    {"@/My Words.gla ", nullptr},
-                                    {"\"\"@/My Words.gla\"\"", nullptr},
-                                    {"@/notes.txt", nullptr},
-                                    {"gla", nullptr},
-                                    {"\"", nullptr},
-                                    {"", nullptr}};
-    const auto inFolder = [&root](const char *text) { return QString::fromUtf8(text).replace(QLatin1Char('@'), root); };
-    for (const auto &[text, expected] : cases) {
-        const std::optional<QString> path = RequestedFile::requestedPath(inFolder(text));
-        ASSERT_EQ(path.has_value(), expected != nullptr) << text;
-        EXPECT_EQ(path.value_or(QString()), inFolder(expected));
+    // The text, and the path that it asks for, if any. @ stands for the folder.
+    const QStringList cases{"@/My Words.gla => @/My Words.gla",
+                            "\"@/My Words.gla\" => @/My Words.gla",
+                            "\"@/My Words.gla => @/My Words.gla",
+                            "@//./My Words.gla\" => @/My Words.gla",
+                            "@/missing/LIST.GLA => @/missing/LIST.GLA",
+                            "relative.gla => relative.gla",
+                            "@/My Words.gla  => ",
+                            "\"\"@/My Words.gla\"\" => ",
+                            "@/notes.txt => ",
+                            "gla => ",
+                            "\" => ",
+                            " => "};
+    for (const QString &each : cases) {
+        const QStringList parts = QString(each).replace('@', root).split(" => ");
+        EXPECT_EQ(RequestedFile::requestedPath(parts[0]).value_or(""), parts[1]) << each.toStdString();
     }
 }
