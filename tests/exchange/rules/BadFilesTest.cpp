@@ -100,6 +100,11 @@ TEST(BadFiles, OddOnesArriveAllTheSame)
         {ods("<!-- > --><table><shapes>" + Cell + "</shapes>" + QByteArray("<x/>").repeated(300000) + "<table-row>" +
              Cell + "</table-row></table>"),
          {"|", "a|"}},
+        {ods(row("<table-cell><p>a<note>x</note></p><p>b</p></table-cell>")), {"|", "a b|"}},
+        {zipOf({{"xl/workbook.xml", "<workbook><sheets><sheet id='1'/></sheets></workbook>"},
+                {"xl/_rels/workbook.xml.rels", "<a><Relationship Id='1' Target='s'/></a>"},
+                {"xl/s", "<a><row><c t='b'><v>0</v></c><c t='b'><v>1</v></c></row><row><c><v>2</v></c></row></a>"}}),
+         {"|", "FALSE|TRUE", "2|"}},
         {cards({Notes, Cards, "CREATE TABLE decks (id integer, name text)", "INSERT INTO notes VALUES (1, 2, 'a')"}),
          {"|", "a|"}},
         {cards({Notes, Cards, Col, "INSERT INTO col VALUES ('no JSON', '[1]')",
