@@ -13,6 +13,7 @@ STEPS = [  # the user's keys, texts in quotes, and what is to be heard before th
     ("Down", "cat", "Katze"),
     ("Right", "German column header", "Katze"),
     ("F2", "Cell B2 text", "Katze"),
+    ("Home", "K"),
     ("Escape", "Katze"),
     ("ctrl+f", "Find dialog", "Find text"),
     ("Escape", "table", "cat", "Katze"),
@@ -27,11 +28,11 @@ STEPS = [  # the user's keys, texts in quotes, and what is to be heard before th
     ("Escape", "table"),
     ("alt+q", "Practice"),
     ("p", "Practice - words dialog", "I know push button", "English: dog"),
-    ("alt+o", "notification Hund", "Incorrect. The correct answer is Hund", "English: cat. Question 2 of 4"),
+    ("alt+o", "notification Hund", "Incorrect. The correct answer is Hund. English: cat. Question 2 of 4"),
     ("Escape", "table"),
     ("alt+q", "Practice"),
     ("m", "Multiple Choice - words dialog", "radio button", "English: dog"),
-    ("Return", "Incorrect. The correct answer is Hund", "English: cat. Question 2 of 4"),
+    ("Return", "Incorrect. The correct answer is Hund. English: cat. Question 2 of 4"),
     ("Escape", "table"),
 ]
 NOISE = "layered pane"

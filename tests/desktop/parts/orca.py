@@ -13,7 +13,7 @@ settings_manager.getManager().activate(None, {"enableBraille": False, "enableKey
                                               "speechServerFactory": "none", "speechFactoryModules": []})
 orca.main()
 """
-SAID = re.compile(r"SPEECH OUTPUT: '(.*?)\s*'(?: voice=\w+)?\{")
+SAID = re.compile(r"SPEECH OUTPUT: '(.*?)\s*'(?: voice=\w+)? ?\{")
 PATIENCE = 90  # seconds that all it says at once may take on a busy machine
 QUIET = 1  # seconds without a line in the log after which nothing more comes
 
