@@ -83,6 +83,10 @@ TEST_F(BarChartTest, ShowsItsNumbersInTheOrderOfReadingAndNamesThemForKeysAndPoi
                 << step.toStdString();
         }
     }
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&chart, &leave);
+    EXPECT_TRUE(chart.accessibleDescription().contains('\n'));
+    QTest::keySequence(&chart, QKeySequence("Home, Left"));
     setBars({});
     EXPECT_EQ(chart.accessibleDescription(), "two: 0") << "still has the focus";
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&chart)->role(), QAccessible::Chart);

@@ -56,6 +56,7 @@ TEST_F(Progress, ShowsTheWordsInTheDirectionThatIsChosenExportsThemAndLeadsToOne
     EXPECT_EQ(table->model()->index(0, ProgressModel::Asked).data(Qt::TextAlignmentRole).toInt(), 130);
     EXPECT_EQ(table->model()->headerData(ProgressModel::Strength, Qt::Horizontal), "Strength");
     EXPECT_TRUE(numbers->isVisible() && numbers->blockCount() == 123 && !table->model()->data({}).isValid() &&
+                table->model()->rowCount(table->currentIndex()) == 0 &&
                 !table->model()->headerData(0, Qt::Vertical).isValid());
     EXPECT_NEAR(table->columnWidth(0), table->columnWidth(1), 2);
     const auto strength = [this](int row) {
@@ -83,6 +84,9 @@ TEST_F(Progress, ShowsTheWordsInTheDirectionThatIsChosenExportsThemAndLeadsToOne
     click("btnExport");
     table->sortByColumn(ProgressModel::Right, Qt::DescendingOrder);
     EXPECT_EQ(lines(), "cat Katze 2 1 25 Nov 2026 26 Nov 2026 10 %, dog Hund 0 , bird Vogel 0 ,");
+    table->clearSelection();
+    EXPECT_FALSE(dialog->findChild<QPushButton *>("btnSelect")->isEnabled());
+    table->setCurrentIndex(table->model()->index(0, 0));
     click("btnSelect");
     EXPECT_TRUE(!dialog->isVisible() && dialog->chosenRow() == 2 && alert.shown.at(0).sound &&
                 alert.shown.at(0).exclamation);

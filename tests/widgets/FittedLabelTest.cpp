@@ -31,6 +31,7 @@ TEST_F(FittedLabelTest, ALongTextIsCutToTheWidthOfTheMomentAndStandsInTheTooltip
 
 TEST_F(FittedLabelTest, LargeTypeShrinksBeforeTheTextIsCut)
 {
+    label.setContentsMargins(9, 2, 9, 4);
     label.setTypeSizes(3, 0.8);
     label.setFullText("word");
     label.resize(label.sizeHint());
@@ -46,6 +47,9 @@ TEST_F(FittedLabelTest, LargeTypeShrinksBeforeTheTextIsCut)
     EXPECT_NEAR(0.8 * normal, label.font().pointSizeF(), 0.1);
     label.resize(int(QFontMetricsF(window.font()).horizontalAdvance(LongPhrase) * 1.5), 60);
 
+    label.setFamily("Liberation Serif");
+    EXPECT_EQ(label.font().families().value(0), "Liberation Serif");
+    label.setFamily({});
     label.setRoomFor(LongPhrase);
     label.setFullText(LongPhrase.left(1));
     EXPECT_DOUBLE_EQ(forPhrase, label.font().pointSizeF());

@@ -58,12 +58,18 @@ TEST(ExtendedComboBox, CompletesFromItsListAndComesBackToIt)
     EXPECT_EQ(box.count(), 3);
     ExtendedComboBox list;
     list.addItems({"one", "two"});
+    list.setAccessibleName("Numbers");
+    list.show();
+    EXPECT_EQ(list.view()->accessibleName(), "Numbers");
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Down}) {
         QKeyEvent press(QEvent::KeyPress, key, {});
         QCoreApplication::sendEvent(&list, &press);
         EXPECT_EQ(press.isAccepted(), key == Qt::Key_Down) << "Enter is the window's";
     }
     EXPECT_EQ(list.currentText(), "two");
+    list.setItemData(1, 2.0);
+    list.setNumbersOnly(2.5);
+    EXPECT_TRUE(list.currentIndex() == -1 && list.currentText() == "2.5" && !list.completer());
 }
 
 TEST(ExtendedComboBox, ShowsColoursInFramesThatFollowThePalette)

@@ -3,8 +3,9 @@
 TEST(LetterRowTest, ClicksAndKeysTypeLettersAndTheirCapitals)
 {
     QDialog window;
-    auto *box = new QLineEdit(&window);
     auto *row = new LetterRow(&window);
+    auto *box = new QLineEdit(&window);
+    row->setTabOrderAfter(box);
     auto *layout = new QVBoxLayout(&window);
     layout->addWidget(box);
     layout->addWidget(row);

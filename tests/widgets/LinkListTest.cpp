@@ -11,6 +11,7 @@ TEST(LinkListTest, KeysGoAlongItsLinksAndReadersAreToldOfThem)
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     list.adjustSize();
     const auto &links = list.links();
+    EXPECT_TRUE(links[0]->focusPolicy() == Qt::StrongFocus && links[1]->focusPolicy() == Qt::ClickFocus);
     EXPECT_EQ(list.childrenRect(), list.rect());
     const auto *heading = list.findChild<QLabel *>();
     EXPECT_TRUE(heading->font().bold() && heading->margin() == 3 && list.accessibleName() == "Files");
@@ -40,6 +41,7 @@ TEST(LinkListTest, KeysGoAlongItsLinksAndReadersAreToldOfThem)
     EXPECT_TRUE(QTest::qWaitFor([&run] { return run.join(' ') == "two two two 3"; }));
     const QPointer<QWidget> gone = links[0];
     list.setLinks({});
+    EXPECT_TRUE(gone->isHidden());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(!list.isVisible() && !gone);
 }
