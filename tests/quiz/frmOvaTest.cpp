@@ -52,7 +52,6 @@ struct frmOvaTest : ::testing::Test, StoredSettings
     {
         return window->findChild<Control *>(name);
     }
-    AnswerOption *option(int index) { return control<AnswerOption>(QStringLiteral("optAnswer%1").arg(index % 3)); }
     QLineEdit *answerBox() { return control<QLineEdit>("txtSvar"); }
 
     void key(QKeyCombination keys)
@@ -215,14 +214,15 @@ TEST_F(frmOvaTest, LongOptionsAreFittedAndStandInTheTooltips)
     const QString phrase = QString("to show & tell ").repeated(12);
     open(MultipleChoice, {{phrase, phrase}, {"b", "b"}, {"c", "c"}});
     window->resize(500, window->height());
-    const AnswerOption *fitted = option(session()->question().correctPosition() - Question::FirstOption);
+    const int position = session()->question().correctPosition() - Question::FirstOption;
+    const auto *fitted = control<AnswerOption>(QStringLiteral("optAnswer%1").arg(position));
     EXPECT_EQ(phrase, fitted->toolTip());
     const QString shownText = FormTexts::withoutMnemonic(fitted->text()).mid(2);
     EXPECT_EQ(phrase.left(shownText.size() - 1) + QChar(0x2026), shownText);
     EXPECT_LE(fitted->fontMetrics().horizontalAdvance(shownText), fitted->width() * 0.97 - 20);
-    const QImage plain = option(0)->grab().toImage();
+    const QImage plain = control("optAnswer0")->grab().toImage();
     act("Alt+A Down");
-    EXPECT_NE(plain, option(0)->grab().toImage()) << "where the arrows are shows";
+    EXPECT_NE(plain, control("optAnswer0")->grab().toImage()) << "where the arrows are shows";
 }
 
 TEST_F(frmOvaTest, TheDocumentStepsAsideAndComesBackAndAQuizThatWasLeftGoesOn)

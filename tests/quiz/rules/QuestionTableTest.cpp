@@ -47,7 +47,6 @@ TEST(QuestionTableTest, OnlyRowsWithAFirstWordCount)
 TEST(QuestionTableTest, EachKindAsksEveryWordInTheDirectionsAndTheOrderOfEachMode)
 {
     for (int round = 0; round < 30; ++round) {
-        SCOPED_TRACE(round);
         const bool choice = round % 3 == int(QuizKind::MultipleChoice);
         const int mode = 1 + round / 3 % 5;
         const int words = round < 15 ? 60 : 3;

@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr int Today = 1000;
-
 struct Recording : AnswerMemory
 {
     std::vector<Answer> answers;
@@ -16,7 +14,7 @@ struct Recording : AnswerMemory
     void remember(const Answer &answer) override
     {
         answers.push_back(answer);
-        known[answer.word] = Schedule::next(known[answer.word], answer.grade(), Today);
+        known[answer.word] = Schedule::next(known[answer.word], answer.grade(), today());
     }
     std::vector<Card> cards(const std::vector<WordKey> &keys) override
     {
@@ -24,7 +22,7 @@ struct Recording : AnswerMemory
         std::transform(keys.begin(), keys.end(), cards.begin(), [this](const auto &key) { return known.value(key); });
         return cards;
     }
-    int today() const override { return Today; }
+    int today() const override { return 1000; }
 };
 
 } // namespace
@@ -58,6 +56,6 @@ TEST(QuizMemoryTest, RemembersWordsInTheDirectionInWhichTheyAreAskedAndSaysWhenT
         told += QStringLiteral("%1 %2 %3 %4").arg(each.word.asked, each.word.answer).arg(each.right).arg(each.hintUsed);
     EXPECT_EQ("eins one 1 0, zwei two 1 1, drei three 0 0", told.join(", "));
     EXPECT_EQ(Answer::Kind::QuestionAndAnswer, recording.answers[0].kind);
-    recording.known[WordKey::of("zwei", "two")].due = Today;
+    recording.known[WordKey::of("zwei", "two")].due = recording.today();
     EXPECT_EQ("Words of this list are due now (1).", memory.nextDue());
 }

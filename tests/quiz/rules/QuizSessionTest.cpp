@@ -86,7 +86,6 @@ struct QuizSessionTest : ::testing::Test, StoredSettings
 TEST_F(QuizSessionTest, WholeQuizzesOfEachKindInEachModeUntilNoErrorIsLeft)
 {
     for (int each = 0; each < 15; ++each) {
-        SCOPED_TRACE(each);
         settings.setQuizMode(1 + each / 3);
         Quiz quiz(settings, QuizKind(each % 3), ListWords::numbered(11), quint64(each));
         QuizSession &session = quiz.session;
@@ -102,7 +101,6 @@ TEST_F(QuizSessionTest, WholeQuizzesOfEachKindInEachModeUntilNoErrorIsLeft)
                 EXPECT_TRUE(expected.empty() || expected[size_t(k - 1)] == question);
                 const bool correctly = k % 3 != 0;
                 quiz.answer(correctly);
-                EXPECT_EQ(correctly, session.givenAnswer() == question.correctAnswer());
                 if (correctly)
                     continue;
                 missed.push_back(question);
