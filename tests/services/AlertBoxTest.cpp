@@ -23,8 +23,8 @@ TEST(AlertBox, ShowsWhatItIsAskedToAndAnswersByKeys)
             QTimer::singleShot(0, [&, key = key, parts = parts] {
                 auto *message = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
                 QApplication::setActiveWindow(message);
-                EXPECT_EQ(message->parentWidget(), owner ? &caller : &mainWindow);
-                EXPECT_EQ(message->textFormat(), Qt::PlainText);
+                EXPECT_TRUE(message->parentWidget() == (owner ? &caller : &mainWindow) &&
+                            message->textFormat() == Qt::PlainText);
                 EXPECT_EQ(message->icon(), help ? QMessageBox::Warning : QMessageBox::NoIcon);
                 EXPECT_EQ(shown(*message).toStdString(),
                           std::string(help ? "Title" : "Glosaria Alert") + " | <b>A question</b> | " + parts);

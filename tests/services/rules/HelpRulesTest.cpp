@@ -32,12 +32,9 @@ TEST(HelpBook, ReadsContentsAndIndex)
         "<note><section title='N' ref='n'/></note></section><section title='D' ref='d'/></toc><keywords><keyword "
         "name='k' ref='c'><note/></keyword><keyword name='l' ref='d'/></keywords></filterSection>"
         "</QtHelpProject>");
-    ASSERT_EQ(book.pages().size(), 3u);
+    ASSERT_TRUE(book.pages().size() == 3 && book.chapters.size() == 2 && book.keywords.size() == 2);
     EXPECT_EQ(book.titleOf("a"), "A & B");
-    EXPECT_EQ(book.pages()[1]->page, "c");
-    EXPECT_EQ(book.chapters.size(), 2u);
-    ASSERT_EQ(book.keywords.size(), 2u);
-    EXPECT_EQ(book.keywords[0].page + book.keywords[1].word, "cl");
+    EXPECT_EQ(book.pages()[1]->page + book.keywords[0].page + book.keywords[1].word, "ccl");
     EXPECT_EQ(parseHelpBook("<QtHelpProject><toc><section title='A' ref='a'/><sec").pages().size(), 1u);
     EXPECT_EQ(parseHelpContexts("# head\n#1\ta\n1160\thtml/find.html\r\n\nnonsense\n1170\thtml/replace.html"),
               (QHash<int, QString>{{1160, "html/find.html"}, {1170, "html/replace.html"}}));

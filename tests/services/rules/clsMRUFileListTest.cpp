@@ -51,8 +51,7 @@ TEST_F(MRUFileListTest, SavedListComesBack)
     with("E F").Save(registry);
     clsMRUFileList list = with("X Y Z");
     list.Load(registry);
-    EXPECT_EQ(filesOf(list), "F E");
-    EXPECT_EQ(list.MaxFileCount(), 4);
+    EXPECT_TRUE(filesOf(list) == "F E" && list.MaxFileCount() == 4);
     registry.setValueKey("File3");
     EXPECT_EQ(registry.Value(), QVariant("B"));
 }

@@ -5,14 +5,12 @@
 TEST(Registry, ValueComesBackByItsStoredType)
 {
     using enum RegistryType;
-    const QString text = "100%";
-    const QString percent = "%HOME%/words";
     const QString list = "a" + QString(QChar::Null) + "b";
     const QByteArray bytes("\0\xff", 2);
     const std::tuple<RegistryType, QVariant, QVariant, RegistryType> cases[] = {
-        {String, text, text, String},
-        {String, percent, percent, ExpandString},
-        {ExpandString, text, text, ExpandString},
+        {String, "100%", "100%", String},
+        {String, "%HOME%/words", "%HOME%/words", ExpandString},
+        {ExpandString, "100%", "100%", ExpandString},
         {Binary, bytes, bytes, Binary},
         {Number, -1, -1, Number},
         {BigEndianNumber, 4294967295u, -1, BigEndianNumber},
