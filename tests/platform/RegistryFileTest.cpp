@@ -22,7 +22,7 @@ TEST_F(RegistryFileTest, EveryOperationReachesTheFile)
 {
     RegistryFile store(m_path);
     EXPECT_TRUE(set(store, "a", "1") && set(store, "b", "2") && store.deleteValue(HKEY_CURRENT_USER, Key, "a") &&
-                store.createKey(HKEY_CLASSES_ROOT, ".gla"));
+                !store.deleteValue(HKEY_CURRENT_USER, Key, "a") && store.createKey(HKEY_CLASSES_ROOT, ".gla"));
     EXPECT_EQ(readFile(m_path).simplified(),
               R"(Glosaria registry 1 HKEY_CLASSES_ROOT ".gla" HKEY_CURRENT_USER "Software" )"
               R"(HKEY_CURRENT_USER "Software\\Glosaria" "b" = string "2" end)");
@@ -31,7 +31,7 @@ TEST_F(RegistryFileTest, EveryOperationReachesTheFile)
     EXPECT_TRUE(store.deleteKey(HKEY_CURRENT_USER, "SOFTWARE"));
     EXPECT_FALSE(RegistryFile(m_path).keyExists(HKEY_CURRENT_USER, Key));
     EXPECT_FALSE(store.createKey(HKEY_CURRENT_USER + 1, Key) || store.deleteKey(HKEY_CURRENT_USER, "") ||
-                 store.deleteKey(HKEY_CURRENT_USER, "none") || store.deleteValue(HKEY_CURRENT_USER, Key, "b"));
+                 store.deleteKey(HKEY_CURRENT_USER, "none"));
 }
 
 TEST_F(RegistryFileTest, CopiesKeepEachOthersValues)
