@@ -44,11 +44,8 @@ bool isControl(const QWidget *widget)
 
 int textOf(const QWidget *widget)
 {
-    for (; widget && !widget->isWindow(); widget = widget->parentWidget()) {
-        if (const int id = widget->property("whatsThisId").toInt())
-            return id;
-    }
-    return 0;
+    const int id = widget->isWindow() ? -1 : widget->property("whatsThisId").toInt();
+    return id ? std::max(id, 0) : textOf(widget->parentWidget());
 }
 
 /// The letters by which the controls of a window are reached, in the order of the controls.

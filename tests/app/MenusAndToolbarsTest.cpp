@@ -13,10 +13,8 @@ struct MenusAndToolbarsTest : MainWindowFixture
     {
         QStringList all;
         for (const QAction *title : window->menuBar()->actions()) {
-            if (title->isVisible())
-                all += (title->menu()->objectName().mid(3) + ' ' +
-                        entries(title->menu()->objectName()).filter("(").join(' '))
-                           .trimmed();
+            const QString menu = title->menu()->objectName();
+            all += title->isVisible() ? (menu.mid(3) + ' ' + entries(menu).filter("(").join(' ')).trimmed() : "";
         }
         for (QToolBar *bar : window->findChildren<QToolBar *>()) {
             for (const QAction *action : bar->isVisible() ? bar->actions() : QList<QAction *>())
@@ -46,8 +44,8 @@ TEST_F(MenusAndToolbarsTest, TheStateTellsWhatCanBeDone)
     look();
     const std::vector<std::pair<AppState, std::string>> expected{
         {AppState::StateNoDocument,
-         "File | Help | Save | Print | Preview | Cut | Copy | Paste | Undo | Insert | Delete | "
-         "Find | Font | Sort | Languages | Model | Quiz"},
+         "File | Help | Save | Print | Preview | Cut | Copy | Paste | Undo | Insert | Delete | Find | "
+         "Font | Sort | Languages | Model | Quiz"},
         {AppState::StateDocument,
          "File | Edit (Can't Undo) | Vocabulary | Mode | Quiz (Continue Quiz) | Window | Help | Undo"},
         {AppState::StateEditing,
@@ -55,8 +53,7 @@ TEST_F(MenusAndToolbarsTest, TheStateTellsWhatCanBeDone)
          "(Insert) (Delete) (Find...) (Replace...) (Paste List...) | Vocabulary (Languages...) (Row Height...) (Column "
          "Width...) (Font...) (Sort...) (Check...) (Progress...) | Mode | Quiz (Practice...) (Multiple Choice...) "
          "(Question and Answer...) (Continue Quiz) (Words to Ask) (Quiz Options...) | Window | Help | New | Open | "
-         "Print "
-         "| Preview | Insert | Delete | Find | Font | Sort | Languages | Model | Quiz"},
+         "Print | Preview | Insert | Delete | Find | Font | Sort | Languages | Model | Quiz"},
         {AppState::StatePreview, "File (New) (Open...) (Close) (Save) (Save As...) (Import...) (Export...) (Print "
                                  "Test...) | Help | Previous | Next"},
         {AppState::StateNoDocument, found.front().second}};
@@ -79,7 +76,6 @@ TEST_F(MenusAndToolbarsTest, TheUndoCaptionNamesAndEnablesTheCommand)
     frmDoc *document = newDocument();
     EXPECT_EQ(window->UndoAction(), resText(419));
     window->setUndoAction("&Undo Cut");
-    EXPECT_EQ(window->UndoAction(), "&Undo Cut");
     EXPECT_TRUE(undo.kind() == UndoKind::Cut && undo.belongsTo(document));
     EXPECT_EQ(window->commands().action("mnuEditUndo")->text(), "&Undo Cut");
     EXPECT_EQ(button("tbrStandard", "Undo")->toolTip(), "Undo Cut");
@@ -248,8 +244,7 @@ TEST_F(MenusAndToolbarsTest, TheWindowMenuListsAndActivatesDocuments)
     newDocument()->setCaption(QString(32, 'y'));
     EXPECT_EQ(entries("mnuWindow").mid(4), (QStringList{"-", QString(32, 'x') + "...", QString(32, 'y')}));
     const QList<QAction *> actions = menu("mnuWindow")->actions();
-    EXPECT_FALSE(actions[5]->isChecked());
-    EXPECT_TRUE(actions[6]->isChecked());
+    EXPECT_TRUE(!actions[5]->isChecked() && actions[6]->isChecked());
     for (frmDoc *each : {first, documents().open().back()}) {
         window->DoMenuClick(QStringLiteral("mnuWin(%1)").arg(each->Tag()));
         EXPECT_EQ(documents().active(), each);
@@ -292,7 +287,7 @@ TEST_F(MenusAndToolbarsTest, EveryTitleAndEntryHasItsCaptionAndHelpText)
     };
     int id = 400;
     int title = 0;
-    QStringList separators;
+    QString separators;
     for (QAction *each : window->menuBar()->actions()) {
         QMenu *dropDown = each->menu();
         EXPECT_EQ(each->text(), resText(id));
@@ -310,10 +305,9 @@ TEST_F(MenusAndToolbarsTest, EveryTitleAndEntryHasItsCaptionAndHelpText)
                 continue;
             }
             id = entry->objectName() == "mnuFileExit" ? 417 : id + 1;
-            if (entry->isSeparator()) {
-                separators += entry->objectName();
+            separators += entry->isSeparator() ? entry->objectName() + ' ' : "";
+            if (entry->isSeparator())
                 continue;
-            }
             EXPECT_EQ(entry->property("textId").toInt(), id);
             EXPECT_TRUE(entry->text().startsWith(resText(id))) << id;
             EXPECT_TRUE(!entry->icon().isNull() || dropDown->objectName() == "mnuMode") << id;
@@ -328,8 +322,8 @@ TEST_F(MenusAndToolbarsTest, EveryTitleAndEntryHasItsCaptionAndHelpText)
         expectDifferentLetters(texts, each->objectName());
     }
     EXPECT_EQ(id, 458);
-    EXPECT_EQ(separators.join(' '), "mnuFile(3) mnuFile(8) mnuFileSep mnuEdit(1) mnuEdit(5) mnuEdit(5) mnuToolbar(0) "
-                                    "mnuToolbar(3) mnuHelp(4)");
+    EXPECT_EQ(separators, "mnuFile(3) mnuFile(8) mnuFileSep mnuEdit(1) mnuEdit(5) mnuEdit(5) mnuToolbar(0) "
+                          "mnuToolbar(3) mnuHelp(4) ");
 }
 
 TEST_F(MenusAndToolbarsTest, KeysZoomTheActiveVocabulary)

@@ -8,13 +8,12 @@
 
 namespace {
 
-template <typename Window> Window *shown(const char *name)
+QWidget *shown(const char *name)
 {
-    for (QWidget *each : QApplication::topLevelWidgets()) {
-        if (each->isVisible() && each->inherits(name))
-            return dynamic_cast<Window *>(each);
-    }
-    return nullptr;
+    const QWidgetList all = QApplication::topLevelWidgets();
+    const auto is = [name](QWidget *each) { return each->isVisible() && each->inherits(name); };
+    const auto found = std::find_if(all.begin(), all.end(), is);
+    return found == all.end() ? nullptr : *found;
 }
 
 /// Runs the program until its file is open and changed, then has it ended by signals while a dialog waits. Returns what
@@ -24,11 +23,11 @@ QStringList run(const CommandLine &line)
     QStringList seen;
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, [&seen] {
-        auto *window = shown<frmApp>("frmApp");
+        auto *window = static_cast<frmApp *>(shown("frmApp"));
         QWidget *modal = QApplication::activeModalWidget();
-        const bool words = window && window->context().documents.active();
+        frmDoc *words = window ? window->context().documents.active() : nullptr;
         const QString now =
-            QString(shown<QWidget>("frmSplash") ? "splash " : "") + (window ? "window " : "") + (words ? "words" : "");
+            QString(shown("frmSplash") ? "splash " : "") + (window ? "window " : "") + (words ? "words" : "");
         if (auto *box = qobject_cast<QMessageBox *>(modal)) {
             seen += QDir(UserFolders::state() + "/recovery").isEmpty() ? "asks" : "asks with a copy";
             box->button(seen.filter("asks").size() == 1 ? QMessageBox::Cancel : QMessageBox::No)->click();
@@ -37,8 +36,8 @@ QStringList run(const CommandLine &line)
         } else if (modal) {
             ::raise(SIGTERM);
         } else if (words) {
-            window->context().documents.active()->Rutor()->setTextMatrix(1, 1, "changed");
-            window->context().documents.active()->setDirty(true);
+            words->Rutor()->setTextMatrix(1, 1, "changed");
+            words->setDirty(true);
             QTimer::singleShot(0, window, [window] { window->DoMenuClick("mnuVocabularyLanguage"); });
         }
     });
