@@ -3,6 +3,8 @@
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
+#include <zstd.h>
+
 namespace {
 
 QByteArray row(const QByteArray &cells, const QByteArray &attributes = {})
@@ -12,8 +14,16 @@ QByteArray row(const QByteArray &cells, const QByteArray &attributes = {})
 
 const QByteArray Cell = "<table-cell><p>a</p></table-cell>";
 
-/// A package of cards whose database was made by these statements.
-QByteArray cards(const QStringList &statements)
+QByteArray zstd(const QByteArray &bytes)
+{
+    QByteArray packed(qsizetype(ZSTD_compressBound(size_t(bytes.size()))), '\0');
+    packed.resize(
+        qsizetype(ZSTD_compress(packed.data(), size_t(packed.size()), bytes.data(), size_t(bytes.size()), 1)));
+    return packed;
+}
+
+/// A package of cards whose database was made by these statements; newer ones are packed once more.
+QByteArray cards(const QStringList &statements, bool newer = false)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("c.db");
@@ -25,7 +35,8 @@ QByteArray cards(const QStringList &statements)
             EXPECT_TRUE(QSqlQuery(database).exec(statement)) << statement.toStdString();
     }
     QSqlDatabase::removeDatabase("made");
-    return zipOf({{"collection.anki2", readFile(path)}});
+    return newer ? zipOf({{"collection.anki21b", zstd(readFile(path))}})
+                 : zipOf({{"collection.anki2", readFile(path)}});
 }
 
 const QString Notes = "CREATE TABLE notes (id integer primary key, mid integer, flds text)";
@@ -112,6 +123,11 @@ TEST(BadFiles, OddOnesArriveAllTheSame)
          {"|", "a|b", "c|"}}};
     for (const auto &[bytes, words] : cases)
         EXPECT_EQ(pairsOf(bytes), words) << bytes.left(60).toStdString();
+    const QString many =
+        "INSERT INTO notes WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n LIMIT 30000) "
+        "SELECT i, 1, hex(randomblob(9)) || char(31) || i FROM n";
+    const QStringList words = pairsOf(cards({Notes, Cards, "CREATE TABLE decks (id, name)", many}, true));
+    EXPECT_TRUE(words.size() == 30001 && words.last().endsWith("|30000")) << words.size();
     const ListReader::Table table = ListReader::read(*openBytes(wide).source, openBytes(wide).source->proposal());
     EXPECT_EQ(Pairs::count(table.table, {}).dropped.columns, 100000);
 }

@@ -55,6 +55,7 @@ TEST(TextLists, ReadsEveryCharacterSet)
                                  8)),
               QStringList({"|", "a|b"}));
     EXPECT_EQ(TextEncoding::decode("\xE9", "no character set"), "é");
+    EXPECT_EQ(TextEncoding::decode("\x84\x31\x95\x33-", "GB18030"), "-");
     for (const QByteArray &name : TextEncoding::known())
         EXPECT_TRUE(QStringDecoder(name.constData()).isValid()) << name.toStdString();
 }
