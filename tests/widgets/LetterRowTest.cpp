@@ -5,6 +5,7 @@ TEST(LetterRowTest, ClicksAndKeysTypeLettersAndTheirCapitals)
     QDialog window;
     auto *row = new LetterRow(&window);
     auto *box = new QLineEdit(&window);
+    new QLineEdit(&window); // to which Tab would lead else
     row->setTabOrderAfter(box);
     auto *layout = new QVBoxLayout(&window);
     layout->addWidget(box);
