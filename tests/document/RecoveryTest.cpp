@@ -108,7 +108,6 @@ TEST_F(RecoveryTest, EveryLaterChangeReachesTheCopyAndGoesWhenItIsUndone)
     EXPECT_EQ(copies().size(), 1);
     const RecoveryFolder::Orphan orphan = restart().at(0);
     EXPECT_EQ(orphan.copy.cause, RecoveryCopy::Cause::Ended);
-    EXPECT_LT(orphan.copy.time.secsTo(QDateTime::currentDateTime()), 60);
     run->keeper.recover(orphan);
     ASSERT_EQ(run->documents.open().size(), 1u);
     const frmDoc &recovered = *run->documents.open().front();
@@ -245,7 +244,7 @@ TEST_F(RecoveryTest, StrangeCopiesAreNeitherOfferedNorDeletedAndHoldNobodyUp)
     }
     RecoveryFolder blocked(writeFile(path, "in the way"));
     EXPECT_EQ(blocked.adopt(copy), copy) << "it cannot be moved";
-    EXPECT_TRUE(blocked.remove(copy + 'x')) << "it is not there";
+    EXPECT_TRUE(blocked.remove({}) && blocked.remove(copy + 'x')) << "it is not there";
     ASSERT_TRUE(QFile::resize(copy, RecoveryCopy::LargestSize + 1));
     EXPECT_TRUE(run->keeper.orphans().empty());
     EXPECT_EQ(copies().size(), 1);

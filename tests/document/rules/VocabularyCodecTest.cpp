@@ -130,6 +130,7 @@ TEST(VocabularyCodec, SectionsLineEndsAndLettersMayDiffer)
 {
     const std::pair<QByteArray, Vocabulary> cases[] = {
         {Start, withRows({})},
+        {changed("\"Arial\"", "Arial"), TwoPairs},
         {QByteArray(Whole).replace("\r\n", "\r"), TwoPairs},
         {changed("[Font Info]", "[Other]\r\n1\r\n[Font Info]"), TwoPairs},
         {changed("[Vocabulary]", "[Font Info]\r\nx\r\n\r\n[Vocabulary]"), TwoPairs},
