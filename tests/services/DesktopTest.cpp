@@ -227,6 +227,22 @@ TEST(ScreenFitTest, DialogsLargerThanTheScreenScrollAndKeepTheirButtons)
     }
 }
 
+TEST(ScreenFitTest, DialogsThatAreTooWideBecomeNarrowerBeforeTheyScroll)
+{
+    const ScreenFit fit(*qApp);
+    QDialog dialog;
+    auto *layout = new QHBoxLayout(&dialog);
+    auto *check = new QCheckBox(QString("a few words ").repeated(12).trimmed());
+    auto *box = new QComboBox;
+    box->addItem(QString(100, u'x'));
+    layout->addWidget(check);
+    layout->addWidget(box);
+    dialog.show();
+    EXPECT_LE(dialog.width(), QGuiApplication::primaryScreen()->availableSize().width());
+    EXPECT_EQ(dialog.findChild<QScrollArea *>(), nullptr);
+    EXPECT_EQ(check->text().count('\n'), 1);
+}
+
 TEST(ScreenFitTest, WindowsOfAScreenThatHasGoneComeIntoView)
 {
     const QList<QRect> one = {{0, 30, 1280, 770}}, two = {{0, 30, 1280, 770}, {1280, 0, 640, 400}};

@@ -3,18 +3,24 @@
 #include "platform/WaylandDesktop.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStyle>
 #include <QTimer>
+#include <QToolButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
 /// Left for the window manager's frame, which is not there before the dialog shows.
 constexpr QSize FrameRoom(10, 36);
+constexpr int LeastLetters = 10;  ///< that a narrow box with choices has room for, its arrow included
 constexpr int DesktopsTurn = 500; ///< milliseconds in which the desktop moves windows from a screen that has gone
 
 /// The row of buttons that ends the layout, taken out of it; null when it ends in something else.
@@ -25,6 +31,55 @@ QDialogButtonBox *takeButtons(QLayout &layout)
     if (buttons)
         layout.removeWidget(buttons);
     return buttons;
+}
+
+/// Breaks the text of a button at the blank nearest to its middle.
+void breakText(QAbstractButton &button)
+{
+    QString text = button.text();
+    const qsizetype middle = text.size() / 2;
+    const qsizetype before = text.lastIndexOf(u' ', middle), after = text.indexOf(u' ', middle);
+    const qsizetype at = before < 0 || (after >= 0 && after - middle < middle - before) ? after : before;
+    if (at >= 0)
+        button.setText(text.replace(at, 1, u'\n'));
+}
+
+/// The buttons whose texts may have two lines, the widest first.
+QList<QAbstractButton *> breakableButtons(const QDialog &dialog)
+{
+    QList<QAbstractButton *> buttons = dialog.findChildren<QAbstractButton *>();
+    buttons.removeIf([&dialog](const QAbstractButton *button) {
+        const bool isBreakable = qobject_cast<const QCheckBox *>(button) || qobject_cast<const QToolButton *>(button);
+        return !isBreakable || !button->isVisibleTo(&dialog);
+    });
+    std::stable_sort(buttons.begin(), buttons.end(), [](const QAbstractButton *one, const QAbstractButton *other) {
+        return one->sizeHint().width() > other->sizeHint().width();
+    });
+    return buttons;
+}
+
+/// Makes a dialog narrower as long as it is wider than this (pixels): lists and boxes with choices give up width, for
+/// they show the rest when they are used, and long texts beside check marks and pictures go on in a second line.
+void narrow(const QDialog &dialog, int width)
+{
+    const auto settle = [] { QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); };
+    const auto isTooWide = [&dialog, width, settle] {
+        settle();
+        return dialog.layout()->totalMinimumSize().width() > width;
+    };
+    for (auto *area : dialog.findChildren<QAbstractScrollArea *>()) {
+        if (isTooWide())
+            area->setMinimumWidth(0);
+    }
+    for (auto *box : dialog.findChildren<QComboBox *>()) {
+        if (isTooWide())
+            box->setMinimumWidth(LeastLetters * box->fontMetrics().horizontalAdvance(u'X'));
+    }
+    for (QAbstractButton *button : breakableButtons(dialog)) {
+        if (isTooWide())
+            breakText(*button);
+    }
+    settle();
 }
 
 /// Puts the content of a dialog into an area that scrolls; returns the size at which nothing has to.
@@ -124,8 +179,12 @@ void ScreenFit::fit(QDialog &dialog)
     const QRect place = room(dialog);
     if (!dialog.layout() || dialog.size().boundedTo(place.size()) == dialog.size())
         return;
+    QSize least = dialog.layout()->totalMinimumSize();
+    const bool scrolls = least.height() > place.height();
+    const int scrollBar = dialog.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &dialog);
+    narrow(dialog, place.width() - (scrolls ? scrollBar : 0));
     QSize size = dialog.size();
-    const QSize least = dialog.layout()->totalMinimumSize();
+    least = dialog.layout()->totalMinimumSize();
     if (least.boundedTo(place.size()) != least)
         size = makeScrollable(dialog).expandedTo(size);
     dialog.resize(size.boundedTo(place.size()));

@@ -7,8 +7,9 @@ class QApplication;
 class QDialog;
 class QRect;
 
-/// Keeps dialogs usable on screens that are too small for them: what does not fit is scrolled, the row of buttons stays
-/// in sight. When a screen is taken away it brings the windows back that the desktop leaves there, or at the edge.
+/// Keeps dialogs usable on screens that are too small for them: they are made narrower where they can, and what still
+/// does not fit is scrolled, while the row of buttons stays in sight. When a screen is taken away it brings the windows
+/// back that the desktop leaves there, or at the edge.
 class ScreenFit : public QObject
 {
     Q_OBJECT
