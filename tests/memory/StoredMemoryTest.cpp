@@ -62,8 +62,8 @@ TEST_F(StoredMemoryTest, KnowsEveryAnswerThroughEndsDoubtsOtherProgramsAndForget
     EXPECT_FALSE(QFile::exists(m_path)) << "made with the first answer";
     const std::vector<WordKey> words = {Dog, WordKey::of(QString(100000, QChar(0xE9)), QString(100000, QChar(0x30A2))),
                                         WordKey::of("\U0001F436", "كلب"), WordKey::of(QString(QChar(0xD800)), {})};
-    const char *faults[] = {"stability = -1", "stability = 36501", "difficulty = 10.5",  "difficulty = 0.9",
-                            "due = last",     "missed = -1",       "missed = asked + 1", "asked = 0, missed = 0"};
+    const char *faults[8] = {"stability = -1", "stability = 36501", "difficulty = 10.5",  "difficulty = 0.9",
+                             "due = last",     "missed = -1",       "missed = asked + 1", "asked = 0, missed = 0"};
     const QString newest = " WHERE answer = (SELECT max(answer) FROM card)";
     std::mt19937 chance(1);
     const auto draw = [&chance](size_t end) { return size_t(chance() % end); };
@@ -77,7 +77,7 @@ TEST_F(StoredMemoryTest, KnowsEveryAnswerThroughEndsDoubtsOtherProgramsAndForget
         const size_t what = draw(12);
         if (what == 0 && QFile::exists(m_path)) {
             programs[1].reset(), programs[0].reset();
-            sql(draw(2) ? "DELETE FROM card" + newest : "UPDATE card SET " + QString(faults[draw(std::size(faults))]));
+            sql(draw(9) == 0 ? "DELETE FROM card" + newest : "UPDATE card SET " + QString(faults[draw(8)]));
             programs[0] = open(), programs[1] = open();
         } else if (what == 1 && word > 0) {
             programs[0]->forget({words[word]});
