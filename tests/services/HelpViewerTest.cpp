@@ -149,9 +149,13 @@ TEST_F(HelpViewerTest, WindowsHaveTheirSizesToolsAndPanes)
     EXPECT_EQ(shownPanes.toStdString(), "&Index>keyword &Search>words &Favorites>favorites &Contents>contents ");
     auto *browser = part<HelpBrowser>("browser");
     const double before = browser->font().pointSizeF();
-    for (const int turn : {120, 120, -120, 0}) { // the last one without Ctrl
-        const Qt::KeyboardModifiers keys = turn ? Qt::ControlModifier : Qt::NoModifier;
-        QWheelEvent wheel({}, {}, {}, {0, turn ? turn : 120}, Qt::NoButton, keys, Qt::NoScrollPhase, false);
+    const auto ctrl = Qt::ControlModifier;
+    for (const auto &[turn, keys] : {std::pair(QPoint(0, 120), Qt::KeyboardModifiers(ctrl)),
+                                     {{0, 120}, ctrl},
+                                     {{0, -120}, ctrl},
+                                     {{120, 0}, ctrl},
+                                     {{0, 120}, Qt::NoModifier}}) {
+        QWheelEvent wheel({}, {}, {}, turn, Qt::NoButton, keys, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(browser->viewport(), &wheel);
     }
     EXPECT_EQ(browser->font().pointSizeF(), before + 1);

@@ -172,8 +172,9 @@ void HelpBrowser::changeEvent(QEvent *event)
 
 void HelpBrowser::wheelEvent(QWheelEvent *event)
 {
-    if (event->modifiers() & Qt::ControlModifier)
-        zoomBy(event->angleDelta().y() > 0 ? 1 : -1);
-    else
+    const int turned = event->angleDelta().y();
+    if (!(event->modifiers() & Qt::ControlModifier))
         QTextBrowser::wheelEvent(event);
+    else if (turned != 0) // a touchpad turns sideways, too
+        zoomBy(turned > 0 ? 1 : -1);
 }
