@@ -104,7 +104,7 @@ TEST_F(MenusAndToolbarsTest, TheSearchGoesOnByKeysAndAlongWithTheActiveDocument)
     press(Qt::Key_F3);
     const QPointer<QDialog> search = window->findChild<frmFindReplace *>();
     ASSERT_TRUE(search) << "nothing was searched yet";
-    EXPECT_TRUE(flags.FindMode && !flags.ReplaceMode);
+    EXPECT_TRUE(flags.FindMode && !flags.ReplaceMode && status(0) == resText(504));
     search->findChild<QLineEdit *>("txtFind")->setText("cat");
     QTest::keyClick(search, Qt::Key_Return);
     EXPECT_EQ(grids[1]->SelText(), "cat");

@@ -48,6 +48,7 @@ TEST_F(PreviewCommandsTest, ThePreviewTakesTheDocumentsPlaceAndGivesItBack)
     for (const auto &[made, place] : places)
         EXPECT_TRUE(made->frame()->isVisible() && made->frame()->geometry() == place);
     EXPECT_EQ(window->documentArea()->activeSubWindow(), active->frame());
+    EXPECT_TRUE(active->isAncestorOf(QApplication::focusWidget()));
     EXPECT_EQ(status(1), " A5");
     EXPECT_EQ(undo.kind(), UndoKind::Clear);
 }

@@ -83,6 +83,8 @@ TEST_F(RecoveryOfferTest, TakesOnlyWhatIsSelected)
     answer({}, "btnDiscard", [](QTreeWidget &list) {
         list.topLevelItem(0)->setSelected(false);
         EXPECT_EQ(list.topLevelItem(0)->text(0), "c") << "the newest first";
+        for (const auto &[column, text] : {std::pair(0, 12613), {1, 14066}, {2, 12615}, {3, 12614}})
+            EXPECT_EQ(list.headerItem()->text(column), resText(text));
     });
     EXPECT_EQ(alert.onlyPrompt(), resText(12620).arg(2));
     answer({}, "btnRecover", [](QTreeWidget &list) { EXPECT_EQ(list.topLevelItemCount(), 1); });

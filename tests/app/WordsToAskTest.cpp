@@ -64,8 +64,12 @@ TEST_F(WordsToAskTest, TheButtonRepeatsTheLastKindOfQuizOnceThereAreWords)
     EXPECT_EQ(asked("mnuQuizQA"), 0);
     EXPECT_EQ(resText(12013), status(0));
     window->documentArea()->activate(*document);
-    for (const auto &[key, kind] :
-         {std::pair("mnuQuizStudy", 0), {"mnuQuizMultiple", 1}, {"mnuQuizQA", 2}, {"Quiz", 2}}) {
+    for (const auto &[key, kind] : {std::pair("mnuQuizStudy", 0),
+                                    {"Quiz", 0},
+                                    {"mnuQuizMultiple", 1},
+                                    {"Quiz", 1},
+                                    {"mnuQuizQA", 2},
+                                    {"Quiz", 2}}) {
         EXPECT_EQ(asked(key, [kind = kind](const OpenQuiz &quiz) { EXPECT_EQ(kind, quiz.window.QuizType()); }), 30);
         EXPECT_EQ(PicturePractice + kind, window->buttonPicture("Quiz"));
     }
