@@ -59,7 +59,7 @@ class RandomUser:
         row, column = self._go()
         self._begin(row)
         self._set(row, column, "")
-        self._press("alt+e", "l")
+        self._press("Delete")
 
     def paste(self):
         row, _ = self._go(column=0)
