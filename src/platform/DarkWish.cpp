@@ -32,7 +32,7 @@ public:
         if (!m_settings || !hasKey || !get || !release || !hasKey(m_schema, key))
             return {};
         char *value = get(m_settings, key);
-        const QByteArray text(value);
+        QByteArray text(value);
         release(value);
         return text;
     }
