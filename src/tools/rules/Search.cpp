@@ -91,10 +91,10 @@ Search::Match Search::found(int row, int start, const TextFinder &finder)
 
 void Search::LeaveCell(int row, int col, bool backwards)
 {
-    CurRow = row;
     CurCol = isWhole() ? col : onlyColumn();
     const bool skips = backwards ? CurCol >= col : CurCol <= col; // else the row's other cell lies in that direction
-    CurPos = skips == backwards ? 1 : BehindCell;
+    CurRow = skips && backwards ? row - 1 : row;
+    CurPos = skips || backwards ? BehindCell : 1;
 }
 
 void Search::SkipReplacement(const QString &ReplaceWith)

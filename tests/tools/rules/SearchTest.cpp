@@ -68,12 +68,13 @@ TEST(Search, GoesOnFromACellInBothDirections)
         {WholeDocument, 2, 1, false, {3, 1, 1, 1}}, {WholeDocument, 2, 1, true, {1, 1, 0, 1}},
         {WholeDocument, 1, 2, true, {3, 1, 3, 1}},  {Language1, 2, 2, false, {3, 1, 1, 1}},
         {Language2, 2, 1, false, {2, 2, 0, 1}},     {Language1, 2, 2, true, {2, 1, 2, 1}},
-        {Language2, 2, 1, true, {1, 2, 0, 1}},      {Language1 | WholeWords, 1, 1, true, {3, 1, 3, 1}},
+        {Language2, 2, 1, true, {1, 2, 0, 1}},      {Language1 | WholeWords, 1, 1, true, {}},
     };
     for (const auto &[flags, row, col, backwards, expected] : cases) {
         Search search = searchFor("x", flags);
         search.LeaveCell(row, col, backwards);
-        EXPECT_EQ(backwards ? search.FindPrevious(cells) : search.FindNext(cells), expected) << flags << row << col;
+        const auto match = backwards ? search.FindPrevious(cells) : search.FindNext(cells);
+        EXPECT_EQ(match.value_or(Search::Match{}), expected) << flags << row << col;
     }
 }
 
