@@ -140,6 +140,25 @@ QString general(double value, const QLocale &locale)
     return plain.toString(value, 'g', 11);
 }
 
+/// With as many zeros in front as the code's whole part asks for, and in groups if it asks for them.
+QString written(double value, const QString &whole, int decimals, const QLocale &locale)
+{
+    QLocale style(locale);
+    style.setNumberOptions(QLocale::OmitGroupSeparator);
+    QString number = style.toString(value, 'f', decimals);
+    const qsizetype end = number.indexOf(locale.decimalPoint());
+    const qsizetype missing = whole.count(u'0') - (end < 0 ? number.size() : end);
+    const bool inGroups = whole.contains(u',');
+    if (missing <= 0) {
+        style.setNumberOptions(inGroups ? QLocale::DefaultNumberOptions : QLocale::OmitGroupSeparator);
+        return style.toString(value, 'f', decimals);
+    }
+    number.prepend(QString(missing, u'0'));
+    for (qsizetype i = whole.count(u'0') - 3; inGroups && i > 0; i -= 3)
+        number.insert(i, locale.groupSeparator());
+    return number;
+}
+
 QString shownNumber(double value, const std::vector<Piece> &all, const QLocale &locale)
 {
     QString before;
@@ -163,19 +182,13 @@ QString shownNumber(double value, const std::vector<Piece> &all, const QLocale &
         value *= 100;
     const qsizetype point = digits.indexOf(u'.');
     const QString decimals = point < 0 ? QString() : digits.mid(point + 1);
-    QLocale style(locale);
-    style.setNumberOptions(digits.left(point).contains(u',') ? QLocale::DefaultNumberOptions
-                                                             : QLocale::OmitGroupSeparator);
+    if (digits.isEmpty())
+        return before + after;
     QString number =
-        digits.isEmpty() ? QString() : style.toString(value, 'f', int(std::min<qsizetype>(decimals.size(), 30)));
+        written(std::fabs(value), digits.left(point), int(std::min<qsizetype>(decimals.size(), 30)), locale);
     for (qsizetype i = decimals.size(); i > 0 && decimals[i - 1] == u'#' && number.endsWith(u'0'); --i)
         number.chop(1);
-    const qsizetype whole = digits.left(point).count(u'0');
-    const qsizetype end = number.indexOf(locale.decimalPoint());
-    const qsizetype shown = end < 0 ? number.size() : end;
-    if (shown < whole && !digits.contains(u','))
-        number.prepend(QString(whole - shown, u'0'));
-    return before + number + after;
+    return (value < 0 ? locale.negativeSign() : QString()) + before + number + after;
 }
 
 } // namespace
