@@ -161,14 +161,25 @@ Cards MemoryStore::append(const std::vector<StoredAnswer> &answers)
     return changed;
 }
 
+/// A new one if the word has none.
+Card MemoryStore::cardOf(qint64 word)
+{
+    m_readCard.bindValue(0, word);
+    MemoryDatabase::execute(m_readCard);
+    const Card card = MemoryDatabase::next(m_readCard) ? cardIn(m_readCard, 0) : Card();
+    m_readCard.finish();
+    return card;
+}
+
 Card MemoryStore::appendOne(const StoredAnswer &stored)
 {
     const Answer &answer = stored.answer;
     const qint64 word = answer.word.number();
-    m_readCard.bindValue(0, word);
-    MemoryDatabase::execute(m_readCard);
-    const Card before = MemoryDatabase::next(m_readCard) ? cardIn(m_readCard, 0) : Card();
-    m_readCard.finish();
+    Card before = cardOf(word);
+    if (!(before == Card()) && !isPlausible(before)) {
+        makeCards();
+        before = cardOf(word);
+    }
     if (before.isNew()) {
         MemoryDatabase::bind(m_addWord, {word, neverNull(answer.word.asked), neverNull(answer.word.answer)});
         MemoryDatabase::execute(m_addWord);
@@ -183,13 +194,20 @@ Card MemoryStore::appendOne(const StoredAnswer &stored)
 
 void MemoryStore::rebuild()
 {
+    Transaction change(m_database);
+    makeCards();
+    change.commit();
+}
+
+/// Within a transaction: of all the answers.
+void MemoryStore::makeCards()
+{
     struct Made
     {
         Card card;
         qint64 answer = 0;
     };
     QHash<qint64, Made> made;
-    Transaction change(m_database);
     QSqlQuery query =
         m_database.prepared(QStringLiteral("SELECT id, word, day, kind, correct, hint FROM answer ORDER BY id"));
     MemoryDatabase::execute(query);
@@ -204,7 +222,6 @@ void MemoryStore::rebuild()
     m_database.run(QStringLiteral("DELETE FROM card"));
     for (auto it = made.cbegin(); it != made.cend(); ++it)
         writeCard(m_writeCard, it.key(), it->card, it->answer);
-    change.commit();
 }
 
 QHash<int, int> MemoryStore::answersByDay(const QSet<qint64> &words, int first, int last)

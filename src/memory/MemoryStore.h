@@ -57,7 +57,9 @@ private:
     static std::optional<Cards> readFrom(QSqlQuery &query);
     bool isWhole();
     void erase();
+    Card cardOf(qint64 word);
     Card appendOne(const StoredAnswer &answer);
+    void makeCards();
 
     MemoryDatabase m_database;
     QSqlQuery m_addWord;
