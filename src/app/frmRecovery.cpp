@@ -58,7 +58,7 @@ void frmRecovery::fill()
         const RecoveryCopy &copy = orphan.copy;
         const QString name = copy.isFileChanged() ? resText(12628).arg(copy.caption) : copy.caption;
         const QString folder = copy.docName.isEmpty() ? resText(12619) : QFileInfo(copy.docName).path();
-        const QString time = TextDigits::inText(QLocale().toString(copy.time, QLocale::ShortFormat));
+        const QString time = TextDigits::time(copy.time);
         auto *item = new QTreeWidgetItem(m_ui->lstCopies, {name, causeText(copy.cause), time, folder});
         item->setToolTip(NameColumn, name);
         item->setToolTip(FolderColumn, folder);

@@ -69,9 +69,7 @@ QString ProgressModel::text(int position, int column) const
         return word.answer;
     if (card.isNew() && column != Asked)
         return {};
-    const auto day = [](int number) {
-        return TextDigits::inText(QLocale().toString(Day::date(number), QLocale::ShortFormat));
-    };
+    const auto day = [](int number) { return TextDigits::date(Day::date(number)); };
     switch (column) {
     case Asked:
         return TextDigits::numbers().toString(card.asked);

@@ -42,13 +42,12 @@ std::vector<ProgressWord> wordsOf(const ctlGrid &grid, bool answersInSecond)
 /// One bar a day; every week has its first day below.
 std::vector<BarChart::Bar> daily(const std::vector<int> &counts, int first)
 {
-    const QLocale locale;
     std::vector<BarChart::Bar> bars;
     for (int i = 0; i < int(counts.size()); ++i) {
         const QDate date = Day::date(first + i);
         const bool isMarked = i % (2 * DaysOfWeek) == 0;
-        bars.push_back({TextDigits::inText(locale.toString(date, QLocale::ShortFormat)), counts[size_t(i)],
-                        isMarked ? TextDigits::inText(locale.toString(date, resText(14908))) : QString()});
+        bars.push_back(
+            {TextDigits::date(date), counts[size_t(i)], isMarked ? TextDigits::date(date, resText(14908)) : QString()});
     }
     return bars;
 }
@@ -85,7 +84,7 @@ void frmProgress::dressTable()
 {
     constexpr int Margin = 16; ///< pixels
     const QFontMetrics metrics = m_ui->tblWords->fontMetrics();
-    const QString date = TextDigits::inText(QLocale().toString(QDate(2028, 12, 28), QLocale::ShortFormat));
+    const QString date = TextDigits::date(QDate(2028, 12, 28));
     QHeaderView *header = m_ui->tblWords->header();
     header->setStretchLastSection(false);
     for (int column = 0; column < ProgressModel::Columns; ++column) {
