@@ -33,6 +33,7 @@
 #include "services/desktop/ContextMenuKey.h"
 #include "services/desktop/EscapeKey.h"
 #include "services/desktop/HandleReserve.h"
+#include "services/desktop/MenuBarFocus.h"
 #include "services/desktop/PasteGuard.h"
 #include "services/desktop/PopupCloser.h"
 #include "services/desktop/ProgramStyle.h"
@@ -283,6 +284,7 @@ int modKod::run(QApplication &application, const CommandLine &commandLine, const
     const ContextMenuKey contextMenuKey(application);
     const EscapeKey escapeKey(application);
     const PopupCloser popupCloser(application);
+    const MenuBarFocus menuBarFocus(application);
     ClipboardOwner clipboardOwner;
     const PasteGuard pasteGuard(application, clipboardOwner);
     const ScreenFit screenFit(application);

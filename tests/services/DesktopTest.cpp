@@ -3,6 +3,7 @@
 #include "services/desktop/Contrast.h"
 #include "services/desktop/EnterKey.h"
 #include "services/desktop/EscapeKey.h"
+#include "services/desktop/MenuBarFocus.h"
 #include "services/desktop/PopupCloser.h"
 #include "services/desktop/ProgramStyle.h"
 #include "services/desktop/ScreenFit.h"
@@ -330,4 +331,25 @@ TEST(DesktopPopups, ListsOfADialogEndWithIt)
         dialog.hide();
         EXPECT_FALSE(QApplication::activePopupWidget());
     }
+}
+
+TEST(DesktopFocus, LeavesTheMenuBarWhenItsWindowIsLeft)
+{
+    const MenuBarFocus focus(*qApp);
+    QMainWindow window, other;
+    QLineEdit line;
+    window.setCentralWidget(&line);
+    window.menuBar()->addMenu("File");
+    window.show();
+    other.show();
+    for (QWidget *const before : std::initializer_list<QWidget *>{nullptr, &line}) {
+        QApplication::setActiveWindow(&window);
+        before ? line.setFocus() : line.clearFocus();
+        QTest::keyClick(&window, Qt::Key_Alt);
+        EXPECT_TRUE(window.menuBar()->hasFocus());
+        QApplication::setActiveWindow(&other);
+        QApplication::setActiveWindow(&window);
+        EXPECT_EQ(QApplication::focusWidget(), before);
+    }
+    window.takeCentralWidget();
 }
