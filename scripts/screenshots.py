@@ -80,7 +80,7 @@ def main():
             if palette == "contrast":
                 choose_high_contrast(home)
             try:
-                tour.go(leg, home)
+                tour.go(leg)
             except AssertionError as error:
                 failed.append(f"{leg}: {error}")
     if failed:

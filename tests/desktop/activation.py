@@ -45,21 +45,21 @@ class ActivationCase(ProgramCase):
         return None
 
     def expect_focused(self, title):
-        self.desktop.wait(lambda: self.focused() == title, lambda: f"{title} to have the keys, not {self.focused()}")
+        self.desktop.expect(self.focused, title)
 
     def test_a_file_that_another_program_opens_brings_the_keys(self):
-        self.desktop.launch("--no-splash", self.sample("german/06-family-and-people.gla"))
+        self.desktop.launch("--no-splash", self.sample())
         self.expect_column(0, ["the man", "the woman"])
         self.expect_focused("Glosaria")
         file = self.sample("russian/05-time-and-days.gla")
-        self.desktop.start_other(sys.executable, PARTS / "launcher.py", self.desktop.program, file)
-        self.expect_focused("launcher")
+        self.desktop.start_other(sys.executable, PARTS / "window.py", self.desktop.program, file, "gray")
+        self.expect_focused("other")
         self.desktop.key("f")
         self.desktop.wait_for(name="05-time-and-days")
         self.expect_focused("Glosaria")
         self.open_dialog("Sort", "alt+v", "s")
-        self.sway("[title=launcher]", "focus")
-        self.expect_focused("launcher")
+        self.sway("[title=other]", "focus")
+        self.expect_focused("other")
         self.desktop.key("a")
         self.expect_focused("Sort")
         self.sway("nop")  # which draws anew only after a command

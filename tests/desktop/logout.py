@@ -27,7 +27,7 @@ class LogoutCase(ProgramCase):
         self.session = self.desktop.start_other("xfce4-session", "--disable-tcp")
         self.desktop.wait(lambda: self.note.exists() and self.note.read_text().strip(), "the session")
         self.desktop.set(SESSION_MANAGER=self.note.read_text().strip())
-        file = self.sample("german/06-family-and-people.gla")
+        file = self.sample()
         self.program = self.open(file)
         self.desktop.type("changed\r")
         self.expect_column(0, ["changed", "the woman"])

@@ -13,16 +13,8 @@ class ScreensCase(ProgramCase):
         for name, left, output in (("LEFT", 0, "screen"), ("RIGHT", WIDTH, "none")):
             self.desktop.succeeds("xrandr", "--setmonitor", name, f"{WIDTH}/340x{HEIGHT}/212+{left}+0", output)
         self.assertIn("Monitors: 2", self.desktop.tool("xrandr", "--listmonitors"))
-        self.program = self.open(self.sample("german/06-family-and-people.gla"))
+        self.program = self.open(self.sample())
         self.desktop.key("alt+minus", "x")  # the document fills its window
-
-    def windows(self):
-        """Left, top, right and bottom of every window of the program that shows."""
-        found = self.desktop.tool("xdotool", "search", "--onlyvisible", "--class", "glosaria").split()
-        for window in found:
-            lines = self.desktop.tool("xdotool", "getwindowgeometry", "--shell", window).split()
-            shape = {line.split("=")[0]: int(line.split("=")[1]) for line in lines}
-            yield shape["X"], shape["Y"], shape["X"] + shape["WIDTH"], shape["Y"] + shape["HEIGHT"]
 
     def move_right(self, x, y, *size):
         window = self.desktop.active_window()
@@ -33,15 +25,15 @@ class ScreensCase(ProgramCase):
 
     def expect_in_view(self, count):
         def seen():
-            places = list(self.windows())
-            far = [max(right - WIDTH, bottom - HEIGHT, FRAME - left, FRAME - top) for left, top, right, bottom
-                   in places]
-            return len(places) == count and max(far) <= FRAME
-        self.desktop.wait(seen, lambda: f"windows in view: {list(self.windows())}", 10)
+            shapes = map(self.desktop.shape, self.desktop.windows("--class", "glosaria"))
+            far = [max(left + width - WIDTH, top + height - HEIGHT, FRAME - left, FRAME - top)
+                   for left, top, width, height in shapes]
+            return len(far) == count and max(far) <= FRAME
+
+        self.desktop.wait(seen, f"{count} windows in view")
 
     def columns(self):
-        cells = [self.desktop.wait_for("table").queryTable().getAccessibleAt(0, column) for column in (0, 1)]
-        return [cell.queryComponent().getExtents(0).width for cell in cells]
+        return [self.desktop.place(self.desktop.table().getAccessibleAt(0, column)).width for column in (0, 1)]
 
     def test_windows_come_back_and_keep_their_columns(self):
         before = self.columns()

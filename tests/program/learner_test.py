@@ -45,10 +45,9 @@ class LearnerCase(ProgramCase):
                 self.desktop.key("alt+e", "p")
             self.expect_column(1, [*words, ""])
             self.save_as(file)
-            self.desktop.wait_for("frame", file.stem)
             self.check_file(file, SCRIPTS, ("Language 1", "Language 2"))
         self.desktop.key(*["shift+Down"] * (len(SCRIPTS) - 1), "shift+Right", "alt+e", "c")
-        self.desktop.wait(lambda: self.desktop.copied().replace("\r", "\n") == text, "the copied words")
+        self.desktop.expect(lambda: self.desktop.copied().replace("\r", "\n"), text)
         self.open_dialog("Print", "alt+f", "p")
         self.close_dialog("Print", "Return")
         fonts = self.desktop.tool("pdffonts", self.home / "Glosaria - pasted.pdf").splitlines()[2:]
@@ -101,10 +100,10 @@ class LearnerCase(ProgramCase):
         self.expect_shown("cat", "Previous Word", "bread", "Your Answer", "pan")
         self.desktop.type("gX")
         self.desktop.key("alt+h")
-        answer = self.desktop.wait_for("text", "Answer in Spanish", self.quiz).queryText()
-        self.desktop.wait(lambda: answer.getText(0, -1) == "ga", "the hint")
+        answer = self.desktop.wait_for("text", "Answer in Spanish", self.quiz)
+        self.desktop.expect(lambda: self.desktop.text(answer), "ga")
         self.desktop.type("to\rPerro\r")
-        for word in "house", "tree": # one Enter after the other: a key that is held answers nothing
+        for word in ("house", "tree"):  # one Enter after the other: a key that is held answers nothing
             self.expect_shown(word)
             self.desktop.key("Return")
         self.expect_shown("Summary", "2 of 5 answered correctly", "tree", "árbol", "Incorrect Answers: 3")

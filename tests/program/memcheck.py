@@ -31,9 +31,11 @@ def reports(program, legs):
     with tempfile.TemporaryDirectory() as folder:
         valgrind = ("valgrind", "--quiet", "--error-limit=no", "--num-callers=40", f"--suppressions={SUPPRESSIONS}",
                     f"--log-file={folder}/%p")
-        with Desktop(program, environment=WITHOUT_COMPILED_EXPRESSIONS, through=valgrind, patience=PATIENCE) as desktop:
+        with Desktop(program, environment=WITHOUT_COMPILED_EXPRESSIONS, patience=PATIENCE) as desktop:
             for leg in legs:
-                PatientTour(desktop, lambda stop: desktop.wait_until_idle()).go(leg, desktop.fresh_home())
+                desktop.fresh_home()
+                desktop.through = valgrind
+                PatientTour(desktop, lambda stop: desktop.wait_until_idle()).go(leg)
         return [path.read_text() for path in pathlib.Path(folder).iterdir()]
 
 

@@ -11,6 +11,7 @@ import time
 PASTED = [("árbol", "עץ"), ("日本語", "größer"), ("é", "🙂")]
 LETTERS = "abcdefghijklmnopqrstuvwxyz"
 LAST_ROW = 8  # that is edited
+NEVER = float("inf")
 
 # words: the rows up to the last one with a first word, which is what a file can hold.
 # done: when the keys for it had been sent, by the monotonic clock.
@@ -29,6 +30,12 @@ def read_vocabulary(bytes_):
     return tuple((first.rpartition("   [")[0], second) for first, second in zip(lines[::2], lines[1::2]))
 
 
+def words_since(states, moment):
+    """The words of every state that may be reached when what was sent before a moment is done."""
+    first = max(number for number, state in enumerate(states) if state.done <= moment)
+    return {state.words for state in states[first:]}
+
+
 class RandomUser:
     """Works on the document that has the keys. Every state is remembered before the program can have reached it."""
 
@@ -36,9 +43,8 @@ class RandomUser:
         self.desktop = desktop
         self.random = random
         self.rows = list(rows)
-        self.states = [State(as_stored(self.rows), float("-inf"))]
-        self.saved = [0]  # numbers of the states that were saved
-        self.saved_at = [float("-inf")]
+        self.states = [State(as_stored(self.rows), -NEVER)]
+        self.saved = self.states[:]  # those that were saved
         self._before = None  # the rows that Undo brings back
         desktop.copy_elsewhere("".join(f"{first}\t{second}\r\n" for first, second in PASTED))
 
@@ -48,70 +54,52 @@ class RandomUser:
     def overwrite(self, leave_open=False):
         row, column = self._go()
         word = "".join(self.random.choices(LETTERS, k=self.random.randint(1, 9)))
-        self._begin(row)
         for end in range(1, len(word) + 1):
             self._set(row, column, word[:end])
-            self._remember()
         self.desktop.type(word + ("" if leave_open else "\r"))
-        self._sent()
+        self._sent(self.states)
 
     def clear(self):
-        row, column = self._go()
-        self._begin(row)
-        self._set(row, column, "")
+        self._set(*self._go(), "")
         self._press("Delete")
 
     def paste(self):
-        row, _ = self._go(column=0)
-        self._begin(row + len(PASTED))
+        row, _ = self._go(columns=1)
         self.rows[row:row + len(PASTED)] = PASTED
+        self._remember()
         self._press("ctrl+v")
 
     def undo(self):
         if self._before:
             self.rows, self._before = self._before, None
+            self._remember()
             self._press("ctrl+z")
 
     def save(self):
-        self.saved.append(len(self.states) - 1)
-        self.saved_at.append(float("inf"))
+        self.saved.append(State(self.states[-1].words, NEVER))
         self.desktop.key("ctrl+s")
-        self.saved_at[-1] = time.monotonic()
+        self._sent(self.saved)
 
-    def states_since(self, moment):
-        """The words of every state that the program may have when it has done what was sent before a moment."""
-        first = max(number for number, state in enumerate(self.states) if state.done <= moment)
-        return {state.words for state in self.states[first:]}
-
-    def saved_since(self, moment):
-        """The words that the file may hold when it holds what was saved before a moment."""
-        first = max(number for number, sent in enumerate(self.saved_at) if sent <= moment)
-        return {self.states[number].words for number in self.saved[first:]}
-
-    def _go(self, column=None):
-        row = self.random.randrange(LAST_ROW)
-        column = self.random.randrange(2) if column is None else column
+    def _go(self, columns=2):
+        """Goes to a cell for a change that Undo takes back."""
+        row, column = self.random.randrange(LAST_ROW), self.random.randrange(columns)
         self.desktop.key("ctrl+Home", *["Down"] * row, *["Right"] * column)
+        self._before = list(self.rows)
+        self.rows += [("", "")] * (row + 1 - len(self.rows))
         return row, column
 
-    def _begin(self, row):
-        """Before a change that Undo takes back and that needs this row."""
-        self._before = list(self.rows)
-        while len(self.rows) <= row:
-            self.rows.append(("", ""))
-
     def _set(self, row, column, text):
-        words = list(self.rows[row])
-        words[column] = text
-        self.rows[row] = tuple(words)
-
-    def _press(self, *keys):
+        first, second = self.rows[row]
+        self.rows[row] = (first, text) if column else (text, second)
         self._remember()
-        self.desktop.key(*keys)
-        self._sent()
+
+    def _press(self, key):
+        self.desktop.key(key)
+        self._sent(self.states)
 
     def _remember(self):
-        self.states.append(State(as_stored(self.rows), float("inf")))
+        self.states.append(State(as_stored(self.rows), NEVER))
 
-    def _sent(self):
-        self.states[-1] = self.states[-1]._replace(done=time.monotonic())
+    @staticmethod
+    def _sent(states):
+        states[-1] = states[-1]._replace(done=time.monotonic())

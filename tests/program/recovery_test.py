@@ -1,38 +1,34 @@
 #!/usr/bin/env python3
-"""Kills the program at random moments and compares what comes back with what was there.
+"""Kills the program at random moments, and saves where that fails: recovery_test.py <program> [unittest arguments].
 
-recovery_test.py <program> [--rounds N] [--seed S] [unittest arguments]
+The variables ROUNDS and SEED set how often it is killed and which moments come first.
 """
 
-import argparse
+import os
 import random
-import sys
 import time
 
 from cases import ProgramCase, run, vocabulary
-from random_user import RandomUser, as_stored, read_vocabulary
+from random_user import RandomUser, as_stored, read_vocabulary, words_since
 
 PROMISE = 5  # seconds within which a change is safe
 WORDS = [(f"word {number}", f"Wort {number}") for number in range(1, 21)]
 LONG = 30000  # pairs, to be killed amid writing
 IN_PLACE = 'mount --bind "$0" "$0"'  # the file cannot be exchanged for another, and is overwritten
+READ_ONLY = 'mount --bind "$0" "$0" && mount -o remount,bind,ro "$0"'
 
 
 class RecoveryCase(ProgramCase):
     """Rounds of editing, saving, a kill and a recovery, which may be killed as well."""
 
-    rounds = 8
-    seed = 0
-
     def test_no_kill_loses_more_than_the_last_seconds(self):
-        offered = 0
-        for number in range(self.seed, self.seed + self.rounds):
+        seed, offered = int(os.environ.get("SEED", 0)), 0
+        for number in range(seed, seed + int(os.environ.get("ROUNDS", 8))):
             with self.subTest(seed=number):
                 self.random = random.Random(number)
                 self.home = self.desktop.fresh_home()
                 offered += self.round()
             self.desktop.end_programs()
-        print(f"something was offered in {offered} of {self.rounds} rounds")
         self.assertTrue(offered)
 
     def round(self):
@@ -54,13 +50,13 @@ class RecoveryCase(ProgramCase):
         killed = time.monotonic()
         self.desktop.kill(program)
 
+        self.desktop.through = ()
         if self.file and not (in_place and self.copies()):
-            stored = read_vocabulary(self.file.read_bytes())
-            self.expect_one_of(user.saved_since(killed - PROMISE), stored, "the file holds")
+            self.expect_one_of(words_since(user.saved, killed - PROMISE), self.stored(), "the file holds")
         while self.random.random() < 0.4:
             self.crash_again()
         words, offered = self.recover()
-        self.expect_one_of(user.states_since(killed - PROMISE), words, "what came back is")
+        self.expect_one_of(words_since(user.states, killed - PROMISE), words, "what came back is")
         return offered
 
     def expect_one_of(self, allowed, words, what):
@@ -72,7 +68,9 @@ class RecoveryCase(ProgramCase):
     def begin(self, words, in_place):
         if self.file:
             self.file.write_bytes(vocabulary(words))
-            return self.open(self.file, through=self.mounting(IN_PLACE, self.file) if in_place else ())
+            if in_place:
+                self.mount(IN_PLACE, self.file)
+            return self.open(self.file)
         program = self.desktop.start("--no-splash")
         self.desktop.key("ctrl+n")
         self.desktop.wait_for("table")
@@ -80,6 +78,9 @@ class RecoveryCase(ProgramCase):
 
     def copies(self):
         return list(self.home.glob("state/**/*.copy"))
+
+    def stored(self):
+        return read_vocabulary(self.file.read_bytes()) if self.file else ()
 
     def crash_again(self):
         """A start that does not last, with or without what it offers being taken."""
@@ -99,26 +100,51 @@ class RecoveryCase(ProgramCase):
 
     def recover(self):
         """The words after a start that takes what is offered, and whether anything was."""
-        if not self.copies():
-            return (read_vocabulary(self.file.read_bytes()) if self.file else ()), False
         program = self.desktop.launch("--no-splash")
         if not self.is_offered():
-            return read_vocabulary(self.file.read_bytes()), False
+            return self.stored(), False
         self.desktop.key("alt+r")
-        name = "words" if self.file else "Untitled 1"
-        self.desktop.wait_for("frame", name)
+        self.desktop.wait_for("frame", "words" if self.file else "Untitled 1")
         self.expect_active("frame")
         saved = self.home / "recovered.gla"
         self.save_as(saved)
-        self.desktop.wait(saved.exists, "the saved file")
         self.desktop.kill(program)
         return as_stored(read_vocabulary(saved.read_bytes())), True
 
 
+class SavingCase(ProgramCase):
+    """The old content or the new, never some of each; and the words stay in the window."""
+
+    def edit(self, file):
+        self.open(file)
+        self.desktop.type("edited\r")
+        self.expect_column(0, ["edited"])
+
+    def test_a_folder_that_is_read_only(self):
+        folder = self.home / "words"
+        folder.mkdir()
+        file = self.sample().rename(folder / "words.gla")
+        before = file.read_bytes()
+        self.mount(READ_ONLY, folder)
+        self.edit(file)
+        self.desktop.key("ctrl+s")
+        self.close_alert("could not be saved")
+        self.expect_column(0, ["edited"])
+        self.assertEqual(file.read_bytes(), before)
+        elsewhere = self.home / "elsewhere.gla"
+        self.save_as(elsewhere)
+        first, *others = read_vocabulary(before)
+        self.assertEqual(read_vocabulary(elsewhere.read_bytes()), (("edited", first[1]), *others))
+
+    def test_where_no_copy_can_be_kept_either(self):
+        """The user is told once, and not while a word is being typed."""
+        (self.home / "state" / "glosaria").write_text("in the way")
+        self.edit(self.sample())
+        self.close_alert("can keep no copies")
+        self.desktop.type("again\r")
+        time.sleep(5)
+        self.assertIsNone(self.desktop.find("alert"))
+
+
 if __name__ == "__main__":
-    parser = argparse.ArgumentParser(add_help=False)
-    parser.add_argument("--rounds", type=int, default=RecoveryCase.rounds)
-    parser.add_argument("--seed", type=int, default=RecoveryCase.seed)
-    chosen, sys.argv[1:] = parser.parse_known_args()
-    RecoveryCase.rounds, RecoveryCase.seed = chosen.rounds, chosen.seed
     run()

@@ -1,6 +1,6 @@
 """A tour of every window of the program in each of its states, with the keyboard alone.
 
-Tour(desktop, visit).go(leg, home) drives the program and calls visit(name) at every stop, where the window to look at
+Tour(desktop, visit).go(leg) drives the program and calls visit(name) at every stop, where the window to look at
 is the active one of the desktop. Names begin with "main" where the whole main window is meant, with "dialog" otherwise.
 
 Entries, titles and labels are named by the ids of their texts, and "alt+431" is Alt with the underlined letter of that
@@ -10,12 +10,11 @@ text: so the tour goes through the program in any of its languages.
 import pathlib
 import shutil
 
-from cases import SAMPLES, vocabulary
+from cases import LESSON, SAMPLES, vocabulary
 from texts import Texts
 
 MENUS = {400: "File", 418: "Edit", 431: "Vocabulary", 439: "Mode", 445: "Quiz", 449: "Window", 454: "Help"}
 ALERT = 507  # its title
-LESSON = "german/06-family-and-people.gla"
 LONG_PAIRS = (
     ("the insurance company for legal protection", "die Rechtsschutzversicherungsgesellschaft"),
     ("the captain of a Danube steamboat company", "der Donaudampfschifffahrtsgesellschaftskapitän"),
@@ -32,15 +31,13 @@ class Tour:
         self._visit = visit
         self._language = language
         self._texts = Texts(language)
-        self._home = None
 
     @classmethod
     def legs(cls):
         return [name[4:] for name in vars(cls) if name.startswith("leg_")]
 
-    def go(self, leg, home):
-        """Goes one leg; home is the empty home folder of the program."""
-        self._home = home
+    def go(self, leg):
+        """Goes one leg, which begins with the home folder that the desktop has, an empty one as a rule."""
         try:
             getattr(self, "leg_" + leg)()
         finally:
@@ -53,7 +50,7 @@ class Tour:
         self._desktop.wait_for("label")
         self._visit("dialog splash")
         self._desktop.end_programs()
-        self._start()
+        self._desktop.start("--no-splash")
         self._visit("main empty")
         self._menu(400, "main empty, File menu")
         self._dialog(717, "open", "ctrl+o")
@@ -61,7 +58,7 @@ class Tour:
         self._stop("main new document", "ctrl+n", role="table")
 
     def leg_document(self):
-        self._start(LESSON)
+        self._start()
         self._visit("main document")
         for title, menu in MENUS.items():
             self._menu(title, f"main, {menu} menu")
@@ -75,7 +72,7 @@ class Tour:
         self._dialog(718, "save as", "alt+400", 406)
 
     def leg_documents(self):
-        self._start(LESSON)
+        self._start()
         for name in ("japanese/07-food-and-drink.gla", "russian/05-time-and-days.gla"):
             file = self._copy(name)
             self._desktop.launch(file)  # hands it to the program that runs
@@ -91,18 +88,17 @@ class Tour:
         self._stop("main, a document maximized", "alt+minus", "x", title="Glosaria - [05-time-and-days]")
 
     def leg_tools(self):
-        self._start(LESSON)
+        self._start()
         self._press("ctrl+f")
         self._expect(7000)
         self._desktop.type("father")
         self._visit("dialog find")
         self._stop("dialog replace", "alt+7008", title=7001)
         self._press("alt+7002")
-        self._desktop.type("qqq")
-        self._stop("dialog alert, not found", "Return", title=ALERT)
+        self._desktop.type("qqq\r")
+        self._stop("dialog alert, not found", title=ALERT)
         self._leave(7001, "Return")
         self._leave("Glosaria")
-        self._dialog(6000, "sort", "alt+431", 438)
         self._stop("dialog font", "alt+431", 437, title=8000)
         self._stop("dialog font, list of colors", "alt+8003", "alt+Down")
         self._stop("dialog alert, font size", "Escape", "alt+8002", "BackSpace", "BackSpace", title=ALERT)
@@ -124,9 +120,9 @@ class Tour:
         self._dialog(ALERT, "alert, save changes", "ctrl+w")
 
     def leg_lists(self):
-        file = self._home / "words.csv"
+        file = self._desktop.home / "words.csv"
         file.write_text("English;German;Note\nhouse;Haus;n\n;;\nto run;laufen;\n")
-        self._start(LESSON)
+        self._start()
         self._press("alt+400", 14500)
         self._expect(14570)
         self._desktop.type(f"{file}\r")
@@ -135,18 +131,16 @@ class Tour:
         self._stop("main, imported list", "alt+14522", "Return", title="Glosaria")
 
     def leg_files(self):
-        damaged = self._home / "damaged.gla"
+        damaged = self._desktop.home / "damaged.gla"
         damaged.write_bytes(b"Glosaria\r\n3.1.0\r\nnothing more")
         self._desktop.start("--no-splash", damaged)
         self._stop("dialog alert, damaged file", title=ALERT)
         self._leave("Glosaria", "Return")
-        newer = self._home / "newer.gla"
-        newer.write_bytes(vocabulary(LONG_PAIRS, "9.0.0"))
-        self._desktop.launch(newer)
+        self._desktop.launch(self._list("newer.gla", LONG_PAIRS, "9.0.0"))
         self._stop("dialog alert, newer file", title=ALERT)
 
     def leg_quizzes(self):
-        self._start_on("long words.gla", LONG_PAIRS)
+        self._start(self._list("long words.gla", LONG_PAIRS))
         self._dialog(14330, "quiz options", "alt+445", 14312)
         self._stop("main, menu of the words to ask", "alt+445", 14300)
         self._press_in_turn((14304,), ("alt+431", 14372), ("Right",))
@@ -160,7 +154,7 @@ class Tour:
         self._quiz(448, 12005, "Question and Answer", typed, "Return")
 
     def leg_printing(self):
-        self._start_on("long list.gla", [(f"word {number}", f"Wort {number}") for number in range(351)])
+        self._start(self._list("long list.gla", [(f"word {number}", f"Wort {number}") for number in range(351)]))
         self._stop("dialog print", "ctrl+p", role="dialog")
         self._leave("Glosaria")
         self._dialog(14094, "page setup", "alt+400", 408)
@@ -174,9 +168,9 @@ class Tour:
         self._menu(400, "main, File menu of the preview")
 
     def leg_recovery(self):
-        program = self._start(LESSON)
+        program = self._start()
         self._desktop.type("changed\r")
-        state = self._home / "state"
+        state = self._desktop.home / "state"
         self._desktop.wait(lambda: any(path.is_file() for path in state.rglob("*.copy")), "the copy of the changes")
         self._desktop.kill(program)
         self._desktop.start("--no-splash")
@@ -184,30 +178,35 @@ class Tour:
         self._stop("dialog alert, discard", "alt+12617", title=ALERT)
 
     def leg_help(self):
-        self._start(LESSON)
-        self._stop("dialog help, contents", "alt+454", 455, title=self._texts.of(13004, self._texts.help_title("welcome.html")))
-        for name, text, *keys in (("index", "sort", "alt+13006"), ("search", "letters\r", "alt+13007"),
-                                  ("favorites", "", "alt+13008", "alt+13023"), ("find on the page", "the\r", "ctrl+f")):
+        self._start()
+        self._stop("dialog help, contents", "alt+454", 455, title=self._help("welcome.html"))
+        for name, text, *keys in (("index", "sort", "alt+13006"), ("favorites", "", "alt+13008", "alt+13023"),
+                                  ("find on the page", "the\r", "ctrl+f")):
             self._press(*keys)
             self._desktop.type(text)
             self._visit("dialog help, " + name)
+        self._leave("Glosaria", "Escape", "Escape")
+        self._stop("dialog sort", "alt+431", 438, title=6000)
+        self._stop("dialog help, on a dialog", "F1", title=self._help("sort.html"))
+        self._press("alt+13007")
+        self._desktop.type("arabic\r")
+        self._stop("dialog help, search", title=self._help("accents.html"))
+        self._leave(6000)
 
     # Ways to go
 
     def _copy(self, sample):
-        return pathlib.Path(shutil.copy(SAMPLES / sample, self._home))
+        return pathlib.Path(shutil.copy(SAMPLES / sample, self._desktop.home))
 
-    def _start(self, *samples):
-        program = self._desktop.start("--no-splash", *map(self._copy, samples))
-        if samples:
-            self._desktop.wait_for("table")
-        return program
+    def _list(self, name, pairs, version="3.1.0"):
+        file = self._desktop.home / name
+        file.write_bytes(vocabulary(pairs, version))
+        return file
 
-    def _start_on(self, name, pairs):
-        file = self._home / name
-        file.write_bytes(vocabulary(pairs))
-        self._desktop.start("--no-splash", file)
+    def _start(self, file=None):
+        program = self._desktop.start("--no-splash", file or self._copy(LESSON))
         self._desktop.wait_for("table")
+        return program
 
     def _press(self, *keys):
         self._desktop.key(*map(self._texts.key, keys))
@@ -218,9 +217,12 @@ class Tour:
             self._press(*keys)
             self._desktop.wait_until_idle()
 
-    def _expect(self, text):
-        title = self._texts.of(text)
-        self._desktop.wait(lambda: self._desktop.active_title() == title, f"{title} instead of {self._desktop.active_title()}")
+    def _expect(self, title):
+        self._desktop.expect_title(self._texts.of(title))
+
+    def _help(self, page):
+        """The title of the help on a page."""
+        return self._texts.of(13004, self._texts.help_title(page))
 
     def _stop(self, name, *keys, title=None, role=None):
         """Presses keys, waits for the title of the window that they open, or for what they show in it, and visits."""
@@ -238,7 +240,7 @@ class Tour:
         self._expect(title)
 
     def _menu(self, title, name):
-        self._stop(name, f"alt+{title}")
+        self._stop(name, f"alt+{title}", role="popup menu")
         self._press("Escape", "Escape")
 
     def _dialog(self, title, name, *keys):
