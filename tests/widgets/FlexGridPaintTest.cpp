@@ -15,117 +15,77 @@ TEST(DrawnGrid, LinesSelectionFocusMergesAndPicturesStandInTheirPlaces)
     const QHash<QRgb, char> signs{{0xFFFFFFFF, 'w'}, {0xFF0000FF, 'b'}, {0xFF808000, 'f'}, {0xFF00FF00, 's'},
                                   {0xFF00FFFF, '+'}, {0xFFFF00FF, 'x'}, {0xFF010101, 'L'}, {0xFF020202, 'D'},
                                   {0xFFFF0000, 'r'}, {0xFFFFFF00, '.'}};
-    QPixmap dot(2, 2);
+    QPixmap dot(1, 1);
     dot.fill(Qt::red);
+    const auto dotted = [&dot](FlexGrid &g, int alignment) {
+        g.setCellPicture(dot);
+        g.setCellPictureAlignment(alignment);
+    };
     const std::pair<QString, std::function<void(FlexGrid &)>> looks[] = {
         {"", [](FlexGrid &) {}},
         {"RightToLeft=1 GridLines=2 GridLinesFixed=99 HighLight=0", [](FlexGrid &) {}},
         {"GridLineWidth=2 FocusRect=0 HighLight=2",
-         [&dot](FlexGrid &grid) {
-             grid.setRowHeight(2, 0);
-             grid.setCellBackColor(0xFF0000);
-             grid.setCellPicture(dot);
-             grid.setCellPictureAlignment(8);
-         }},
+         [&](FlexGrid &g) { g.setRowHeight(2, 0), g.setCellBackColor(0xFF0000), dotted(g, 8); }},
         {"FocusRect=2",
-         [](FlexGrid &grid) {
-             grid.setMergeCells(1);
-             grid.setMergeRow(2, true);
-             grid.setClip(" \r ");
-             grid.setTextMatrix(2, 2, " ");
+         [](FlexGrid &g) {
+             g.setMergeCells(1), g.setMergeRow(2, true);
+             g.setClip(" \r "), g.setTextMatrix(2, 2, " ");
          }},
-        {"GridLines=3 GridLinesFixed=0 HighLight=2", [](FlexGrid &grid) { grid.setCellForeColor(0); }},
+        {"GridLines=3 GridLinesFixed=0 HighLight=2", [](FlexGrid &g) { g.setCellForeColor(0); }},
         {"FocusRect=0",
-         [](FlexGrid &grid) {
-             grid.setMergeCells(3);
-             grid.setMergeCol(1, true);
-             grid.setMergeCol(2, true);
-             grid.setClip(" \r ");
-             grid.Select(1, 2, 2, 2);
-             grid.setClip(" \r  ");
+         [](FlexGrid &g) {
+             g.setMergeCells(3), g.setMergeCol(1, true), g.setMergeCol(2, true);
+             g.setClip(" \r "), g.Select(1, 2, 2, 2), g.setClip(" \r  ");
          }},
         {"FillStyle=1",
-         [&dot](FlexGrid &grid) {
-             grid.setCellPicture(dot);
-             grid.setCellPictureAlignment(3);
-             grid.Select(1, 2, 2, 2);
-             grid.setCellBackColor(0xFF0000);
-             grid.setCellPicture(dot);
-             grid.setCellPictureAlignment(4);
-             grid.Select(0, 0, 0, 0);
+         [&](FlexGrid &g) {
+             dotted(g, 3), g.Select(1, 2, 2, 2), dotted(g, 4);
+             g.setCellBackColor(0xFF0000), g.Select(0, 0, 0, 0);
          }},
-        {"RightToLeft=1",
-         [&dot](FlexGrid &grid) {
-             grid.setMergeCells(2);
-             grid.setMergeRow(1, true);
-             grid.setMergeRow(2, true);
-             grid.Select(1, 1, 2, 2);
-             grid.setClip(" \t  \r \t ");
-             grid.Select(2, 1, 2, 1);
-             grid.setCellPicture(dot);
-             grid.setCellPictureAlignment(6);
+        {"RightToLeft=1 HighLight=0 FocusRect=0",
+         [&](FlexGrid &g) {
+             g.setMergeCells(2), g.setMergeRow(1, true), g.setMergeRow(2, true);
+             g.Select(1, 1, 2, 2), g.setClip(" \t  \r \t "), g.Select(2, 1, 2, 1), dotted(g, 6);
          }},
     };
     const QString all = "Rows=3 Cols=3 BorderStyle=0 BackColor=0xFFFFFF BackColorFixed=0x008080 BackColorSel=0x00FF00 "
                         "GridColor=0xFFFF00 GridColorFixed=0xFF00FF BackColorBkg=0x00FFFF ";
-    QStringList drawn;
-    for (int i = 0; i < 8; ++i) {
-        const auto &[properties, change] = looks[i];
+    QStringList drawn(16);
+    for (const auto &[properties, change] : looks) {
         FlexGrid grid;
         grid.setPalette(palette);
         for (const QString &each : (all + properties).split(' ', Qt::SkipEmptyParts))
             grid.setProperty(each.section('=', 0, 0).toLatin1().constData(), each.section('=', 1).toInt(nullptr, 0));
         grid.setRowHeight(-1, 75);
-        grid.setColWidth(-1, 105);
+        grid.setColWidth(-1, 60);
         grid.Select(1, 1, 2, 1);
         change(grid);
-        grid.resize(23, 16);
+        grid.resize(14, 16);
         const QImage image = grid.grab().toImage();
-        for (int y = 0; y < image.height(); ++y) {
-            QString line;
-            for (int x = 0; x < image.width(); ++x)
-                line += signs.value(image.pixel(x, y), 'o');
-            const int at = y + i / 4 * image.height();
-            if (at == drawn.size())
-                drawn.append(line);
-            else
-                drawn[at] += ' ' + line;
+        for (int y = 0; y < 16; ++y) {
+            drawn[y] += ' ';
+            for (int x = 0; x < 14; ++x)
+                drawn[y] += signs.value(image.pixel(x, y), 'o');
         }
     }
-    const char *expected =
-        "ffffffxffffffxffffffx.. ..DLLLLLLDLLLLLLDLLLLLL fffffxxfffffxxfffffxx.. ffffffxffffffxffffffx..\n"
-        "ffffffxffffffxffffffx.. ..DfffffLDfffffLDfffffL fffffxxfffffxxfffffxx.. ffffffxffffffxffffffx..\n"
-        "ffffffxffffffxffffffx.. ..DfffffLDfffffLDfffffL fffffxxfffffxxfffffxx.. ffffffxffffffxffffffx..\n"
-        "ffffffxffffffxffffffx.. ..DfffffLDfffffLDfffffL xxxxxxxxxxxxxxxxxxxxx.. ffffffxffffffxffffffx..\n"
-        "xxxxxxxxxxxxxxxxxxxxx.. ..DDDDDDDDDDDDDDDDDDDDD xxxxxxxxxxxxxxxxxxxxx.. xxxxxxxxxxxxxxxxxxxxx..\n"
-        "ffffffxoooooo+wwwwww+.. ..LDDDDDDLLLLLLLDLLLLLL fffffxxbbbbb++wwwww++.. ffffffxoooooo+wwwwww+..\n"
-        "ffffffxowwwwo+wwwwww+.. ..LwwwwwDLowwwwLDfffffL fffffxxbbbrr++wwwww++.. ffffffxoooooo+wwwwww+..\n"
-        "ffffffxowwwwo+wwwwww+.. ..LwwwwwDLowwwwLDfffffL fffffxxbbbrr++wwwww++.. ffffffxoooooo+wwwwww+..\n"
-        "ffffffxoooooo+wwwwww+.. ..LwwwwwDLoooooLDfffffL xxxxxxx++++++++++++++.. ffffffxoooooo+wwwwww+..\n"
-        "xxxxxxx++++++++++++++.. ..LLLLLLLLLLLLLLDDDDDDD xxxxxxx++++++++++++++.. xxxxxxx++++++++++++++..\n"
-        "ffffffxssssss+wwwwww+.. ..LDDDDDDLDDDDDDDLLLLLL ....................... ffffffxsssssssssssss+..\n"
-        "ffffffxssssss+wwwwww+.. ..LwwwwwDLwwwwwDDfffffL ....................... ffffffxsssssssssssss+..\n"
-        "ffffffxssssss+wwwwww+.. ..LwwwwwDLwwwwwDDfffffL ....................... ffffffxsssssssssssss+..\n"
-        "ffffffxssssss+wwwwww+.. ..LwwwwwDLwwwwwDDfffffL ....................... ffffffxsssssssssssss+..\n"
-        "xxxxxxx++++++++++++++.. ..LLLLLLLLLLLLLLDDDDDDD ....................... xxxxxxx++++++++++++++..\n"
-        "....................... ....................... ....................... .......................\n"
-        "fffffffffffffffffffff.. ffffffxffffffxffffffx.. ooooooxffffffxffffffx.. ..xffffffxffffffxffffff\n"
-        "fffffffffffffffffffff.. ffffffxffffffxffffffx.. offffoxffffffxffffffx.. ..xffffffxffffffxffffff\n"
-        "fffffffffffffffffffff.. ffffffxffffffxffffffx.. offffoxffffffxffffffx.. ..xffffffxffffffxffffff\n"
-        "fffffffffffffffffffff.. ffffffxffffffxffffffx.. ooooooxffffffxffffffx.. ..xffffffxffffffxffffff\n"
-        "fffffffffffffffffffff.. xxxxxxxxxxxxxxxxxxxxx.. xxxxxxxxxxxxxxxxxxxxx.. ..xxxxxxxxxxxxxxxxxxxxx\n"
-        "fffffffooooooDLLLLLLD.. ffffffxwwwwww+ssssss+.. ffffffxwwrrww+bbbbbb+.. ..+wwwwww+wwwwwwxffffff\n"
-        "fffffffowwwwoDLwwwwwD.. ffffffxwwwwww+ssssss+.. ffffffxwwrrww+bbrrbb+.. ..+wwwwww+wwwwwwxffffff\n"
-        "fffffffowwwwoDLwwwwwD.. ffffffxwwwwww+ssssss+.. ffffffxwwwwww+bbrrbb+.. ..+wwwwww+wwwwwwxffffff\n"
-        "fffffffooooooDLwwwwwD.. ffffffxwwwwww+ssssss+.. ffffffxwwwwww+bbbbbb+.. ..+wwwwww+wwwwwwxffffff\n"
-        "fffffffDDDDDDDDDDDDDD.. xxxxxxxwwwwww++++++++.. xxxxxxx++++++++++++++.. ..++++++++++++++xxxxxxx\n"
-        "fffffffLLLLLLDLLLLLLD.. ffffffxwwwwww+ssssss+.. ffffffxwwrrww+bbbbbb+.. ..+wwwwww+ooooooxffffff\n"
-        "fffffffLwwwwwDLwwwwwD.. ffffffxwwwwww+ssssss+.. ffffffxwwrrww+bbrrbb+.. ..+wwwwww+owwwroxffffff\n"
-        "fffffffLwwwwwDLwwwwwD.. ffffffxwwwwww+ssssss+.. ffffffxwwwwww+bbrrbb+.. ..+wwwwww+owwwwoxffffff\n"
-        "fffffffLwwwwwDLwwwwwD.. ffffffxwwwwww+ssssss+.. ffffffxwwwwww+bbbbbb+.. ..+wwwwww+ooooooxffffff\n"
-        "fffffffDDDDDDDDDDDDDD.. xxxxxxx++++++++++++++.. xxxxxxx++++++++++++++.. ..++++++++++++++xxxxxxx\n"
-        "....................... ....................... ....................... .......................";
-    EXPECT_EQ(drawn.join('\n').toStdString(), expected);
+    EXPECT_EQ((u'\n' + drawn.join('\n') + u'\n').toStdString(), R"(
+ fffxfffxfffx.. ..DLLLDLLLDLLL ffxxffxxffxx.. fffxfffxfffx.. ffffffffffff.. fffxfffxfffx.. oooxfffxfffx.. ..xfffxfffxfff
+ fffxfffxfffx.. ..DffLDffLDffL ffxxffxxffxx.. fffxfffxfffx.. ffffffffffff.. fffxfffxfffx.. ofoxfffxfffx.. ..xfffxfffxfff
+ fffxfffxfffx.. ..DffLDffLDffL ffxxffxxffxx.. fffxfffxfffx.. ffffffffffff.. fffxfffxfffx.. ofoxfffxfffx.. ..xfffxfffxfff
+ fffxfffxfffx.. ..DffLDffLDffL xxxxxxxxxxxx.. fffxfffxfffx.. ffffffffffff.. fffxfffxfffx.. oooxfffxfffx.. ..xfffxfffxfff
+ xxxxxxxxxxxx.. ..DDDDDDDDDDDD xxxxxxxxxxxx.. xxxxxxxxxxxx.. ffffffffffff.. xxxxxxxxxxxx.. xxxxxxxxxxxx.. ..xxxxxxxxxxxx
+ fffxooo+www+.. ..LDDDLLLLDLLL ffxxbb++ww++.. fffxooo+www+.. ffffoooDLLLD.. fffxwww+sss+.. fffxwrw+bbb+.. ..+www+wwwxfff
+ fffxowo+www+.. ..LwwDLowLDffL ffxxbb++ww++.. fffxooo+www+.. ffffowoDLwwD.. fffxwww+sss+.. fffxwww+bbb+.. ..+www+wwwxfff
+ fffxowo+www+.. ..LwwDLowLDffL ffxxbr++ww++.. fffxooo+www+.. ffffowoDLwwD.. fffxwww+sss+.. fffxwww+brb+.. ..+www+wwwxfff
+ fffxooo+www+.. ..LwwDLooLDffL xxxx++++++++.. fffxooo+www+.. ffffoooDLwwD.. fffxwww+sss+.. fffxwww+bbb+.. ..+www+wwwxfff
+ xxxx++++++++.. ..LLLLLLLLDDDD xxxx++++++++.. xxxx++++++++.. ffffDDDDDDDD.. xxxxwww+++++.. xxxx++++++++.. ..++++++++xxxx
+ fffxsss+www+.. ..LDDDLDDDDLLL .............. fffxsssssss+.. ffffLLLDLLLD.. fffxwww+sss+.. fffxwrw+bbb+.. ..+www+wwrxfff
+ fffxsss+www+.. ..LwwDLwwDDffL .............. fffxsssssss+.. ffffLwwDLwwD.. fffxwww+sss+.. fffxwww+bbb+.. ..+www+wwwxfff
+ fffxsss+www+.. ..LwwDLwwDDffL .............. fffxsssssss+.. ffffLwwDLwwD.. fffxwww+sss+.. fffxwww+brb+.. ..+www+wwwxfff
+ fffxsss+www+.. ..LwwDLwwDDffL .............. fffxsssssss+.. ffffLwwDLwwD.. fffxwww+sss+.. fffxwww+bbb+.. ..+www+wwwxfff
+ xxxx++++++++.. ..LLLLLLLLDDDD .............. xxxx++++++++.. ffffDDDDDDDD.. xxxx++++++++.. xxxx++++++++.. ..++++++++xxxx
+ .............. .............. .............. .............. .............. .............. .............. ..............
+)");
 }
 
 TEST(FlexGridColoursTest, TextsStayReadableOnEveryPalette)
