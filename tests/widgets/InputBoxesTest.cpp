@@ -1,5 +1,7 @@
+#include "support/Play.h"
 #include "widgets/ExtendedComboBox.h"
 #include "widgets/NumberBox.h"
+#include "widgets/QuietPanes.h"
 #include "widgets/TextBoxAccessible.h"
 #include "widgets/clsTimer.h"
 
@@ -108,21 +110,68 @@ TEST(Timer, TellsItsIntervalWhileItRuns)
     EXPECT_TRUE(QTest::qWaitFor([&ticks] { return ticks.size() > 1; }));
 }
 
-TEST(TextBox, IsToldToScreenReadersInOnePiece)
+TEST(TextBox, IsToldToScreenReadersInOnePieceAndDoesWhatTheyWant)
 {
     TextBoxAccessible::install();
+    QuietPanes::install();
     QLineEdit box("Katze");
+    box.setValidator(new QRegularExpressionValidator(QRegularExpression("\\D*"), &box));
+    box.setPlaceholderText("hint");
     box.resize(200, 30);
-    auto &told = *dynamic_cast<TextBoxAccessible *>(QAccessible::queryAccessibleInterface(&box));
-    box.setSelection(1, 2);
-    int start = -1, end = -1;
-    told.selection(0, &start, &end);
-    EXPECT_EQ(std::pair(start, end), std::pair(1, 3));
-    for (int letter = 0; letter < 5; ++letter) {
-        told.attributes(letter, &start, &end);
-        EXPECT_EQ(told.text(start, end), "Katze");
-        EXPECT_EQ(told.offsetAtPoint(told.characterRect(letter).topLeft() + QPoint(1, 5)), letter);
+    QAccessibleInterface &told = *QAccessible::queryAccessibleInterface(&box);
+    QAccessibleTextInterface &text = *told.textInterface();
+    QAccessibleEditableTextInterface &edit = *told.editableTextInterface();
+    const Actions actions = {{"add", [&] { text.addSelection(1, 3); }},
+                             {"others", [&] { text.removeSelection(1), text.setSelection(1, 0, 5); }},
+                             {"remove", [&] { text.removeSelection(0); }},
+                             {"caret", [&] { text.setCursorPosition(2); }},
+                             {"insert", [&] { edit.insertText(5, "n"); }},
+                             {"delete", [&] { edit.deleteText(0, 1); }},
+                             {"replace", [&] { edit.replaceText(1, 3, "RZ"); }},
+                             {"scroll", [&] { text.scrollToSubstring(1, 3); }},
+                             {"set", [&] { told.setText(QAccessible::Value, "Hund"); }},
+                             {"refused", [&] { told.setText(QAccessible::Value, "4"); }},
+                             {"name", [&] { told.setText(QAccessible::Name, "name"); }}};
+    const auto state = [&] { // the text, the caret, how many selections and two of them
+        QString line = QString("%1 %2 ").arg(told.text(QAccessible::Value)).arg(text.cursorPosition());
+        line += QString::number(text.selectionCount());
+        for (int start = -1, end = -1, i = 0; i < 2; ++i) {
+            text.selection(i, &start, &end);
+            line += QString(" %1-%2").arg(start).arg(end);
+        }
+        return line;
+    };
+    play("add -> Katze 3 1 1-3 0-0, others -> Katze 3 1 1-3 0-0, remove -> Katze 3 0 0-0 0-0, caret -> Katze 2 0 0-0 "
+         "0-0, "
+         "insert -> Katzen 6 0 0-0 0-0, delete -> atzen 5 0 0-0 0-0, replace -> aRZen 5 0 0-0 0-0, "
+         "scroll -> aRZen 1 0 0-0 0-0, set -> Hund 4 0 0-0 0-0, refused -> Hund 4 0 0-0 0-0, name -> Hund 4 0 0-0 0-0",
+         state, actions);
+    EXPECT_EQ(text.text(1, 3) + text.text(3, 1), "un");
+    for (const QString word : {"Katze", "\u05e9\u05dc\u05d5\u05dd"}) {
+        box.setText(word);
+        for (int letter = 0, start = -1, end = -1; letter < 4; ++letter) {
+            text.attributes(letter, &start, &end);
+            EXPECT_EQ(text.text(start, end), word);
+            const QRect place = text.characterRect(letter);
+            EXPECT_EQ(text.offsetAtPoint(place.center() + QPoint(word.isRightToLeft() ? 2 : -2, 0)), letter);
+            EXPECT_NEAR(place.height(), box.fontMetrics().height(), 1);
+        }
+        EXPECT_TRUE(text.characterRect(-1).isNull() && text.characterRect(5).isNull());
     }
-    told.replaceText(4, 5, "en");
-    EXPECT_EQ(told.text(QAccessible::Value), "Katzen");
+    EXPECT_EQ(told.text(QAccessible::Description), "hint");
+    box.setAccessibleDescription("what it is for");
+    EXPECT_EQ(told.text(QAccessible::Description), "what it is for");
+    EXPECT_TRUE(told.state().editable && told.state().selectableText && !told.state().readOnly);
+    box.setReadOnly(true);
+    EXPECT_TRUE(told.state().readOnly && told.actionInterface() && !told.tableInterface());
+    QSpinBox number;
+    QLineEdit password;
+    password.setEchoMode(QLineEdit::Password);
+    QMdiArea area;
+    QStackedWidget pages;
+    QLabel label;
+    for (QWidget *other : std::initializer_list<QWidget *>{number.findChild<QLineEdit *>(), &password, &label})
+        EXPECT_FALSE(dynamic_cast<TextBoxAccessible *>(QAccessible::queryAccessibleInterface(other)));
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&area)->role(), QAccessible::Client);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&pages)->role(), QAccessible::Client);
 }
