@@ -86,7 +86,10 @@ TEST(FlexGridOperations, DoWhatTheySayAlsoWhereNobodyUsesThem)
     model.setHorizontalHeaderLabels({"L1", "L2"});
     model.appendRow({new QStandardItem("x"), new QStandardItem("y")});
     model.appendRow(new QStandardItem("z"));
-    EXPECT_EQ(grid.TextMatrix(0, 2) + column(grid, 1) + column(grid, 2), "L2x,zy,");
+    grid.AddItem("3\tu\tv\tbeyond", 2);
+    grid.AddItem("4");
+    grid.setTextArray(7, grid.TextArray(5) + 'Y' + grid.TextArray(-1));
+    EXPECT_EQ(column(grid, 0) + grid.TextMatrix(0, 2) + column(grid, 1) + column(grid, 2), ",3,,4L2x,yY,z,y,v,,");
 }
 
 TEST(FlexGridZoom, LeadsThroughTheUsualSizesAndChangesNothingThatIsKept)

@@ -44,12 +44,8 @@ struct ShownGrid : ::testing::Test
     }
     std::string selection() const
     {
-        return QString("%1 %2 %3 %4")
-            .arg(grid.Row())
-            .arg(grid.Col())
-            .arg(grid.RowSel())
-            .arg(grid.ColSel())
-            .toStdString();
+        const auto &[row, col, rowSel, colSel] = grid.selection();
+        return QString::asprintf("%d %d %d %d", row, col, rowSel, colSel).toStdString();
     }
 
     /// The part of cell 1 of row 1 in which something other than its ground is drawn.
