@@ -46,7 +46,7 @@ TEST(FlexGridOperations, DoWhatTheySayAlsoWhereNobodyUsesThem)
     EXPECT_EQ(grid.ColAlignment(1) * 10 + grid.FixedAlignment(1), 44) << "as the column";
     grid.setFixedAlignment(1, 1);
     grid.setMergeCol(1, true);
-    EXPECT_TRUE(grid.FixedAlignment(1) == 1 && grid.MergeCol(1) && !grid.MergeCol(2));
+    EXPECT_TRUE(grid.FixedAlignment(1) == 1 && grid.FixedAlignment(3) == 9 && grid.MergeCol(1) && !grid.MergeCol(2));
     grid.setRowHeight(1, 287);
     grid.setColWidth(1, 4001);
     EXPECT_EQ(std::pair(grid.RowHeight(1), grid.ColWidth(1)), std::pair(287, 4001)) << "to the twip";
@@ -59,17 +59,14 @@ TEST(FlexGridOperations, DoWhatTheySayAlsoWhereNobodyUsesThem)
     grid.setCellTextStyle(2);
     grid.setCellPicture(QPixmap(3, 3));
     grid.setCellPictureAlignment(5);
-    for (const int row : {2, 3}) {
-        const bool formatted = row == 2;
+    QStringList formats, limits;
+    for (const int row : {2, 3, 0}) {
         grid.Select(row, 1, row, 1);
-        EXPECT_EQ(grid.CellAlignment(), formatted ? 7 : 4);
-        EXPECT_EQ(grid.CellBackColor(), formatted ? 0xFF : 0);
-        EXPECT_EQ(grid.CellTextStyle() * 10 + grid.CellPictureAlignment(), formatted ? 25 : 0);
-        EXPECT_EQ(grid.CellPicture().isNull(), !formatted);
+        for (const int value : {grid.CellAlignment(), grid.CellBackColor(), grid.CellTextStyle(),
+                                grid.CellPictureAlignment(), grid.CellPicture().width()})
+            formats += QString::number(value);
     }
-    grid.Select(0, 1, 0, 1);
-    EXPECT_EQ(grid.CellAlignment(), 1) << "that of fixed cells";
-    QStringList limits;
+    EXPECT_EQ(formats.join(' '), "7 255 2 5 3 4 0 0 0 0 1 0 0 0 0") << "a formatted cell, another and a fixed one";
     for (const char *name :
          {"Appearance", "AllowUserResizing", "BorderStyle", "FillStyle", "FocusRect", "GridLines", "GridLinesFixed",
           "GridLineWidth", "HighLight", "PictureType", "ScrollBars", "SelectionMode", "TextStyle", "TextStyleFixed"}) {
