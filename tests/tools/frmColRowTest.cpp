@@ -13,6 +13,8 @@ struct SizeDialog : ::testing::Test, OpenDocument
         dialog.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
         const std::string before = shown(dialog).toStdString();
+        const QSize framed = dialog.size() + QSize(0, dialog.style()->pixelMetric(QStyle::PM_TitleBarHeight));
+        EXPECT_EQ(QRect(dialog.pos(), framed).center(), window.frameGeometry().center());
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Delete);
         QTest::keyClicks(dialog.focusWidget(), size);
         QTest::keyClick(dialog.focusWidget(), key);

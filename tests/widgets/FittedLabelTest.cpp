@@ -32,24 +32,27 @@ TEST_F(FittedLabelTest, LargeTypeShrinksBeforeTheTextIsCut)
 {
     label.setContentsMargins(9, 2, 9, 4);
     label.setTypeSizes(3, 0.8);
-    label.setFullText("word");
-    label.resize(label.sizeHint());
-    const double normal = QFontInfo(window.font()).pointSizeF();
-    EXPECT_NEAR(3 * normal, label.font().pointSizeF(), 0.1);
-
-    label.setFullText(LongPhrase);
-    label.resize(20, 60);
-    EXPECT_NEAR(0.8 * normal, label.font().pointSizeF(), 0.1);
-    label.resize(int(QFontMetricsF(window.font()).horizontalAdvance(LongPhrase) * 1.5), 60);
-    EXPECT_EQ(LongPhrase, label.text());
-    const double forPhrase = label.font().pointSizeF();
-    EXPECT_TRUE(normal < forPhrase && forPhrase < 3 * normal) << forPhrase;
     label.setFamily("Liberation Serif");
-    EXPECT_EQ(label.font().families().value(0), "Liberation Serif");
-    label.setFamily({});
     label.setRoomFor(LongPhrase);
-    label.setFullText(LongPhrase.left(1));
-    EXPECT_DOUBLE_EQ(forPhrase, label.font().pointSizeF());
+    const double normal = QFontInfo(window.font()).pointSizeF();
+    const auto metrics = [&](double size) {
+        QFont font(label.font());
+        font.setPointSizeF(normal * size);
+        return QFontMetricsF(font);
+    };
+    for (const QString &text : {LongPhrase, LongPhrase.left(9)}) {
+        label.setFullText(text);
+        EXPECT_EQ(label.sizeHint(), QSize(int(std::ceil(metrics(3).horizontalAdvance(text) / 0.97)) + 18,
+                                          int(std::ceil(metrics(3).height() * 1.2)) + 6));
+        for (const int width : {3000, 1000, 700, 500, 20}) {
+            label.resize(width, 60);
+            const double size = label.font().pointSizeF() / normal, room = (width - 18) * 0.97;
+            EXPECT_TRUE(size == 3 || metrics(size / 0.9).horizontalAdvance(LongPhrase) > room) << size;
+            EXPECT_TRUE(size < 0.801 || metrics(size).horizontalAdvance(LongPhrase) <= room) << size;
+            EXPECT_EQ(label.text() == text, metrics(size).horizontalAdvance(text) <= room);
+        }
+    }
+    EXPECT_EQ(label.font().families().value(0), "Liberation Serif");
 }
 
 TEST_F(FittedLabelTest, ARightToLeftTextKeepsItsPunctuationAndItsPlace)

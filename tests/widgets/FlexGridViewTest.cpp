@@ -168,6 +168,7 @@ TEST_F(ShownGrid, BordersOfFixedCellsAreDraggedWhenAllowed)
             EXPECT_EQ(pointerAt(at(220, 5) + QPoint(reach, 0)), near ? Qt::SplitHCursor : Qt::ArrowCursor) << reach;
             EXPECT_EQ(pointerAt(at(50, 72) + QPoint(0, reach)), near ? Qt::SplitVCursor : Qt::ArrowCursor) << reach;
         }
+        EXPECT_EQ(pointerAt(at(150, 72)), Qt::ArrowCursor) << "below a word";
         grid.setMousePointer(2);
         EXPECT_EQ(pointerAt(at(150, 30)), Qt::CrossCursor);
         grid.setMousePointer(0);

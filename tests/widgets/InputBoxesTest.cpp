@@ -1,3 +1,4 @@
+#include "widgets/Announcer.h"
 #include "widgets/ExtendedComboBox.h"
 #include "widgets/NumberBox.h"
 #include "widgets/QuietPanes.h"
@@ -166,6 +167,11 @@ TEST(TextBox, IsToldToScreenReadersInOnePieceAndDoesWhatTheyWant)
     QMdiArea area;
     QStackedWidget pages;
     QLabel label;
+    Announcer announcer(&area);
+    announcer.say("heard by nobody");
+    EXPECT_TRUE(announcer.isHidden() && announcer.size() == QSize(1, 1) && announcer.accessibleName().isEmpty() &&
+                announcer.testAttribute(Qt::WA_TransparentForMouseEvents));
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&announcer)->role(), QAccessible::Notification);
     for (QWidget *other : std::initializer_list<QWidget *>{number.findChild<QLineEdit *>(), &password, &label})
         EXPECT_FALSE(dynamic_cast<TextBoxAccessible *>(QAccessible::queryAccessibleInterface(other)));
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&area)->role(), QAccessible::Client);

@@ -18,7 +18,7 @@ TEST(LetterRowTest, ClicksAndKeysTypeLettersAndTheirCapitals)
     EXPECT_TRUE(row->isVisible());
     const QList<QToolButton *> buttons = row->findChildren<QToolButton *>();
     ASSERT_EQ(buttons.size(), 3);
-    EXPECT_EQ(buttons[2]->toolTip(), "Ctrl+3");
+    EXPECT_TRUE(buttons[2]->toolTip() == "Ctrl+3" && buttons[2]->autoRaise());
     const auto wide = [&buttons](int i) { return buttons[i]->sizeHint().width(); };
     EXPECT_EQ(row->childrenRect(), QRect(0, 0, wide(0) + wide(1) + wide(2), row->height()));
     box->setFocus();
@@ -34,9 +34,9 @@ TEST(LetterRowTest, ClicksAndKeysTypeLettersAndTheirCapitals)
     EXPECT_EQ(buttons[0]->accessibleName() + buttons[0]->text(), "ää");
     QTest::keyRelease(box, Qt::Key_Shift);
     QTest::keyClick(box, Qt::Key_1, Qt::ControlModifier);
-    QTest::keyClick(box, Qt::Key_1, Qt::ControlModifier | Qt::ShiftModifier);
+    QTest::keyClick(box, Qt::Key_3, Qt::ControlModifier | Qt::ShiftModifier);
     QTest::keyClick(box, Qt::Key_4, Qt::ControlModifier); // there is none
-    EXPECT_EQ(box->text(), "äßжßЖäÄ");
+    EXPECT_EQ(box->text(), "äßжßЖäЖ");
     QTest::keyClick(box, Qt::Key_Tab);
     for (const QString &step : QString("Right 1, Left 0, Left 0, Right 1, Right 2, Right 2").split(", ")) {
         QTest::keySequence(QApplication::focusWidget(), QKeySequence(step.section(' ', 0, 0)));
@@ -46,7 +46,7 @@ TEST(LetterRowTest, ClicksAndKeysTypeLettersAndTheirCapitals)
         EXPECT_EQ((buttons[0]->focusPolicy() | buttons[1]->focusPolicy() | buttons[2]->focusPolicy()), Qt::TabFocus);
     }
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-    EXPECT_EQ(box->text(), "äßжßЖäÄж");
+    EXPECT_EQ(box->text(), "äßжßЖäЖж");
     row->setLetters({});
     EXPECT_FALSE(row->isVisible());
 }

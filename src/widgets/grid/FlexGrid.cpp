@@ -21,7 +21,6 @@ FlexGrid::FlexGrid(QWidget *parent)
     setFocusProxy(m_view);
     connectView();
     applyFrame();
-    m_view->layOutAgain();
 }
 
 FlexGrid::~FlexGrid() = default;
