@@ -56,7 +56,7 @@ TEST_F(FindReplace, OpensWithTheCurrentCellsTextAndWidens)
               "[ ] &2 Language 2 | [ ] &Match Case | [ ] &Whole Words | Find &Next | &Replace... | &Close | ?");
     EXPECT_EQ(control<QLineEdit>("txtFind")->selectedText(), "cat");
     EXPECT_EQ(FormTexts::helpContextId(dialog.get()), 1160);
-    EXPECT_EQ(dialog->whatsThis(), resText(20043));
+    EXPECT_EQ(dialog->whatsThis() + control<QPushButton>("btnReplace")->whatsThis(), resText(20043) + resText(20049));
     const QSize framed = dialog->size() + QSize(0, dialog->style()->pixelMetric(QStyle::PM_TitleBarHeight) + 27);
     EXPECT_EQ(QRect(dialog->pos(), framed).bottomRight(), window.frameGeometry().bottomRight());
     const int height = dialog->height();
@@ -68,7 +68,7 @@ TEST_F(FindReplace, OpensWithTheCurrentCellsTextAndWidens)
               "(Find &Next) | (&Replace) | (Replace &All) | &Close | ?");
     EXPECT_GE(dialog->height() - height, 46); // 700 twips
     EXPECT_EQ(FormTexts::helpContextId(dialog.get()), 1170);
-    EXPECT_EQ(dialog->whatsThis(), resText(20051));
+    EXPECT_EQ(dialog->whatsThis() + control<QPushButton>("btnReplace")->whatsThis(), resText(20051) + resText(20053));
     EXPECT_TRUE(flags.ReplaceMode && !flags.FindMode);
     EXPECT_EQ(match(), "nothing");
 }
@@ -105,7 +105,8 @@ TEST_F(FindReplace, ShowsMatchAfterMatchAndReportsTheEnd)
           {"back", [this] { FindOn::run(document, last, true, alert, &window); }}});
     last.FindWhat = "dog";
     FindOn::run(document, last, false, alert, &window);
-    EXPECT_EQ(alert.shown.back().prompt, "The search string was not found.");
+    EXPECT_EQ(document.selection(), (GridSelection{3, 1, 3, 1}));
+    EXPECT_TRUE(alert.shown.back().prompt == "The search string was not found." && alert.shown.back().sound);
 }
 
 TEST_F(FindReplace, ReplacesTheSelectedMatchOnly)
@@ -178,7 +179,13 @@ TEST_F(FindReplace, LeavesNoUndoStepToAnotherDocument)
     dialog->leaveDocument();
     click("btnFind");
     click("btnReplaceAll");
-    EXPECT_FALSE(grid.EditMode());
+    EXPECT_TRUE(!grid.EditMode() && alert.shown.size() == 1);
+    grid.setTextMatrix(0, 1, "English");
+    grid.setTextMatrix(1, 2, "Katze");
+    dialog->workOn(document); // as if it were another
+    EXPECT_EQ(control<QRadioButton>("optScope1")->text(), "&1 English");
+    click("btnFind");
+    EXPECT_EQ(match(), "1,2:[Katze]0");
     dialog->close();
     EXPECT_FALSE(flags.searching());
     EXPECT_EQ(undo.kind(), UndoKind::None);
