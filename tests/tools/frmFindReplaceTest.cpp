@@ -22,19 +22,12 @@ struct FindReplace : ::testing::Test, OpenDocument
         dialog = std::make_unique<frmFindReplace>(document, frmFindReplace::Needs{flags, undo, alert, last}, &window);
         dialog->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
-        if (!what.isEmpty())
-            type("txtFind", what);
-        if (!with.isEmpty())
-            type("txtReplace", with);
+        for (const auto &[box, text] : {std::pair("txtFind", what), {"txtReplace", with}})
+            text.isEmpty() ? void() : type(box, text);
     }
     template <typename T> T *control(const char *name) { return dialog->findChild<T *>(QString::fromLatin1(name)); }
     void click(const char *name) { QTest::mouseClick(control<QAbstractButton>(name), Qt::LeftButton); }
-    void type(const char *box, const QString &text)
-    {
-        control<QLineEdit>(box)->selectAll();
-        QTest::keyClick(control<QLineEdit>(box), Qt::Key_Delete);
-        QTest::keyClicks(control<QLineEdit>(box), text);
-    }
+    void type(const char *box, const QString &text) { control<QLineEdit>(box)->setText(text); }
     /// What the cell editor shows, as "row,col:[selected text]start".
     QString match() const
     {
@@ -117,8 +110,7 @@ TEST_F(FindReplace, ReplacesTheSelectedMatchOnly)
         "dog, btnReplace -> 3,1:[ca]0 dog, btnFind -> 2,1:[cat]4 dog, btnReplace -> 3,1:[cat]0 dog, long -> "
         "3,1:[cat]0 dog, btnFind -> 3,1:[cat]0 dog, btnFind -> 3,1:[cat]0 dog, btnReplace -> 3,1:[]200 dog",
         [this] { return match() + ' ' + grid.TextMatrix(1, 1); },
-        {{"part", [this] { grid.SelectEditText(0, 2); }},
-         {"long", [this] { control<QLineEdit>("txtReplace")->setText(QString(200, u'x')); }}},
+        {{"part", [this] { grid.SelectEditText(0, 2); }}, {"long", [this] { type("txtReplace", QString(200, u'x')); }}},
         dialog.get());
     EXPECT_EQ(words(),
               (Words{{"dog", "Katze"}, {"the dog sat", "die Katze saß"}, {QString(200, u'x') + 's', "a"}, {}}));
@@ -129,25 +121,40 @@ TEST_F(FindReplace, ReplacesTheSelectedMatchOnly)
     EXPECT_EQ(undo.kind(), UndoKind::Replace);
 }
 
-TEST_F(FindReplace, ReplaceAllIsOneUndoStep)
+TEST_F(FindReplace, ReplaceAllIsOneUndoStepOfItsDocument)
 {
     const Words before = words();
     const QString longWord(200, u'x');
-    open(true, "cat", longWord);
-    click("btnFind"); // the match shown first counts as well
-    click("btnReplaceAll");
-    EXPECT_EQ(alert.onlyPrompt(), "The specified region has been searched. 3 replacements were made.");
-    EXPECT_EQ(words(),
-              (Words{{longWord, "Katze"}, {"the " + longWord + " sat", "die Katze saß"}, {longWord + "s", "a"}, {}}));
-    EXPECT_GT(grid.RowHeight(1), 285);
-    EXPECT_EQ(match(), "3,1:[]200"); // the last match
-    click("btnReplaceAll");
-    EXPECT_EQ(match(), "3,1:[]200");
-    document.setDirty(false); // as saving does
-    dialog->close();
-    EXPECT_TRUE(document.Dirty());
-    commands.Undo(document);
-    EXPECT_EQ(words(), before);
+    for (const bool anotherFollows : {false, true}) {
+        open(true, "cat", longWord);
+        click("btnFind"); // the match shown first counts as well
+        click("btnReplaceAll");
+        EXPECT_EQ(alert.onlyPrompt(), "The specified region has been searched. 3 replacements were made.");
+        EXPECT_THAT(words(), ::testing::ElementsAre(Words::value_type{longWord, "Katze"},
+                                                    Words::value_type{"the " + longWord + " sat", "die Katze saß"},
+                                                    Words::value_type{longWord + "s", "a"}, Words::value_type{}));
+        EXPECT_GT(grid.RowHeight(1), 285);
+        EXPECT_EQ(match(), "3,1:[]200"); // the last match
+        QTest::keyClicks(grid.hwndText(), "u");
+        document.setDirty(false); // as saving does
+        if (anotherFollows) {
+            undo.clear();
+            dialog->leaveDocument();
+            click("btnFind");
+            click("btnReplaceAll");
+            EXPECT_TRUE(!grid.EditMode() && alert.shown.size() == 1);
+            grid.setTextMatrix(0, 1, "English");
+            dialog->workOn(document); // as if it were another
+            EXPECT_EQ(control<QRadioButton>("optScope1")->text(), "&1 English");
+            click("btnFind");
+        }
+        dialog->close();
+        EXPECT_TRUE(!flags.searching() && document.Dirty());
+        EXPECT_EQ(undo.kind(), anotherFollows ? UndoKind::None : UndoKind::Replace);
+        commands.Undo(document);
+        EXPECT_EQ(words() == before, !anotherFollows);
+        alert.shown.clear();
+    }
 }
 
 TEST_F(FindReplace, WhatIsTypedIntoTheMatchCanBeUndone)
@@ -166,27 +173,4 @@ TEST_F(FindReplace, WhatIsTypedIntoTheMatchCanBeUndone)
         commands.Undo(document);
         EXPECT_EQ(grid.TextMatrix(1, 1), text);
     }
-}
-
-TEST_F(FindReplace, LeavesNoUndoStepToAnotherDocument)
-{
-    open(true, "cat");
-    click("btnReplaceAll");
-    type("txtFind", "Katze");
-    click("btnFind");
-    QTest::keyClicks(grid.hwndText(), "u");
-    undo.clear();
-    dialog->leaveDocument();
-    click("btnFind");
-    click("btnReplaceAll");
-    EXPECT_TRUE(!grid.EditMode() && alert.shown.size() == 1);
-    grid.setTextMatrix(0, 1, "English");
-    grid.setTextMatrix(1, 2, "Katze");
-    dialog->workOn(document); // as if it were another
-    EXPECT_EQ(control<QRadioButton>("optScope1")->text(), "&1 English");
-    click("btnFind");
-    EXPECT_EQ(match(), "1,2:[Katze]0");
-    dialog->close();
-    EXPECT_FALSE(flags.searching());
-    EXPECT_EQ(undo.kind(), UndoKind::None);
 }

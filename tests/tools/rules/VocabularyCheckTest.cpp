@@ -36,12 +36,7 @@ TEST(VocabularyCheck, FindsWhatLooksWrong)
 
 TEST(VocabularyCheck, TrimsBlanksAndNothingElse)
 {
-    const std::pair<QString, QString> cases[] = {{"", ""},
-                                                 {" \t", ""},
-                                                 {"a b", "a b"},
-                                                 {" a  b ", "a b"},
-                                                 {"a\u00a0?", "a\u00a0?"},
-                                                 {" \u3000a\u3000b", "a\u3000b"}};
-    for (const auto &[text, expected] : cases)
-        EXPECT_EQ(VocabularyCheck::trimmed(text), expected);
+    const QString tests = ">| \t>|a b>a b| a  b >a b|a\u00a0?>a\u00a0?| \u3000a\u3000b>a\u3000b";
+    for (const QString &test : tests.split(u'|'))
+        EXPECT_EQ(VocabularyCheck::trimmed(test.section(u'>', 0, 0)), test.section(u'>', 1));
 }
