@@ -44,6 +44,7 @@ struct BarChartTest : ::testing::Test
 
 TEST_F(BarChartTest, ShowsItsNumbersInTheOrderOfReadingAndNamesThemForKeysAndPointer)
 {
+    EXPECT_EQ(chart.accessibleDescription(), "one: 3,000");
     chart.clearFocus();
     const char *const three = " 0. 10# 58. 130# 178. 190# 238.", *const two = " 0. 10# 58. 130# 178.";
     for (const auto &[row, shown] :
@@ -63,7 +64,6 @@ TEST_F(BarChartTest, ShowsItsNumbersInTheOrderOfReadingAndNamesThemForKeysAndPoi
     setBars({}, {}, text);
     EXPECT_NEAR(beyond("", 2 * line() + 105), 300, 2);
     setBars({});
-    EXPECT_EQ(along(99), three);
     EXPECT_EQ(chart.sizeHint() + QSize(0, 2 * chart.minimumSizeHint().height()), QSize(260, 9 * line() + 194));
     EXPECT_GT(chart.minimumSizeHint().width(), chart.fontMetrics().horizontalAdvance(title) + 8);
     EXPECT_EQ(chart.asText().toStdString(), title + std::string("\none: 3,000\ntwo: 0\nthree: 6,000\nfour: 1"));

@@ -88,7 +88,7 @@ TEST_F(Progress, ShowsTheWordsInTheDirectionThatIsChosenExportsThemAndLeadsToOne
 
 TEST_F(Progress, ForgetsOnlyAfterAsking)
 {
-    QAbstractItemModelTester tester(model);
+    QAbstractItemModelTester tester(model, QAbstractItemModelTester::FailureReportingMode::Fatal);
     table->setCurrentIndex(model->index(2, 0));
     alert.answers = {AlertBox::AnswerNo, AlertBox::AnswerYes, AlertBox::AnswerNo, AlertBox::AnswerYes};
     std::string kept;

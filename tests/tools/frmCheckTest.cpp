@@ -15,7 +15,7 @@ struct Checking : ::testing::Test, OpenDocument
 
     frmCheck dialog{document, {commands, undo}, &window};
     QListView &list = *dialog.findChild<QListView *>();
-    QAbstractItemModelTester tester{list.model()};
+    QAbstractItemModelTester tester{list.model(), QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
 TEST_F(Checking, GoesThroughTheFindingsAndSelectsTheirCells)
@@ -80,4 +80,5 @@ TEST_F(Checking, MendsWhatIsSafeInTheLatestStateInOneUndoStepEach)
         return text + (document.Dirty() ? "*" : "");
     };
     play(steps.replace("WORDS", "a1 b 2 a1 c  c 3 сd4 5"), state, actions, &dialog);
+    EXPECT_FALSE(dialog.findChild<QPushButton *>("btnNext")->isEnabled());
 }

@@ -72,7 +72,8 @@ TEST_F(ShownGrid, KeysMoveTheCurrentCellAndExtendTheSelection)
         "Shift+Left: 5 2 5 1; Shift+PgDown: 5 2 17 2; Shift+Home: 5 2 5 1; Ctrl+A: 1 1 200 3; "
         "Ctrl+Shift+End: 5 2 200 3; Ctrl+Shift+Home: 5 2 1 1; Alt+Down: 5 2 5 2!; Tab: 5 2 5 2; "
         "Ctrl+Home, Up: 1 1 1 1; Home, Left: 5 1 5 1; End, Right: 5 3 5 3; Ctrl+End, Down: 200 3 200 3; "
-        "Ctrl+PgDown: 5 2 5 2!; Ctrl+Right: 5 3 5 3; F5: 5 2 5 2!";
+        "Ctrl+PgDown: 5 2 5 2!; Ctrl+Right: 5 3 5 3; F5: 5 2 5 2!; Shift+Down, Shift+Down: 5 2 8 2; "
+        "Shift+Left, Shift+Right: 5 2 5 2";
     for (const int hidden : {4, 6})
         grid.setRowHeight(hidden, 0);
     for (const bool mirrored : {false, true}) {
@@ -229,6 +230,14 @@ TEST_F(ShownGrid, KnowsWhereItsCellsAndTheMouseAre)
               grid.hwndGrid()->cellRect(5, 2));
     moveTo(cell(4, 1));
     EXPECT_EQ(grid.MouseRow() * 10 + grid.MouseCol(), 41);
+    for (const int bars : {0, 1, 2, 3}) {
+        grid.setColWidth(3, 6000);
+        grid.setScrollBars(bars);
+        EXPECT_EQ(grid.hwndGrid()->horizontalScrollBar()->isVisible() +
+                      2 * grid.hwndGrid()->verticalScrollBar()->isVisible(),
+                  bars);
+    }
+    grid.setColWidth(3, 1500);
     grid.Autosize();
     EXPECT_EQ(grid.size(), QSize(400, 4020)) << "without scroll bars";
 }

@@ -126,6 +126,7 @@ const std::function<void(FlexGrid &, const Step &)> Steps[] = {
     [](FlexGrid &grid, const Step &s) { grid.setRightToLeft(s.to % 2); },
     [](FlexGrid &grid, const Step &s) { grid.setRowHeight(s.row, s.size); },
     [](FlexGrid &grid, const Step &s) { grid.setColWidth(s.col, std::min(s.size, 2250)); },
+    [](FlexGrid &grid, const Step &s) { grid.resize(150 + 10 * s.row, 100 + 10 * s.to); },
     [](FlexGrid &grid, const Step &s) { grid.setRow(s.row); },
     [](FlexGrid &grid, const Step &s) { grid.setColSel(s.col); },
     [](FlexGrid &grid, const Step &s) { grid.Select(s.row, s.col, s.to, s.toCol); },

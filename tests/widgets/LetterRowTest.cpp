@@ -47,6 +47,9 @@ TEST(LetterRowTest, ClicksAndKeysTypeLettersAndTheirCapitals)
     }
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
     EXPECT_EQ(box->text(), "äßжßЖäЖж");
+    row->setLetters(QString("abcdefghij").split("", Qt::SkipEmptyParts));
+    EXPECT_EQ(row->findChildren<QToolButton *>()[8]->toolTip() + row->findChildren<QToolButton *>()[9]->toolTip(),
+              "Ctrl+9");
     row->setLetters({});
     EXPECT_FALSE(row->isVisible());
 }

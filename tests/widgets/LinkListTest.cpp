@@ -1,5 +1,7 @@
 #include "widgets/LinkList.h"
 
+#include "support/Pixels.h"
+
 TEST(LinkListTest, KeysGoAlongItsLinksAndReadersAreToldOfThem)
 {
     QWidget window;
@@ -18,13 +20,16 @@ TEST(LinkListTest, KeysGoAlongItsLinksAndReadersAreToldOfThem)
     EXPECT_EQ(list.height(), heading->height() + 3 * links[0]->height());
     EXPECT_EQ(links[0]->size(), links[0]->fontMetrics().size(0, "one") + QSize(6, 6));
     links[2]->setFocus();
+    window.setAttribute(Qt::WA_KeyboardFocusChange); // else nothing is framed
     const QImage plain = links[0]->grab().toImage();
     links[0]->setAttribute(Qt::WA_UnderMouse);
     const QImage underMouse = links[0]->grab().toImage();
     links[0]->setAttribute(Qt::WA_UnderMouse, false);
     links[0]->setFocus();
     const QImage focused = links[0]->grab().toImage();
-    EXPECT_TRUE(underMouse != plain && focused != plain);
+    const auto framed = [&](const QImage &image) { return inkOf(image, list.palette().window().color()).left() < 2; };
+    EXPECT_TRUE(underMouse != plain && !framed(plain) && !framed(underMouse) && framed(focused));
+    EXPECT_TRUE(links[0]->testAttribute(Qt::WA_Hover) && links[0]->cursor().shape() == Qt::PointingHandCursor);
     for (const QString &step : QString("Down 1, Down 2, Down 2, Up 1, A 1, Home 0, Up 0, End 2, Up 1").split(", ")) {
         QTest::keySequence(QApplication::focusWidget(), QKeySequence(step.section(' ', 0, 0)));
         for (size_t i = 0; i < 3; ++i) {
