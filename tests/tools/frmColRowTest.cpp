@@ -24,7 +24,7 @@ struct SizeDialog : ::testing::Test, OpenDocument
     int heightPixels(int row) const { return Twips::toPixelsY(grid.RowHeight(row)); }
 };
 
-TEST_F(SizeDialog, SetsTheSelectedRowsWhenASizeIsGiven)
+TEST_F(SizeDialog, SetsTheSelectedRowsAndColumnsWhenASizeIsGiven)
 {
     setWords(Words(9));
     grid.setRowHeight(7, 600);
@@ -39,10 +39,7 @@ TEST_F(SizeDialog, SetsTheSelectedRowsWhenASizeIsGiven)
     EXPECT_GE(heightPixels(0), QFontMetricsF(grid.Font()).height() + 6);
     answer(frmColRow::RowHeight, "99999999", Qt::Key_Return);
     EXPECT_GT(heightPixels(3), 100000);
-}
 
-TEST_F(SizeDialog, SetsTheSelectedColumnsAndKeepsTheNumbersReadable)
-{
     grid.setRows(100001);
     grid.setColWidth(0, 0);
     grid.setColWidth(1, 3000);

@@ -25,7 +25,7 @@ struct FindReplace : ::testing::Test, OpenDocument
         for (const auto &[box, text] : {std::pair("txtFind", what), {"txtReplace", with}})
             text.isEmpty() ? void() : type(box, text);
     }
-    template <typename T> T *control(const char *name) { return dialog->findChild<T *>(QString::fromLatin1(name)); }
+    template <typename T> T *control(const char *name) { return dialog->findChild<T *>(name); }
     void click(const char *name) { QTest::mouseClick(control<QAbstractButton>(name), Qt::LeftButton); }
     void type(const char *box, const QString &text) { control<QLineEdit>(box)->setText(text); }
     /// What the cell editor shows, as "row,col:[selected text]start".
@@ -89,9 +89,7 @@ TEST_F(FindReplace, ShowsMatchAfterMatchAndReportsTheEnd)
     EXPECT_EQ(alert.shown[1].prompt, "The search string was not found.");
 
     dialog->close();
-    EXPECT_TRUE(!flags.searching() && !grid.EditMode());
-    EXPECT_EQ(undo.kind(), UndoKind::None);
-    EXPECT_FALSE(document.Dirty());
+    EXPECT_TRUE(!flags.searching() && !grid.EditMode() && undo.kind() == UndoKind::None && !document.Dirty());
     play("on -> 2 4, on -> 3 4, back -> 2 4, on -> 3 4, on -> 1 5, back -> 3 5",
          [this] { return QString("%1 %2").arg(document.selection().bottom()).arg(alert.shown.size()); },
          {{"on", [this] { FindOn::run(document, last, false, alert, &window); }},
@@ -116,9 +114,7 @@ TEST_F(FindReplace, ReplacesTheSelectedMatchOnly)
               (Words{{"dog", "Katze"}, {"the dog sat", "die Katze saß"}, {QString(200, u'x') + 's', "a"}, {}}));
     QTest::keyClick(dialog.get(), Qt::Key_Escape);
     EXPECT_GT(grid.RowHeight(3), 285); // also of the last match
-    EXPECT_FALSE(dialog->isVisible());
-    EXPECT_TRUE(document.Dirty());
-    EXPECT_EQ(undo.kind(), UndoKind::Replace);
+    EXPECT_TRUE(!dialog->isVisible() && document.Dirty() && undo.kind() == UndoKind::Replace);
 }
 
 TEST_F(FindReplace, ReplaceAllIsOneUndoStepOfItsDocument)
@@ -168,8 +164,7 @@ TEST_F(FindReplace, WhatIsTypedIntoTheMatchCanBeUndone)
         click("btnFind");
         dialog->close();
         EXPECT_EQ(grid.TextMatrix(1, 1), 'u' + text.mid(1));
-        EXPECT_EQ(undo.kind(), UndoKind::Entry);
-        EXPECT_TRUE(document.Dirty());
+        EXPECT_TRUE(undo.kind() == UndoKind::Entry && document.Dirty());
         commands.Undo(document);
         EXPECT_EQ(grid.TextMatrix(1, 1), text);
     }

@@ -28,8 +28,8 @@ TEST(LinkListTest, KeysGoAlongItsLinksAndReadersAreToldOfThem)
     links[0]->setFocus();
     const QImage focused = links[0]->grab().toImage();
     const auto framed = [&](const QImage &image) { return inkOf(image, list.palette().window().color()).left() < 2; };
-    EXPECT_TRUE(underMouse != plain && !framed(plain) && !framed(underMouse) && framed(focused));
-    EXPECT_TRUE(links[0]->testAttribute(Qt::WA_Hover) && links[0]->cursor().shape() == Qt::PointingHandCursor);
+    EXPECT_TRUE(underMouse != plain && !framed(plain) && !framed(underMouse) && framed(focused) &&
+                links[0]->testAttribute(Qt::WA_Hover) && links[0]->cursor().shape() == Qt::PointingHandCursor);
     for (const QString &step : QString("Down 1, Down 2, Down 2, Up 1, A 1, Home 0, Up 0, End 2, Up 1").split(", ")) {
         QTest::keySequence(QApplication::focusWidget(), QKeySequence(step.section(' ', 0, 0)));
         for (size_t i = 0; i < 3; ++i) {

@@ -59,7 +59,7 @@ TEST(Search, FindsInOrder)
         EXPECT_EQ(foundIn(cells, what, flags), found) << what.toStdString() << " " << flags;
 }
 
-TEST(Search, GoesOnFromACellInBothDirections)
+TEST(Search, GoesOnFromACellInBothDirectionsAndFromWhereItStands)
 {
     const MemoryCells cells{{"x", "x"}, {"x x", "xx"}, {"cx x", ""}};
     const std::tuple<int, int, int, bool, Search::Match> cases[] = {
@@ -74,18 +74,15 @@ TEST(Search, GoesOnFromACellInBothDirections)
         const auto match = backwards ? search.FindPrevious(cells) : search.FindNext(cells);
         EXPECT_EQ(match.value_or(Search::Match{}), expected) << flags << row << col;
     }
-}
-
-TEST(Search, LooksOnlyAtColumnTwoOnceThereUntilTheRegionEnds)
-{
-    MemoryCells cells{{"", "x"}, {"", "x"}};
+    // from column 2 the search leads back only when the region has ended
+    MemoryCells later{{"", "x"}, {"", "x"}};
     Search search = searchFor("x", WholeDocument);
-    EXPECT_EQ(search.FindNext(cells), (Search::Match{1, 2, 0, 1}));
-    cells.words[1][0] = "x";
-    EXPECT_EQ(search.FindNext(cells), (Search::Match{2, 2, 0, 1}));
-    EXPECT_EQ(search.FindNext(cells), std::nullopt);
+    EXPECT_EQ(search.FindNext(later), (Search::Match{1, 2, 0, 1}));
+    later.words[1][0] = "x";
+    EXPECT_EQ(search.FindNext(later), (Search::Match{2, 2, 0, 1}));
+    EXPECT_EQ(search.FindNext(later), std::nullopt);
     search.ResetSearch();
-    EXPECT_EQ(search.FindNext(cells), (Search::Match{2, 1, 0, 1}));
-    cells.words.pop_back(); // the row of the match has gone
-    EXPECT_EQ(search.FindNext(cells), (Search::Match{1, 2, 0, 1}));
+    EXPECT_EQ(search.FindNext(later), (Search::Match{2, 1, 0, 1}));
+    later.words.pop_back(); // the row of the match has gone
+    EXPECT_EQ(search.FindNext(later), (Search::Match{1, 2, 0, 1}));
 }
