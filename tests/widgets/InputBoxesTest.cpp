@@ -27,12 +27,6 @@ TEST(NumberBox, TakesDigitsOnlyAndRefusesTheRestAsAWhole)
         EXPECT_TRUE(box.Value() == box.text().toInt() || value == 10.5);
         EXPECT_EQ(refused.isEmpty(), box.text() == before + typed + pasted) << typed;
     }
-    NumberBox box;
-    box.setValue(10.5);
-    box.setText("9");
-    QGuiApplication::clipboard()->setText(".");
-    box.paste();
-    EXPECT_EQ(box.text(), "9.") << "a point where there was one";
 }
 
 TEST(ExtendedComboBox, CompletesFromItsListAndComesBackToIt)
