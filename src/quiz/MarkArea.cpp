@@ -21,8 +21,6 @@ void MarkArea::clear()
 
 void MarkArea::paintEvent(QPaintEvent *)
 {
-    if (m_mark == 0)
-        return;
     QPainter painter(this);
-    picture(m_mark).paint(&painter, rect());
+    picture(m_mark).paint(&painter, rect()); // 0 has none
 }
