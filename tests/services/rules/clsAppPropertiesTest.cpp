@@ -9,7 +9,18 @@ struct AppPropertiesTest : ::testing::Test
     RegistryTree store;
     clsAppProperties settings{store, "/opt/glosaria/glosaria"};
 
-    std::string stored() const { return RegistryText::write(store).simplified().toStdString(); }
+    void expectStored(const char *file) const
+    {
+        EXPECT_EQ(RegistryText::write(store), readFile(SOURCE_FOLDER "/tests/services/rules/" + QString(file)));
+    }
+    void change()
+    {
+        settings.setFontName("Noto Sans");
+        settings.setQuizMode(4);
+        settings.setQuizOptions({32767, {true, true, true, true, true}, true, true, false});
+        settings.setShowLetters(true);
+        settings.setGridZoom(150);
+    }
 };
 
 TEST(SettingsRecord, LayoutByteForByte)
@@ -30,21 +41,11 @@ TEST(SettingsRecord, LayoutByteForByte)
 
 TEST_F(AppPropertiesTest, AFirstRunRegistersTheFileTypeAndStoresTheDefaults)
 {
-    settings.setGridZoom(150);
-    settings.setShowLetters(true);
-    settings.setFontName("Noto Sans");
+    change(); // counts no more when the settings are read
     settings.ReadProperties();
     EXPECT_TRUE(settings.firstRun());
     settings.SaveProperties();
-    EXPECT_EQ(
-        stored(),
-        R"(Glosaria registry 1 HKEY_CLASSES_ROOT ".gla" "" = string "Glosaria.Document" HKEY_CLASSES_ROOT )"
-        R"("Glosaria.Document" "" = string "Glosaria Document" HKEY_CLASSES_ROOT "Glosaria.Document\\DefaultIcon" )"
-        R"("" = string "/opt/glosaria/glosaria,1" HKEY_CLASSES_ROOT "Glosaria.Document\\shell" HKEY_CLASSES_ROOT )"
-        R"("Glosaria.Document\\shell\\open" HKEY_CLASSES_ROOT "Glosaria.Document\\shell\\open\\command" "" = )"
-        R"(string "/opt/glosaria/glosaria \"%1\"" HKEY_CURRENT_USER "Software" HKEY_CURRENT_USER )"
-        R"("Software\\Glosaria" "FontName" = string "Arial" "Settings" = binary 00 00 00 00 00 00 00 00 01 00 00 )"
-        R"(00 00 00 00 00 00 00 0a 00 01 00 00 00 ff ff ff ff ff ff ff ff ff ff ff ff ff ff ff end)");
+    expectStored("firstrun.txt");
 }
 
 TEST_F(AppPropertiesTest, WhatWasChangedIsStoredByItsNameAndComesBack)
@@ -53,29 +54,16 @@ TEST_F(AppPropertiesTest, WhatWasChangedIsStoredByItsNameAndComesBack)
     settings.ReadProperties(); // there is a key, but no record in it
     EXPECT_TRUE(settings.ErrorBeep() && !settings.firstRun());
     settings.SaveProperties();
-    const std::string before = stored();
-    settings.setFontName("Noto Sans");
-    settings.setQuizMode(4);
-    settings.setQuizOptions({32767, {true, true, true, true, true}, true, true, false});
+    const RegistryTree before = store;
+    change();
     settings.setQuizWindow({-5, 20, 700, 500});
-    settings.setShowLetters(true);
-    settings.setGridZoom(150);
     for (int round = 0; round < 2; ++round) {
         settings.SaveProperties();
-        EXPECT_EQ(
-            stored(),
-            R"(Glosaria registry 1 HKEY_CURRENT_USER "Software" HKEY_CURRENT_USER "Software\\Glosaria" "FontName" = )"
-            R"(string "Noto Sans" "GridZoom" = number 150 "QuizForgiveAccents" = number 1 "QuizForgiveBlanks" = number )"
-            R"(1 "QuizForgiveBrackets" = number 1 "QuizForgiveCase" = number 1 "QuizMostWords" = number 32767 )"
-            R"("QuizOneOfSeveral" = number 1 "QuizReadAnswer" = number 1 "QuizReadQuestion" = number 1 )"
-            R"("QuizRememberAnswers" = number 0 "QuizWindowHeight" = number 500 "QuizWindowLeft" = number 4294967291 )"
-            R"("QuizWindowTop" = number 20 "QuizWindowWidth" = number 700 "Settings" = binary 00 00 00 00 00 00 00 00 )"
-            R"(01 00 00 00 00 00 00 00 00 00 0a 00 04 00 00 00 ff ff ff ff ff ff ff ff ff ff ff ff ff ff ff )"
-            R"("ShowLetters" = number 1 HKEY_CURRENT_USER "Software\\Glosaria\\MRUFiles" end)");
+        expectStored("changed.txt");
         settings.ReadProperties();
     }
     clsAppProperties(store, "").SaveProperties(); // the defaults
-    EXPECT_EQ(stored(), before);
+    EXPECT_EQ(store, before);
 }
 
 TEST_F(AppPropertiesTest, ValuesThatCannotBeTrustedAreRepaired)
@@ -99,9 +87,19 @@ TEST_F(AppPropertiesTest, ValuesThatCannotBeTrustedAreRepaired)
         EXPECT_EQ(settings.quizOptions(), QuizOptions()) << name;
         EXPECT_TRUE(settings.FontName() == "Arial" && !settings.ShowLetters()) << name;
     }
-    for (const QRect place :
-         {QRect(9, 9, 0, 9), QRect(9, 9, 9, -9), QRect(INT_MIN, 0, 9, 9), QRect(0, 0, INT_MAX, 9)}) {
+    const QPoint first(-32767, -32767), last(32767, 32767);
+    const std::pair<QRect, bool> places[] = {{{0, 1, 1, 1}, true},
+                                             {{1, 0, 1, 1}, true},
+                                             {{first, last}, true},
+                                             {{9, 9, 0, 9}, false},
+                                             {{9, 9, 9, -9}, false},
+                                             {{first - QPoint(1, 0), last}, false},
+                                             {{first, last + QPoint(0, 1)}, false},
+                                             {{0, 0, INT_MAX, 9}, false}};
+    for (const auto &[place, kept] : places) {
         settings.setQuizWindow(place);
-        EXPECT_EQ(settings.QuizWindow(), QRect());
+        settings.SaveProperties();
+        settings.ReadProperties();
+        EXPECT_EQ(settings.QuizWindow(), kept ? place : QRect());
     }
 }
