@@ -39,13 +39,15 @@ TEST_F(MRUFileListTest, CaptionShortensTheMiddleOfThePath)
         "/a/exactly_20_px.g = /a/exactly_20_px.g; /a/one_letter_more.g = /a/one_letter_more.g; /abcd/one_letter_mo = "
         "/.../one_letter_mo; /home/anna/words/french.gla = /hom.../french.gla; /a/b/c&d/e/f/g/h/x&y.gla = "
         "/a/b/c&&.../x&&y.gla; /folder/a_name_wider_than_the_menu.gla = .../a_name_wider_than_the_menu.gla; "
-        "no_folder_but_a_long_name.gla = no_folder_but_a_long_name.gla; "
-        "/ab\U0001F600\U0001F600\U0001F600\U0001F600\U0001F600/words.gla = /ab\U0001F600.../words.gla";
+        "no_folder_but_a_long_name.gla = no_folder_but_a_long_name.gla; /ab/long_in_a_short_one = "
+        "/ab/long_in_a_short_one; "
+        "/ab\U0001F600\U0001F600\U0001F600\U0001F600/words.gla = /ab\U0001F600.../words.gla; "
+        "/abc\U0001F600\U0001F600\U0001F600\U0001F600/words.gla = /abc.../words.gla";
     for (const QString &each : cases.split("; "))
         EXPECT_EQ(with(each.section(" = ", 0, 0)).MenuCaption(1), "&1 " + each.section(" = ", 1));
 }
 
-TEST_F(MRUFileListTest, SavedListComesBack)
+TEST_F(MRUFileListTest, SavedListComesBackAsFarAsItsNumbersCanBeTrusted)
 {
     with("A B C D").Save(registry);
     with("E F").Save(registry);
@@ -54,17 +56,11 @@ TEST_F(MRUFileListTest, SavedListComesBack)
     EXPECT_TRUE(filesOf(list) == "F E" && list.MaxFileCount() == 4);
     registry.setValueKey("File3");
     EXPECT_EQ(registry.Value(), QVariant("B"));
-}
-
-TEST_F(MRUFileListTest, StoredNumbersThatCannotBeTrusted)
-{
-    const int huge = std::numeric_limits<int>::max();
     const int cases[][3] = {
-        {2, 4, 2}, {4, 3, 3}, {-1, 3, 0}, {4, -1, 0}, {huge, huge, clsMRUFileList::LargestCapacity}};
+        {2, 4, 2}, {4, 3, 3}, {-1, 3, 0}, {4, -1, 0}, {INT_MAX, INT_MAX, clsMRUFileList::LargestCapacity}};
     for (const auto &[maxCount, count, expected] : cases) {
         for (const auto &[name, number] : {std::pair("MaxCount", maxCount), {"Count", count}})
             store.setValue(HKEY_CURRENT_USER, "Files", name, {RegistryType::Number, quint32(number)});
-        clsMRUFileList list = with("");
         list.Load(registry);
         EXPECT_EQ(list.FileCount(), expected);
         list.setMaxFileCount(2);
