@@ -1,4 +1,5 @@
 #include "resources/Pictures.h"
+#include "resources/TextLanguage.h"
 #include "services/desktop/ContextMenuKey.h"
 #include "services/desktop/Contrast.h"
 #include "services/desktop/EnterKey.h"
@@ -41,10 +42,14 @@ struct StyleTest : ::testing::Test
         QImage image(option.rect.size(), QImage::Format_RGB32);
         image.fill(option.palette.window().color());
         QPainter painter(&image);
+        painter.setLayoutDirection(option.direction);
         if (const auto *title = qstyleoption_cast<const QStyleOptionTitleBar *>(&option))
             with.drawComplexControl(QStyle::CC_TitleBar, title, &painter);
         else
-            with.drawControl(QStyle::CE_MenuItem, &option, &painter);
+            with.drawControl(option.type == QStyleOption::SO_MenuItem   ? QStyle::CE_MenuItem
+                             : option.type == QStyleOption::SO_ViewItem ? QStyle::CE_ItemViewItem
+                                                                        : QStyle::CE_ComboBoxLabel,
+                             &option, &painter);
         return image;
     }
 };
@@ -137,40 +142,48 @@ TEST_F(StyleTest, TitlesOfDocumentsCanBeRead)
     }
 }
 
-TEST_F(StyleTest, SignsAreTheProgramsInTheColoursOfTheirGroundAndButtonsHaveNone)
+TEST_F(StyleTest, NamesReadAsTheyStandWhereLinesBeginAtTheRight)
 {
-    const auto image = [](const QIcon &icon, QIcon::Mode mode = QIcon::Normal) {
-        return icon.pixmap({48, 48}, mode).toImage();
+    const auto isKept = [this](auto option, auto text, const QString &before = {}) {
+        option.rect = {0, 0, 240, 28};
+        option.state = QStyle::State_Enabled;
+        option.direction = Qt::RightToLeft;
+        option.*text = before + "C++";
+        const QImage shown = look(option, style), turned = look(option, *plain);
+        option.*text = before + TextLanguage::isolated("C++");
+        return shown == look(option, *plain) && shown != turned;
     };
+    const auto areKept = [&] {
+        TextLanguage::use("ar"); // to the end of the program
+        QStyleOptionViewItem item;
+        item.features = QStyleOptionViewItem::HasDisplay;
+        return isKept(item, &QStyleOptionViewItem::text) &&
+               isKept(QStyleOptionComboBox(), &QStyleOptionComboBox::currentText) &&
+               isKept(QStyleOptionMenuItem(), &QStyleOptionMenuItem::text, "Larger\t");
+    };
+    EXPECT_EXIT(std::_Exit(areKept()), testing::ExitedWithCode(1), "");
+}
+
+TEST_F(StyleTest, SignsAreTheProgramsAndButtonsHaveNone)
+{
+    const auto image = [](const QIcon &icon) { return icon.pixmap({48, 48}).toImage(); };
     using enum QStyle::StandardPixmap;
-    const auto signs = {SP_ToolBarHorizontalExtensionButton,
-                        SP_ToolBarVerticalExtensionButton,
-                        SP_TitleBarMinButton,
-                        SP_TitleBarMaxButton,
-                        SP_TitleBarNormalButton,
-                        SP_TitleBarCloseButton};
-    const int numbers[] = {PictureMore, PictureMore, PictureMinimize, PictureMaximize, PictureRestore, PictureClose};
-    for (size_t i = 0; i < signs.size(); ++i)
-        EXPECT_EQ(image(style.standardIcon(signs.begin()[i])), image(picture(numbers[i]))) << i;
+    const std::pair<QStyle::StandardPixmap, int> signs[] = {{SP_ToolBarHorizontalExtensionButton, PictureMore},
+                                                            {SP_ToolBarVerticalExtensionButton, PictureMore},
+                                                            {SP_TitleBarMinButton, PictureMinimize},
+                                                            {SP_TitleBarMaxButton, PictureMaximize},
+                                                            {SP_TitleBarNormalButton, PictureRestore},
+                                                            {SP_TitleBarCloseButton, PictureClose}};
+    for (const auto &[sign, number] : signs)
+        EXPECT_EQ(image(style.standardIcon(sign)), image(picture(number))) << sign;
     EXPECT_EQ(image(style.standardIcon(QStyle::SP_FileIcon)), image(plain->standardIcon(QStyle::SP_FileIcon)));
-    const QPalette before = QGuiApplication::palette();
-    QGuiApplication::setPalette(Dark);
-    const QColor text = Dark.windowText().color(), accent("#2f86e0"), chosen = Dark.highlightedText().color();
-    const QColor grey = Dark.color(QPalette::Disabled, QPalette::WindowText);
-    const std::tuple<QIcon::Mode, QColor, QColor> modes[] = {{QIcon::Normal, text, accent},
-                                                             {QIcon::Active, text, Contrast::mixed(accent, text, 0.5)},
-                                                             {QIcon::Selected, chosen, chosen},
-                                                             {QIcon::Disabled, grey, grey}};
-    for (const auto &[mode, line, other] : modes)
-        EXPECT_EQ(image(picture(PictureFind), mode), drawPicture(PictureFind, 48, line, other)) << mode;
-    QGuiApplication::setPalette(before);
     EXPECT_TRUE(!style.styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons) &&
                 !style.styleHint(QStyle::SH_EtchDisabledText) && style.styleHint(QStyle::SH_ToolTip_WakeUpDelay));
 }
 
 TEST_F(StyleTest, JoinedLettersAreUnderlinedWhileAltIsHeldOnly)
 {
-    QWidget window;
+    QLineEdit window;
     window.show();
     const auto underlined = [this] { return style.styleHint(QStyle::SH_UnderlineShortcut) != 0; };
     EXPECT_TRUE(underlined());
@@ -178,14 +191,20 @@ TEST_F(StyleTest, JoinedLettersAreUnderlinedWhileAltIsHeldOnly)
     style.polish(qApp);
     EXPECT_FALSE(underlined());
     QString shown;
-    for (const int key : {+Qt::Key_Shift, +Qt::Key_Alt, -Qt::Key_Shift, -Qt::Key_Alt, +Qt::Key_Alt}) { // and releases
+    for (const int key : {+Qt::Key_X, +Qt::Key_Alt, -Qt::Key_X, -Qt::Key_Alt, +Qt::Key_Alt}) { // and releases
         key > 0 ? QTest::keyPress(&window, Qt::Key(key)) : QTest::keyRelease(&window, Qt::Key(-key));
         shown += underlined() ? '_' : '.';
     }
     QEvent left(QEvent::ApplicationDeactivate);
     QCoreApplication::sendEvent(&window, &left);
-    EXPECT_TRUE(shown == ".__._" && !underlined()) << shown.toStdString();
+    EXPECT_TRUE(shown + window.text() == ".__._x" && !underlined()) << shown.toStdString();
     QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    for (const char *language : {"ar_EG", "de", "C"}) {
+        QLocale::setDefault(QLocale(language));
+        QSpinBox spin;
+        style.polish(&spin);
+        EXPECT_EQ(spin.testAttribute(Qt::WA_SetLocale), *language == 'a') << "numbers have the digits of texts";
+    }
 }
 
 TEST(ScreenFitTest, DialogsLargerThanTheScreenScrollAndKeepTheirButtons)
@@ -232,16 +251,28 @@ TEST(ScreenFitTest, DialogsThatAreTooWideBecomeNarrowerBeforeTheyScroll)
 {
     const ScreenFit fit(*qApp);
     QDialog dialog;
-    auto *layout = new QHBoxLayout(&dialog);
-    auto *check = new QCheckBox(QString("a few words ").repeated(12).trimmed());
-    auto *box = new QComboBox;
-    box->addItem(QString(100, u'x'));
-    layout->addWidget(check);
-    layout->addWidget(box);
+    auto *column = new QVBoxLayout(&dialog);
+    QListWidget list;
+    QComboBox box;
+    box.addItem(QString(200, u'x'));
+    list.setMinimumWidth(3000);
+    column->addWidget(&list);
+    column->addWidget(&box);
+    // the letters of each word, and after how many letters the text goes on in a second line
+    const std::pair<std::vector<int>, int> texts[] = {
+        {{5, 5}, -1}, {{45, 10, 55}, 56}, {{55, 10, 45}, 55}, {{60, 40}, 60}, {{40, 60}, 40}};
+    for (const auto &[words, at] : texts) {
+        QStringList text;
+        for (const int letters : words)
+            text += QString(letters, u'w');
+        column->addWidget(new QCheckBox(text.join(u' ')));
+    }
     dialog.show();
     EXPECT_LE(dialog.width(), QGuiApplication::primaryScreen()->availableSize().width());
-    EXPECT_EQ(dialog.findChild<QScrollArea *>(), nullptr);
-    EXPECT_EQ(check->text().count('\n'), 1);
+    EXPECT_TRUE(!dialog.findChild<QScrollArea *>() && list.minimumWidth() == 0);
+    EXPECT_EQ(box.minimumWidth(), 10 * box.fontMetrics().horizontalAdvance(u'X'));
+    for (size_t i = 0; i < std::size(texts); ++i)
+        EXPECT_EQ(dialog.findChildren<QCheckBox *>()[i]->text().indexOf(u'\n'), texts[i].second) << i;
 }
 
 TEST(ScreenFitTest, WindowsOfAScreenThatHasGoneComeIntoView)
@@ -253,80 +284,99 @@ TEST(ScreenFitTest, WindowsOfAScreenThatHasGoneComeIntoView)
         {{1500, 900, 2000, 50}, one, {0, 750, 1280, 50}}, {{5, 5, 10, 10}, {}, {5, 5, 10, 10}}};
     for (const auto &[frame, screens, place] : cases)
         EXPECT_EQ(ScreenFit::inView(frame, screens), place) << frame.x() << ' ' << screens.size();
+    const ScreenFit fit(*qApp);
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry(), gone(5000, 100, 2000, 300);
+    QWidget window, closed, tip(nullptr, Qt::ToolTip), minimized;
+    for (QWidget *each : {&window, &closed, &tip, &minimized}) {
+        each->setGeometry(gone);
+        each->setVisible(each != &closed);
+    }
+    minimized.showMinimized();
+    const QRect frame = window.frameGeometry();
+    Q_EMIT qApp->screenRemoved(qApp->primaryScreen());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.geometry() != gone; }));
+    EXPECT_EQ(window.frameGeometry(), QRect(screen.left(), frame.top(), screen.width(), frame.height()));
+    for (const QWidget *stays : {&closed, &tip, &minimized})
+        EXPECT_EQ(stays->geometry(), gone);
 }
 
-TEST(DesktopKeys, ShiftF10OpensTheMenuAtTheCaretOfTheControlWithTheFocus)
+struct DesktopKeysTest : ::testing::Test
+{
+    DesktopKeysTest() { list.addItems({"one", "two"}); }
+
+    QDialog dialog;
+    QLineEdit line{"some words", &dialog}, other{&dialog};
+    QComboBox list{&dialog};
+};
+
+TEST_F(DesktopKeysTest, ShiftF10OpensTheMenuAtTheCaretOfTheControlWithTheFocus)
 {
     const ContextMenuKey filter(*qApp);
-    QWidget window;
-    QLineEdit line("some words", &window), other(&window);
-    int asked = 0;
-    for (QLineEdit *each : {&line, &other}) {
-        each->setContextMenuPolicy(Qt::CustomContextMenu);
-        QObject::connect(each, &QWidget::customContextMenuRequested, [&asked, each](const QPoint &place) {
-            asked += place == each->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
-        });
-    }
-    window.show();
-    QApplication::setActiveWindow(&window);
+    QPoint asked;
+    line.setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(&line, &QWidget::customContextMenuRequested, [&](const QPoint &place) { asked = place; });
+    dialog.show();
+    QApplication::setActiveWindow(&dialog);
     line.setFocus();
     line.setCursorPosition(4);
-    const auto isTaken = [](QWidget &by, Qt::Key key, Qt::KeyboardModifiers modifiers) {
-        QKeyEvent press(QEvent::KeyPress, key, modifiers);
-        QCoreApplication::sendEvent(&by, &press);
-        return press.isAccepted();
-    };
-    EXPECT_FALSE(isTaken(line, Qt::Key_F10, {}) || isTaken(line, Qt::Key_F9, Qt::ShiftModifier) ||
-                 isTaken(other, Qt::Key_F10, Qt::ShiftModifier) || asked);
-    EXPECT_TRUE(isTaken(line, Qt::Key_F10, Qt::ShiftModifier) && asked == 1);
+    const std::tuple<QWidget *, QKeyCombination, bool> keys[] = {{&line, Qt::Key_F10, false},
+                                                                 {&line, Qt::ShiftModifier | Qt::Key_F9, false},
+                                                                 {&other, Qt::ShiftModifier | Qt::Key_F10, false},
+                                                                 {&line, Qt::ShiftModifier | Qt::Key_F10, true}};
+    for (const auto &[to, key, taken] : keys) {
+        QKeyEvent press(QEvent::KeyPress, key.key(), key.keyboardModifiers());
+        QCoreApplication::sendEvent(to, &press);
+        EXPECT_EQ(press.isAccepted(), taken);
+        EXPECT_EQ(asked, taken ? line.inputMethodQuery(Qt::ImCursorRectangle).toRect().center() : QPoint());
+    }
 }
 
-TEST(DesktopKeys, EnterOnABoxToCheckMeansTheDefaultButtonAndOnAButtonItself)
+TEST_F(DesktopKeysTest, EnterOnABoxMeansTheDefaultButtonAndOnAButtonItself)
 {
-    QDialog dialog;
     QPushButton box("Check", &dialog), ok("OK", &dialog), cancel("Cancel", &dialog); // each is pressed by Enter
     box.setCheckable(true);
     ok.setDefault(true);
     QObject::connect(&ok, &QPushButton::clicked, &dialog, &QDialog::accept);
     EnterKey::leaveToDialog(dialog);
-    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Enter, Qt::Key_Return}) {
-        dialog.show();
-        QTest::keyClick(&box, key);
-        EXPECT_TRUE(box.isChecked());
-        EXPECT_EQ(dialog.isVisible(), key == Qt::Key_Space);
-    }
     const QSignalSpy cancelled(&cancel, &QPushButton::clicked);
-    QTest::keyClick(&cancel, Qt::Key_Return);
+    const std::tuple<QWidget *, Qt::Key, bool> keys[] = {{&box, Qt::Key_Space, true},
+                                                         {&box, Qt::Key_Enter, false},
+                                                         {&box, Qt::Key_Return, false},
+                                                         {&list, Qt::Key_Return, false},
+                                                         {&cancel, Qt::Key_Return, true}};
+    for (const auto &[control, key, stays] : keys) {
+        dialog.show();
+        QTest::keyClick(control, key);
+        EXPECT_TRUE(box.isChecked() && dialog.isVisible() == stays) << key;
+    }
     EXPECT_EQ(cancelled.size(), 1);
+    list.setEditable(true);
+    const QSignalSpy entered(list.lineEdit(), &QLineEdit::returnPressed);
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_TRUE(entered.size() == 1 && !dialog.isVisible()) << "what was typed is taken first";
 }
 
-TEST(DesktopKeys, EscapeClosesTheListAndThenTheDialog)
+TEST_F(DesktopKeysTest, EscapeClosesTheListAndThenTheDialog)
 {
     const EscapeKey key(*qApp);
-    QDialog dialog;
-    QComboBox box(&dialog);
-    box.addItems({"one", "two"});
     dialog.show();
-    box.showPopup();
-    QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
-    EXPECT_TRUE(!QApplication::activePopupWidget() && dialog.isVisible());
-    QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
-    EXPECT_FALSE(dialog.isVisible());
+    list.showPopup();
+    for (const bool stays : {true, false}) {
+        QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
+        EXPECT_TRUE(!QApplication::activePopupWidget() && dialog.isVisible() == stays);
+    }
 }
 
-TEST(DesktopPopups, ListsOfADialogEndWithIt)
+TEST_F(DesktopKeysTest, ListsOfADialogEndWithIt)
 {
     const PopupCloser closer(*qApp);
-    QDialog dialog, other;
-    QLineEdit line(&dialog);
-    QComboBox box(&dialog);
-    box.addItem("one");
+    QDialog another;
     line.setCompleter(new QCompleter({"words"}, &line));
     for (const bool ofLine : {true, false}) {
         dialog.show();
-        other.show();
-        ofLine ? line.completer()->complete() : box.showPopup();
-        other.hide();
+        another.show();
+        ofLine ? line.completer()->complete() : list.showPopup();
+        another.hide();
         EXPECT_TRUE(QApplication::activePopupWidget());
         dialog.hide();
         EXPECT_FALSE(QApplication::activePopupWidget());

@@ -11,20 +11,24 @@ TEST(HandleReserve, GivesHandlesBackWhenAWindowNeedsThemAndTakesThemAgainLater)
     ::getrlimit(RLIMIT_NOFILE, &before);
     const rlimit few{128, before.rlim_max};
     ::setrlimit(RLIMIT_NOFILE, &few);
-    const HandleReserve reserve(*qApp);
-    QWidget().show(); // while there are plenty
-    for (int round = 0; round < 2; ++round) {
-        std::list<QFile> files;
-        do
-            files.emplace_back("/dev/null");
-        while (files.back().open(QIODevice::ReadOnly));
-        QWidget window;
-        window.show();
-        EXPECT_TRUE(files.back().open(QIODevice::ReadOnly)) << round;
-        window.resize(300, 300);
-        EXPECT_TRUE(QFile("/dev/null").open(QIODevice::ReadOnly)) << "what was given back is not taken at once";
-        files.clear();
-        window.close();
+    QWidget shown;
+    shown.show();
+    const auto open = [] { return QDir("/proc/self/fd").entryList(QDir::System | QDir::AllEntries).size(); };
+    const auto first = open();
+    {
+        const HandleReserve reserve(*qApp);
+        for (int round = 0; round < 3; ++round) {
+            std::list<QFile> files;
+            do
+                files.emplace_back("/dev/null");
+            while (files.back().open(QIODevice::ReadOnly));
+            QWidget window;
+            round == 0 ? shown.resize(400, 300) : window.show();
+            EXPECT_TRUE(files.back().open(QIODevice::ReadOnly)) << round;
+            files.clear();
+            window.close();
+        }
     }
+    EXPECT_EQ(open(), first);
     ::setrlimit(RLIMIT_NOFILE, &before);
 }
