@@ -75,8 +75,7 @@ struct Quiz
     QuizSession session;
     qint64 now = 1000;
     QStringList told;
-    int reveal = 0;
-    int autoReveal = 0;
+    int reveal = 0, autoReveal = 0;
 };
 
 struct QuizSessionTest : ::testing::Test, StoredSettings
@@ -157,40 +156,23 @@ TEST_F(QuizSessionTest, TheDelayIsReadInSecondsAndKeptInMilliseconds)
     QLocale::setDefault(QLocale::system());
 }
 
+/// In steps.txt a line "quiz KIND OPTIONS WORDS" begins a quiz (h: a hint is an error), every other tells what is done
+/// and the state then.
 TEST_F(QuizSessionTest, EveryStepIsShownTimedCountedAndToldWhenItsVerdictIsFinal)
 {
     settings.setAutoTimerInterval(1500);
-    // what is done, and the state then. In Practice a pause that is over stays over until the next letter: an empty
-    // answer has none to wait for. What the user says is faster than the timer, and a second thought counts.
-    const std::tuple<QuizKind, ListWords::Pairs, const char *> quizzes[] = {
-        {QuizKind::Practice,
-         {{"house", "Haus"}, {"a", ""}, {"b", "bb"}},
-         "check: |200|0||0/0; tick: H|200|0||0/0; tick tick tick: Haus|200|0||0/0; tick tick tick: Haus|200|0||0/0; "
-         "tick: |0|0|house right 0|1/0; hint: |200|0||1/0; tick: |0|0|a wrong 0|1/1; hint tick: b|200|0||1/1; "
-         "resume tick: |200|0||1/1; hint tick tick tick tick tick: bb|200|0||1/1; "
-         "tick: bb|0|0|b wrong 0|1/2 repeat; turn: bb|0|0||1/2 repeat"},
-        {QuizKind::MultipleChoice, {{"a", "1"}, {"b", "2"}, {"c", "3"}}, "check: |0|0|a wrong 0|0/1"},
-        {QuizKind::QuestionAndAnswer,
-         {{"one", "1"}, {"none", ""}, {"two", "2"}, {"three", "3"}},
-         "=1: |0|0|one right 50|1/0; turn =Type_your_answer_here: |0|0|none right 50|2/0; hint =x: |0|0||2/1 turn; "
-         "turn: |0|0||3/0 turn; =x: |0|0|two right hint 50|3/1 turn repeat; turn: |0|0||4/0 turn; "
-         "turn: |0|0||3/1 turn repeat; repeat: |0|0|three wrong 50|0/0; "
-         "=x settle settle turn: |0|0|three wrong 50|0/1 repeat"},
-        {QuizKind::Practice,
-         {{"e1", "g"}, {"e2", "g"}, {"e3", "g"}, {"e4", "g"}},
-         "on: |200|0||0/0; run: |0|1500|e1 right 0|1/0; auto: |200|0||1/0; hint: |200|0||1/0; "
-         "check run: |0|1500|e2 right 0|2/0; hint run: |0|1500|e3 wrong 0|2/1; off: |0|0||2/1; on: |200|0||2/1; "
-         "run off on: g|0|0|e4 right 0|3/1 repeat"}};
-    for (const auto &[kind, words, steps] : quizzes) {
-        Quiz quiz(settings, kind, ListWords(words));
-        for (const QString &step : QString(steps).split("; ")) {
-            quiz.act(step.section(": ", 0, 0));
-            EXPECT_EQ(step.section(": ", 1).toStdString(), quiz.state()) << step.toStdString();
+    std::unique_ptr<Quiz> quiz;
+    const QString steps = readFile(SOURCE_FOLDER "/tests/quiz/rules/steps.txt");
+    for (const QString &line : steps.split(u'\n').filter(QRegularExpression("^[^#]"))) {
+        if (const QStringList parts = line.split(u' '); parts[0] == "quiz") {
+            settings.setErrorHint(parts[2] == "h");
+            ListWords::Pairs words;
+            for (const QString &pair : parts[3].split(u','))
+                words.emplace_back(pair.section(u'=', 0, 0), pair.section(u'=', 1));
+            quiz = std::make_unique<Quiz>(settings, QuizKind(parts[1].toInt()), ListWords(words));
+        } else {
+            quiz->act(line.section(": ", 0, 0));
+            EXPECT_EQ(line.section(": ", 1).toStdString(), quiz->state()) << line.toStdString();
         }
     }
-    settings.setErrorHint(true);
-    Quiz quiz(settings, QuizKind::Practice, {{"e", "g"}});
-    EXPECT_EQ("|0|1500||0/0", quiz.state());
-    quiz.act("auto run");
-    EXPECT_EQ("g|0|0|e wrong 0|0/1 repeat", quiz.state());
 }
