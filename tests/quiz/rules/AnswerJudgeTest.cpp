@@ -85,9 +85,7 @@ TEST(AnswerJudge, TakesLongTextsInTheirStride)
     EXPECT_EQ("-", said(judge.judge(text.toUpper() + text, text + text, tolerant("c"))).toStdString()) << "too long";
     const QString little = "start " + QString(10000, u'x') + " end";
     EXPECT_TRUE(judge.judge(little, QString(little).replace(u'x', u'y'), {}).difference.changes.empty());
-    const QString same(2400, u'z');
-    const QString given = same + 'x' + same;
-    const QString wanted = same + "yy" + same;
+    const QString same(2400, u'z'), given = same + 'x' + same, wanted = same + "yy" + same;
     EXPECT_EQ(same + "[x]" + same + " / " + same + "[yy]" + same,
               marked(given, wanted, judge.judge(given, wanted, {}).difference));
 }

@@ -59,3 +59,31 @@ TEST(QuizMemoryTest, RemembersWordsInTheDirectionInWhichTheyAreAskedAndSaysWhenT
     recording.known[WordKey::of("zwei", "two")].due = recording.today();
     EXPECT_EQ("Words of this list are due now (1).", memory.nextDue());
 }
+
+TEST(WordsToAskTest, EachChoiceFindsItsRows)
+{
+    using enum WordsToAsk;
+    const ListWords words{{"a", "A"}, {"", "B"}, {"Cc", "ccc"}, {"d", "D"}, {"Eeee", "e"}, {"a", "Aa"}};
+    const ListWords many = ListWords::numbered(500);
+    Recording memory; // words in capital letters are due; one was missed as often as it has letters beyond the first
+    for (const ListWords &list : {words, many}) {
+        for (const WordKey &key : AskedWords::keys(list, 5)) {
+            const int due = memory.today() + (key.asked[0].isUpper() ? 0 : 1);
+            memory.known[key] = {
+                .stability = 1, .due = due, .last = 9, .asked = 100, .missed = int(key.asked.size()) - 1};
+        }
+    }
+    using Rows = std::vector<int>;
+    const std::tuple<WordsToAsk, int, Rows> cases[] = {
+        {All, 1, {1, 3, 4, 5, 6}}, {SelectedRows, 1, {3, 4}}, {Missed, 1, {4, 6}},
+        {Due, 1, {3, 5}},          {Due, 4, {1, 4, 6}},       {Due, 5, {1, 3, 4, 5, 6}},
+        {Hardest, 3, {5, 3}},      {Hardest, 2, {3, 6}},      {Hardest, 5, {5, 3, 6}},
+    };
+    for (const auto &[choice, mode, expected] : cases) {
+        const AskedWords::Facts facts{mode, 2, 4, {{"d", "D"}, {"a", "Aa"}, {"gone", ""}}, &memory};
+        EXPECT_EQ(AskedWords::rows(choice, words, facts), expected) << int(choice) << " in mode " << mode;
+    }
+    for (const WordsToAsk choice : {SelectedRows, Missed, Due, Hardest})
+        EXPECT_EQ(AskedWords::rows(choice, words, {}), Rows()) << int(choice);
+    EXPECT_EQ(AskedWords::rows(Hardest, many, {.mode = 5, .memory = &memory}).size(), 20u);
+}
