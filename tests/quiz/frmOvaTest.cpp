@@ -157,6 +157,8 @@ TEST_F(frmOvaTest, ThePromptGivesWayAsAWholeHoweverTheBoxIsTouched)
         type("Hund");
         EXPECT_EQ(u"Hund", control<QLabel>("lblAns")->text());
         QTest::keyClicks(answerBox(), "Kaze");
+        QCoreApplication::sendEvent(window.get(), std::make_unique<QEvent>(QEvent::FontChange).get());
+        EXPECT_FALSE(answerBox()->hasSelectedText()) << "nor does what else changes touch it";
         QTest::mouseClick(answerBox(), Qt::LeftButton, {}, QPoint(1, answerBox()->height() / 2));
         EXPECT_EQ(0, answerBox()->cursorPosition()) << "what was typed is edited as in any box";
     }
@@ -202,8 +204,9 @@ TEST_F(frmOvaTest, PracticeSpellsTheAnswersOutByItself)
     click(control("chkAuto"));
     EXPECT_TRUE(settings.AutoCheck() && session()->revealing() && control("chkError")->isEnabled());
     ASSERT_EQ(seconds, window->focusWidget());
+    const QSignalSpy pressed(control<QPushButton>("btnCheck"), &QPushButton::clicked);
     type("0.05");
-    EXPECT_TRUE(settings.AutoTimerInterval() == 50 && control("btnCheck")->hasFocus());
+    EXPECT_TRUE(settings.AutoTimerInterval() == 50 && control("btnCheck")->hasFocus() && pressed.isEmpty());
     EXPECT_TRUE(QTest::qWaitFor([this] { return session()->done(); }));
     QAccessible::queryAccessibleInterface(seconds)->setText(QAccessible::Value, "0.02");
     EXPECT_EQ(20, settings.AutoTimerInterval());
@@ -230,7 +233,7 @@ TEST_F(frmOvaTest, TheDocumentStepsAsideAndComesBackAndAQuizThatWasLeftGoesOn)
     m_document->showMaximized();
     load(MultipleChoice, {{"dog", "Hund"}, {"cat", "Katze"}});
     EXPECT_TRUE(window->Tag() == u"0" && !m_document->isMinimized());
-    open(Practice);
+    open(MultipleChoice);
     EXPECT_TRUE(m_document->isMinimized());
     const QSize size = window->size();
     act("btnCheck");
@@ -241,6 +244,7 @@ TEST_F(frmOvaTest, TheDocumentStepsAsideAndComesBackAndAQuizThatWasLeftGoesOn)
     window->resume(std::move(left), *m_document, "Animals");
     window->show();
     EXPECT_TRUE(m_document->isMinimized() && window->size() == size && session()->currentQuestion() == 2);
+    EXPECT_EQ(MultipleChoice, window->QuizType());
     delete m_document; // the program is told to end
     key(Qt::Key_Escape);
     EXPECT_FALSE(window->isVisible());
@@ -256,8 +260,7 @@ TEST_F(frmOvaTest, WordsGrowWithTheWindowWhosePlaceIsRemembered)
     };
     using namespace testing;
     open(QuestionAndAnswer);
-    const QSize first = window->size();
-    const QSize larger = first * 1.25;
+    const QSize first = window->size(), larger = first * 1.25;
     const std::vector<double> before = types();
     std::vector<double> scaled;
     for (const double size : before)
