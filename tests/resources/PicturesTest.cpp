@@ -15,7 +15,7 @@ TEST(Pictures, EveryNumberHasItsOwnInTheGivenColoursAndOthersHaveNone)
     QList<QImage> drawn;
     for (int number = PictureNew; number <= PictureSpeak; ++number) {
         drawn.append(drawPicture(number, 96, Qt::black, Qt::red));
-        EXPECT_EQ(drawn.indexOf(drawn.last()), number - 1);
+        EXPECT_TRUE(drawn.indexOf(drawn.last()) == number - 1 && !picture(number).isNull());
         const QSet<QRgb> white = colours(drawPicture(number, 96, Qt::white, Qt::white));
         EXPECT_TRUE(number >= PictureRight // which have colours of their own
                         ? !white.isEmpty()
