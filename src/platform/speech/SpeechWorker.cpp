@@ -75,8 +75,7 @@ void SpeechWorker::say(const std::vector<Utterance> &texts)
         if (m_locales.contains(each.language))
             m_waiting.push_back(each);
     }
-    if (!m_busy)
-        sayNext();
+    sayNext();
 }
 
 void SpeechWorker::stop()
