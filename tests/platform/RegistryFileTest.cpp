@@ -30,8 +30,8 @@ TEST_F(RegistryFileTest, EveryOperationReachesTheFile)
     EXPECT_TRUE(read.keyExists(HKEY_CLASSES_ROOT, ".GLA") && read.value(HKEY_CURRENT_USER, Key, "B"));
     EXPECT_TRUE(store.deleteKey(HKEY_CURRENT_USER, "SOFTWARE"));
     EXPECT_FALSE(RegistryFile(m_path).keyExists(HKEY_CURRENT_USER, Key));
-    EXPECT_FALSE(store.createKey(HKEY_CURRENT_USER + 1, Key) || store.deleteKey(HKEY_CURRENT_USER, "") ||
-                 store.deleteKey(HKEY_CURRENT_USER, "none"));
+    EXPECT_FALSE(store.createKey(HKEY_CURRENT_USER + 1, Key) || store.keyExists(HKEY_CURRENT_USER + 1, "") ||
+                 store.deleteKey(HKEY_CURRENT_USER, "") || store.deleteKey(HKEY_CURRENT_USER, "none"));
 }
 
 TEST_F(RegistryFileTest, CopiesKeepEachOthersValues)

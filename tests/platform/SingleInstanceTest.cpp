@@ -151,6 +151,15 @@ TEST_F(SingleInstanceTest, NoMessageIsLostAtTheStartOrTheEndOfTheFirst)
     startFirst();
 }
 
+TEST_F(SingleInstanceTest, WhereCopiesCannotMeetEveryOneIsFirst)
+{
+    for (const QString &place : {folder.filePath("none/copy"), folder.filePath(QString(120, u'd'))}) {
+        LocalListener listener;
+        EXPECT_FALSE(listener.listen(place) || listener.isListening() || listener.next());
+        EXPECT_EQ(SingleInstance(place, {50, 50}).start({}), SingleInstance::Role::First);
+    }
+}
+
 TEST(InstancePlace, ShortPathInAPrivateFolderForEachDisplay)
 {
     const QTemporaryDir folder;
@@ -164,7 +173,7 @@ TEST(InstancePlace, ShortPathInAPrivateFolderForEachDisplay)
         return InstancePlace::socketPath();
     };
     const QString before = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    for (const QString &runtime : {folder.path(), longFolder, QString("/missing"), QString()}) {
+    for (const QString &runtime : {folder.path(), longFolder, QString("/missing"), QString("."), QString()}) {
         const QString path = placeIn(runtime, "", ":0"), inside = QFileInfo(path).path();
         EXPECT_EQ(inside == runtime + "/glosaria", runtime == folder.path());
         EXPECT_LE(path.size(), InstancePlace::LongestPath);
