@@ -5,6 +5,8 @@
 
 #include <zip.h>
 
+inline const QString Data = QStringLiteral(SOURCE_FOLDER "/tests/exchange/data/");
+
 /// "a|b" for every row that arrives, the names first; the error as a number when nothing can be read.
 inline QStringList pairsOf(const ListReader::Result &opened, int list = -1)
 {
@@ -30,16 +32,29 @@ inline QStringList pairsOf(const QByteArray &bytes)
     return pairsOf(openBytes(bytes));
 }
 
-inline QByteArray zipOf(const std::vector<std::pair<QByteArray, QByteArray>> &entries)
+inline QByteArray zipOf(const std::vector<std::pair<QByteArray, QByteArray>> &entries, const char *password = nullptr)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("a.zip");
     zip_t *archive = zip_open(path.toUtf8().constData(), ZIP_CREATE, nullptr);
-    for (const auto &[name, bytes] : entries)
-        zip_file_add(archive, name.constData(),
-                     zip_source_buffer(archive, bytes.constData(), zip_uint64_t(bytes.size()), 0), 0);
+    for (const auto &[name, bytes] : entries) {
+        const zip_int64_t entry = zip_file_add(
+            archive, name.constData(), zip_source_buffer(archive, bytes.constData(), zip_uint64_t(bytes.size()), 0), 0);
+        zip_file_set_encryption(archive, zip_uint64_t(entry), password ? ZIP_EM_AES_256 : ZIP_EM_NONE, password);
+    }
     EXPECT_EQ(zip_close(archive), 0);
     return readFile(path);
+}
+
+/// The files of a folder as a package.
+inline QByteArray zippedFolder(const QString &folder)
+{
+    std::vector<std::pair<QByteArray, QByteArray>> entries;
+    for (QDirIterator files(folder, QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
+        const QString path = files.next();
+        entries.emplace_back(path.mid(folder.size() + 1).toUtf8(), readFile(path));
+    }
+    return zipOf(entries);
 }
 
 inline QByteArray ods(const QByteArray &content)

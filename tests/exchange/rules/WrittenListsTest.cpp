@@ -60,12 +60,12 @@ TEST(Conversion, GoesByContentAndByTheEndsOfNames)
         {in, "a.csv", 0, "house,Haus\r\n"},
         {in, "a.TSV", 0, "house\tHaus\n"},
         {in, "a.anki.txt", 0, "#separator:tab\n#html:false\nhouse\tHaus\n"},
-        {in, "a.gla", 0, nullptr},
+        {in, "a.gla", 0, "Glosaria\r\n"},
         {folder.filePath("a.gla"), "b.csv", 0, "house,Haus\r\n"},
-        {in, "a.pdf", 2, nullptr},
-        {in, "none/a.csv", 1, nullptr},
-        {folder.filePath("missing"), "c.csv", 1, nullptr},
-        {folder.path(), "c.csv", 1, nullptr}};
+        {in, "a.pdf", 2, ""},
+        {in, "none/a.csv", 1, ""},
+        {folder.filePath("missing"), "c.csv", 1, ""},
+        {folder.path(), "c.csv", 1, ""}};
     for (const auto &[from, to, status, content] : cases) {
         QString told;
         QTextStream complaints(&told);
@@ -73,27 +73,18 @@ TEST(Conversion, GoesByContentAndByTheEndsOfNames)
         EXPECT_EQ(Conversion::run(from, out, {"windows-1252", QLocale::c()}, complaints), status) << to.toStdString();
         EXPECT_EQ(told.isEmpty(), status == 0) << told.toStdString();
         EXPECT_EQ(QFile::exists(out), status == 0) << to.toStdString();
-        if (content) {
-            EXPECT_EQ(readFile(out), content);
-        }
+        EXPECT_TRUE(status || readFile(out).startsWith(content)) << to.toStdString();
     }
 }
 
 TEST(CellFormat, ShowsNumbersAsASpreadsheetDoes)
 {
-    // Values, codes and what shows.
-    const QString cases =
-        "1234.5``1234.5  1e15`General`1e+15  1234567890123`General`1234567890123  1234.5`#,##0.00`1,234.50  "
-        "0.30000000000000004`General`0.3  -3`0;\"minus \"0`minus 3  -3`0.0`-3.0  5`000`005  5`0,000`0,005  "
-        "-12`\"x\"0,000.0`-x0,012.0  1.5`0.##`1.5  "
-        "12`[$€-407] 0.00`€ 12.00  12`0.00\\ \"EUR\"`12.00 EUR  12`[$-407]0`12  0.125`0.0%`12.5%  "
-        "0.25`.00`0.25  0.5`# ?/?`0.5  45413`dd.mm.yyyy`01.05.2024  45413`yyyy\\-mm\\-dd`2024-05-01  "
-        "45413`d mmmm yy`1 May 24  45413.75`h:mm AM/PM`6:00 PM  45413.75`hh:mm:ss`18:00:00  "
-        "-1`dd.mm.yyyy`  1e300`dd.mm.yyyy`  3`\"`3  3`[`3  3`\\`3";
-    for (const QString &each : cases.split("  ")) {
-        const QStringList parts = each.split('`');
-        EXPECT_EQ(CellFormat::shown(parts[0].toDouble(), parts[1], false, QLocale::c()), parts[2])
-            << each.toStdString();
+    // A line has a value, a code or the number of one that every program knows, and what shows.
+    for (const QString &line : QString(readFile(Data + "cell_formats.txt")).split('\n', Qt::SkipEmptyParts)) {
+        const QStringList parts = line.split('`');
+        const bool known = parts[1].startsWith("no. ");
+        const QString code = known ? CellFormat::builtIn(parts[1].mid(4).toInt(), QLocale::c()) : parts[1];
+        EXPECT_EQ(CellFormat::shown(parts[0].toDouble(), code, false, QLocale::c()), parts[2]) << line.toStdString();
     }
     EXPECT_EQ(CellFormat::shown(0, u"yyyy-mm-dd", true, QLocale::c()), "1904-01-01");
     EXPECT_EQ(CellFormat::shown(std::nan(""), u"0", false, QLocale::c()), QString());
