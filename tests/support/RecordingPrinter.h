@@ -29,21 +29,23 @@ struct RecordingSurface : PrintSurface
     /// "x,y size text" of each text, "x1,y1 x2,y2" of each line. "*": bold; "<": from right to left; "#": coloured.
     std::string described() const
     {
-        QStringList parts;
+        QString parts;
         for (const DrawnText &drawn : texts) {
             const QString signs = QString(drawn.font.Bold ? "*" : "") + (drawn.color & 0xffffff ? "#" : "") +
                                   (drawn.rightToLeft ? '<' : ' ');
-            parts << QString("%1,%2 %3%4%5").arg(drawn.x).arg(drawn.y).arg(drawn.font.Size).arg(signs, drawn.text);
+            parts += QString("%1,%2 %3%4%5\n").arg(drawn.x).arg(drawn.y).arg(drawn.font.Size).arg(signs, drawn.text);
         }
         for (const QLine &line : lines)
-            parts << QString("%1,%2 %3,%4").arg(line.x1()).arg(line.y1()).arg(line.x2()).arg(line.y2());
-        return parts.join(" | ").toStdString();
+            parts += QString("%1,%2 %3,%4\n").arg(line.x1()).arg(line.y1()).arg(line.x2()).arg(line.y2());
+        return parts.toStdString();
     }
     const DrawnText *find(const QString &text) const
     {
-        const auto is = [&text](const DrawnText &drawn) { return drawn.text == text; };
-        const auto found = std::find_if(texts.begin(), texts.end(), is);
-        return found == texts.end() ? nullptr : &*found;
+        for (const DrawnText &drawn : texts) {
+            if (drawn.text == text)
+                return &drawn;
+        }
+        return nullptr;
     }
 
 private:
@@ -109,6 +111,12 @@ struct RecordingPrinter : PrinterDevice
 private:
     bool m_open = false;
 };
+
+/// How pages look that are described in a file.
+inline std::string drawnAs(const char *name)
+{
+    return readFile(QStringLiteral(SOURCE_FOLDER "/tests/print/data/%1.txt").arg(name)).toStdString();
+}
 
 /// A vocabulary to print, made of pairs of words.
 inline PrintSource sourceOf(const std::vector<std::pair<QString, QString>> &pairs)
