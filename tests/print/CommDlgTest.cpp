@@ -10,10 +10,18 @@
 #include "support/ScriptedAlertBox.h"
 #include "support/ScriptedDialogs.h"
 #include "support/ScriptedPrintServer.h"
+#include "support/Shown.h"
 
 #include <QPrintDialog>
 
 constexpr char VocabularyFilter[] = "Glosaria Document (*.gla) | *.gla";
+
+template <class... Values> std::string told(const Values &...values)
+{
+    QStringList texts;
+    (texts.append(QVariant(values).toString()), ...);
+    return texts.join(' ').toStdString();
+}
 
 struct CommDlg : ::testing::Test
 {
@@ -46,10 +54,26 @@ TEST_F(CommDlg, SaveAsGivesEveryNameTheExtension)
         EXPECT_EQ(bool(dialog.flags & clsCommDlg::ExtensionDifferent), different) << chosen;
         EXPECT_EQ(dialogs.file.fileName, "Untitled 1.gla");
     }
-    dialogs.chosen = {"/ann/list"};
-    std::tie(dialog.FileName, dialog.FilterIndex) = std::pair("", 3);
-    dialog.setAction(clsCommDlg::ActionSaveAs);
-    EXPECT_EQ(std::pair(dialogs.file.fileName, dialogs.file.filterIndex), std::pair(QString(), 2));
+}
+
+TEST_F(CommDlg, FileDialogsAreAskedForWhatTheProgramSays)
+{
+    std::tie(dialog.DialogTitle, dialog.InitDir, dialog.Filter) = std::tuple("Choose", "/bo", VocabularyFilter);
+    const std::tuple<int, int, const char *, const char *, const char *> cases[] = {
+        {clsCommDlg::ActionOpen, 0x81004, "a", "gla",
+         "Choose /bo a Glosaria Document (*.gla) 2 gla true -> list.txt 1"},
+        {clsCommDlg::ActionSaveAs, 4, "", "gla", "Choose /bo  Glosaria Document (*.gla) 2 gla false -> list.gla 1"},
+        {clsCommDlg::ActionSaveAs, 4, "a", "", "Choose /bo a Glosaria Document (*.gla) 2  false -> list.txt 1"}};
+    for (const auto &[action, flags, name, extension, expected] : cases) {
+        std::tie(dialog.flags, dialog.FileName, dialog.DefaultExt, dialog.FilterIndex) =
+            std::tuple(flags, name, extension, 3);
+        dialogs.chosen = {"/ann/list.txt"};
+        dialog.setAction(action);
+        const FileRequest &asked = dialogs.file;
+        EXPECT_EQ(told(asked.title, asked.folder, asked.fileName, asked.nameFilters.join('|'), asked.filterIndex,
+                       asked.defaultExt, asked.mustExist, "->", dialog.FileTitle, dialog.FilterIndex),
+                  expected);
+    }
 }
 
 TEST_F(CommDlg, CancelIsAnErrorAndLeavesTheProperties)
@@ -127,6 +151,12 @@ struct RealDialogs : ::testing::Test
             window &&QTest::qWaitForWindowExposed(window) ? step(*window) : onNext<Window>(step);
         });
     }
+    static std::string offered(const QFileDialog &window)
+    {
+        return told(window.findChild<QLineEdit *>("fileNameEdit")->text(), window.selectedNameFilter(), "of",
+                    window.nameFilters().join('|'), window.property("helpContextId"), int(window.fileMode()),
+                    int(window.acceptMode()), window.defaultSuffix());
+    }
     static void type(const QWidget &window, const char *box, const QString &text, Qt::Key last)
     {
         auto *edit = window.findChild<QLineEdit *>(box);
@@ -138,29 +168,42 @@ struct RealDialogs : ::testing::Test
 
 TEST_F(RealDialogs, SaveAsAsksAboutTheRealTargetAndGoesBackOnNo)
 {
-    dialog.FileName = "Untitled 1";
+    std::tie(dialog.FileName, dialog.FilterIndex, dialog.Filter) = std::tuple("Untitled 1", 2, "A (*.a)|*.a|B|*.b");
     dialog.flags = 0x80406;
     onNext<QFileDialog>([this](QFileDialog &window) {
-        EXPECT_EQ(window.findChild<QLineEdit *>("fileNameEdit")->text(), "Untitled 1.gla");
-        EXPECT_EQ(window.property("helpContextId"), 1110);
+        EXPECT_EQ(offered(window), "Untitled 1.gla B (*.b) of A (*.a)|B (*.b) 1110 0 1 ");
         onNext<QMessageBox>([this](QMessageBox &box) {
             EXPECT_TRUE(box.text().contains("small.gla")) << box.text().toStdString();
-            onNext<QFileDialog>([](QFileDialog &again) { type(again, "fileNameEdit", "other.txt", Qt::Key_Return); });
-            QTest::mouseClick(box.button(QMessageBox::No), Qt::LeftButton);
+            onNext<QFileDialog>([this](QFileDialog &again) {
+                onNext<QMessageBox>([](QMessageBox &last) { last.button(QMessageBox::Yes)->click(); });
+                type(again, "fileNameEdit", "small.txt", Qt::Key_Return);
+            });
+            QTest::keyClick(&box, Qt::Key_Return); // No
         });
         type(window, "fileNameEdit", "small", Qt::Key_Return);
     });
     dialog.setAction(clsCommDlg::ActionSaveAs);
-    EXPECT_EQ(dialog.FileName, folder.filePath("other.gla"));
+    EXPECT_EQ(std::pair(dialog.FileName, dialog.FilterIndex), std::pair(folder.filePath("small.gla"), 2));
 }
 
 TEST_F(RealDialogs, TheNextDialogStartsWhereTheFileWasThatWasTyped)
 {
     const QTemporaryDir elsewhere;
+    QDir(folder.path()).mkdir("sub");
     const QString typed = writeFile(elsewhere.filePath("typed.gla"), "");
     dialog.flags = 0x81004;
     onNext<QFileDialog>([&](QFileDialog &window) {
         EXPECT_EQ(window.directory().path(), folder.path());
+        EXPECT_EQ(offered(window), " Glosaria Document (*.gla) of Glosaria Document (*.gla) 1110 1 0 gla");
+        const auto &files = *window.findChild<QTreeView *>("treeView");
+        EXPECT_TRUE(QTest::qWaitFor([&files] { return files.model()->rowCount(files.rootIndex()) == 2; }));
+        QStringList sizes; // as a screen reader says them
+        for (int row = 0; row < 2; ++row) {
+            const QModelIndex name = files.model()->index(row, 0, files.rootIndex());
+            sizes << name.data().toString() + u':' + name.siblingAtColumn(1).data(Qt::AccessibleTextRole).toString();
+        }
+        sizes.sort();
+        EXPECT_EQ(sizes.join(' '), "small.gla: sub:Folder");
         type(window, "fileNameEdit", typed, Qt::Key_Return);
     });
     dialog.setAction(clsCommDlg::ActionOpen);
@@ -175,6 +218,7 @@ TEST_F(RealDialogs, TheNextDialogStartsWhereTheFileWasThatWasTyped)
         onNext<QPrintDialog>([&](QPrintDialog &window) {
             const QString file = window.findChild<QLineEdit *>("filename")->text();
             EXPECT_EQ(QFileInfo(file).path(), place.isEmpty() ? elsewhere.path() : place);
+            EXPECT_EQ(window.property("helpContextId"), 1120);
             window.reject();
         });
         EXPECT_THROW(dialog.setAction(clsCommDlg::ActionPrint), CommDlgCancelled);
@@ -193,25 +237,41 @@ TEST_F(RealDialogs, PrintTakesPagesThatAreThereAndKeepsThePaper)
         window.accept();
     });
     dialog.setAction(clsCommDlg::ActionPrint);
-    dialog.MinPage = 1;
-    dialog.MaxPage = 5;
-    const std::tuple<const char *, const char *, int, int> cases[] = {{"0", "9", 1, 5}, {"4", "2", 2, 4}};
-    for (const auto &[from, to, first, last] : cases) {
-        dialog.flags = 0x100014;
-        onNext<QPrintDialog>([from = from, to = to](QPrintDialog &window) {
-            window.findChild<QRadioButton *>("printRange")->click();
+    std::tie(dialog.MinPage, dialog.MaxPage) = std::pair(1, 5);
+    const std::tuple<int, const char *, const char *, const char *, const char *> cases[] = {
+        {0x100014, "printRange", "0", "9", "printAll printRange   1 5 100016"},
+        {0x100014, "printRange", "4", "2", "printAll printRange   2 4 100016"},
+        {0x100010, "printSelection", "", "", "printAll printRange printSelection  0 0 100011"}};
+    for (const auto &[flags, range, from, to, expected] : cases) {
+        dialog.flags = flags;
+        QStringList offers;
+        onNext<QPrintDialog>([&, range = range, from = from, to = to](QPrintDialog &window) {
+            for (const char *name : {"printAll", "printRange", "printSelection", "printCurrentPage"}) {
+                const auto *button = window.findChild<QRadioButton *>(name);
+                offers << (button && button->isVisible() && button->isEnabled() ? name : "");
+            }
+            window.findChild<QRadioButton *>(range)->click();
             for (const auto &[box, number] : {std::pair("from", from), {"to", to}, {"copies", "2"}})
                 type(*window.findChild<QSpinBox *>(box), "qt_spinbox_lineedit", number, Qt::Key_Tab);
             window.accept();
         });
         dialog.setAction(clsCommDlg::ActionPrint);
-        EXPECT_EQ(std::pair(dialog.FromPage, dialog.ToPage), std::pair(first, last));
-        EXPECT_TRUE(printer.wantsPage(first) && printer.wantsPage(last));
-        EXPECT_EQ(dialog.flags, 0x100016);
-        EXPECT_EQ(dialog.Copies, 2);
+        EXPECT_EQ(told(offers.join(' '), dialog.FromPage, dialog.ToPage, QString::number(dialog.flags, 16)), expected);
+        EXPECT_TRUE(printer.wantsPage(dialog.FromPage) && printer.wantsPage(dialog.ToPage) && dialog.Copies == 2);
         EXPECT_EQ(printer.printer().copyCount(), 1) << "the copies are printed by the program";
         EXPECT_EQ(QSize(printer.Width(), printer.Height()), QSize(11900, 8400)) << "A5 on its side";
     }
+}
+
+TEST_F(RealDialogs, HelpOpensATopicOrTheContents)
+{
+    std::tie(dialog.HelpFile, dialog.HelpKey) = std::pair("other.qch", "1120");
+    for (const int command : {1, 3}) {
+        dialog.HelpCommand = command;
+        dialog.setAction(clsCommDlg::ActionHelp);
+    }
+    EXPECT_EQ(help.calls,
+              (std::vector<RecordingHelp::Call>{{"Main", HH_HELP_CONTEXT, 1120}, {"Main", HH_DISPLAY_TOC, 1120}}));
 }
 
 TEST(PageSetup, OffersPrintersAndWhatEachCanDo)
@@ -222,19 +282,27 @@ TEST(PageSetup, OffersPrintersAndWhatEachCanDo)
     const std::vector<PrinterOffer> offers{
         {"laser", {letter, a5}, letter, false}, {"office", {a4, a5}, a4, true}, {{}, {a4}, a4}};
     frmPageSetup dialog(offers, {"office", a5, QPageLayout::Landscape, QPrinter::DuplexShortSide}, nullptr);
-    EXPECT_EQ(dialog.findChild<QComboBox *>("cboSides")->count(), 3);
-    auto *printers = dialog.findChild<QComboBox *>("cboPrinter");
+    dialog.show();
     const auto chosen = [&dialog] {
         const PrinterSetup setup = dialog.setup();
-        return std::tuple(setup.printer, setup.paper.id(), setup.orientation, setup.duplex);
+        return told(setup.printer, setup.paper.name(), int(setup.orientation), int(setup.duplex));
     };
-    EXPECT_EQ(chosen(), std::tuple("office", QPageSize::A5, QPageLayout::Landscape, QPrinter::DuplexShortSide));
+    EXPECT_EQ(shown(dialog),
+              "Page Setup | &Printer: | {office} | P&aper: | {A5} | &Two-Sided: | {Short Edge} | Orientation | [ ] "
+              "P&ortrait | [x] &Landscape | OK | Cancel");
+    EXPECT_EQ(chosen(), "office A5 1 3");
+    auto *printers = dialog.findChild<QComboBox *>("cboPrinter");
     printers->setCurrentIndex(0);
-    EXPECT_EQ(chosen(), std::tuple("laser", QPageSize::A5, QPageLayout::Landscape, QPrinter::DuplexNone));
+    EXPECT_TRUE(shown(dialog).contains("{laser} | P&aper: | {A5} | &Two-Sided: | ({Short Edge})"));
+    EXPECT_EQ(chosen(), "laser A5 1 0");
     printers->setCurrentIndex(2);
     dialog.findChild<QRadioButton *>("optPortrait")->click();
     EXPECT_EQ(printers->currentText(), "Print to File (PDF)");
-    EXPECT_EQ(chosen(), std::tuple("", QPageSize::A4, QPageLayout::Portrait, QPrinter::DuplexNone));
+    EXPECT_EQ(chosen(), " A4 0 0");
+    for (const auto &[button, result] : {std::pair("btnCancel", 0), {"btnOK", 1}}) {
+        dialog.findChild<QPushButton *>(button)->click();
+        EXPECT_EQ(dialog.result(), result);
+    }
     frmPageSetup other(offers, {{}, QPageSize(QSizeF(300, 500), QPageSize::Point), {}, {}}, nullptr);
     EXPECT_EQ(other.setup().paper.sizePoints(), QSize(300, 500)) << "a paper that is not among the common ones";
 }
@@ -246,20 +314,19 @@ TEST(TestDialog, OffersTheLastChoiceAndTellsTheNew)
     };
     const PrintSource words = sourceOf(5);
     for (int n = 1; n < 96; ++n) {
-        const TestChoice given{TestChoice::Kind(n & 1),
-                               TestChoice::Asked(n % 3),
-                               n % 5,
-                               bool(n & 2),
-                               n,
-                               1 + bool(n & 4),
-                               bool(n & 8),
-                               bool(n & 16)};
+        TestChoice given;
+        std::tie(given.kind, given.asked, given.count, given.shuffled, given.number, given.columns, given.nameAndDate,
+                 given.key) = std::tuple(TestChoice::Kind(n & 1), TestChoice::Asked(n % 3), n % 5, n & 2, n,
+                                         1 + bool(n & 4), n & 8, n & 16);
         TestChoice choice = given;
         frmTest dialog(
             words, choice, [&n] { return n++; }, nullptr);
-        EXPECT_EQ(dialog.findChild<QWidget *>("spnNumber")->isEnabled(), given.shuffled);
-        EXPECT_EQ(dialog.findChild<QWidget *>("chkColumns")->isEnabled(), given.kind == TestChoice::Sheet);
-        EXPECT_TRUE(dialog.findChild<QRadioButton *>("optAsked1")->text().contains("German"));
+        for (const char *name : {"lblNumber", "spnNumber", "btnNew"})
+            EXPECT_EQ(dialog.findChild<QWidget *>(name)->isEnabled(), given.shuffled);
+        for (const char *name : {"chkColumns", "chkName", "chkKey"})
+            EXPECT_EQ(dialog.findChild<QWidget *>(name)->isEnabled(), given.kind == TestChoice::Sheet);
+        EXPECT_EQ(dialog.findChild<QRadioButton *>("optAsked1")->text(), "&2 German");
+        EXPECT_EQ(dialog.findChild<QSpinBox *>("spnCount")->maximum(), 5);
         choice = {.count = 9, .columns = 9, .nameAndDate = !given.nameAndDate, .key = !given.key};
         dialog.findChild<QPushButton *>("btnCancel")->click();
         EXPECT_EQ(choice.count, 9) << "cancelled";
