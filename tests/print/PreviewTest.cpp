@@ -64,18 +64,16 @@ struct Preview : ::testing::Test
         QWheelEvent event({}, {}, {}, {0, angle}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(page(), &event);
     }
-    void steps(const QString &list, const std::function<QString()> &state)
-    {
-        play(list, state,
-             {{"next", [this] { preview.nextPage(); }},
-              {"previous", [this] { preview.previousPage(); }},
-              {"click", [this] { click(); }},
-              {"control-click", [this] { click(Qt::ControlModifier); }},
-              {"right-click", [this] { click(Qt::NoModifier, Qt::RightButton); }},
-              {"leave", [this] { page()->clearFocus(); }},
-              {"notch down", [this] { turnWheel(-120); }},
-              {"half a notch up", [this] { turnWheel(60); }}});
-    }
+    const Actions actions{
+        {"next", [this] { preview.nextPage(); }},
+        {"previous", [this] { preview.previousPage(); }},
+        {"click", [this] { click(); }},
+        {"control-click", [this] { click(Qt::ControlModifier); }},
+        {"right-click", [this] { click(Qt::NoModifier, Qt::RightButton); }},
+        {"leave", [this] { page()->clearFocus(); }},
+        {"notch down", [this] { turnWheel(-120); }},
+        {"half a notch up", [this] { turnWheel(60); }},
+    };
 };
 
 TEST_F(Preview, OpensAtAThirdOfTheSizeInTheMiddle)
@@ -105,16 +103,17 @@ TEST_F(Preview, TurnsPagesAndZoomsKeepingThePage)
 {
     open(2 * RowsOfPage + 1);
     EXPECT_EQ(shown(), "Page 1 of 3> 264");
-    steps("next -> <Page 2 of 3> 264, next -> <Page 3 of 3 264, next -> <Page 3 of 3 264, "
-          "previous -> <Page 2 of 3> 264, previous -> Page 1 of 3> 264, previous -> Page 1 of 3> 264, "
-          "PgDown -> <Page 2 of 3> 264, End -> <Page 3 of 3 264, PgUp -> <Page 2 of 3> 264, Home -> Page 1 of 3> 264, "
-          "notch down -> <Page 2 of 3> 264, half a notch up -> <Page 2 of 3> 264, "
-          "half a notch up -> Page 1 of 3> 264, notch down -> <Page 2 of 3> 264, "
-          "leave -> <Page 2 of 3> 264, control-click -> <Page 2 of 3> 264, right-click -> <Page 2 of 3> 264, click -> "
-          "<Page 2 of 3> 397, "
-          "click -> <Page 2 of 3> 793, click -> <Page 2 of 3> 793, control-click -> <Page 2 of 3> 397, "
-          "- -> <Page 2 of 3> 264, + -> <Page 2 of 3> 397",
-          [this] { return shown(); });
+    play(
+        "next -> <Page 2 of 3> 264, next -> <Page 3 of 3 264, next -> <Page 3 of 3 264, "
+        "previous -> <Page 2 of 3> 264, previous -> Page 1 of 3> 264, previous -> Page 1 of 3> 264, "
+        "PgDown -> <Page 2 of 3> 264, End -> <Page 3 of 3 264, PgUp -> <Page 2 of 3> 264, Home -> Page 1 of 3> 264, "
+        "notch down -> <Page 2 of 3> 264, half a notch up -> <Page 2 of 3> 264, "
+        "half a notch up -> Page 1 of 3> 264, notch down -> <Page 2 of 3> 264, "
+        "leave -> <Page 2 of 3> 264, control-click -> <Page 2 of 3> 264, right-click -> <Page 2 of 3> 264, click -> "
+        "<Page 2 of 3> 397, "
+        "click -> <Page 2 of 3> 793, click -> <Page 2 of 3> 793, control-click -> <Page 2 of 3> 397, "
+        "- -> <Page 2 of 3> 264, + -> <Page 2 of 3> 397",
+        [this] { return shown(); }, actions);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(host.area.findChildren<frmPrtPrev *>().size(), 1) << "however many pages";
     QKeyEvent repeated(QEvent::KeyRelease, Qt::Key_PageDown, Qt::NoModifier, {}, true);
@@ -132,9 +131,9 @@ TEST_F(Preview, PageKeysScrollALargePageAndThenTurnIt)
     EXPECT_EQ(page()->pos(), QPoint(450 - 396, 300 - 561 - ToolbarHeight));
     // Scrolled to its end it stands 2000 twips above the lower edge. The key does not pass over what was not seen,
     // nothing is hidden at the sides, and a page is where it was left.
-    steps("PgDown -> 0 54 -656, PgUp -> 0 54 -106, PgUp -> 0 54 7, PgUp -> 0 54 7, PgDown -> 0 54 -543, "
-          "PgDown -> 1 54 -301, PgUp -> 1 54 7, PgUp -> 0 54 -543, Right -> 0 54 -543",
-          [this] { return QString("%1 %2 %3").arg(preview.visiblePage()).arg(page()->x()).arg(page()->y()); });
+    play("PgDown -> 0 54 -656, PgUp -> 0 54 -106, PgUp -> 0 54 7, PgUp -> 0 54 7, PgDown -> 0 54 -543, "
+         "PgDown -> 1 54 -301, PgUp -> 1 54 7, PgUp -> 0 54 -543, Right -> 0 54 -543",
+         [this] { return QString("%1 %2 %3").arg(preview.visiblePage()).arg(page()->x()).arg(page()->y()); });
     click(Qt::ControlModifier);
     EXPECT_EQ(page()->y(), 0) << "another size begins at the top";
 }
@@ -157,8 +156,8 @@ TEST_F(Preview, PageSetupBuildsItAgainFromTheFirstPage)
     for (int i = 0; i < 20; ++i)
         QTest::keyClick(page(), Qt::Key_Right);
     EXPECT_EQ(page()->geometry().right(), 899);
-    steps("Down -> -223 -186, Up -> -223 -136, Left -> -173 -136",
-          [this] { return QString("%1 %2").arg(page()->x()).arg(page()->y()); });
+    play("Down -> -223 -186, Up -> -223 -136, Left -> -173 -136",
+         [this] { return QString("%1 %2").arg(page()->x()).arg(page()->y()); });
 }
 
 TEST_F(Preview, PrintingKeepsSizeAndPageButTakesItsPaper)

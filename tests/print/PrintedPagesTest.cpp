@@ -116,7 +116,10 @@ TEST_F(PrintedPages, TheNextDocumentsFileIsProposedBesideTheLast)
     printer.setDocName("Second");
     EXPECT_EQ(printer.printer().outputFileName(), folder.filePath("Second.pdf"));
     printer.printer().setColorMode(QPrinter::GrayScale);
-    EXPECT_TRUE(printer.writesFile() && printer.copy()->colorMode() == QPrinter::GrayScale);
+    const std::unique_ptr<QPrinter> copy = printer.copy();
+    EXPECT_EQ(QStringList({copy->docName(), copy->creator(), copy->outputFileName()}),
+              QStringList({"Second", "Glosaria", folder.filePath("Second.pdf")}));
+    EXPECT_TRUE(printer.writesFile() && copy->colorMode() == QPrinter::GrayScale && copy->fullPage());
     EXPECT_TRUE(printer.printer().pageLayout().margins().isNull() && printer.printer().fullPage());
     EXPECT_FALSE(printer.turnsOverShortEdge() || printer.lastPageFirst());
 }
