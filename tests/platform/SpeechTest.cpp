@@ -85,7 +85,8 @@ QString play(Speaker &speaker, const QString &step)
     if (isState)
         onEngine([state] { Q_EMIT ScriptedEngine::made.load()->stateChanged(QTextToSpeech::State(state)); });
     else if (step == "Late")
-        QThread::msleep(350);
+        for (bool waits = true; waits; QThread::msleep(1))
+            onEngine([&waits] { waits = ScriptedEngine::told.isEmpty(); });
     else if (step == "Stop")
         speaker.stop();
     else {
@@ -172,8 +173,7 @@ TEST(Speech, WithoutItsFileThereIsNothingToReadWith)
 {
     SpeechModule module("/missing.so");
     module.say({{"dog", QLocale::English}});
-    EXPECT_FALSE(module.isThere());
-    EXPECT_EQ(languages(module), Speaker::Languages());
+    EXPECT_TRUE(!module.isThere() && languages(module).isEmpty());
 }
 
 #include "SpeechTest.moc"
