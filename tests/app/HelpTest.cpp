@@ -82,6 +82,8 @@ TEST_F(HelpTest, EveryControlOfEveryDialogHasATopicATextANameAndAKey)
         EXPECT_TRUE(inDialog(command, [&](QDialog &dialog) {
             SCOPED_TRACE(dialog.objectName().toStdString());
             QApplication::setActiveWindow(&dialog);
+            EXPECT_TRUE(status(0) == resText(504) || id == 1250 || dialog.objectName() == "frmOva");
+            EXPECT_EQ(dialog.parentWidget(), window.get());
             expectTopic(dialog.focusWidget() ? dialog.focusWidget() : &dialog, id);
             EXPECT_TRUE(dialog.windowFlags() & Qt::WindowContextHelpButtonHint);
             EXPECT_EQ(mnemonics(dialog), keys);
@@ -98,6 +100,7 @@ TEST_F(HelpTest, EveryControlOfEveryDialogHasATopicATextANameAndAKey)
                 EXPECT_FALSE(control->accessibleName().isEmpty() && !(button && !button->text().isEmpty()));
             }
         })) << each.toStdString();
+        EXPECT_EQ(status(0), resText(506)) << each.toStdString();
     }
     EXPECT_TRUE(alert.shown.empty());
 }
@@ -139,6 +142,9 @@ TEST_F(HelpTest, EveryButtonHasItsTextsANameAndAPictureAndNoSeparatorHas)
         QCoreApplication::processEvents();
         auto *bar = window->findChild<QToolBar *>(band);
         EXPECT_FALSE(bar->isMovable() || bar->isFloatable() || bar->toggleViewAction()->isEnabled());
+        const auto *more = bar->findChild<QToolButton *>("qt_toolbar_ext_button");
+        EXPECT_EQ(bar->windowTitle() + more->accessibleName() + more->toolTip(),
+                  resText(whatsThis == 20000 ? 12622 : 12623) + resText(12624) + resText(12624));
         for (QAction *action : bar->actions()) {
             QWidget *shown = bar->widgetForAction(action);
             QEvent enter(QEvent::Enter);
@@ -164,6 +170,11 @@ TEST_F(HelpTest, EveryButtonHasItsTextsANameAndAPictureAndNoSeparatorHas)
         }
     }
     EXPECT_EQ(documents().open().size(), 1u) << "a button was pressed";
+    for (const auto &[key, name] : {std::pair("Model", "mnuMode"), {"Quiz", "mnuQuiz"}, {"Undo", ""}}) {
+        const QToolButton &dropDown = *button("tbrStandard", key);
+        EXPECT_EQ(dropDown.menu() ? dropDown.menu()->objectName() : "", name);
+        EXPECT_EQ(dropDown.popupMode(), *name ? QToolButton::MenuButtonPopup : QToolButton::DelayedPopup);
+    }
 }
 
 TEST_F(HelpTest, WhatsThisExplainsTheGridOrTheWindowBelowThePointerAndEnds)

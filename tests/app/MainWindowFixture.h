@@ -80,6 +80,66 @@ struct MainWindowFixture : ::testing::Test, DocumentCopies
         }
         return list;
     }
+    /// All that a user sees of the window; its documents with > the active one, * changed, + maximised, - minimised.
+    QStringList parts()
+    {
+        const frmDoc *active = documents().active();
+        const ctlGrid *grid = active ? active->Rutor() : nullptr;
+        const QWidget *focus = QApplication::focusWidget();
+        QStringList open, words, titles, refused, checks, others;
+        for (const frmDoc *each : documents().open()) {
+            const QWidget &frame = *each->frame();
+            open += (each == active ? ">" : "") + each->Caption() + (each->Dirty() ? "*" : "") +
+                    (!frame.isVisible()    ? " hidden"
+                     : frame.isMaximized() ? "+"
+                     : frame.isMinimized() ? "-"
+                                           : "");
+        }
+        for (int row = 1; grid && row < 4; ++row)
+            words += grid->TextMatrix(row, 1) + '-' + grid->TextMatrix(row, 2);
+        for (const QAction *title : window->menuBar()->actions()) {
+            titles += title->isVisible() ? title->text() : "";
+            refused += title->isVisible() ? entries(title->menu()->objectName()).filter("(") : QStringList();
+        }
+        for (const QToolBar *bar : window->findChildren<QToolBar *>()) {
+            for (const QAction *action : bar->isVisible() ? bar->actions() : QList<QAction *>())
+                refused += action->isEnabled() ? "" : action->objectName();
+        }
+        for (const Command *each : window->commands().commands())
+            checks +=
+                window->commands().action(each->key)->isChecked() ? window->commands().action(each->key)->text() : "";
+        for (const QWidget *each :
+             window->findChildren<QWidget *>(QRegularExpression("^(frm.*|StartPage|PreviewArea)$")))
+            others += each->isVisible() ? each->objectName() : "";
+        for (const Alert &each : std::exchange(alert.shown, {}))
+            others += each.prompt.section('\r', 0, 0);
+        const QString rows = grid ? QString(" of %1 rows, %2%").arg(grid->Rows() - 1).arg(grid->Zoom()) : "";
+        QStringList all{"documents: " + open.join(" | "), "words: " + words.join(' ') + rows};
+        all << "edit: " + (grid && grid->EditMode() ? '[' + grid->EditText() + ']' : "") << "said: " + status(0);
+        all << "cell:" + status(1) << "mode: " + status(2) << "undo: " + window->UndoAction();
+        all << QString("focus: ") + (focus ? focus->metaObject()->className() : "") << "shown: " + others.join(' ');
+        all << "checked: " + checks.join(' ') << "menus: " + titles.join(' ') << "refused: " + refused.join(' ');
+        all << QString("pictures: %1 %2").arg(window->buttonPicture("Model")).arg(window->buttonPicture("Quiz"));
+        for (QString &each : all)
+            each = each.simplified().replace(", ", ",");
+        return all;
+    }
+    /// What of that has changed since the last call.
+    QString news()
+    {
+        QCoreApplication::processEvents();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        if (!QApplication::focusWidget())
+            QApplication::setActiveWindow(window.get());
+        QStringList changed;
+        const QStringList now = parts();
+        for (qsizetype i = 0; i < now.size(); ++i)
+            changed += seen.value(i) == now[i] ? QString() : now[i];
+        changed.removeAll("");
+        seen = now;
+        return changed.join("; ");
+    }
+    QStringList seen;
     QToolButton *button(const QString &band, const QString &key)
     {
         auto *bar = window->findChild<QToolBar *>(band);

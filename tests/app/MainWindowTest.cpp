@@ -22,108 +22,60 @@ struct MainWindowTest : MainWindowFixture
     }
 };
 
-TEST_F(MainWindowTest, NewDocumentsCascadeInsideTheAreaAndTheirColumnsFillThem)
+TEST_F(MainWindowTest, DocumentsAreCascadedTiledAndLinedUpAsIconsFromBothSides)
 {
-    QPoint last(-1, -1);
-    for (int i = 0; i < 30; ++i) {
-        frmDoc &document = *newDocument();
-        const QRect place = document.frame()->geometry();
-        EXPECT_TRUE(window->documentArea()->viewport()->rect().contains(place)) << i;
-        EXPECT_NE(place.topLeft(), std::exchange(last, place.topLeft())) << i;
-        EXPECT_EQ(document.Rutor()->ColWidth(1), Twips::fromPixelsX(document.Rutor()->width()) / 2 - 360);
-    }
-}
-
-TEST_F(MainWindowTest, AnEditGoesOnAfterAnotherDocumentAndEndsWithItsOwn)
-{
-    frmDoc *document = newDocument();
-    document->Rutor()->GridEdit('x');
-    QApplication::processEvents();
-    EXPECT_EQ(status(0), resText(503));
-    window->OpenRequestedFile(writeVocabulary("other.gla"));
-    EXPECT_EQ(window->state(), AppState::StateDocument);
-    QApplication::processEvents();
-    window->documentArea()->setActiveSubWindow(qobject_cast<QMdiSubWindow *>(document->frame()));
-    EXPECT_EQ(window->state(), AppState::StateEditing);
-    QGuiApplication::clipboard()->setText("y");
-    window->DoMenuClick("mnuEditPaste");
-    EXPECT_EQ(document->Rutor()->EditText(), QString("xy"));
-    documents().open().back()->frame()->close();
-    alert.answers = {AlertBox::AnswerNo};
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_W, Qt::ControlModifier);
-    QApplication::processEvents();
-    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_EQ(window->state(), AppState::StateNoDocument);
-    EXPECT_EQ(window->UndoAction(), resText(419));
-}
-
-TEST_F(MainWindowTest, ControlTabGoesAroundTheDocuments)
-{
-    const std::array made = {newDocument(), newDocument(), newDocument()};
-    for (const int next : {1, 2, 3, 1, -3, -2, -1}) { // the shift key goes back
-        const Qt::KeyboardModifiers shift = next > 0 ? Qt::NoModifier : Qt::ShiftModifier;
-        QTest::keyClick(window->focusWidget(), shift ? Qt::Key_Backtab : Qt::Key_Tab, Qt::ControlModifier | shift);
-        EXPECT_EQ(documents().active(), made[size_t(std::abs(next)) - 1]) << next;
-    }
-    window->documentArea()->activate(*made[1]);
-    window->DoMenuClick("mnuFileClose");
-    EXPECT_EQ(documents().active(), made[0]) << "the one that was active before";
-    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_EQ(window->documentArea()->subWindowList().size(), 2);
-}
-
-TEST_F(MainWindowTest, DocumentsStandAtTheRightWhereLinesBeginThere)
-{
-    const QList<QRect> atLeft{newDocument()->frame()->geometry(), newDocument()->frame()->geometry()};
-    const QRect area = window->documentArea()->viewport()->rect();
-    window->documentArea()->setLayoutDirection(Qt::RightToLeft);
-    window->DoMenuClick("mnuWindow(0)");
-    window->resize(window->width() + 70, window->height());
-    for (int i = 0; i < 2; ++i)
-        EXPECT_EQ(documents().open()[i]->frame()->x(), area.right() + 70 - atLeft[i].right()) << i;
-}
-
-TEST_F(MainWindowTest, DocumentsAreTiledCascadedAndLinedUpAsIcons)
-{
-    std::vector<QWidget *> frames;
-    std::vector<QRect> places;
+    DocumentArea &area = *window->documentArea();
+    window->resize(window->size() + QSize(900, 600) - area.viewport()->size());
     for (int i = 0; i < 3; ++i) {
-        frames.push_back(newDocument()->frame());
-        places.push_back(frames.back()->geometry());
+        const frmDoc &made = *newDocument();
+        EXPECT_EQ(made.Rutor()->ColWidth(1), Twips::fromPixelsX(made.Rutor()->width()) / 2 - 360);
     }
-    DocumentArea &documentArea = *window->documentArea();
-    const QRect area = documentArea.viewport()->rect();
-    const auto covered = [&frames] {
-        QRegion all;
-        for (const QWidget *each : frames) {
-            EXPECT_FALSE(all.intersects(each->geometry()));
-            all += each->geometry();
+    const int step = documents().open()[1]->frame()->x();
+    EXPECT_GT(step, 15);
+    const auto places = [this] {
+        QStringList found;
+        for (const frmDoc *each : documents().open()) {
+            const QRect at = each->frame()->geometry();
+            found += QString("%1,%2 %3x%4").arg(at.x()).arg(at.y()).arg(at.width()).arg(at.height());
         }
-        return all;
+        return found.join(" | ");
     };
-    for (const bool below : {true, false}) {
-        frames[1]->showMaximized();
-        window->DoMenuClick(below ? "mnuWindow(1)" : "mnuWindow(2)");
-        EXPECT_EQ(covered(), QRegion(area));
-        EXPECT_EQ(frames[0]->width() == area.width(), below);
+    const QString cascade = QString("%1,0 675x450 | %2,%4 675x450 | %3,%5 675x450"),
+                  rows = "0,0 900x200 | 0,200 900x200 | 0,400 900x200";
+    const QString atLeft = cascade.arg(0).arg(step).arg(2 * step).arg(step).arg(2 * step);
+    const QString atRight = cascade.arg(225).arg(225 - step).arg(225 - 2 * step).arg(step).arg(2 * step);
+    EXPECT_EQ(places(), atLeft);
+    for (const bool right : {false, true}) {
+        area.setLayoutDirection(right ? Qt::RightToLeft : Qt::LeftToRight);
+        documents().open()[1]->frame()->showMaximized();
+        const QString columns =
+            right ? "600,0 300x600 | 300,0 300x600 | 0,0 300x600" : "0,0 300x600 | 300,0 300x600 | 600,0 300x600";
+        for (const auto &[command, expected] :
+             {std::pair("mnuWindow(2)", columns), {"mnuWindow(1)", rows}, {"mnuWindow(0)", right ? atRight : atLeft}}) {
+            window->DoMenuClick(command);
+            EXPECT_EQ(places().toStdString(), expected.toStdString());
+        }
     }
-    documentArea.activate(*documents().open()[0]);
-    window->DoMenuClick("mnuWindow(0)");
-    for (size_t i = 0; i < frames.size(); ++i) {
-        EXPECT_EQ(frames[i]->geometry(), places[i]) << "as new ones";
-        EXPECT_EQ(documentArea.subWindowList(QMdiArea::StackingOrder)[int(i)], frames[i]);
-    }
-    for (int i = 0; i < 6; ++i)
-        frames.insert(frames.begin(), newDocument()->frame());
-    frames.pop_back();
-    for (QWidget *each : frames)
-        each->showMinimized();
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(area.subWindowList(QMdiArea::StackingOrder)[i]->widget(), documents().open()[size_t(i)]);
+    window->resize(window->width() + 70, window->height());
+    EXPECT_EQ(documents().open()[0]->frame()->x(), 225 + 70);
+    for (int i = 0; i < 30; ++i)
+        EXPECT_TRUE(area.viewport()->rect().contains(newDocument()->frame()->geometry()));
+    area.setLayoutDirection(Qt::LeftToRight);
+    for (const frmDoc *each : documents().open())
+        each->frame()->showMinimized();
+    documents().open().back()->frame()->showNormal();
+    const QRect open = documents().open().back()->frame()->geometry();
     window->DoMenuClick("mnuWindow(3)");
-    EXPECT_TRUE(area.contains(covered().boundingRect()));
-    EXPECT_EQ(covered().boundingRect().bottomLeft(), area.bottomLeft());
+    const QSize icon = documents().open()[0]->frame()->size();
+    const int perRow = 970 / icon.width();
+    for (int i = 0; i < 32; ++i)
+        EXPECT_EQ(documents().open()[size_t(i)]->frame()->pos(),
+                  QPoint(i % perRow * icon.width(), 600 - (i / perRow + 1) * icon.height()));
+    EXPECT_EQ(documents().open().back()->frame()->geometry(), open) << "open ones are left alone";
     window->DoMenuClick("mnuWindow(1)");
-    EXPECT_TRUE(frames.front()->isMinimized());
-    EXPECT_EQ(documentArea.subWindowList().at(2)->geometry(), area) << "icons are left alone";
+    EXPECT_EQ(documents().open().back()->frame()->geometry(), area.viewport()->rect()) << "icons are left alone";
 }
 
 TEST_F(MainWindowTest, RecentFilesAreKeptFromRunToRun)
@@ -145,6 +97,7 @@ TEST_F(MainWindowTest, RecentFilesAreKeptFromRunToRun)
 TEST_F(MainWindowTest, OnlyVocabulariesDroppedOnTheDocumentAreaOpen)
 {
     const QString file = writeVocabulary("dropped.GLA");
+    EXPECT_TRUE(window->acceptDrops());
     const int top = window->documentArea()->mapTo(window.get(), QPoint()).y();
     const int bottom = window->height() - window->context().status.height() - 52;
     for (const int beside : {top, bottom})
@@ -175,20 +128,23 @@ TEST_F(MainWindowTest, ItsPlaceIsRestoredOrReplacedByTheWorkArea)
     window->close();
     SetUp();
     EXPECT_TRUE(window->isMaximized());
-    for (const int state : {1, 7}) {
+    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+    const std::tuple<int, QRect, QRect> cases[] = {
+        // a state, a place, and where the window lies then
+        {0, {50, 40, 600, 400}, {50, 40, 600, 400}},   {0, {50, 40, 9999, 9998}, {QPoint(50, 40), screen}},
+        {1, {50, 40, 600, 400}, {QPoint(), screen}},   {7, {50, 40, 600, 400}, {QPoint(), screen}},
+        {0, {-900, 40, 600, 400}, {QPoint(), screen}}, {0, {50, 9000, 600, 400}, {QPoint(), screen}}};
+    for (const auto &[state, at, expected] : cases) {
         settings.setAppWinState(state);
+        settings.setWinPosLeft(at.x() * 15), settings.setWinPosTop(at.y() * 15);
+        settings.setWinPosRight(at.width() * 15), settings.setWinPosBottom(at.height() * 15);
         window->PositionWindow();
-        EXPECT_EQ(std::pair(settings.AppWinState(), settings.WinPosRight()), std::pair(0, workArea));
+        EXPECT_EQ(QRect(window->pos(), window->size()), expected);
     }
-}
-
-TEST_F(MainWindowTest, ADocumentCanRefuseTheEnd)
-{
-    newDocument()->setDirty(true);
-    bool ended = false;
-    QObject::connect(window.get(), &frmApp::closed, window.get(), [&ended] { ended = true; });
-    EXPECT_FALSE(window->close() || ended);
-    alert.answers = {AlertBox::AnswerNo};
-    window->DoMenuClick("mnuFileExit");
-    EXPECT_TRUE(ended);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->frameSize() == screen; })) << "there is room for its frame";
+    window->showMinimized();
+    window->close();
+    EXPECT_EQ(settings.AppWinState(), 1);
+    window->bringToFront();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()) && !window->isMinimized());
 }

@@ -2,89 +2,50 @@
 
 #include "app/MenuLayout.h"
 #include "document/ctlGridEdit.h"
+#include "support/Play.h"
 #include "support/TextLetters.h"
 #include "tools/frmFindReplace.h"
 #include "widgets/grid/FlexGridView.h"
 
-struct MenusAndToolbarsTest : MainWindowFixture
-{
-    /// The menus that show, each with the entries that cannot be chosen, and such buttons.
-    QString refused()
-    {
-        QStringList all;
-        for (const QAction *title : window->menuBar()->actions()) {
-            const QString menu = title->menu()->objectName();
-            all += title->isVisible() ? (menu.mid(3) + ' ' + entries(menu).filter("(").join(' ')).trimmed() : "";
-        }
-        for (QToolBar *bar : window->findChildren<QToolBar *>()) {
-            for (const QAction *action : bar->isVisible() ? bar->actions() : QList<QAction *>())
-                all += action->isEnabled() ? "" : action->objectName();
-        }
-        all.removeAll("");
-        return all.join(" | ");
-    }
-};
+using MenusAndToolbarsTest = MainWindowFixture;
 
-TEST_F(MenusAndToolbarsTest, TheStateTellsWhatCanBeDone)
+TEST_F(MenusAndToolbarsTest, EachCommandChangesWhatItIsToChangeAndNothingElse)
 {
-    std::vector<std::pair<AppState, std::string>> found;
-    const auto look = [&] { found.emplace_back(window->state(), refused().toStdString()); };
-    look();
-    EXPECT_EQ(entries("mnuFile"), (QStringList{"New", "Open...", "-", "Exit"}));
-    frmDoc *document = newDocument();
-    look();
-    document->Rutor()->setEditMode(true);
-    look();
-    document->endEdit();
-    EXPECT_EQ(window->state(), AppState::StateDocument);
-    window->DoMenuClick("mnuFilePrintPreview");
-    look();
-    window->DoMenuClick("mnuFilePrintPreview");
-    window->DoMenuClick("mnuFileClose");
-    look();
-    const std::vector<std::pair<AppState, std::string>> expected{
-        {AppState::StateNoDocument,
-         "File | Help | Save | Print | Preview | Cut | Copy | Paste | Undo | Insert | Delete | Find | "
-         "Font | Sort | Languages | Model | Quiz"},
-        {AppState::StateDocument,
-         "File | Edit (Can't Undo) | Vocabulary | Mode | Quiz (Continue Quiz) | Window | Help | Undo"},
-        {AppState::StateEditing,
-         "File (New) (Open...) (Import...) (Export...) (Print Preview...) (Print...) (Print Test...) | Edit (Clear) "
-         "(Insert) (Delete) (Find...) (Replace...) (Paste List...) | Vocabulary (Languages...) (Row Height...) (Column "
-         "Width...) (Font...) (Sort...) (Check...) (Progress...) | Mode | Quiz (Practice...) (Multiple Choice...) "
-         "(Question and Answer...) (Continue Quiz) (Words to Ask) (Quiz Options...) | Window | Help | New | Open | "
-         "Print | Preview | Insert | Delete | Find | Font | Sort | Languages | Model | Quiz"},
-        {AppState::StatePreview, "File (New) (Open...) (Close) (Save) (Save As...) (Import...) (Export...) (Print "
-                                 "Test...) | Help | Previous | Next"},
-        {AppState::StateNoDocument, found.front().second}};
-    EXPECT_EQ(found, expected);
-    EXPECT_EQ(status(1) + status(2), "");
-}
-
-TEST_F(MenusAndToolbarsTest, AKeyTypedAheadComesAfterTheCommandOfTheOneBeforeIt)
-{
-    ctlGrid &grid = *newDocument()->Rutor();
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_I, Qt::ControlModifier);
-    EXPECT_EQ(grid.Rows(), 102);
-    menu("mnuEdit")->popup(QPoint());
-    QTest::keyClick(menu("mnuEdit"), Qt::Key_U);
-    EXPECT_EQ(grid.Rows(), 101);
-}
-
-TEST_F(MenusAndToolbarsTest, TheUndoCaptionNamesAndEnablesTheCommand)
-{
-    frmDoc *document = newDocument();
-    EXPECT_EQ(window->UndoAction(), resText(419));
-    window->setUndoAction("&Undo Cut");
-    EXPECT_TRUE(undo.kind() == UndoKind::Cut && undo.belongsTo(document));
-    EXPECT_EQ(window->commands().action("mnuEditUndo")->text(), "&Undo Cut");
-    EXPECT_EQ(button("tbrStandard", "Undo")->toolTip(), "Undo Cut");
-    undo.clear();
-    EXPECT_FALSE(button("tbrStandard", "Undo")->isEnabled());
-    newDocument();
-    undo.setKind(UndoKind::Sort, document);
-    EXPECT_FALSE(button("tbrStandard", "Undo")->isEnabled()) << "there is nothing to undo in the active document";
-    EXPECT_EQ(window->UndoAction(), resText(419));
+    const auto press = [](Qt::Key key, Qt::KeyboardModifiers more = {}) {
+        QTest::keyClick(QApplication::focusWidget(), key, Qt::ControlModifier | more);
+    };
+    const auto answer = [this](const char *key) {
+        alert.answers.assign(3, AlertBox::AnswerNo), window->DoMenuClick(key), alert.answers.clear();
+    };
+    const auto frame = [this](size_t at) { return documents().open()[at]->frame(); };
+    bool ended = false;
+    QObject::connect(window.get(), &frmApp::closed, [&ended] { ended = true; });
+    Actions actions{{"start", [] {}},
+                    {"front", [this] { QApplication::setActiveWindow(window.get()); }},
+                    {"name", [this] { documents().active()->Rutor()->setTextMatrix(0, 2, "R&D"); }},
+                    {"close", [&] { answer("mnuFileClose"); }},
+                    {"exit", [&] { answer("mnuFileExit"); }},
+                    {"cut", [this] { window->setUndoAction("&Undo Cut"); }},
+                    {"import", [this] { window->setUndoAction("&Undo Import"); }},
+                    {"none", [this] { window->setUndoAction("Undo"); }},
+                    {"sort", [this] { undo.setKind(UndoKind::Sort, documents().open().front()); }},
+                    {"sizes", [&] { frame(0)->showMinimized(), frame(1)->showMaximized(); }},
+                    {"keypad", [&] { press(Qt::Key_Minus, Qt::KeypadModifier); }},
+                    {"back", [&] { press(Qt::Key_Backtab, Qt::ShiftModifier); }},
+                    {"ahead", [this] { // a key of a menu, typed before the command of the one before it is done
+                         menu("mnuEdit")->popup(QPoint());
+                         QTest::keyClick(menu("mnuEdit"), Qt::Key_U);
+                     }}};
+    for (const Command *each : window->commands().commands())
+        actions[each->key] = [this, key = each->key] { window->DoMenuClick(key); };
+    for (const char *key : {"mnuWin(0)", "mnuWin(1)"})
+        actions[key] = [this, key] { window->DoMenuClick(key); };
+    QStringList steps = QString(readFile(SOURCE_FOLDER "/tests/app/data/commands.txt")).split('\n', Qt::SkipEmptyParts);
+    for (QString &each : steps)
+        each += each.contains(" -> ") ? "" : " -> ";
+    play(
+        steps.join(", "), [this] { return news(); }, actions);
+    EXPECT_TRUE(ended);
 }
 
 TEST_F(MenusAndToolbarsTest, TheSearchGoesOnByKeysAndAlongWithTheActiveDocument)
@@ -147,24 +108,6 @@ TEST_F(MenusAndToolbarsTest, TheTableOfProgressGoesToTheFileThatTheUserChooses)
     EXPECT_TRUE(QFile::exists(folder.filePath("a.csv")) && alert.shown.empty());
 }
 
-TEST_F(MenusAndToolbarsTest, ModesStepInARingAndShowEverywhere)
-{
-    frmDoc *document = newDocument();
-    document->Rutor()->setTextMatrix(0, 1, "English");
-    document->Rutor()->setTextMatrix(0, 2, "R&D");
-    EXPECT_EQ(window->buttonPicture("Model"), 23);
-    for (const int mode : {2, 3, 4, 5, 1, 2}) {
-        window->DoMenuClick("Model");
-        EXPECT_EQ(settings.QuizMode(), mode);
-        EXPECT_EQ(window->buttonPicture("Model"), 22 + mode);
-    }
-    Q_EMIT menu("mnuMode")->aboutToShow();
-    EXPECT_EQ(window->commands().action("mnuMode5")->text(), "&5 English <-> R&&D Randomly");
-    for (int mode = 1; mode <= 5; ++mode)
-        EXPECT_EQ(window->commands().action(QStringLiteral("mnuMode%1").arg(mode))->isChecked(), mode == 2);
-    EXPECT_EQ(status(2), "R&D -> English In Order");
-}
-
 TEST_F(MenusAndToolbarsTest, TheStatusBarFollowsTheHighlight)
 {
     newDocument()->setCaption("first");
@@ -207,27 +150,8 @@ TEST_F(MenusAndToolbarsTest, TheStatusBarFollowsTheHighlight)
     }
 }
 
-TEST_F(MenusAndToolbarsTest, ADialogKeepsItsTextWhenThePointerLeavesItsButton)
+TEST_F(MenusAndToolbarsTest, TheLinksOfTheProgramsDescriptionAreExplained)
 {
-    newDocument();
-    QString shown;
-    QTimer visitor;
-    QObject::connect(&visitor, &QTimer::timeout, window.get(), [&] {
-        if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
-            shown = status(0);
-            dialog->reject();
-        }
-    });
-    visitor.start(1);
-    for (const char *key : {"Sort", "Font", "Languages"}) {
-        shown.clear();
-        const QPoint place = button("tbrStandard", key)->mapTo(window.get(), QPoint(9, 9));
-        QTest::mouseMove(window->windowHandle(), place);
-        QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, place);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !shown.isEmpty(); })) << key;
-        EXPECT_EQ(shown, resText(504));
-    }
-    visitor.stop();
     EXPECT_TRUE(inDialog("mnuHelpAbout", [this](QDialog &about) {
         EXPECT_EQ(about.findChild<QWidget *>("imgLink1")->toolTip(), resText(2007));
         QApplication::setActiveWindow(&about);
@@ -238,21 +162,14 @@ TEST_F(MenusAndToolbarsTest, ADialogKeepsItsTextWhenThePointerLeavesItsButton)
     }));
 }
 
-TEST_F(MenusAndToolbarsTest, TheWindowMenuListsAndActivatesDocuments)
+TEST_F(MenusAndToolbarsTest, TheWindowMenuListsDocuments)
 {
-    frmDoc *first = newDocument();
-    first->setCaption(QString(33, 'x'));
+    newDocument()->setCaption(QString(33, 'x'));
     newDocument()->setCaption(QString(32, 'y'));
     EXPECT_EQ(entries("mnuWindow").mid(4), (QStringList{"-", QString(32, 'x') + "...", QString(32, 'y')}));
-    const QList<QAction *> actions = menu("mnuWindow")->actions();
-    EXPECT_TRUE(!actions[5]->isChecked() && actions[6]->isChecked());
-    for (frmDoc *each : {first, documents().open().back()}) {
-        window->DoMenuClick(QStringLiteral("mnuWin(%1)").arg(each->Tag()));
-        EXPECT_EQ(documents().active(), each);
-    }
     window->DoMenuClick("mnuFileClose");
     window->DoMenuClick("mnuWin(1)");
-    EXPECT_EQ(documents().active(), first);
+    EXPECT_EQ(documents().active(), documents().open().front());
     EXPECT_FALSE(window->commands().find("mnuWin(1)"));
 }
 
@@ -325,16 +242,4 @@ TEST_F(MenusAndToolbarsTest, EveryTitleAndEntryHasItsCaptionAndHelpText)
     EXPECT_EQ(id, 458);
     EXPECT_EQ(separators, "mnuFile(3) mnuFile(8) mnuFileSep mnuEdit(1) mnuEdit(5) mnuEdit(5) mnuToolbar(0) "
                           "mnuToolbar(3) mnuHelp(4) ");
-}
-
-TEST_F(MenusAndToolbarsTest, KeysZoomTheActiveVocabulary)
-{
-    const ctlGrid &grid = *newDocument()->Rutor();
-    QList<int> percents;
-    for (const char *key : {"Ctrl++", "Ctrl+=", "Num+Ctrl++", "Ctrl+-", "Num+Ctrl+-", "Ctrl+0", "-"}) {
-        QTest::keySequence(grid.hwndGrid(), QKeySequence(key));
-        percents += grid.Zoom();
-    }
-    EXPECT_EQ(percents, QList<int>({110, 125, 150, 125, 110, 100, 100}));
-    EXPECT_TRUE(grid.EditMode()) << "a minus alone is typed";
 }

@@ -2,6 +2,7 @@
 #include "MainWindowFixture.h"
 #include "document/FileCommands.h"
 #include "document/RecoveryKeeper.h"
+#include "support/Shown.h"
 
 struct RecoveryOfferTest : MainWindowFixture
 {
@@ -78,15 +79,40 @@ TEST_F(RecoveryOfferTest, TakesOnlyWhatIsSelected)
 {
     for (const char *name : {"a.gla", "b.gla", "c.gla"})
         change(writeVocabulary(name));
+    writeVocabulary("b.gla");
+    frmDoc *untitled = newDocument();
+    untitled->setCaption(QString(90, 'w'));
+    untitled->Rutor()->setTextMatrix(1, 1, "left");
+    keeper->flush();
+    alert.answers = {AlertBox::AnswerYes};
+    untitled->frame()->close();
     start();
     alert.answers = {AlertBox::AnswerYes};
-    answer({}, "btnDiscard", [](QTreeWidget &list) {
-        list.topLevelItem(0)->setSelected(false);
-        EXPECT_EQ(list.topLevelItem(0)->text(0), "c") << "the newest first";
-        for (const auto &[column, text] : {std::pair(0, 12613), {1, 14066}, {2, 12615}, {3, 12614}})
-            EXPECT_EQ(list.headerItem()->text(column), resText(text));
+    answer({}, "btnDiscard", [this](QTreeWidget &list) {
+        QString table;
+        for (int row = -1; row < list.topLevelItemCount(); ++row) {
+            const QTreeWidgetItem &item = row < 0 ? *list.headerItem() : *list.topLevelItem(row);
+            for (int column = 0; column < list.columnCount(); ++column)
+                table += item.text(column) + (column == 3 ? "\n" : " | ");
+            EXPECT_EQ(item.toolTip(0) + item.toolTip(3), row < 0 ? "" : item.text(0) + item.text(3));
+            table.remove(QRegularExpression("\\d\\d [A-Z].. 20\\d\\d \\d\\d:\\d\\d:\\d\\d"));
+        }
+        EXPECT_EQ(table.replace(folder.path(), "@").replace(QString(90, 'w'), "w").toStdString(),
+                  "Vocabulary | Reason | Last change | Folder\nw | Closed without saving |  | Not saved yet\n"
+                  "c | Ended unexpectedly |  | @\nb (its file has been changed since) | Ended unexpectedly |  | @\n"
+                  "a | Ended unexpectedly |  | @\n");
+        EXPECT_LE(list.columnWidth(0), list.window()->width() / 3);
+        EXPECT_GE(list.columnWidth(2), list.fontMetrics().horizontalAdvance(list.topLevelItem(0)->text(2)));
+        list.clearSelection();
+        EXPECT_EQ(shown(*list.window()).section(": | ", 1), "? | (&Recover) | (&Discard) | Decide &Later");
+        list.selectAll();
+        for (const int row : {0, 1})
+            list.topLevelItem(row)->setSelected(false);
     });
     EXPECT_EQ(alert.onlyPrompt(), resText(12620).arg(2));
-    answer({}, "btnRecover", [](QTreeWidget &list) { EXPECT_EQ(list.topLevelItemCount(), 1); });
+    answer({}, "btnRecover", [](QTreeWidget &list) {
+        list.topLevelItem(0)->setSelected(false);
+        EXPECT_EQ(list.topLevelItemCount(), 2);
+    });
     EXPECT_EQ(captions(), "c* ");
 }

@@ -1,10 +1,15 @@
 #include "MainWindowFixture.h"
 
+#include "app/ToolkitLanguage.h"
 #include "app/modKod.h"
 #include "app/rules/CommandLine.h"
+#include "platform/FileAssociation.h"
 #include "platform/files/UserFolders.h"
+#include "platform/instance/InstancePlace.h"
+#include "platform/instance/SingleInstance.h"
 
 #include <csignal>
+#include <thread>
 
 namespace {
 
@@ -16,33 +21,50 @@ QWidget *shown(const char *name)
     return found == all.end() ? nullptr : *found;
 }
 
-/// Runs the program until its file is open and changed, then has it ended by signals while a dialog waits. Returns what
-/// was on the screen, one after the other.
-QStringList run(const CommandLine &line)
+/// Runs the program until its file is open and changed and another copy of it has handed over a second one, then has it
+/// ended by signals while a dialog waits. Returns what was on the screen, one after the other.
+QStringList run(const CommandLine &line, const QString &second)
 {
     QStringList seen;
     QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, [&seen] {
+    std::thread other;
+    const auto startOther = [&second] { SingleInstance(InstancePlace::socketPath()).start(second, {}); };
+    QObject::connect(&watch, &QTimer::timeout, [&] {
         auto *window = static_cast<frmApp *>(shown("frmApp"));
         QWidget *modal = QApplication::activeModalWidget();
-        frmDoc *words = window ? window->context().documents.active() : nullptr;
-        const QString now =
-            QString(shown("frmSplash") ? "splash " : "") + (window ? "window " : "") + (words ? "words" : "");
+        QStringList now{QApplication::overrideCursor() ? "busy" : "", shown("frmSplash") ? "splash" : ""};
+        if (window) {
+            now += "window in mode " + QString::number(window->buttonPicture("Model") - 22);
+            for (const frmDoc *each : window->context().documents.open())
+                now += each->Caption() + (each->Dirty() ? "*" : "");
+        }
+        now.removeAll("");
         if (auto *box = qobject_cast<QMessageBox *>(modal)) {
+            EXPECT_EQ(box->parentWidget(), window);
             seen += QDir(UserFolders::state() + "/recovery").isEmpty() ? "asks" : "asks with a copy";
             box->button(seen.filter("asks").size() == 1 ? QMessageBox::Cancel : QMessageBox::No)->click();
-        } else if (seen.isEmpty() || seen.last() != now) {
-            seen += now;
+        } else if (seen.isEmpty() || seen.last() != now.join(' ')) {
+            seen += now.join(' ');
         } else if (modal) {
             ::raise(SIGTERM);
-        } else if (words) {
-            words->Rutor()->setTextMatrix(1, 1, "changed");
-            words->setDirty(true);
+        } else if (window && window->context().documents.open().size() == 1 && !other.joinable()) {
+            frmDoc &words = *window->context().documents.open().front();
+            window->DoMenuClick("Model");
+            words.Rutor()->setTextMatrix(1, 1, "changed");
+            words.setDirty(true);
+            window->showMinimized();
+            other = std::thread(startOther);
+        } else if (now.size() == 3) {
+            EXPECT_FALSE(window->isMinimized());
+            EXPECT_TRUE(QApplication::style()->inherits("ProgramStyle"));
             QTimer::singleShot(0, window, [window] { window->DoMenuClick("mnuVocabularyLanguage"); });
         }
     });
     watch.start(20);
-    EXPECT_EQ(modKod::run(*qApp, line), 0);
+    bool isReady = false;
+    EXPECT_EQ(modKod::run(*qApp, line, [&isReady] { isReady = true; }), 0);
+    EXPECT_TRUE(isReady);
+    other.join();
     QApplication::setStyle("Fusion");
     return seen;
 }
@@ -52,13 +74,22 @@ TEST(Start, ShowsSplashWindowAndFileInTurnAndASignalEndsItAmidADialog)
     const QTemporaryDir folder;
     CommandLine line;
     line.text = writeFile(folder.filePath("words.gla"), emptyVocabulary());
+    const QString second = writeFile(folder.filePath("second.gla"), emptyVocabulary());
     QElapsedTimer clock;
     clock.start();
-    EXPECT_EQ(run(line).join(", ").toStdString(),
-              "splash , splash window , window words, asks with a copy, window words, asks with a copy");
+    EXPECT_EQ(
+        run(line, second).join(", ").toStdString(),
+        "busy splash, splash, splash window in mode 1, window in mode 1 words, window in mode 2 words* second, asks "
+        "with a copy, window in mode 2 words* second, asks with a copy");
     EXPECT_GE(clock.elapsed(), 3000);
+    EXPECT_TRUE(FileAssociation::isInstalled() ||
+                QFile::exists(UserFolders::sharedData() + "/applications/glosaria.desktop"));
     line.splash = false;
-    EXPECT_FALSE(run(line).join(", ").contains("splash"));
+    EXPECT_EQ(
+        run(line, second).join(", ").toStdString(),
+        "window in mode 2 words, window in mode 3 words* second, asks with a copy, window in mode 3 words* second, "
+        "asks with a copy")
+        << "in the mode of the last time";
     EXPECT_FALSE(QApplication::overrideCursor());
 }
 
@@ -82,7 +113,19 @@ TEST(Start, AnswersQuestionsWithoutADisplay)
     int exitCode = 0;
     EXPECT_FALSE(modKod::answer(CommandLine::parse({"words.gla"}, "/"), exitCode));
     EXPECT_EQ(modKod::textLanguage(CommandLine::parse({"--language", "fr"}, "/")), "fr");
-    EXPECT_EQ(modKod::convert({"one file"}), 2);
+    const QTemporaryDir folder;
+    const QString list = writeFile(folder.filePath("a.csv"), "a,b\n"), vocabulary = folder.filePath("a.gla");
+    EXPECT_EQ(modKod::convert({list}), 2);
+    EXPECT_EQ(modKod::convert({list, vocabulary}), 0);
+    EXPECT_TRUE(readFile(vocabulary).contains("a   [0000000285]\r\nb\r\n"));
+    {
+        const ToolkitLanguage arabic(*qApp, "ar");
+        EXPECT_EQ(QApplication::layoutDirection(), Qt::RightToLeft);
+        EXPECT_FALSE(QCoreApplication::translate("QPlatformTheme", "Cancel").contains('C'));
+        EXPECT_FALSE(QCoreApplication::translate("QAbstractFileIconProvider", "Folder").contains('F'));
+        EXPECT_NE(QCoreApplication::translate("QPrintDialog", "Double Sided Printing"), "Double Sided Printing");
+    }
+    QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 } // namespace

@@ -60,6 +60,7 @@ struct WordsToAskTest : MainWindowFixture
 
 TEST_F(WordsToAskTest, TheButtonRepeatsTheLastKindOfQuizOnceThereAreWords)
 {
+    EXPECT_EQ(entries("mnuQuizWords").join(u' '), "All Words Selected Rows (Words Due) Words Missed (Hardest Words)");
     newDocument();
     EXPECT_EQ(asked("mnuQuizQA"), 0);
     EXPECT_EQ(resText(12013), status(0));
@@ -75,28 +76,13 @@ TEST_F(WordsToAskTest, TheButtonRepeatsTheLastKindOfQuizOnceThereAreWords)
     }
 }
 
-TEST_F(WordsToAskTest, TheMenuOffersAllWordsAtFirstAndWithoutAMemoryNoneThatItWouldKnow)
-{
-    EXPECT_EQ(entries("mnuQuizWords").join(u' '), "All Words Selected Rows (Words Due) Words Missed (Hardest Words)");
-    for (const char *chosen : {"mnuWordsAll", "mnuWordsSelected", "mnuWordsMissed"}) {
-        window->DoMenuClick(chosen);
-        Q_EMIT menu("mnuQuiz")->aboutToShow();
-        for (const QAction *entry : menu("mnuQuizWords")->actions())
-            EXPECT_EQ(entry->isChecked(), entry->objectName() == chosen) << chosen;
-    }
-}
-
 TEST_F(WordsToAskTest, SelectedRowsAreCountedAndAsked)
 {
-    const QString mode = status(2);
-    EXPECT_EQ(asked("mnuQuizStudy"), 30);
     window->DoMenuClick("mnuWordsSelected");
     document->select({3, 1, 12, 2});
     EXPECT_EQ(note(), "selected: 10");
-    EXPECT_TRUE(status(2).startsWith(mode));
     EXPECT_EQ(asked("mnuQuizMultiple"), 10);
     window->DoMenuClick("mnuMode5");
-    EXPECT_EQ(note(), "selected: 10");
     settings.setQuizOptions({.mostWords = 4});
     EXPECT_EQ(asked("mnuQuizQA"), 8);
     frmDoc *other = newDocument();
@@ -122,12 +108,6 @@ TEST_F(WordsToAskTest, WhereNoChosenWordIsLeftAllAreOffered)
             EXPECT_EQ(note().isEmpty(), all);
         }
     }
-    document->Rutor()->setWords({"", "1", "2"}, {"", "1", "2"}, {});
-    window->DoMenuClick("mnuWordsMissed");
-    alert.shown.clear();
-    EXPECT_EQ(asked("mnuQuizMultiple"), 0);
-    EXPECT_TRUE(alert.shown.empty()) << "all of them are too few too";
-    EXPECT_EQ(status(0), resText(12013));
 }
 
 TEST_F(WordsToAskTest, AQuizThatWasLeftGoesOnAsItWas)
@@ -200,32 +180,24 @@ TEST_F(WordsToAskTest, MissedWordsAreListedCopiedAskedAgainAndKept)
     EXPECT_EQ(asked("mnuQuizStudy"), 2);
 }
 
-TEST_F(WordsToAskTest, LettersOfTheAnswersColumnStandBelowTheAnswerAndOnWishBelowTheGrid)
+TEST_F(WordsToAskTest, LettersOfTheColumnStandOnWishBelowTheGrid)
 {
     ctlGrid &grid = *document->Rutor();
     grid.setTextMatrix(1, 1, "ñ");
     grid.setTextMatrix(2, 2, "é");
-    const auto shown = [](const QWidget &place) {
+    const auto shown = [&] {
         QString letters;
-        for (const LetterRow *row : place.findChildren<LetterRow *>()) {
-            for (const QToolButton *button : row->findChildren<QToolButton *>())
-                letters += row->isVisible() ? button->text() : QString();
-        }
+        for (const QToolButton *button : document->findChildren<QToolButton *>())
+            letters += button->isVisible() ? button->text() : "";
         return letters;
     };
-    settings.setQuizMode(2);
-    asked("mnuQuizQA", [&](const OpenQuiz &quiz) {
-        EXPECT_EQ(shown(quiz.window), "ñ");
-        QTest::keyClick(quiz.window.focusWidget(), Qt::Key_1, Qt::ControlModifier);
-        EXPECT_EQ(quiz.box->text(), "ñ") << "in place of the prompt";
-    });
-    EXPECT_EQ(shown(*document), "");
+    EXPECT_EQ(shown(), "");
     window->DoMenuClick("mnuVocabularyLetters");
     EXPECT_TRUE(settings.ShowLetters());
     QCoreApplication::processEvents();
     for (const auto &[column, letter] : {std::pair(1, "ñ"), {2, "é"}}) {
         document->select({3, column, 3, column});
-        EXPECT_EQ(shown(*document), letter);
+        EXPECT_EQ(shown(), letter);
     }
     for (int i = 0; i < 2; ++i)
         QTest::mouseClick(document->findChild<LetterRow *>()->findChild<QToolButton *>(), Qt::LeftButton);
@@ -235,5 +207,5 @@ TEST_F(WordsToAskTest, LettersOfTheAnswersColumnStandBelowTheAnswerAndOnWishBelo
     EXPECT_TRUE(document->Dirty());
     EXPECT_EQ(undo.kind(), UndoKind::Entry);
     window->DoMenuClick("mnuVocabularyLetters");
-    EXPECT_EQ(shown(*document), "");
+    EXPECT_EQ(shown(), "");
 }
