@@ -90,7 +90,7 @@ TEST_F(FindReplace, ShowsMatchAfterMatchAndReportsTheEnd)
 
     dialog->close();
     EXPECT_TRUE(!flags.searching() && !grid.EditMode() && undo.kind() == UndoKind::None && !document.Dirty());
-    play("on -> 2 4, on -> 3 4, back -> 2 4, on -> 3 4, on -> 1 5, back -> 3 5",
+    play("on -> 2 4, on -> 3 4, back -> 2 4, on -> 3 4, on -> 1 5, back -> 3 6",
          [this] { return QString("%1 %2").arg(document.selection().bottom()).arg(alert.shown.size()); },
          {{"on", [this] { FindOn::run(document, last, false, alert, &window); }},
           {"back", [this] { FindOn::run(document, last, true, alert, &window); }}});
