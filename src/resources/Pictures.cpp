@@ -69,7 +69,6 @@ public:
     }
 
     QIconEngine *clone() const override { return new PictureEngine(*this); }
-    QString key() const override { return QStringLiteral("GlosariaPicture"); }
     bool isNull() override { return false; }
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
