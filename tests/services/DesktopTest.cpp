@@ -138,7 +138,8 @@ TEST_F(StyleTest, TitlesOfDocumentsCanBeRead)
         if (palette == Light && !active)
             EXPECT_EQ(bar, look(title, *plain));
         else
-            EXPECT_TRUE(letters > 3 && shadow > 1.5 && signs > 3) << letters << ' ' << shadow << ' ' << signs;
+            EXPECT_TRUE(letters > 3 && shadow > 1.5 && signs > 3 &&
+                        active == (bar.pixelColor(60, 14).saturation() > 30));
     }
 }
 
@@ -242,7 +243,8 @@ TEST(ScreenFitTest, DialogsLargerThanTheScreenScrollAndKeepTheirButtons)
             const int beside = dialog.width() - part->mapTo(&dialog, QPoint(part->width(), 0)).x();
             EXPECT_TRUE(part == last[0] || (beside >= 9 && beside <= 11)) << beside;
         }
-        EXPECT_TRUE(!area || (area->verticalScrollBar()->value() > 0 && area->horizontalScrollBar()->maximum() == 0 &&
+        EXPECT_TRUE(!area || (area->geometry().topLeft().isNull() && area->width() == dialog.width() &&
+                              area->verticalScrollBar()->value() > 0 && area->horizontalScrollBar()->maximum() == 0 &&
                               area->widget()->width() == area->viewport()->width()));
     }
 }
@@ -268,7 +270,6 @@ TEST(ScreenFitTest, DialogsThatAreTooWideBecomeNarrowerBeforeTheyScroll)
         column->addWidget(new QCheckBox(text.join(u' ')));
     }
     dialog.show();
-    EXPECT_LE(dialog.width(), QGuiApplication::primaryScreen()->availableSize().width());
     EXPECT_TRUE(!dialog.findChild<QScrollArea *>() && list.minimumWidth() == 0);
     EXPECT_EQ(box.minimumWidth(), 10 * box.fontMetrics().horizontalAdvance(u'X'));
     for (size_t i = 0; i < std::size(texts); ++i)

@@ -10,9 +10,8 @@ struct HelpViewerTest : ::testing::Test
     ScriptedAlertBox alert;
     QString kept = folder.filePath("favorites");
     std::unique_ptr<HelpViewers> viewers = std::make_unique<HelpViewers>(alert, kept);
-    HelpTarget target;
+    HelpTarget target{.HTMLHelpFile = HELP_FILE};
 
-    HelpViewerTest() { target.HTMLHelpFile = HELP_FILE; }
     HelpViewer *window() { return viewers->window(target.HelpWindow); }
     template <class Part = HelpBrowser> Part *part(QString name = {}) { return window()->findChild<Part *>(name); }
     bool show(HelpCommand command, const QVariant &data = {}) { return viewers->HtmlHelp(target, command, data); }
@@ -68,8 +67,9 @@ struct HelpViewerTest : ::testing::Test
         QStringList parts(window()->isVisible() ? shown(*window()) : "closed");
         parts << tools.join(", ") << QString("%1 x %2").arg(window()->width()).arg(window()->height())
               << window()->page() << QString::number(part()->font().pointSizeF() - QFont().pointSizeF())
-              << (part()->document()->firstBlock().textDirection() ? "from right to left" : "") << marked.join('*')
-              << window()->focusWidget()->objectName() << (chapter ? chapter->text(0) : "") << entries.join(", ");
+              << QString::number(part()->document()->defaultTextOption().textDirection()) << marked.join('*')
+              << window()->focusWidget()->objectName() << QString::number(part<HelpNavigation>()->isVisible())
+              << (chapter ? chapter->text(0) : "") << entries.join(", ");
         return parts.join('\n') + '\n';
     }
 };

@@ -77,29 +77,27 @@ TEST_F(AppPropertiesTest, ValuesThatCannotBeTrustedAreRepaired)
     EXPECT_EQ(with(QByteArray(39, '\xff')), (std::array{10, 1, 0}));
     EXPECT_EQ(with(QByteArray(39, '\x7f')), (std::array{clsAppProperties::LargestFontSize, 1, 0x7f7f7f7f}));
     EXPECT_EQ(with(QByteArray(18, '\0') + QByteArray("\1\0\5\0", 4)), (std::array{1, 5, 0}));
-    const RegistryValue tooMany{RegistryType::Number, 32768u}, text{RegistryType::String, QString(" ")};
+    const RegistryValue text{RegistryType::String, QString(" ")};
+    const auto number = [](quint32 value) { return RegistryValue{RegistryType::Number, value}; };
     const std::vector<std::pair<const char *, RegistryValue>> values{
-        {"QuizMostWords", tooMany}, {"ShowLetters", tooMany}, {"QuizRememberAnswers", tooMany},
-        {"QuizMostWords", text},    {"FontName", text},       {"QuizMostWords", {RegistryType::Number, 0xffffffffu}}};
+        {"QuizMostWords", number(32768)}, {"ShowLetters", number(2)}, {"QuizRememberAnswers", number(2)},
+        {"QuizMostWords", text},          {"FontName", text},         {"QuizMostWords", number(UINT_MAX)},
+        {"QuizWindowWidth", number(9)}};
     for (const auto &[name, value] : values) {
         store.setValue(HKEY_CURRENT_USER, Key, name, value);
         settings.ReadProperties();
         EXPECT_EQ(settings.quizOptions(), QuizOptions()) << name;
-        EXPECT_TRUE(settings.FontName() == "Arial" && !settings.ShowLetters()) << name;
+        EXPECT_TRUE(settings.FontName() == "Arial" && !settings.ShowLetters() && settings.QuizWindow().isEmpty());
     }
-    const QPoint first(-32767, -32767), last(32767, 32767);
-    const std::pair<QRect, bool> places[] = {{{0, 1, 1, 1}, true},
-                                             {{1, 0, 1, 1}, true},
-                                             {{first, last}, true},
-                                             {{9, 9, 0, 9}, false},
-                                             {{9, 9, 9, -9}, false},
-                                             {{first - QPoint(1, 0), last}, false},
-                                             {{first, last + QPoint(0, 1)}, false},
-                                             {{0, 0, INT_MAX, 9}, false}};
-    for (const auto &[place, kept] : places) {
+    // edges, first of places that a screen can have
+    const int edges[][4] = {{0, 1, 0, 1},     {1, 0, 1, 0},      {-32767, -32767, 32767, 32767},
+                            {9, 9, 8, 9},     {9, 9, 9, -9},     {-32768, 0, 9, 9},
+                            {0, 0, 9, 32768}, {0, 0, INT_MAX, 9}};
+    for (int i = 0; i < 8; ++i) {
+        const QRect place(QPoint(edges[i][0], edges[i][1]), QPoint(edges[i][2], edges[i][3]));
         settings.setQuizWindow(place);
         settings.SaveProperties();
         settings.ReadProperties();
-        EXPECT_EQ(settings.QuizWindow(), kept ? place : QRect());
+        EXPECT_EQ(settings.QuizWindow(), i < 3 ? place : QRect());
     }
 }

@@ -45,6 +45,7 @@ TEST_F(MRUFileListTest, CaptionShortensTheMiddleOfThePath)
         "/abc\U0001F600\U0001F600\U0001F600\U0001F600/words.gla = /abc.../words.gla";
     for (const QString &each : cases.split("; "))
         EXPECT_EQ(with(each.section(" = ", 0, 0)).MenuCaption(1), "&1 " + each.section(" = ", 1));
+    EXPECT_EQ(with("/a" + QString(QChar::Null) + "b").MenuCaption(1), "&1 /a");
 }
 
 TEST_F(MRUFileListTest, SavedListComesBackAsFarAsItsNumbersCanBeTrusted)
