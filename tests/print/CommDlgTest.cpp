@@ -174,7 +174,8 @@ TEST_F(RealDialogs, SaveAsAsksAboutTheRealTargetAndGoesBackOnNo)
                 onNext<QMessageBox>([](QMessageBox &last) { last.button(QMessageBox::Yes)->click(); });
                 type(again, "fileNameEdit", "small.txt", Qt::Key_Return);
             });
-            QTest::keyClick(&box, Qt::Key_Return); // No
+            EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No));
+            box.button(QMessageBox::No)->click();
         });
         type(window, "fileNameEdit", "small", Qt::Key_Return);
     });
@@ -235,13 +236,14 @@ TEST_F(RealDialogs, PrintTakesPagesThatAreThereAndKeepsThePaper)
     dialog.setAction(clsCommDlg::ActionPrint);
     std::tie(dialog.MinPage, dialog.MaxPage) = std::pair(1, 5);
     const std::tuple<int, const char *, const char *, const char *, const char *> cases[] = {
-        {0x100014, "printRange", "0", "9", "printAll printRange   1 5 100016"},
-        {0x100014, "printRange", "4", "2", "printAll printRange   2 4 100016"},
-        {0x100010, "printSelection", "", "", "printAll printRange printSelection  0 0 100011"}};
+        {0x100014, "printRange", "0", "9", "Print to File (PDF) printAll printRange   1 5 100016"},
+        {0x100014, "printRange", "4", "2", "Print to File (PDF) printAll printRange   2 4 100016"},
+        {0x100010, "printSelection", "", "", "Print to File (PDF) printAll printRange printSelection  0 0 100011"}};
     for (const auto &[flags, range, from, to, expected] : cases) {
         dialog.flags = flags;
         QStringList offers;
         onNext<QPrintDialog>([&, range = range, from = from, to = to](QPrintDialog &window) {
+            offers << window.findChild<QComboBox *>("printers")->currentText();
             for (const char *name : {"printAll", "printRange", "printSelection", "printCurrentPage"}) {
                 const auto *button = window.findChild<QRadioButton *>(name);
                 offers << (button && button->isVisible() && button->isEnabled() ? name : "");

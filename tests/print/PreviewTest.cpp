@@ -109,11 +109,12 @@ TEST_F(Preview, TurnsPagesAndZoomsKeepingThePage)
         "PgDown -> <Page 2 of 3> 264, End -> <Page 3 of 3 264, PgUp -> <Page 2 of 3> 264, Home -> Page 1 of 3> 264, "
         "notch down -> <Page 2 of 3> 264, half a notch up -> <Page 2 of 3> 264, "
         "half a notch up -> Page 1 of 3> 264, notch down -> <Page 2 of 3> 264, "
-        "leave -> <Page 2 of 3> 264, control-click -> <Page 2 of 3> 264, right-click -> <Page 2 of 3> 264, click -> "
+        "leave -> <Page 2 of 3> 264 left, control-click -> <Page 2 of 3> 264, right-click -> <Page 2 of 3> 264, click "
+        "-> "
         "<Page 2 of 3> 397, "
         "click -> <Page 2 of 3> 793, click -> <Page 2 of 3> 793, control-click -> <Page 2 of 3> 397, "
         "- -> <Page 2 of 3> 264, + -> <Page 2 of 3> 397",
-        [this] { return shown(); }, actions);
+        [this] { return shown() + (page()->hasFocus() ? "" : " left"); }, actions);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(host.area.findChildren<frmPrtPrev *>().size(), 1) << "however many pages";
     QKeyEvent repeated(QEvent::KeyRelease, Qt::Key_PageDown, Qt::NoModifier, {}, true);
@@ -183,7 +184,8 @@ TEST_F(Preview, PrintsPagesAndCopiesAsChosenInOneJob)
 {
     const std::pair<PrintChoice, std::vector<int>> cases[] = {{{1, 2, 2, true, false, true}, {2}},
                                                               {{2, 1, 2, false, false, false}, {1, 1, 2, 2}}};
-    const PrintSource source = sourceOf(RowsOfPage + 1);
+    PrintSource source = sourceOf(RowsOfPage + 1);
+    source.Folder = "/ann";
     commands.PrintDocument(source); // cancelled
     EXPECT_TRUE(printer.sheets.empty() && alerts.shown.empty() && host.status.isEmpty());
     for (const auto &[choice, sheets] : cases) {
@@ -195,7 +197,7 @@ TEST_F(Preview, PrintsPagesAndCopiesAsChosenInOneJob)
     EXPECT_TRUE(host.status.first() == "Printing page 2" && host.status.last() == "Ready");
     const PrintRequest &asked = dialogs.print;
     EXPECT_EQ(std::pair(asked.minPage, asked.maxPage), std::pair(1, 2));
-    EXPECT_TRUE(asked.owner == &host.frame && asked.collate && !asked.offerSelection);
+    EXPECT_TRUE(asked.folder == "/ann" && asked.owner == &host.frame && asked.collate && !asked.offerSelection);
     EXPECT_EQ(printer.docName, "Glosaria - Words");
     printer.sheets.clear();
     printer.failingSheet = 2;

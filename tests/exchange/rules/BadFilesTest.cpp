@@ -65,6 +65,8 @@ TEST(BadFiles, EachEndsInItsOwnReason)
         {zipOf({{"xl/workbook.xml", "<a/>"}})
              .replace(QByteArray("\x14\0\0\0\0\0", 6), QByteArray("\x14\0\0\0\x61\0", 6)),
          ReadError::Damaged}, // packed in an unknown way
+        {zipOf({{"XL/WORKBOOK.XML", "<a/>"}}), ReadError::OtherKind},
+        {zipOf({{"mimetype", "opendocument.spreadsheet"}, {"CONTENT.XML", "<a/>"}}), ReadError::Damaged},
         {zipOf({{"collection.anki21b", "no frame"}}), ReadError::Damaged},
         {zipOf({{"collection.anki2", "no database"}}), ReadError::Damaged},
         {zipOf({{"mimetype", "application/vnd.oasis.opendocument.spreadsheet"}}), ReadError::Damaged},
@@ -111,8 +113,9 @@ TEST(BadFiles, OddOnesArriveAllTheSame)
         {"\"a\",\"b\"\"c\"\n\"d\ne\",f\nx\"y,\"z\n", {"|", "a|b\"c", "d e|f", "x\"y|\"z"}},
         {ods(row(Cell + "<table-cell number-columns-repeated='2000000000'/>" + Cell)), {"|", "a|"}},
         {ods(row("<table-cell formula='" + QByteArray(300, '=') + "'><p>a</p></table-cell>" + Cell)), {"|", "a|a"}},
-        {ods("<!-- > --><table><shapes>" + Cell + "</shapes>" + QByteArray("<x/>").repeated(300000) + "<table-row>" +
-             Cell + "</table-row></table>"),
+        {ods(row(Cell + "<covered-table-cell/>" + Cell)), {"|", "a|a"}},
+        {ods("<?xml version='1.0'?><table><shapes>" + Cell + "</shapes>" + QByteArray("<x/>").repeated(300000) +
+             "<!-- > -->" + QByteArray("<x/>").repeated(300000) + "<table-row>" + Cell + "</table-row></table>"),
          {"|", "a|"}},
         {cards({Notes, Cards, "CREATE TABLE decks (id integer, name text)", "INSERT INTO notes VALUES (1, 2, 'a')"}),
          {"|", "a|"}},

@@ -36,7 +36,7 @@ TEST(OddFiles, WorkbooksArriveAsTheyShow)
 {
     const std::pair<QByteArray, const char *> cases[] = {
         {zippedFolder(Data + "odd/ods"), "a   b c d|e f~|g~|g~h|h"},
-        {zippedFolder(Data + "odd/xlsx"), "one|two~|1904-01-02~50%|1.5~#N/A|in~FALSE|TRUE~|x~|2"},
+        {zippedFolder(Data + "odd/xlsx"), "one|two~|1904-01-02~50%|1.5~#N/A|in~FALSE|TRUE~|x~|2~3|4"},
         {readFile(Data + "odd/gnumeric.xml"), "1|2.5~1.00|1904-01-02~2.00|1904-01-04~50.0%|0.25~5|~TRUE|x"}};
     for (const auto &[bytes, words] : cases)
         EXPECT_EQ(pairsOf(bytes), QStringList("|") + QString(words).split('~'));

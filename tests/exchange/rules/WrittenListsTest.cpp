@@ -39,6 +39,7 @@ TEST(WrittenLists, ComeBackAsTheyWere)
         EXPECT_TRUE(words.first == std::vector(odd.first.begin(), odd.first.end() - 1)) << int(format);
         EXPECT_TRUE(words.second == std::vector(odd.second.begin(), odd.second.end() - 1)) << int(format);
     }
+    EXPECT_EQ(ListWriter::write({}, Format::Csv, "t"), "");
     Vocabulary few;
     few.append("A", "#");
     few.append("x\ny", "<b>&");

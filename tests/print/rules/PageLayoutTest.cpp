@@ -70,9 +70,10 @@ TEST_F(PageLayout, BreaksThePageAfterTheRowThatFillsIt)
                                                {98, 3, 0}, {99, 3, 99}, {100000, 2041, 99961}};
     for (const auto &[rows, pages, lastPageFirstRow] : cases) {
         source = sourceOf(rows);
+        source.ForeColor = 0x0000ff;
         ASSERT_EQ(layout().pageCount(), pages) << rows;
         const RecordingSurface last = page(pages - 1);
-        EXPECT_EQ(last.texts.back().text, QString::number(pages));
+        EXPECT_TRUE(last.texts.back().text == QString::number(pages) && last.texts.back().color == 0xffff0000);
         EXPECT_EQ(last.texts.size() > 4 ? last.texts[3].text.toInt() : 0, lastPageFirstRow);
     }
 }

@@ -80,8 +80,7 @@ private:
         }
         const QStringView tag = m_markup.mid(m_at + 1, end - m_at - 1);
         m_at = end + (comment ? 3 : 1);
-        if (!comment)
-            leaveOut(tag);
+        leaveOut(tag);
         return true;
     }
 
