@@ -3,7 +3,6 @@
 #include "document/rules/Vocabulary.h"
 #include "platform/Twips.h"
 #include "resources/StringTable.h"
-#include "widgets/grid/FlexGridLook.h"
 
 #include <QResizeEvent>
 #include <QStyle>
@@ -19,15 +18,9 @@ ImportPreview::ImportPreview(QWidget *parent)
     : FlexGrid(parent)
 {
     setCols(3);
-    setFixedCols(1);
-    setFixedRows(1);
     setRowNumbers(true);
     for (int col = 1; col < 3; ++col)
         setColAlignment(col, LeftCentre);
-    setBackColorFixed(FlexGridLook::ButtonFaceColour);
-    setForeColorFixed(FlexGridLook::ButtonTextColour);
-    setBackColorSel(FlexGridLook::HighlightColour);
-    setForeColorSel(FlexGridLook::HighlightTextColour);
     setGridFont(VocabularyFont().toFont());
 }
 

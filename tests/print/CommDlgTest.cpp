@@ -301,6 +301,8 @@ TEST(PageSetup, OffersPrintersAndWhatEachCanDo)
     }
     frmPageSetup other(offers, {{}, QPageSize(QSizeF(300, 500), QPageSize::Point), {}, {}}, nullptr);
     EXPECT_EQ(other.setup().paper.sizePoints(), QSize(300, 500)) << "a paper that is not among the common ones";
+    const PrinterOffer pdf = offeredPrinters().back();
+    EXPECT_TRUE(std::all_of(pdf.papers.begin(), pdf.papers.end(), [](const auto &paper) { return paper.isValid(); }));
 }
 
 TEST(TestDialog, OffersTheLastChoiceAndTellsTheNew)
