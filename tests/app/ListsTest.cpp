@@ -38,42 +38,28 @@ const QString Data = SOURCE_FOLDER "/tests/exchange/data/";
 TEST_F(ListsTest, EachKindShowsTheChoicesThatItHas)
 {
     const QString vocabulary = writeVocabulary("v.gla");
-    const std::pair<QString, const char *> cases[] = {
-        {vocabulary,
-         "Language &1: | {Column 1: English} | Language &2: | {Column 2: German} | S&wap | [ ] Turn &markup "
-         "into text | 0 rows arrive. | ? | (OK) | Cancel"},
-        {writeFile(folder.filePath("t"), "a\tb\nc\t<i>d</i>\n"),
-         "&Separator: | {Tab} | <Tab> | &Encoding: | {Unicode (UTF-8)} | Language &1: | {Column 1} | Language &2: | "
-         "{Column 2} | S&wap | [ ] &First row holds the names of the languages | [x] Turn &markup into text | 2 rows "
-         "arrive. | ? | OK | Cancel"},
-        {Data + "libreoffice.ods",
-         "S&heet: | {Words} | Language &1: | {Column 1: English} | Language &2: | {Column 2: German} | S&wap | [x] "
-         "&First row holds the names of the languages | [ ] Turn &markup into text | 10 rows arrive.\nDropped: 3 rows "
-         "without a word. | ? | OK | Cancel"},
-        {Data + "new.apkg",
-         "&Deck: | {All Decks} | Language &1: | {Column 1: Deutsch} | Language &2: | {Column 2: "
-         "English} | S&wap | [x] Turn &markup into text | 3 rows arrive.\nDropped: 1 other column. | "
-         "? | OK | Cancel"}};
+    const QString paths[] = {vocabulary, writeFile(folder.filePath("t"), "a\tb\nc\t<i>d</i>\n"),
+                             Data + "libreoffice.ods", Data + "new.apkg"};
+    QString found;
     window->OpenRequestedFile(vocabulary);
-    const QString where = " | [x] Into a &new vocabulary | [ ] Into &this vocabulary, at the current row";
-    for (const auto &[path, text] : cases) {
+    for (const QString &path : paths) {
         prompts.openPath = path;
-        EXPECT_TRUE(inDialog("mnuFileImport", [&, text = text](QDialog &dialog) {
+        EXPECT_TRUE(inDialog("mnuFileImport", [&](QDialog &dialog) {
             EXPECT_EQ(status(0), resText(504));
-            EXPECT_EQ(shown(dialog).remove(where).section(" | ", 1).toStdString(), text);
+            found += shown(dialog) + '\n';
             const auto &grid = *dialog.findChild<FlexGrid *>("grdPreview");
             EXPECT_TRUE(grid.Rows() == 1 || grid.selection() == (GridSelection{1, 1, 1, 1}));
             EXPECT_FALSE(grid.findChild<QAbstractScrollArea *>()->horizontalScrollBar()->isVisible());
         }));
         EXPECT_EQ(status(0), resText(506));
     }
+    expectAsIn("imports.txt", found);
     EXPECT_EQ(prompts.folder, folder.path());
     EXPECT_EQ(words(), "English|German, |") << "each was left";
 }
 
 TEST_F(ListsTest, AListIsReadAsThePreviewShowsIt)
 {
-    window->context().lists.exportActive(); // there is nothing to export
     prompts.openPath = writeFile(folder.filePath("list"), "x;English;German;note\n1;house;Haus;\n2;;;n\n3;a,b;c,d;\n");
     QCoreApplication::processEvents(); // the page shows
     inNextDialog([](QDialog &dialog) {
@@ -145,11 +131,6 @@ TEST_F(ListsTest, WhatCannotBeReadOrWrittenIsTold)
 
 TEST(ImportTextsTest, TellWhatArrivesAndWhatDoesNot)
 {
-    EXPECT_EQ(ImportTexts::arriving({1, {}}, 1), "1 row arrives.");
-    EXPECT_EQ(
-        ImportTexts::arriving({1000, {1, 1, 1, 1}}, 1000),
-        "1,000 rows arrive.\nDropped: 1 other column, 1 row without a word, 1 row beyond the most that a vocabulary "
-        "holds, 1 formula whose result the file does not hold.");
     EXPECT_EQ(ImportTexts::arriving({1001, {2, 3, 4, 5}}, 1000),
               "1,001 rows arrive. The first 1000 are shown.\nDropped: 2 other columns, 3 rows without a word, 4 rows "
               "beyond the most that a vocabulary holds, 5 formulas whose results the file does not hold.");

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/CommandTable.h"
 #include "app/DocumentArea.h"
 #include "app/frmApp.h"
 #include "document/DocumentCopies.h"
@@ -22,6 +21,7 @@
 #include "support/ScriptedAlertBox.h"
 #include "support/ScriptedDialogs.h"
 #include "support/ScriptedPrompts.h"
+#include "widgets/LetterRow.h"
 
 /// One of the current version without any word.
 inline QByteArray emptyVocabulary()
@@ -80,6 +80,11 @@ struct MainWindowFixture : ::testing::Test, DocumentCopies
         }
         return list;
     }
+    /// Compares with a file of data/.
+    static void expectAsIn(const char *name, const QString &found)
+    {
+        EXPECT_EQ(found.toStdString(), readFile(QString(SOURCE_FOLDER "/tests/app/data/") + name).toStdString());
+    }
     /// All that a user sees of the window; its documents with > the active one, * changed, + maximised, - minimised.
     QStringList parts()
     {
@@ -90,8 +95,8 @@ struct MainWindowFixture : ::testing::Test, DocumentCopies
         for (const frmDoc *each : documents().open()) {
             const QWidget &frame = *each->frame();
             open += (each == active ? ">" : "") + each->Caption() + (each->Dirty() ? "*" : "") +
-                    (!frame.isVisible()    ? " hidden"
-                     : frame.isMaximized() ? "+"
+                    (frame.isVisible() ? "" : "hidden ") +
+                    (frame.isMaximized()   ? "+"
                      : frame.isMinimized() ? "-"
                                            : "");
         }
@@ -111,14 +116,22 @@ struct MainWindowFixture : ::testing::Test, DocumentCopies
         for (const QWidget *each :
              window->findChildren<QWidget *>(QRegularExpression("^(frm.*|StartPage|PreviewArea)$")))
             others += each->isVisible() ? each->objectName() : "";
+        for (const LetterRow *each : window->findChildren<LetterRow *>()) {
+            for (const QToolButton *letter : each->findChildren<QToolButton *>())
+                others += each->isVisible() ? letter->text() : "";
+        }
         for (const Alert &each : std::exchange(alert.shown, {}))
             others += each.prompt.section('\r', 0, 0);
         const QString rows = grid ? QString(" of %1 rows, %2%").arg(grid->Rows() - 1).arg(grid->Zoom()) : "";
         QStringList all{"documents: " + open.join(" | "), "words: " + words.join(' ') + rows};
-        all << "edit: " + (grid && grid->EditMode() ? '[' + grid->EditText() + ']' : "") << "said: " + status(0);
+        all << "edit: " + (grid && grid->EditMode() ? '[' + grid->EditText() + "] " + grid->SelText() : "")
+            << "said: " + status(0);
         all << "cell:" + status(1) << "mode: " + status(2) << "undo: " + window->UndoAction();
         all << QString("focus: ") + (focus ? focus->metaObject()->className() : "") << "shown: " + others.join(' ');
         all << "checked: " + checks.join(' ') << "menus: " + titles.join(' ') << "refused: " + refused.join(' ');
+        all << "help: " + (help.calls.empty()
+                               ? ""
+                               : help.calls.back().data.toString() + QString::number(help.calls.back().command));
         all << QString("pictures: %1 %2").arg(window->buttonPicture("Model")).arg(window->buttonPicture("Quiz"));
         for (QString &each : all)
             each = each.simplified().replace(", ", ",");

@@ -27,8 +27,6 @@ TEST_F(PreviewCommandsTest, ThePreviewTakesTheDocumentsPlaceAndGivesItBack)
     }
     frmDoc *active = documents().open()[1];
     window->documentArea()->activate(*active);
-    active->Rutor()->setRow(5);
-    undo.setKind(UndoKind::Clear, active);
     window->DoMenuClick("mnuFilePrintPreview");
     entries("mnuFile");
     EXPECT_FALSE(window->commands().action("mnuFilePrintPreview")->isIconVisibleInMenu());
@@ -44,15 +42,12 @@ TEST_F(PreviewCommandsTest, ThePreviewTakesTheDocumentsPlaceAndGivesItBack)
     window->DoMenuClick("Close");
     for (const auto &[made, place] : places)
         EXPECT_TRUE(made->frame()->isVisible() && made->frame()->geometry() == place);
-    EXPECT_EQ(undo.kind(), UndoKind::Clear);
 }
 
 TEST_F(PreviewCommandsTest, OpeningAFileAndLeavingTheProgramEndThePreview)
 {
     document(1);
-    window->DoMenuClick("mnuEditFind");
     window->DoMenuClick("mnuFilePrintPreview");
-    EXPECT_FALSE(flags.searching());
     window->OpenRequestedFile(folder.filePath("missing.gla"));
     EXPECT_TRUE(preview().isOpen());
     dialogs.pages = PrintChoice{1, 1, 1, false, false, true};
@@ -67,7 +62,6 @@ TEST_F(PreviewCommandsTest, OpeningAFileAndLeavingTheProgramEndThePreview)
     EXPECT_EQ(documents().open().size(), 1U);
     window->OpenRequestedFile(writeVocabulary("other.gla"));
     EXPECT_EQ(documents().active()->Caption(), QString("other"));
-    EXPECT_EQ(window->state(), AppState::StateDocument);
     window->DoMenuClick("mnuFilePrintPreview");
     window->DoMenuClick("mnuFileExit");
     EXPECT_FALSE(preview().isOpen() || window->isVisible());

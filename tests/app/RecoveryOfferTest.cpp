@@ -72,7 +72,6 @@ TEST_F(RecoveryOfferTest, WhatIsRecoveredCountsAsTheFileThatWasAskedFor)
     });
     EXPECT_EQ(captions(), "one* two* ") << "each once";
     EXPECT_EQ(documents().active()->Caption(), "two");
-    EXPECT_EQ(alert.shown.size(), 1u);
 }
 
 TEST_F(RecoveryOfferTest, TakesOnlyWhatIsSelected)
@@ -97,10 +96,7 @@ TEST_F(RecoveryOfferTest, TakesOnlyWhatIsSelected)
             EXPECT_EQ(item.toolTip(0) + item.toolTip(3), row < 0 ? "" : item.text(0) + item.text(3));
             table.remove(QRegularExpression("\\d\\d [A-Z].. 20\\d\\d \\d\\d:\\d\\d:\\d\\d"));
         }
-        EXPECT_EQ(table.replace(folder.path(), "@").replace(QString(90, 'w'), "w").toStdString(),
-                  "Vocabulary | Reason | Last change | Folder\nw | Closed without saving |  | Not saved yet\n"
-                  "c | Ended unexpectedly |  | @\nb (its file has been changed since) | Ended unexpectedly |  | @\n"
-                  "a | Ended unexpectedly |  | @\n");
+        expectAsIn("recovery.txt", table.replace(folder.path(), "@"));
         EXPECT_LE(list.columnWidth(0), list.window()->width() / 3);
         EXPECT_GE(list.columnWidth(2), list.fontMetrics().horizontalAdvance(list.topLevelItem(0)->text(2)));
         list.clearSelection();

@@ -32,13 +32,15 @@ QStringList run(const CommandLine &line, const QString &second)
     QObject::connect(&watch, &QTimer::timeout, [&] {
         auto *window = static_cast<frmApp *>(shown("frmApp"));
         QWidget *modal = QApplication::activeModalWidget();
-        QStringList now{QApplication::overrideCursor() ? "busy" : "", shown("frmSplash") ? "splash" : ""};
+        QStringList now{shown("frmSplash") ? "splash" : ""};
         if (window) {
             now += "window in mode " + QString::number(window->buttonPicture("Model") - 22);
             for (const frmDoc *each : window->context().documents.open())
                 now += each->Caption() + (each->Dirty() ? "*" : "");
         }
         now.removeAll("");
+        if (other.joinable() && now.size() == 2)
+            return; // the second file is on its way
         if (auto *box = qobject_cast<QMessageBox *>(modal)) {
             EXPECT_EQ(box->parentWidget(), window);
             seen += QDir(UserFolders::state() + "/recovery").isEmpty() ? "asks" : "asks with a copy";
@@ -61,9 +63,9 @@ QStringList run(const CommandLine &line, const QString &second)
         }
     });
     watch.start(20);
-    bool isReady = false;
-    EXPECT_EQ(modKod::run(*qApp, line, [&isReady] { isReady = true; }), 0);
-    EXPECT_TRUE(isReady);
+    bool wasBusy = false;
+    EXPECT_EQ(modKod::run(*qApp, line, [&wasBusy] { wasBusy = QApplication::overrideCursor(); }), 0);
+    EXPECT_TRUE(wasBusy);
     other.join();
     QApplication::setStyle("Fusion");
     return seen;
@@ -77,10 +79,9 @@ TEST(Start, ShowsSplashWindowAndFileInTurnAndASignalEndsItAmidADialog)
     const QString second = writeFile(folder.filePath("second.gla"), emptyVocabulary());
     QElapsedTimer clock;
     clock.start();
-    EXPECT_EQ(
-        run(line, second).join(", ").toStdString(),
-        "busy splash, splash, splash window in mode 1, window in mode 1 words, window in mode 2 words* second, asks "
-        "with a copy, window in mode 2 words* second, asks with a copy");
+    EXPECT_EQ(run(line, second).join(", ").toStdString(),
+              "splash, splash window in mode 1, window in mode 1 words, window in mode 2 words* second, asks "
+              "with a copy, window in mode 2 words* second, asks with a copy");
     EXPECT_GE(clock.elapsed(), 3000);
     EXPECT_TRUE(FileAssociation::isInstalled() ||
                 QFile::exists(UserFolders::sharedData() + "/applications/glosaria.desktop"));
@@ -121,7 +122,7 @@ TEST(Start, AnswersQuestionsWithoutADisplay)
     {
         const ToolkitLanguage arabic(*qApp, "ar");
         EXPECT_EQ(QApplication::layoutDirection(), Qt::RightToLeft);
-        EXPECT_FALSE(QCoreApplication::translate("QPlatformTheme", "Cancel").contains('C'));
+        EXPECT_FALSE(QCoreApplication::translate("QLineEdit", "Select All").contains('S'));
         EXPECT_FALSE(QCoreApplication::translate("QAbstractFileIconProvider", "Folder").contains('F'));
         EXPECT_NE(QCoreApplication::translate("QPrintDialog", "Double Sided Printing"), "Double Sided Printing");
     }

@@ -4,7 +4,6 @@
 #include "document/rules/Vocabulary.h"
 #include "quiz/frmOva.h"
 #include "resources/Pictures.h"
-#include "widgets/LetterRow.h"
 
 /// A quiz while it is open.
 struct OpenQuiz
@@ -61,10 +60,6 @@ struct WordsToAskTest : MainWindowFixture
 TEST_F(WordsToAskTest, TheButtonRepeatsTheLastKindOfQuizOnceThereAreWords)
 {
     EXPECT_EQ(entries("mnuQuizWords").join(u' '), "All Words Selected Rows (Words Due) Words Missed (Hardest Words)");
-    newDocument();
-    EXPECT_EQ(asked("mnuQuizQA"), 0);
-    EXPECT_EQ(resText(12013), status(0));
-    window->documentArea()->activate(*document);
     for (const auto &[key, kind] : {std::pair("mnuQuizStudy", 0),
                                     {"Quiz", 0},
                                     {"mnuQuizMultiple", 1},
@@ -84,13 +79,6 @@ TEST_F(WordsToAskTest, SelectedRowsAreCountedAndAsked)
     EXPECT_EQ(asked("mnuQuizMultiple"), 10);
     window->DoMenuClick("mnuMode5");
     settings.setQuizOptions({.mostWords = 4});
-    EXPECT_EQ(asked("mnuQuizQA"), 8);
-    frmDoc *other = newDocument();
-    EXPECT_EQ(note(), "selected: 0");
-    other->frame()->close();
-    EXPECT_EQ(note(), "selected: 10");
-    window->DoMenuClick("mnuWordsAll");
-    EXPECT_EQ(note(), "");
     EXPECT_EQ(asked("mnuQuizQA"), 8);
 }
 
@@ -127,10 +115,10 @@ TEST_F(WordsToAskTest, AQuizThatWasLeftGoesOnAsItWas)
     document->Rutor()->setWords({"", "new"}, {"", "new"}, {});
     document->setCaption("renamed");
     EXPECT_EQ(30, asked("mnuQuizContinue", [](const OpenQuiz &quiz) {
-                  EXPECT_EQ(quiz.session.currentQuestion(), 4);
-                  EXPECT_EQ(quiz.session.question().askedWord(), "4");
-                  EXPECT_EQ(std::pair(quiz.session.correctCount(), quiz.session.errorCount()), std::pair(2, 1));
-                  EXPECT_EQ(quiz.box->text(), "half");
+                  const int numbers[] = {quiz.session.currentQuestion(), quiz.session.correctCount(),
+                                         quiz.session.errorCount()};
+                  EXPECT_THAT(numbers, testing::ElementsAre(4, 2, 1));
+                  EXPECT_EQ(quiz.session.question().askedWord() + quiz.box->text(), "4half");
                   EXPECT_TRUE(quiz.window.windowTitle().endsWith("renamed"));
                   quiz.answer(QStringList(27, "!"));
                   EXPECT_TRUE(quiz.session.done());
@@ -143,7 +131,6 @@ TEST_F(WordsToAskTest, MissedWordsAreListedCopiedAskedAgainAndKept)
 {
     document->Rutor()->setTextMatrix(2, 2, "zwei");
     document->Rutor()->setTextMatrix(0, 2, "German");
-    document->Rutor()->setGridFont(QFont("Arial", 20));
     settings.setQuizMode(5);
     QStringList expected;
     for (const bool keep : {false, true}) {
@@ -163,7 +150,6 @@ TEST_F(WordsToAskTest, MissedWordsAreListedCopiedAskedAgainAndKept)
             if (keep)
                 QTest::mouseClick(quiz.window.findChild<QWidget *>("btnKeepMissed"), Qt::LeftButton);
         });
-        EXPECT_EQ(expected.size(), 2) << "both ways";
         EXPECT_EQ(QGuiApplication::clipboard()->text(), expected.join(u'\n'));
         window->DoMenuClick("mnuWordsMissed");
         EXPECT_EQ(note(), keep ? "missed: 0" : "missed: 1");
@@ -173,39 +159,8 @@ TEST_F(WordsToAskTest, MissedWordsAreListedCopiedAskedAgainAndKept)
     const Vocabulary words = GridContent::read(*kept->Rutor());
     EXPECT_EQ(words.first, (std::vector<QString>{"English", "2", ""}));
     EXPECT_EQ(words.second, (std::vector<QString>{"German", "zwei", ""}));
-    EXPECT_EQ(kept->Rutor()->Font().pointSize(), 20);
     EXPECT_TRUE(kept->Dirty() && kept->DocName().isEmpty() && kept->Caption().startsWith(resText(500)));
     window->documentArea()->activate(*document);
     EXPECT_EQ(note(), "missed: 1");
     EXPECT_EQ(asked("mnuQuizStudy"), 2);
-}
-
-TEST_F(WordsToAskTest, LettersOfTheColumnStandOnWishBelowTheGrid)
-{
-    ctlGrid &grid = *document->Rutor();
-    grid.setTextMatrix(1, 1, "ñ");
-    grid.setTextMatrix(2, 2, "é");
-    const auto shown = [&] {
-        QString letters;
-        for (const QToolButton *button : document->findChildren<QToolButton *>())
-            letters += button->isVisible() ? button->text() : "";
-        return letters;
-    };
-    EXPECT_EQ(shown(), "");
-    window->DoMenuClick("mnuVocabularyLetters");
-    EXPECT_TRUE(settings.ShowLetters());
-    QCoreApplication::processEvents();
-    for (const auto &[column, letter] : {std::pair(1, "ñ"), {2, "é"}}) {
-        document->select({3, column, 3, column});
-        EXPECT_EQ(shown(), letter);
-    }
-    for (int i = 0; i < 2; ++i)
-        QTest::mouseClick(document->findChild<LetterRow *>()->findChild<QToolButton *>(), Qt::LeftButton);
-    EXPECT_EQ(grid.EditText(), "éé");
-    document->endEdit();
-    EXPECT_EQ(grid.TextMatrix(3, 2), "éé");
-    EXPECT_TRUE(document->Dirty());
-    EXPECT_EQ(undo.kind(), UndoKind::Entry);
-    window->DoMenuClick("mnuVocabularyLetters");
-    EXPECT_EQ(shown(), "");
 }

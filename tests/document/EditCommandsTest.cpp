@@ -141,16 +141,7 @@ TEST_F(Editing, WhileACellIsEditedTheCommandsActOnTheEditBox)
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     // a change of the box is undone also back and forth; a line of another program is one cell; several cells are
     // pasted as cells if nothing was typed; undo leaves nothing to the box of a search
-    play("xyz -> [xyz] Typing, select -> [xyz] Typing, copy -> [xyz] Typing, End -> [xyz] Typing, paste -> [xyzxy] "
-         "Paste, undo -> [xyz] Paste, select -> [xyz] Paste, cut -> [z] Cut, undo -> [xyz] Cut, undo -> [z] Cut, undo "
-         "-> [xyz] Cut, End -> [xyz] Cut, !! -> [xyz!!] Typing, paste -> [xyz!!xy] Paste, undo -> [xyz!!] Paste, undo "
-         "-> [xyz!!xy] Paste, .. -> [xyz!!xy..] Typing, undo -> [xyz!!xy] Typing, Ctrl+Z -> [xyz!!xy..] Typing, Return"
-         " -> xyz!!xy.. Entry, undo -> a None, edit -> [a] Typing, undo -> [a] None, line -> [a] None, paste -> [aone]"
-         " Paste, select -> [aone] Paste, paste -> [onene] Paste, End -> [onene] Paste, Shift+Home -> [onene] Paste, "
-         "paste -> [one] Paste, Esc -> a Entry, cells -> a Entry, edit -> [a] Typing, paste -> x Paste, undo -> a "
-         "None, edit -> [a] Typing, !! -> [a!!] Typing, paste -> [a!!x y z ] Paste, Esc -> a Entry, search -> a Entry,"
-         " clear ->  Clear, edit -> [] Clear, focus -> [] Clear, undo -> a None",
-         state, actions);
+    playFile(SOURCE_FOLDER "/tests/document/data/edit_box.txt", state, actions);
     document.endEdit();
     EXPECT_EQ(words(), before);
 }

@@ -36,8 +36,7 @@ TEST_F(FrmDocTest, WhatIsComposedIsSavedAndUndone)
     QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
     document.commitRunningEdit();
     EXPECT_EQ(grid.TextMatrix(2, 1), "ni");
-    EXPECT_TRUE(grid.EditMode());
-    EXPECT_TRUE(document.Dirty());
+    EXPECT_TRUE(grid.EditMode() && document.Dirty());
     QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
     EditCommands(undo, *QGuiApplication::clipboard()).Undo(document);
     EXPECT_EQ(grid.EditText(), "") << "all that was typed, as ever";
@@ -78,14 +77,7 @@ TEST_F(FrmDocTest, KeysTypeCommitGiveUpAndWalk)
         parts.removeAll("");
         return parts.join(' ') + (document.Dirty() ? " *" : "") + QString(" clear").repeated(int(clears.count()));
     };
-    play("b -> house 1,1 [b] typing <house>, a -> house 1,1 [ba] typing <house>, Return -> ba 1,2 entry <house> *, "
-         "Shift+Return -> ba 1,1 entry <house> *, Shift+Return -> ba 100,2 entry <house> *, Return -> ba 1,1 entry "
-         "<house> *, z -> ba 1,1 [z] typing <ba> *, Ctrl+Esc -> ba 1,1 [z] typing <ba> *, Esc -> ba 1,1 entry <ba> *, "
-         "t -> ba 1,1 [t] typing <ba> *, Tab -> t 1,2 entry <ba> *, x -> t 1,2 [x] typing <> *, "
-         "Shift+Backtab -> t x 1,1 entry <> *, Shift+Backtab -> t x 100,2 entry <> *, Tab -> t x 1,1 entry <> *, "
-         "F2 -> t x 1,1 [t] typing <t> *, Del -> t x 1,1 [t] typing <t> *, s -> t x 1,1 [ts] typing <t> *, "
-         "Return -> ts x 1,2 entry <t> *, Shift+Del -> ts x 1,2 entry <t> *, Del -> ts x 1,2 entry <t> * clear",
-         state);
+    playFile(SOURCE_FOLDER "/tests/document/data/document_keys.txt", state);
     EXPECT_EQ(status.text(1), " B1");
     EXPECT_EQ(editing, (QList<bool>{true, false, true, false, true, false, true, false, true, false}));
     flags.FindMode = true; // a search holds the commit by the focus back
@@ -109,7 +101,12 @@ TEST_F(FrmDocTest, ActivationEndsTheUndoRecordAndShowsTheStatusTexts)
     EXPECT_EQ(undo.kind(), UndoKind::None);
     EXPECT_FALSE(undo.belongsTo(&document));
     EXPECT_EQ(status.text(1), " A2:A3");
-    EXPECT_TRUE(status.text(2).startsWith("English -> "));
+    const QString mode = "English -> " + resText(502) + ' ' + resText(300);
+    EXPECT_EQ(status.text(2), mode);
+    other.setQuizModeNote("(x)");
+    EXPECT_EQ(status.text(2), mode + " (x)");
+    other.Rutor()->setRow(60);
+    EXPECT_TRUE(other.Rutor()->RowIsVisible(60));
 }
 
 TEST_F(FrmDocTest, ARightClickAsksForTheMenuWhereItIs)
@@ -145,7 +142,14 @@ TEST_F(FrmDocTest, ZoomIsAViewThatTellsItsSizeForAMoment)
     document.zoomBy(1);
     EXPECT_EQ(grid.EditText(), "barn");
     EXPECT_EQ(status.text(0), resText(14958).arg(125));
+    const auto moveTo = [this](int x) { QTest::mouseMove(grid.hwndGrid()->viewport(), QPoint(x, 50)); };
+    moveTo(30);
+    EXPECT_EQ(status.text(0), resText(14958).arg(125)) << "a wheel moves the mouse";
     EXPECT_TRUE(QTest::qWaitFor([this] { return status.text(0) == resText(503); }));
+    status.showText("x");
+    moveTo(35);
+    EXPECT_EQ(status.text(0), resText(503));
+    EXPECT_EQ(grid.MousePointer(), 99);
     EXPECT_EQ(std::pair(grid.ColWidth(1), grid.RowHeight(1)), sizes);
     flags.FindMode = true; // which holds status texts back
     document.zoomBy(0);

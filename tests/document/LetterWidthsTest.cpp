@@ -4,22 +4,20 @@ TEST(LetterWidths, NeverTakeATextToFitThatDoesNot)
 {
     const QStringList pieces = QString("AV|To|ffi|W.|i|l|m|Œ|ß|ñ| |-|ž|'|Ту|γά|жд|、|かガ|日本").split('|');
     std::mt19937 random(5);
-    for (const QFont &font : {QFont("Liberation Sans", 6), QFont("Liberation Serif", 10), QFont("DejaVu Sans", 33)}) {
-        const QFontMetricsF metrics(font);
-        const auto measure = [metrics](const QString &text) { return metrics.horizontalAdvance(text); };
-        LetterWidths letters(measure);
-        int fits = 0;
-        for (int round = 0; round < 600; ++round) {
-            QString text;
-            for (unsigned count = 1 + random() % 12; count > 0; --count)
-                text += pieces[random() % unsigned(pieces.size())];
-            const double room = measure(text) * (0.9 + 0.4 * double(random() % 100) / 100);
-            const bool surely = letters.surelyFits(text, room);
-            fits += surely;
-            EXPECT_LE(surely ? measure(text) : 0, room) << text.toStdString();
-        }
-        EXPECT_GT(fits, 0) << font.family().toStdString();
+    const QFontMetricsF metrics(QFont("Liberation Serif", 10));
+    const auto measure = [metrics](const QString &text) { return metrics.horizontalAdvance(text); };
+    LetterWidths letters(measure);
+    int fits = 0;
+    for (int round = 0; round < 1800; ++round) {
+        QString text;
+        for (unsigned count = 1 + random() % 12; count > 0; --count)
+            text += pieces[random() % unsigned(pieces.size())];
+        const double room = measure(text) * (0.9 + 0.4 * double(random() % 100) / 100);
+        const bool surely = letters.surelyFits(text, room);
+        fits += surely;
+        EXPECT_LE(surely ? measure(text) : 0, room) << text.toStdString();
     }
+    EXPECT_GT(fits, 0);
 }
 
 TEST(LetterWidths, LeaveScriptsThatJoinAndStackLettersOpen)

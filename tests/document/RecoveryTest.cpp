@@ -92,6 +92,8 @@ TEST_F(RecoveryTest, WhatDiffersFromTheFileIsKeptAndNothingElse)
         close(path, {AlertBox::AnswerNo});
         EXPECT_TRUE(copies().isEmpty()) << "given up";
     }
+    run.reset();
+    EXPECT_TRUE(QDir(folder).isEmpty());
 }
 
 TEST_F(RecoveryTest, EveryLaterChangeReachesTheCopyAndGoesWhenItIsUndone)

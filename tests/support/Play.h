@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Files.h"
+
 using Actions = std::map<QString, std::function<void()>>;
 
 /// Plays "step -> state, step -> state": a step is one of the actions, a button of the window by its name, a key, or
@@ -19,4 +21,11 @@ inline void play(const QString &steps, const std::function<QString()> &state, co
             QTest::keyClicks(QApplication::focusWidget(), step);
         EXPECT_EQ((step + " -> " + state()).toStdString(), line.toStdString());
     }
+}
+
+/// The same from a file of the source tree, a step a line; one that changes nothing stands alone.
+inline void playFile(const char *path, const std::function<QString()> &state, const Actions &actions = {})
+{
+    for (const QString &line : QString(readFile(path)).split(u'\n', Qt::SkipEmptyParts))
+        play(line.contains(QStringLiteral(" -> ")) ? line : line + QStringLiteral(" -> "), state, actions);
 }

@@ -68,6 +68,18 @@ TEST(VocabularyCodec, FileIsExactToTheByte)
     EXPECT_EQ(read(encode(withRows({{text, text}}), CodePage())), withRows({{"a b c d", "a b c d"}}));
 }
 
+TEST(VocabularyCodec, TellsHowFarItHasCome)
+{
+    std::vector<qint64> told;
+    const auto tell = [&told](qint64 done) { told.push_back(done); };
+    const Vocabulary words = withRows(Pairs(1100, {"ab", "c"}));
+    const QByteArray bytes = encode(words, CodePage(), tell);
+    decode(bytes, CodePage(), tell);
+    ASSERT_EQ(told.size(), 91u + 78u);
+    EXPECT_EQ((std::array{told[0], told[90]}), (std::array<qint64, 2>{12, 1092})) << "rows";
+    EXPECT_EQ((std::array{told[91], told[168]}), (std::array<qint64, 2>{14 * 18, 78 * 14 * 18})) << "bytes of words";
+}
+
 TEST(VocabularyCodec, RowsBehindTheLastFirstWordAreNotWritten)
 {
     const std::pair<Pairs, QByteArray> cases[] = {
