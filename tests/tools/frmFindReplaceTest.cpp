@@ -53,8 +53,8 @@ TEST_F(FindReplace, OpensWithTheCurrentCellsTextAndWidens)
     const QSize framed = dialog->size() + QSize(0, dialog->style()->pixelMetric(QStyle::PM_TitleBarHeight) + 27);
     EXPECT_EQ(QRect(dialog->pos(), framed).bottomRight(), window.frameGeometry().bottomRight());
     const int height = dialog->height();
+    click("btnReplace");
     type("txtFind", "");
-    dialog->showAgain(true);
     EXPECT_EQ(shown(*dialog).toStdString(),
               "Replace | &Find | <> | R&eplace With | ><> | Scope | [x] Whole &Document | "
               "[ ] &1 Language 1 | [ ] &2 Language 2 | [ ] &Match Case | [ ] &Whole Words | "
@@ -97,12 +97,12 @@ TEST_F(FindReplace, ShowsMatchAfterMatchAndReportsTheEnd)
     last.FindWhat = "dog";
     FindOn::run(document, last, false, alert, &window);
     EXPECT_EQ(document.selection(), (GridSelection{3, 1, 3, 1}));
-    EXPECT_TRUE(alert.shown.back().prompt == "The search string was not found." && alert.shown.back().sound);
+    EXPECT_TRUE(alert.shown[4].prompt.endsWith("been searched.") && alert.shown[5].prompt.endsWith("not found."));
 }
 
 TEST_F(FindReplace, ReplacesTheSelectedMatchOnly)
 {
-    open(true, "cat", "dog");
+    open(true, "CAT", "dog");
     play(
         "btnReplace -> 1,1:[cat]0 cat, btnReplace -> 2,1:[cat]4 dog, btnFind -> 3,1:[cat]0 dog, part -> 3,1:[ca]0 "
         "dog, btnReplace -> 3,1:[ca]0 dog, btnFind -> 2,1:[cat]4 dog, btnReplace -> 3,1:[cat]0 dog, long -> "
@@ -131,9 +131,9 @@ TEST_F(FindReplace, ReplaceAllIsOneUndoStepOfItsDocument)
                                                     Words::value_type{longWord + "s", "a"}, Words::value_type{}));
         EXPECT_GT(grid.RowHeight(1), 285);
         EXPECT_EQ(match(), "3,1:[]200"); // the last match
-        QTest::keyClicks(grid.hwndText(), "u");
-        document.setDirty(false); // as saving does
+        document.setDirty(false);        // as saving does
         if (anotherFollows) {
+            QTest::keyClicks(grid.hwndText(), "u");
             undo.clear();
             dialog->leaveDocument();
             click("btnFind");

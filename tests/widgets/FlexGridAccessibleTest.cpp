@@ -8,6 +8,7 @@ struct SpokenGrid : ::testing::Test
         grid.setRows(5);
         grid.setCols(3);
         grid.setRowNumbers(true);
+        grid.setTextMatrix(0, 0, "No.");
         grid.setTextMatrix(0, 2, "German");
         grid.setTextMatrix(2, 1, "house");
         grid.resize(400, 78); // the last row is out of sight
@@ -65,7 +66,7 @@ TEST_F(SpokenGrid, TellsOfEveryCell)
 {
     grid.Select(2, 2, 3, 1);
     EXPECT_EQ(told().toStdString(), "4 2\n"
-                                    "^ | ^ | ^German\n"
+                                    "^No. | ^ | ^German\n"
                                     "<1 |  0,0//1 |  0,1/German/1\n"
                                     "<2 | house 1,0//2* |  1,1/German/2*>\n"
                                     "<3 |  2,0//3* |  2,1/German/3*\n"
@@ -75,8 +76,10 @@ TEST_F(SpokenGrid, TellsOfEveryCell)
     grid.setEnabled(false);
     EXPECT_EQ(told(*table->cellAt(0, 0)), " 0,0//1-");
     QAccessibleInterface *last = table->cellAt(3, 1);
+    const QAccessibleTableCellInterface *place = last->tableCellInterface();
     grid.setRows(2);
     EXPECT_TRUE(!last->isValid() && last->state().invalid && told(*last).isEmpty() && last->rect().isEmpty());
+    EXPECT_TRUE(place->rowIndex() == -1 && place->columnIndex() == -1 && place->rowHeaderCells().isEmpty());
 }
 
 TEST_F(SpokenGrid, SelectsByPlaceAndTellsWhatIsSelected)

@@ -40,10 +40,10 @@ TEST(FlexGridSortTest, OrdersTheSelectedRowsByEveryKind)
 TEST(FlexGridOperations, DoWhatTheySayAlsoWhereNobodyUsesThem)
 {
     FlexGrid grid;
-    grid.setFormatString("|^Word|Meaning;|first|second|third");
+    grid.setFormatString("<|^Word|>Meaning;|first|second|third");
     EXPECT_EQ(column(grid, 0) + grid.TextMatrix(0, 1) + grid.TextMatrix(0, 2), "first,second,thirdWordMeaning");
     EXPECT_NEAR(grid.ColWidth(1) / 15, QFontMetricsF(grid.Font()).horizontalAdvance("Word") + 7, 1);
-    EXPECT_EQ(grid.ColAlignment(1) * 10 + grid.FixedAlignment(1), 44) << "as the column";
+    EXPECT_EQ(grid.ColAlignment(0) * 100 + grid.ColAlignment(1) * 10 + grid.FixedAlignment(2), 147) << "as the column";
     grid.setFixedAlignment(1, 1);
     grid.setMergeCol(1, true);
     EXPECT_TRUE(grid.FixedAlignment(1) == 1 && grid.FixedAlignment(3) == 9 && grid.MergeCol(1) && !grid.MergeCol(2));

@@ -65,8 +65,10 @@ TEST(FlexGridChanges, TakeAllThatBelongsToRowsAndColumnsAlong)
          "abc def gx y*i^300+ jkl 2:90,4,7 2,1,3,2"},
         {[](FlexGrid &g) { g.setTextMatrix(1, 1, g.Clip()); }, "abc dh i k lf gh*i^300+ jkl 2:90,4,7 2,1,3,2"},
         {[](FlexGrid &g) { g.setClip("x\ty\tz\ru\rv"); }, "abc def gx*y^300+ jul 2:90,4,7 2,1,3,2"},
-        {[](FlexGrid &g) { g.setClip(""), g.setCellForeColor(0), g.setMergeRow(2, false), g.setMergeRow(4, true); },
-         "abc def g-i^300 jkl 2:90,4,7 2,1,3,2"},
+        {[](FlexGrid &g) {
+             g.setClip(""), g.setCellForeColor(0), g.setMergeRow(2, false), g.setMergeRow(4, true), g.setRows(5);
+         },
+         "abc def g-i^300 jkl --- 2:90,4,7 2,1,3,2"},
         {[](FlexGrid &g) { g.setFillStyle(1), g.setCellForeColor(1), g.setMergeRow(0, true); },
          "abc+ def gh*i*^300+ jk*l* 2:90,4,7 2,1,3,2"},
         {[](FlexGrid &g) { g.setRowHeight(1, 0), g.setRowHeight(2, -1), g.setRowHeight(4, 9); },
@@ -77,12 +79,18 @@ TEST(FlexGridChanges, TakeAllThatBelongsToRowsAndColumnsAlong)
          "abc def gh*i^300+ jkl 0:960,9,3 1:960,9,3 2:90,0,3 2,1,3,2"},
         {[](FlexGrid &g) { g.setRow(3), g.setRow(4), g.setCol(2), g.setCol(3), g.setRow(-1); },
          "abc def gh*i^300+ jkl 2:90,4,7 3,2,3,2"},
+        {[](FlexGrid &g) { g.setRow(0), g.setCol(0); }, "abc def gh*i^300+ jkl 2:90,4,7 0,0,0,0"},
+        {[](FlexGrid &g) {
+             g.setFixedCols(0), g.setCols(0), g.setTextArray(0, g.TextArray(0)), g.setFixedRows(0), g.setRows(1);
+         },
+         " -1,-1,-1,-1"},
         {[](FlexGrid &g) { g.setRowSel(0), g.setRowSel(4), g.setColSel(0), g.setColSel(-1); },
          "abc def gh*i^300+ jkl 2:90,4,7 2,1,0,0"},
         {[](FlexGrid &g) { g.Select(1, 1, 4, 1), g.Select(1, 3, 1, 1), g.Select(0, 0, 3, 2); },
          "abc def gh*i^300+ jkl 2:90,4,7 0,0,3,2"},
         {[](FlexGrid &g) {
-             g.setRowNumbers(true), g.setTextMatrix(1, 0, "x"), g.setRows(5), g.Select(0, 0, 1, 1), g.setText(g.Clip());
+             g.setRowNumbers(true), g.setTextMatrix(1, 0, "x"), g.setRows(5), g.Select(0, 0, 1, 1),
+                 g.setText(g.Clip() + g.TextMatrix(5, 0));
          },
          "a b 1 ebc 1ef 2h*i^300+ 3kl 4-- 2:90,4,7 0,0,1,1"},
         {[](FlexGrid &g) { g.setRowNumbers(true), g.setRowNumbers(false); }, "abc -ef -h*i^300+ -kl 2:90,4,7 2,1,3,2"},
