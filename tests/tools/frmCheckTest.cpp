@@ -40,8 +40,9 @@ TEST_F(Checking, GoesThroughTheFindingsAndSelectsTheirCells)
             EXPECT_EQ(dialog.pos() == place, round == 1) << "it moves where it would hide the cell";
         }
     }
+    window.setFocus();
     QTest::keyClick(&dialog, Qt::Key_Escape);
-    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_TRUE(!dialog.isVisible() && window.focusWidget() == grid.focusProxy());
     select(1, 1, 1, 1);
     dialog.workOn(document);
     EXPECT_EQ(document.selection(), (GridSelection{1, 1, 1, 1})) << "it is not shown";

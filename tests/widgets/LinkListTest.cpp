@@ -32,7 +32,7 @@ TEST(LinkListTest, KeysGoAlongItsLinksAndReadersAreToldOfThem)
     EXPECT_TRUE(underMouse != plain && begin(plain).x() >= 3 && begin(underMouse) == begin(plain));
     EXPECT_TRUE(begin(focused).x() < 2 && links[0]->testAttribute(Qt::WA_Hover));
     for (const QString &step : QString("Down 1, Down 2, Down 2, Up 1, A 1, Home 0, Up 0, End 2, Up 1").split(", ")) {
-        QTest::keySequence(QApplication::focusWidget(), QKeySequence(step.section(' ', 0, 0)));
+        QTest::keyPress(QApplication::focusWidget(), Qt::Key(QKeySequence(step.section(' ', 0, 0))[0].key()));
         for (size_t i = 0; i < 3; ++i) {
             const bool current = i == step.section(' ', 1).toUInt();
             EXPECT_TRUE(links[i]->hasFocus() == current && (links[i]->focusPolicy() == Qt::StrongFocus) == current);
