@@ -143,7 +143,6 @@ TEST_F(ShownGrid, DraggingBeyondTheEdgeScrollsOn)
 TEST_F(ShownGrid, BordersOfFixedCellsAreDraggedWhenAllowed)
 {
     for (const auto &[mirrored, zoom] : {std::pair(false, 100), {true, 200}}) {
-        SCOPED_TRACE(zoom);
         grid.setRightToLeft(mirrored);
         grid.setZoom(zoom);
         grid.setRowHeight(-1, 300);
