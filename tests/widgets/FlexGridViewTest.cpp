@@ -74,6 +74,7 @@ TEST_F(ShownGrid, KeysMoveTheCurrentCellAndExtendTheSelection)
         "Ctrl+Home, Up: 1 1 1 1; Home, Left: 5 1 5 1; End, Right: 5 3 5 3; Ctrl+End, Down: 200 3 200 3; "
         "Ctrl+PgDown: 5 2 5 2!; Ctrl+Right: 5 3 5 3; F5: 5 2 5 2!; Shift+Down, Shift+Down: 5 2 8 2; "
         "Shift+Left, Shift+Right: 5 2 5 2";
+    // the same where the first row and the first column are hidden, too
     const QString atHidden = "Ctrl+Home: 2 2 2 2; Ctrl+Up: 2 2 2 2; Left: 5 2 5 2; Home: 5 2 5 2; Ctrl+Left: 5 2 5 2";
     for (const int hidden : {4, 6})
         grid.setRowHeight(hidden, 0);
