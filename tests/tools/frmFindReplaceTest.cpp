@@ -102,7 +102,7 @@ TEST_F(FindReplace, ShowsMatchAfterMatchAndReportsTheEnd)
 
 TEST_F(FindReplace, ReplacesTheSelectedMatchOnly)
 {
-    open(true, "CAT", "dog");
+    open(false, "CAT", "dog"), dialog->showAgain(true);
     play(
         "btnReplace -> 1,1:[cat]0 cat, btnReplace -> 2,1:[cat]4 dog, btnFind -> 3,1:[cat]0 dog, part -> 3,1:[ca]0 "
         "dog, btnReplace -> 3,1:[ca]0 dog, btnFind -> 2,1:[cat]4 dog, btnReplace -> 3,1:[cat]0 dog, long -> "
