@@ -41,8 +41,7 @@ TEST_F(SizeDialog, SetsTheSelectedRowsAndColumnsWhenASizeIsGiven)
     EXPECT_GT(heightPixels(3), 100000);
 
     grid.setRows(100001);
-    grid.setColWidth(0, 0);
-    grid.setColWidth(1, 3000);
+    grid.setColWidth(0, 0), grid.setColWidth(1, 3000);
     select(1, 1, 1, 2);
     EXPECT_EQ(answer(frmColRow::ColumnWidth, "5", Qt::Key_Return),
               "Set Column Width | &Column Width: | ><200> | OK | Cancel | ?");
