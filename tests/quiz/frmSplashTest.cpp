@@ -60,7 +60,6 @@ TEST_F(frmSplashTest, TheAboutBoxTellsAndOpensItsLinksAndHidesADedication)
     EXPECT_EQ(resText(2005), line->text());
     QTest::mouseRelease(line, Qt::LeftButton);
     EXPECT_EQ(resText(2004), line->text());
-    EXPECT_TRUE(window.isVisible());
     QTest::keyClick(&window, Qt::Key_Escape);
     EXPECT_FALSE(window.isVisible());
 }
