@@ -59,8 +59,7 @@ TEST(AnswerMemoryTest, GradesByVerdictHintAndKindAndKnowsDueAndHardWords)
     Known memory; // when they are due, were asked last and how often missed; the fourth on a day that has not come yet
     memory.all = {
         {}, {1, 5, 1001, 990, 9, 2}, {1, 5, 1000, 990, 9, 0}, {1, 5, 1100, 1001, 9, 5}, {1, 5, 1003, 999, 9, 2}};
-    EXPECT_EQ((std::vector<bool>{false, false, true, true, false}), memory.due({}));
-    EXPECT_EQ(2, memory.countDue({}));
+    EXPECT_TRUE(memory.due({}) == (std::vector{false, false, true, true, false}) && memory.countDue({}) == 2);
     EXPECT_EQ((std::vector<size_t>{3, 1, 4}), memory.hardest({}));
     EXPECT_EQ((std::vector<size_t>{3}), memory.hardest({}, 1));
 }
