@@ -163,7 +163,7 @@ TEST_F(SingleInstanceTest, WhereCopiesCannotMeetEveryOneIsFirst)
 TEST(InstancePlace, ShortPathInAPrivateFolderForEachDisplay)
 {
     const QTemporaryDir folder;
-    const QString longFolder = folder.filePath(QString(90, u'd'));
+    const QString longFolder = folder.filePath(QString(90, u'd')), relative = QDir().relativeFilePath(folder.path());
     for (const QString &name : {longFolder, folder.filePath("glosaria")}) // where others may look
         QDir().mkpath(name);
     const auto placeIn = [](const QString &runtime, const QByteArray &wayland, const QByteArray &x11) {
@@ -173,7 +173,7 @@ TEST(InstancePlace, ShortPathInAPrivateFolderForEachDisplay)
         return InstancePlace::socketPath();
     };
     const QString before = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    for (const QString &runtime : {folder.path(), longFolder, QString("/missing"), QString("."), QString()}) {
+    for (const QString &runtime : {folder.path(), longFolder, QString("/missing"), relative, QString()}) {
         const QString path = placeIn(runtime, "", ":0"), inside = QFileInfo(path).path();
         EXPECT_EQ(inside == runtime + "/glosaria", runtime == folder.path());
         EXPECT_LE(path.size(), InstancePlace::LongestPath);
