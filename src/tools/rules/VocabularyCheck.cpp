@@ -77,21 +77,21 @@ public:
     {
         const QChar::Script script = QChar::script(letter);
         if (!mixesWithAll(script))
-            m_letters[script] += QString::fromUcs4(&letter, 1);
+            m_letters[script] += letter;
     }
     /// The letters of all scripts but the one of most letters.
     QString odd() const
     {
         const auto shorter = [](const auto &a, const auto &b) { return a.second.size() < b.second.size(); };
         const auto most = std::max_element(m_letters.begin(), m_letters.end(), shorter);
-        QString letters;
+        std::u32string letters;
         for (auto script = m_letters.begin(); script != m_letters.end(); ++script)
-            letters += script == most ? QString() : script->second;
-        return letters;
+            letters += script == most ? U"" : script->second;
+        return QString::fromStdU32String(letters);
     }
 
 private:
-    std::map<QChar::Script, QString> m_letters;
+    std::map<QChar::Script, std::u32string> m_letters;
 };
 
 /// Whether letters of two scripts stand anywhere in a text, be it in different words.

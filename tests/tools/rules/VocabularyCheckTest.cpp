@@ -15,7 +15,7 @@ TEST(VocabularyCheck, FindsWhatLooksWrong)
         {"/a  b|c\u00a0!/d\u3000e|f ", "A1 blanks B2 blanks"},
         // letters that look the same, and what legitimately stands together
         {"/р\u0061к|x/да \u0063оме|y", "A1 scripts:р\u0061к \u0061 A2 scripts:\u0063оме \u0063"},
-        {"/a\U00010400|x", "A1 scripts:a\U00010400 a"},
+        {"/ab\U00010400|x", "A1 scripts:ab\U00010400 \U00010400"},
         {"/Tシャツ|お茶を飲む/2-й ряд|µm, α-Teilchen/год (year)|e\u0301te\u0301/12й|CD를", ""},
         {"/(a|word]/c)(|[d)]/((e)|（f", "A1 brackets B1 brackets A2 brackets B2 brackets A3 brackets B3 brackets"},
         {"/abc) x|x-a) y", "A1 brackets B1 brackets"},
