@@ -23,7 +23,6 @@ TEST(CommonFilePromptsTest, EachAsksForItsKindOfFile)
     // what is asked, what the user answers one after the other, what comes of it, and what the last dialog was to offer
     const std::tuple<std::function<QString()>, QStringList, QString, QString> cases[] = {
         {open, {"/f/a.gla"}, "/f/a.gla", "Open Glosaria Document|/f||1 Glosaria Document (*.gla)|exists"},
-        {open, {}, "", "Open Glosaria Document|/f||1 Glosaria Document (*.gla)|exists"},
         {save,
          {"/f/there.x", "/f/b"},
          "/f/b.gla",

@@ -85,8 +85,7 @@ TEST_F(ListsTest, AListIsReadAsThePreviewShowsIt)
             link->click();
     }
     EXPECT_EQ(words(), "German|English, Haus|house, c,d|a,b, |");
-    EXPECT_EQ(documents().active()->Caption(), "Untitled 1");
-    EXPECT_TRUE(documents().active()->Dirty());
+    EXPECT_TRUE(documents().active()->Dirty() && documents().active()->Caption() == "Untitled 1");
     EXPECT_EQ(status(0), "2 rows imported");
 }
 
@@ -98,8 +97,7 @@ TEST_F(ListsTest, RowsGoInAboveTheCurrentOneAndOutAgain)
     QGuiApplication::clipboard()->setText("house - Haus\n");
     EXPECT_TRUE(inDialog("mnuEditPasteList", [](QDialog &dialog) { choose(dialog, {"optThis", "btnOK"}); }));
     EXPECT_EQ(words(), "A|B, 1|3, house|Haus, 2|4, |");
-    EXPECT_EQ(window->UndoAction(), "&Undo Import");
-    EXPECT_EQ(status(0), resText(14374));
+    EXPECT_EQ(window->UndoAction() + status(0), "&Undo Import" + resText(14374));
     window->DoMenuClick("mnuEditUndo");
     EXPECT_EQ(words(), before);
     EXPECT_EQ(documents().active()->selection(), (GridSelection{2, 2, 2, 2}));

@@ -59,6 +59,10 @@ QStringList run(const CommandLine &line, const QString &second)
         } else if (now.size() == 3) {
             EXPECT_FALSE(window->isMinimized());
             EXPECT_TRUE(QApplication::style()->inherits("ProgramStyle"));
+            for (const char *kept : {"", "/a/kept"}) {
+                Q_EMIT window->context().memory->troubled(MemoryTrouble::Locked, kept);
+                EXPECT_EQ(window->context().status.text(0), *kept ? resText(14445).arg("kept") : resText(14442));
+            }
             QTimer::singleShot(0, window, [window] { window->DoMenuClick("mnuVocabularyLanguage"); });
         }
     });

@@ -111,10 +111,8 @@ TEST_F(RecoveryTest, EveryLaterChangeReachesTheCopyAndGoesWhenItIsUndone)
     const RecoveryFolder::Orphan orphan = restart().at(0);
     EXPECT_EQ(orphan.copy.cause, RecoveryCopy::Cause::Ended);
     run->keeper.recover(orphan);
-    ASSERT_EQ(run->documents.open().size(), 1u);
-    const frmDoc &recovered = *run->documents.open().front();
-    EXPECT_EQ(recovered.Caption(), "Untitled 1");
-    EXPECT_TRUE(recovered.Dirty() && recovered.isVisible());
+    const frmDoc &recovered = *run->documents.open().at(0);
+    EXPECT_TRUE(recovered.Caption() == "Untitled 1" && recovered.Dirty() && recovered.isVisible());
     EXPECT_EQ(GridContent::read(*recovered.Rutor()), words);
 
     document = run->newDocument();

@@ -26,9 +26,8 @@ struct GridEditing : ::testing::Test
         QObject::connect(&grid, &ctlGrid::AfterEdit, &grid, [this] { isStored = true; });
     }
 
-    void press(const char *key) { QTest::keySequence(focusTarget(), QKeySequence(key)); }
-    void type(const QString &text) { QTest::keyClicks(focusTarget(), text); }
-    QWidget *focusTarget() { return grid.EditMode() ? static_cast<QWidget *>(&box) : &view; }
+    void press(const char *key) { QTest::keySequence(grid.focusWidget(), QKeySequence(key)); }
+    void type(const QString &text) { QTest::keyClicks(grid.focusWidget(), text); }
     /// The current cell, its text or [the edit box], and whether it has been stored since.
     QString state()
     {
