@@ -17,6 +17,7 @@ TEST_F(MenusAndToolbarsTest, EachCommandChangesWhatItIsToChangeAndNothingElse)
         alert.answers.assign(3, AlertBox::AnswerNo), window->DoMenuClick(key), alert.answers.clear();
     };
     const auto frame = [this](size_t at) { return documents().open()[at]->frame(); };
+    dialogs.duringSetup = [this] { alert.shown.push_back({.prompt = "page setup"}); };
     bool ended = false;
     QObject::connect(window.get(), &frmApp::closed, [&ended] { ended = true; });
     Actions actions{{"front", [this] { QApplication::setActiveWindow(window.get()); }},

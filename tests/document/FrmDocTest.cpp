@@ -58,6 +58,7 @@ TEST_F(FrmDocTest, NewDocumentsAreSetUpFromTheSettings)
                           fresh.ForeColor(), fresh.Rows(), fresh.FocusRect()}),
               (QList<int>{7, 1, 1, 340, 3, 1, 1, 1, 255, 101, 1}));
     EXPECT_TRUE(fresh.ColWidth(1) == fresh.ColWidth(2) && fresh.ColWidth(1) > 960);
+    EXPECT_EQ(grid.geometry(), document.rect());
 }
 
 TEST_F(FrmDocTest, KeysTypeCommitGiveUpAndWalk)
