@@ -96,6 +96,24 @@ TEST_F(MenusAndToolbarsTest, TheStatusBarFollowsThePointer)
     }
 }
 
+TEST_F(MenusAndToolbarsTest, ADialogKeepsItsTextWhenThePointerLeavesItsButton)
+{
+    newDocument();
+    QStringList shown;
+    QTimer visitor;
+    visitor.callOnTimeout([&] {
+        if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+            shown << status(0), dialog->reject();
+    });
+    visitor.start(1);
+    for (const char *key : {"Sort", "Font", "Languages"}) {
+        const QPoint place = button("tbrStandard", key)->mapTo(window.get(), QPoint(9, 9));
+        QTest::mouseMove(window->windowHandle(), place);
+        QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, place);
+    }
+    EXPECT_EQ(shown, QStringList(3, resText(504)));
+}
+
 TEST_F(MenusAndToolbarsTest, TheWindowMenuListsDocuments)
 {
     newDocument()->setCaption(QString(33, 'x'));

@@ -80,6 +80,12 @@ TEST_F(WordsToAskTest, SelectedRowsAreCountedAndAsked)
     window->DoMenuClick("mnuMode5");
     settings.setQuizOptions({.mostWords = 4});
     EXPECT_EQ(asked("mnuQuizQA"), 8);
+    for (const int column : {1, 2})
+        document->Rutor()->setTextMatrix(3, column, "é");
+    asked("mnuQuizQA", [](const OpenQuiz &quiz) {
+        QTest::keyClick(quiz.window.focusWidget(), Qt::Key_1, Qt::ControlModifier);
+        EXPECT_EQ(quiz.box->text(), "é") << "a letter of the answers, in place of the prompt";
+    });
 }
 
 TEST_F(WordsToAskTest, WhereNoChosenWordIsLeftAllAreOffered)
