@@ -101,6 +101,39 @@ TEST_F(HelpViewerTest, EveryStepShowsWhatTheTranscriptSays)
     EXPECT_EQ(played.toStdString(), transcript.toStdString());
 }
 
+TEST_F(HelpViewerTest, EveryLinkLeadsToItsPageByKeyAndByMouseAndBackAndForward)
+{
+    show(HH_DISPLAY_TOC);
+    QApplication::setActiveWindow(window());
+    HelpBrowser *browser = part();
+    const auto press = [browser](Qt::Key key, Qt::KeyboardModifiers with = {}) { QTest::keyClick(browser, key, with); };
+    int followed = 0;
+    for (QTreeWidgetItemIterator item(part<QTreeWidget>("contents")); *item; ++item) {
+        const QString start = (*item)->data(0, Qt::UserRole).toString();
+        part<QTreeWidget>("contents")->setCurrentItem(*item);
+        browser->setFocus();
+        press(Qt::Key_Tab);
+        for (int last = -1; browser->textCursor().position() > last; ++followed, press(Qt::Key_Tab)) {
+            const QString to = "html/" + QFileInfo(browser->textCursor().charFormat().anchorHref()).fileName();
+            press(Qt::Key_Return);
+            EXPECT_EQ(window()->page(), to) << start.toStdString();
+            press(Qt::Key_Left, Qt::AltModifier);
+            EXPECT_EQ(window()->page(), start);
+            if (std::exchange(last, browser->textCursor().position()) >= 0)
+                continue;
+            QTextCursor within(browser->document());
+            within.setPosition(last - 1);
+            QTest::mouseClick(browser->viewport(), Qt::LeftButton, {}, browser->cursorRect(within).center());
+            EXPECT_EQ(window()->page(), to) << start.toStdString();
+            press(Qt::Key_Left, Qt::AltModifier);
+            press(Qt::Key_Right, Qt::AltModifier);
+            EXPECT_EQ(window()->page(), to) << start.toStdString();
+            press(Qt::Key_Left, Qt::AltModifier);
+        }
+    }
+    EXPECT_GT(followed, 160);
+}
+
 TEST_F(HelpViewerTest, LinksOutsideAreTheDesktopsAndLinksHaveTheColourOfThePalette)
 {
     show(HH_HELP_CONTEXT, 1210);
