@@ -2,7 +2,6 @@
 
 #include "exchange/ImportTexts.h"
 #include "exchange/ListCommands.h"
-#include "support/Shown.h"
 #include "widgets/LinkList.h"
 
 namespace {

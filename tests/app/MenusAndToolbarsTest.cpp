@@ -2,7 +2,6 @@
 
 #include "app/MenuLayout.h"
 #include "document/ctlGridEdit.h"
-#include "support/Play.h"
 #include "support/TextLetters.h"
 #include "widgets/grid/FlexGridView.h"
 

@@ -2,7 +2,6 @@
 #include "MainWindowFixture.h"
 #include "document/FileCommands.h"
 #include "document/RecoveryKeeper.h"
-#include "support/Shown.h"
 
 struct RecoveryOfferTest : MainWindowFixture
 {

@@ -1,7 +1,6 @@
 #include "MainWindowFixture.h"
 
 #include "app/StartPage.h"
-#include "support/Shown.h"
 #include "widgets/LinkList.h"
 
 namespace {

@@ -4,7 +4,6 @@
 #include "document/rules/Vocabulary.h"
 #include "resources/StringTable.h"
 #include "support/OpenDocument.h"
-#include "support/Play.h"
 #include "widgets/grid/FlexGridView.h"
 
 struct Editing : ::testing::Test, OpenDocument

@@ -1,5 +1,4 @@
 #include "support/OpenFiles.h"
-#include "support/Play.h"
 
 #include "document/EditCommands.h"
 #include "document/ctlGridEdit.h"

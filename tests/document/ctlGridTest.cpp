@@ -3,7 +3,6 @@
 #include "document/ctlGridEdit.h"
 #include "document/rules/Vocabulary.h"
 #include "services/rules/ProgramFlags.h"
-#include "support/Play.h"
 #include "widgets/grid/FlexGridCellText.h"
 #include "widgets/grid/FlexGridView.h"
 

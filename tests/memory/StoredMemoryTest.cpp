@@ -1,7 +1,6 @@
 #include "memory/StoredMemory.h"
 
 #include "support/FileSizeLimit.h"
-#include "support/OrdinaryUser.h"
 
 #include <QSqlQuery>
 

@@ -2,7 +2,6 @@
 
 #include "platform/files/UserFolders.h"
 #include "support/FileSizeLimit.h"
-#include "support/OrdinaryUser.h"
 
 struct AtomicFileTest : ::testing::Test
 {

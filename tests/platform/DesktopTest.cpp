@@ -1,7 +1,6 @@
 #include "platform/CupsServer.h"
 #include "platform/DarkWish.h"
 #include "platform/TitleBar.h"
-#include "support/OrdinaryUser.h"
 
 TEST(Desktop, TitleBarHasAQuestionMarkWhereTheDesktopDrawsOne)
 {

@@ -1,8 +1,6 @@
 #include "platform/JobThread.h"
 #include "platform/FontReader.h"
 
-#include "support/OrdinaryUser.h"
-
 #include <sys/resource.h>
 
 TEST(JobThread, DoesAllJobsInTheirOrderAlsoWhereNoThreadCanBeHad)

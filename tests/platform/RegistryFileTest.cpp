@@ -1,7 +1,5 @@
 #include "platform/registry/RegistryFile.h"
 
-#include "support/OrdinaryUser.h"
-
 #include <sys/wait.h>
 #include <unistd.h>
 

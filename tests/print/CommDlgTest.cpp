@@ -10,7 +10,6 @@
 #include "support/ScriptedAlertBox.h"
 #include "support/ScriptedDialogs.h"
 #include "support/ScriptedPrintServer.h"
-#include "support/Shown.h"
 
 #include <QPrintDialog>
 

@@ -1,8 +1,6 @@
 #include "print/PrintCommands.h"
 
 #include "print/PrintHost.h"
-#include "support/Pixels.h"
-#include "support/Play.h"
 #include "support/RecordingPrinter.h"
 #include "support/ScriptedAlertBox.h"
 #include "support/ScriptedDialogs.h"

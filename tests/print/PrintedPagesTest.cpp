@@ -5,7 +5,6 @@
 #include "print/printer/QtPrinter.h"
 #include "print/rules/PrintRun.h"
 #include "services/rules/ProgramFlags.h"
-#include "support/Pixels.h"
 #include "support/RecordingPrinter.h"
 #include "support/ScriptedPrintServer.h"
 

@@ -1,7 +1,5 @@
 #include "progress/BarChart.h"
 
-#include "support/Pixels.h"
-
 struct BarChartTest : ::testing::Test
 {
     BarChartTest()

@@ -2,9 +2,7 @@
 
 #include "memory/StoredMemory.h"
 #include "support/OpenDocument.h"
-#include "support/Pixels.h"
 #include "support/ScriptedAlertBox.h"
-#include "support/Shown.h"
 
 /// Opened with the quiz mode "backwards in order".
 struct Progress : ::testing::Test, OpenDocument

@@ -2,7 +2,6 @@
 
 #include "quiz/QuizColours.h"
 #include "services/desktop/Contrast.h"
-#include "support/Pixels.h"
 
 struct MarkedLabelTest : ::testing::Test
 {

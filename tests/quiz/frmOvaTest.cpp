@@ -6,7 +6,6 @@
 #include "resources/Pictures.h"
 #include "services/FormTexts.h"
 #include "support/ListWords.h"
-#include "support/Shown.h"
 #include "support/StoredSettings.h"
 
 enum Kind { Practice, MultipleChoice, QuestionAndAnswer };

@@ -1,5 +1,4 @@
 #include "resources/Pictures.h"
-#include "support/Pixels.h"
 
 /// The colours that cover pixels of a picture wholly.
 static QSet<QRgb> colours(const QImage &image)

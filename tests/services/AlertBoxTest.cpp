@@ -1,7 +1,5 @@
 #include "services/modMsgBox.h"
 
-#include "support/Shown.h"
-
 TEST(AlertBox, ShowsWhatItIsAskedToAndAnswersByKeys)
 {
     QWidget mainWindow, caller;

@@ -8,7 +8,6 @@
 #include "services/desktop/PopupCloser.h"
 #include "services/desktop/ProgramStyle.h"
 #include "services/desktop/ScreenFit.h"
-#include "support/Pixels.h"
 
 #include <QCompleter>
 

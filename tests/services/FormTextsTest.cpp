@@ -1,7 +1,6 @@
 #include "services/FormTexts.h"
 
 #include "resources/StringTable.h"
-#include "support/Shown.h"
 
 TEST(FormTexts, ComeFromTheIdsOfControlsAndNameThem)
 {

@@ -2,7 +2,6 @@
 #include "services/help/HelpBrowser.h"
 #include "services/help/HelpViewers.h"
 #include "support/ScriptedAlertBox.h"
-#include "support/Shown.h"
 
 struct HelpViewerTest : ::testing::Test
 {

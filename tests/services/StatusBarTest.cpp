@@ -1,6 +1,5 @@
 #include "resources/StringTable.h"
 #include "services/status/modSBFunc.h"
-#include "support/Pixels.h"
 
 struct StatusBarTest : ::testing::Test
 {

@@ -16,3 +16,5 @@
 #include <random>
 #include <set>
 #include <sys/stat.h>
+
+#include "OrdinaryUser.h"

@@ -1,4 +1,4 @@
-// Precompiled for the tests of windows.
+// Precompiled for the tests of windows: what most of them include.
 #pragma once
 
 #include "../../cmake/pch_windows.h"
@@ -13,3 +13,7 @@
 #include <cmath>
 #include <deque>
 #include <random>
+
+#include "Pixels.h"
+#include "Play.h"
+#include "Shown.h"

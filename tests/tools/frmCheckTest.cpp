@@ -2,8 +2,6 @@
 
 #include "document/ctlGridEdit.h"
 #include "support/OpenDocument.h"
-#include "support/Play.h"
-#include "support/Shown.h"
 
 struct Checking : ::testing::Test, OpenDocument
 {

@@ -2,7 +2,6 @@
 
 #include "platform/Twips.h"
 #include "support/OpenDocument.h"
-#include "support/Shown.h"
 
 struct SizeDialog : ::testing::Test, OpenDocument
 {

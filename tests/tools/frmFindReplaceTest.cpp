@@ -4,9 +4,7 @@
 #include "resources/StringTable.h"
 #include "services/FormTexts.h"
 #include "support/OpenDocument.h"
-#include "support/Play.h"
 #include "support/ScriptedAlertBox.h"
-#include "support/Shown.h"
 #include "tools/FindOn.h"
 
 struct FindReplace : ::testing::Test, OpenDocument

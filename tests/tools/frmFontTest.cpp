@@ -1,10 +1,7 @@
 #include "tools/frmFont.h"
 
 #include "support/OpenDocument.h"
-#include "support/Pixels.h"
-#include "support/Play.h"
 #include "support/ScriptedAlertBox.h"
-#include "support/Shown.h"
 #include "tools/FontSample.h"
 
 struct FontDialog : ::testing::Test, OpenDocument

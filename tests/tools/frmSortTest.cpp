@@ -1,7 +1,6 @@
 #include "tools/frmSort.h"
 
 #include "support/OpenDocument.h"
-#include "support/Shown.h"
 #include "tools/modSorting.h"
 
 struct Sorting : ::testing::Test, OpenDocument

@@ -1,5 +1,4 @@
 #include "widgets/grid/FlexGridView.h"
-#include "support/Pixels.h"
 #include "widgets/grid/FlexGrid.h"
 
 /// A shown grid of 200 rows of 20 pixels and three word columns of 100.

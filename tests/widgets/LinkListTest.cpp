@@ -1,7 +1,6 @@
 #include "widgets/LinkList.h"
 
 #include "resources/StringTable.h"
-#include "support/Pixels.h"
 
 TEST(LinkListTest, KeysGoAlongItsLinksAndReadersAreToldOfThem)
 {

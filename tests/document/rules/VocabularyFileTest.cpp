@@ -1,7 +1,5 @@
 #include "document/rules/file/VocabularyFile.h"
 
-#include "support/OrdinaryUser.h"
-
 using VocabularyCodec::Outcome;
 
 TEST(VocabularyFile, WhatIsNoReadableFileFails)
