@@ -164,8 +164,11 @@ TEST(InstancePlace, ShortPathInAPrivateFolderForEachDisplay)
 {
     const QTemporaryDir folder;
     const QString longFolder = folder.filePath(QString(90, u'd')), relative = QDir().relativeFilePath(folder.path());
-    for (const QString &name : {longFolder, folder.filePath("glosaria")}) // where others may look
+    QString foreign = folder.filePath("foreign");
+    for (const QString &name : {longFolder, foreign, folder.filePath("glosaria")}) // where others may look
         QDir().mkpath(name);
+    if (::chown(qPrintable(foreign), 1, 1) != 0)
+        foreign.clear(); // only an administrator can give it away
     const auto placeIn = [](const QString &runtime, const QByteArray &wayland, const QByteArray &x11) {
         qputenv("XDG_RUNTIME_DIR", runtime.toUtf8());
         qputenv("WAYLAND_DISPLAY", wayland);
@@ -173,7 +176,7 @@ TEST(InstancePlace, ShortPathInAPrivateFolderForEachDisplay)
         return InstancePlace::socketPath();
     };
     const QString before = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    for (const QString &runtime : {folder.path(), longFolder, QString("/missing"), relative, QString()}) {
+    for (const QString &runtime : {folder.path(), longFolder, foreign, QString("/missing"), relative, QString()}) {
         const QString path = placeIn(runtime, "", ":0"), inside = QFileInfo(path).path();
         EXPECT_EQ(inside == runtime + "/glosaria", runtime == folder.path());
         EXPECT_LE(path.size(), InstancePlace::LongestPath);
