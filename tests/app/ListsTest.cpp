@@ -116,10 +116,11 @@ TEST_F(ListsTest, WhatCannotBeReadOrWrittenIsTold)
     }
     QStringList told;
     for (const Alert &each : alert.shown) {
-        told += each.prompt.left(30).remove(folder.path());
+        told += QString(each.prompt).remove(folder.path()).left(25);
         EXPECT_TRUE(each.sound && each.exclamation && each.buttons == Alert::OkHelp && each.helpId == 3030);
     }
-    EXPECT_EQ(told.join(" | "), "The file list is damaged. | /none/a.cs | Some signs in the words are no");
+    EXPECT_EQ(told.join(" | ").toStdString(),
+              "The file list is damaged. | /none/a.csv can't be writ | Some signs in the words a");
     EXPECT_EQ(readFile(prompts.savePath), "\xEF\xBB\xBF"
                                           "A,B\r\n\"1,2\",?\r\n");
     EXPECT_EQ(status(0), "1 row exported; font, row heights and column widths stay in the vocabulary");

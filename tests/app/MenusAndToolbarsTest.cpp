@@ -166,5 +166,6 @@ TEST_F(MenusAndToolbarsTest, EveryTitleAndEntryHasItsCaptionAndHelpText)
         texts.removeAll(400); // of recent files
         expectDifferentLetters(texts, each->objectName());
     }
-    expectAsIn("menus.txt", found.join('\n').remove(folder.path()) + '\n');
+    // how much shows of the path of a recent file depends on the letters of the folder
+    expectAsIn("menus.txt", found.join('\n').remove(QRegularExpression("/.*(?=/recent)")) + '\n');
 }
