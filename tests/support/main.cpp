@@ -18,6 +18,8 @@ int main(int argc, char **argv)
     QFile::setPermissions(home.filePath("RUNTIME_DIR"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     qputenv("HOME", home.path().toLocal8Bit());
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("LC_ALL", "C.UTF-8"); // wherever the tests run
+    qunsetenv("LANGUAGE");
     Application application(argc, argv);
     Application::setApplicationName("Glosaria");
     return home.isValid() ? RUN_ALL_TESTS() : 1;
