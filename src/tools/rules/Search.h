@@ -26,7 +26,7 @@ public:
 
     int SearchFlags = 0;
     QString FindWhat;
-    int CurRow = 1; ///< row, column and 1-based position where the next search begins
+    int CurRow = 1; ///< row, column and 1-based position where the next search begins; row 0 lies before all cells
     int CurCol = 1;
     int CurPos = 1;
     bool FoundAny = false; ///< a match since the last reset

@@ -147,14 +147,15 @@ QString written(double value, const QString &whole, int decimals, const QLocale 
     style.setNumberOptions(QLocale::OmitGroupSeparator);
     QString number = style.toString(value, 'f', decimals);
     const qsizetype end = number.indexOf(locale.decimalPoint());
-    const qsizetype missing = whole.count(u'0') - (end < 0 ? number.size() : end);
-    const bool inGroups = whole.contains(u',');
-    if (missing <= 0) {
-        style.setNumberOptions(inGroups ? QLocale::DefaultNumberOptions : QLocale::OmitGroupSeparator);
+    const qsizetype missing = std::max<qsizetype>(0, whole.count(u'0') - (end < 0 ? number.size() : end));
+    number.prepend(QString(missing, u'0'));
+    if (!whole.contains(u','))
+        return number;
+    if (missing == 0) { // then the locale knows where its groups begin
+        style.setNumberOptions(QLocale::DefaultNumberOptions);
         return style.toString(value, 'f', decimals);
     }
-    number.prepend(QString(missing, u'0'));
-    for (qsizetype i = whole.count(u'0') - 3; inGroups && i > 0; i -= 3)
+    for (qsizetype i = whole.count(u'0') - 3; i > 0; i -= 3)
         number.insert(i, locale.groupSeparator());
     return number;
 }
