@@ -143,9 +143,11 @@ void frmCheck::trimAll()
     m_needs.undo.selection = document().selection();
     m_needs.undo.snapshot = modUndo::takeSnapshot(grid);
     grid.setRedraw(false);
-    for (const Finding &finding : m_findings.all()) // what has no stray blanks stays as it is
-        grid.setTextMatrix(finding.row, finding.col,
-                           VocabularyCheck::trimmed(grid.TextMatrix(finding.row, finding.col)));
+    for (const Finding &finding : m_findings.all()) {
+        if (isBlanks(finding))
+            grid.setTextMatrix(finding.row, finding.col,
+                               VocabularyCheck::trimmed(grid.TextMatrix(finding.row, finding.col)));
+    }
     grid.setRedraw(true);
     document().setDirty(true);
     m_needs.undo.setKind(UndoKind::Replace, &document());
