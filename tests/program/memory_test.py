@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What is remembered of quizzes, over days and in bad weather: memory_test.py <program> [unittest arguments]."""
+"""What is remembered of quizzes, over days and after a kill: memory_test.py <program> [unittest arguments]."""
 
 import contextlib
 import os
@@ -51,32 +51,6 @@ class MemoryCase(ProgramCase):
                     self.desktop.wait_for("frame", f"{MODE} (due: 0)")
                 self.assertEqual(self.desktop.quit(program), 0)
         self.assertEqual(self.answers(), 10)
-
-    def test_a_store_that_cannot_be_used_stops_no_quiz(self):
-        not_remembered = "Answers are not remembered: the memory "
-        newer = sqlite3.connect(":memory:")
-        newer.execute("PRAGMA user_version = 7")
-        self.store.parent.mkdir(parents=True)
-        cases = [
-            (b"", 'mkdir "$0/memory.sqlite"', not_remembered + "cannot be opened."),
-            (b"", 'mount -t tmpfs -o size=16k tmpfs "$0"', not_remembered + "cannot be written."),
-            (newer.serialize(), "true", not_remembered + "is of a newer version."),
-            (b"no database" * 1000, "true", "The memory was damaged and is kept as memory.sqlite.damaged-"),
-        ]
-        for content, command, told in cases:
-            with self.subTest(told):
-                if content:
-                    self.store.write_bytes(content)
-                self.mount(command, self.store.parent)
-                self.open(self.file)
-                self.answer(WORDS, {"two"})
-                find_all = self.desktop.find_all
-                self.desktop.wait(lambda: any(item.name.startswith(told) for item in find_all("frame")), told)
-                self.close_dialog(QUIZ, "Escape")
-                self.desktop.end_programs()
-                if self.store.is_dir():
-                    self.store.rmdir()
-        self.assertEqual(self.answers(), 5, "a new store has begun")
 
     def test_a_killed_program_loses_one_answer_at_most(self):
         program = self.open(self.file)
