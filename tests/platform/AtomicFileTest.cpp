@@ -2,18 +2,27 @@
 
 #include "platform/files/UserFolders.h"
 #include "support/FileSizeLimit.h"
+#include "support/RefusedCall.h"
+
+#include <fcntl.h>
 
 struct AtomicFileTest : ::testing::Test
 {
+    ~AtomicFileTest() override { EXPECT_EQ(openFiles(), m_openBefore); }
+    static uint openFiles() { return QDir("/proc/self/fd").count(); }
     QString path(const QString &name) const { return m_folder.filePath(name); }
     QString put(const QString &name, const QByteArray &bytes) const { return writeFile(path(name), bytes); }
     QStringList names() const
     {
-        return QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+        return QDir(m_folder.path())
+            .entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
     }
 
     QTemporaryDir m_folder;
+    const uint m_openBefore = openFiles();
 };
+
+const QString Stopped = "The content could not be produced";
 
 TEST_F(AtomicFileTest, PiecesOfEverySizeArriveInOrderAndLinksAndModeAreKept)
 {
@@ -41,7 +50,6 @@ TEST_F(AtomicFileTest, PiecesOfEverySizeArriveInOrderAndLinksAndModeAreKept)
 TEST_F(AtomicFileTest, OldContentSurvivesEveryFailure)
 {
     using Sink = AtomicFile::Sink;
-    const QString full = std::strerror(EFBIG), stopped = "The content could not be produced";
     const auto once = [](const Sink &sink) { return sink(QByteArray(200000, 'n')); };
     const auto half = [](const Sink &sink) { return sink("half") && false; };
     const auto inPieces = [](const Sink &sink) {
@@ -49,44 +57,88 @@ TEST_F(AtomicFileTest, OldContentSurvivesEveryFailure)
             sink("0123456789");
         return sink(QByteArray(1 << 16, 'n')) || true; // whatever it answers
     };
-    const QString file = put("a.gla", "old content");
+    const QString file = put("a.gla", "old content"), pipe = path("pipe");
+    ASSERT_EQ(::mkfifo(qPrintable(pipe), 0600), 0);
     const FileSizeLimit limit(100000);
-    for (const auto &[producer, reason] :
-         {std::pair<AtomicFile::Producer, QString>(once, full), {half, stopped}, {inPieces, full}}) {
+    const std::tuple<QString, AtomicFile::Producer, QString> cases[] = {
+        {file, once, std::strerror(EFBIG)},          {file, half, Stopped},
+        {file, inPieces, std::strerror(EFBIG)},      {m_folder.path(), half, std::strerror(EISDIR)},
+        {path("no/a"), half, std::strerror(ENOENT)}, {pipe, half, std::strerror(EACCES)}};
+    for (const auto &[name, producer, reason] : cases) {
         QString error;
-        EXPECT_FALSE(AtomicFile::write(file, producer, &error));
+        EXPECT_FALSE(AtomicFile::write(name, producer, &error) || AtomicFile::write(name, producer));
         EXPECT_EQ(error, reason);
         EXPECT_EQ(readFile(file), "old content");
-        EXPECT_EQ(names().size(), 1);
+        EXPECT_EQ(names().join(' '), "a.gla pipe");
     }
-    EXPECT_FALSE(AtomicFile::write(m_folder.path(), "x"));
-    EXPECT_FALSE(AtomicFile::write(path("missing/a.gla"), "x"));
 }
 
-// In a folder that allows no new file the content is written in place, and put back from the copy on failure.
+// A file that cannot be moved into place is written in place.
+TEST_F(AtomicFileTest, WhatTheFileSystemRefusesIsDoneOtherwiseOrTold)
+{
+    ASSERT_EQ(::chmod(qPrintable(m_folder.path()), 0777), 0);
+    const auto expect = [this](const QString &told, const std::vector<RefusedCall> &refused) {
+        const QString file = put("a.gla", "old content"), another = path("another.gla");
+        const bool written = told.isEmpty(), moves = written && (refused.empty() || refused[0].number != SYS_rename);
+        ::chmod(qPrintable(file), 0666);
+        EXPECT_TRUE(OrdinaryUser::run([&] {
+            std::for_each(refused.begin(), refused.end(), [](const RefusedCall &call) { call.refuse(); });
+            ::umask(0027);
+            QString error = "from before";
+            struct stat status = {};
+            return AtomicFile::write(file, "new", &error) == written && error == told &&
+                   AtomicFile::write(another, "") == moves && QDir(UserFolders::state()).isEmpty() &&
+                   (::stat(qPrintable(another), &status) != 0 || (status.st_mode & 07777) == 0640);
+        })) << (refused.empty() ? 0 : refused[0].number);
+        EXPECT_EQ(readFile(file), written ? "new" : "old content");
+        EXPECT_EQ(names().join(' '), moves ? "a.gla another.gla" : "a.gla");
+        QFile::remove(another);
+    };
+    const RefusedCall noLaterName{SYS_linkat, ENOENT};
+    for (const auto &refused : {std::vector<RefusedCall>(), {noLaterName}, {{SYS_openat, EOPNOTSUPP, O_TMPFILE}}})
+        expect("", refused);
+    for (const int error : {EINVAL, ENOTSUP})
+        expect("", {{SYS_fsync, error}});
+    for (const int error : {EACCES, EPERM, EBUSY, EXDEV})
+        expect("", {{SYS_rename, error}});
+    expect(std::strerror(EIO), {noLaterName, {SYS_rename, EIO}});
+    for (const int call : {SYS_rename, SYS_fsync, SYS_ftruncate})
+        expect(std::strerror(EIO), {{call, EIO}});
+    for (const int call : {SYS_lseek, SYS_read})
+        expect(Stopped, {{SYS_rename, EXDEV}, {call, EIO}});
+}
+
+// In place the content is put back from the copy on failure.
 TEST_F(AtomicFileTest, FolderThatAllowsNoNewFile)
 {
     const QString file = put("a.gla", QByteArray(5000, 'o')), fixed = put("readonly.gla", "fixed");
-    ASSERT_EQ(::chmod(qPrintable(file), 0666) | ::chmod(qPrintable(fixed), 0444) |
-                  ::chmod(qPrintable(m_folder.path()), 0555),
-              0);
+    ASSERT_EQ(::chmod(qPrintable(file), 0666) | ::chmod(qPrintable(fixed), 0444), 0);
+    ASSERT_EQ(::chmod(qPrintable(m_folder.path()), 0555), 0);
     EXPECT_TRUE(OrdinaryUser::run([&] {
         const QDir copies(UserFolders::state());
-        QString kept;
-        const auto producer = [](const AtomicFile::Sink &sink) { return sink("shorter"); };
-        const auto overwriting = [&] { kept = readFile(file) + copies.entryList(QDir::Files).join('|').left(6); };
-        return AtomicFile::write(file, producer, nullptr, overwriting) && kept == QString(5000, u'o') + "saved-" &&
-               copies.isEmpty();
-    }));
-    EXPECT_EQ(readFile(file), "shorter");
-    EXPECT_TRUE(OrdinaryUser::run([&] {
-        const auto refused = [](const QString &path, rlim_t limit) {
-            const FileSizeLimit small(limit); // too small for the content, or for a copy of what is there
+        const auto failure = [](const QString &path, rlim_t copying, rlim_t writing, rlim_t restoring) {
+            std::optional<FileSizeLimit> limit(copying);
             QString error;
-            return !AtomicFile::write(path, QByteArray(200000, 'n'), &error) && !error.contains("saved-");
+            const auto producer = [&](const AtomicFile::Sink &sink) {
+                limit.reset(), limit.emplace(writing);
+                const bool taken = sink(QByteArray(200000, 'n'));
+                limit.reset(), limit.emplace(restoring);
+                return taken;
+            };
+            return AtomicFile::write(path, producer, &error) ? "written" : error;
         };
-        return refused(file, 100000) && refused(file, 3) && refused(fixed, 1 << 20) &&
-               refused(path("new.gla"), 1 << 20) && QDir(UserFolders::state()).isEmpty();
+        constexpr rlim_t Much = 1 << 20;
+        QString full = std::strerror(EFBIG), forbidden = std::strerror(EACCES), kept;
+        const auto overwriting = [&] { kept = readFile(file) + copies.entryList(QDir::Files).join('|').left(6); };
+        const bool right = AtomicFile::write(
+                               file, [](const auto &sink) { return sink("shorter"); }, nullptr, overwriting) &&
+                           kept == QString(5000, u'o') + "saved-" && failure(file, Much, 100000, Much) == full &&
+                           failure(file, 3, Much, Much) == full && failure(fixed, Much, Much, Much) == forbidden &&
+                           failure(path("new.gla"), Much, Much, Much) == forbidden && copies.isEmpty();
+        const QString named = failure(file, Much, 3, 3), copy = copies.entryInfoList(QDir::Files).value(0).filePath();
+        qputenv("XDG_STATE_HOME", "/proc");
+        return right && named == full + " (" + copy + ')' && readFile(copy) == "shorter" && copy.endsWith(".gla") &&
+               !failure(file, Much, Much, Much).isEmpty();
     }));
     EXPECT_EQ(readFile(file) + readFile(fixed), "shorterfixed");
     EXPECT_EQ(names().size(), 2);

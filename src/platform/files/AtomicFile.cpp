@@ -65,7 +65,7 @@ private:
     bool writeAll(QByteArrayView bytes)
     {
         errno = 0;
-        if (m_error.isEmpty() && m_file.write(bytes.data(), bytes.size()) != bytes.size())
+        if (m_error.isEmpty() && (m_file.write(bytes.data(), bytes.size()) != bytes.size() || !m_file.flush()))
             m_error = errno ? systemError(errno) : m_file.errorString();
         return m_error.isEmpty();
     }
