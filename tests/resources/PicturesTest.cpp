@@ -40,5 +40,6 @@ TEST(Pictures, IconsFollowThePaletteAndTheDirectionOfReading)
     for (const auto &[number, direction, mode, shown, line, accent] : cases) {
         QGuiApplication::setLayoutDirection(direction);
         EXPECT_EQ(picture(number).pixmap(96, mode).toImage(), drawPicture(shown, 96, line, accent)) << mode;
+        EXPECT_EQ(picture(number).pixmap(96).cacheKey(), picture(number).pixmap(96).cacheKey()) << "drawn once";
     }
 }
