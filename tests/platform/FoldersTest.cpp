@@ -17,7 +17,7 @@ TEST(Folders, StandWhereTheDesktopWantsThem)
     qputenv("XDG_STATE_HOME", before);
     for (const char *token : {"token", ""})
         ActivationToken::use(token);
-    EXPECT_EQ(qgetenv("XDG_ACTIVATION_TOKEN"), "token");
+    EXPECT_EQ(qgetenv("XDG_ACTIVATION_TOKEN") + ActivationToken::ofThisStart().toUtf8(), "token") << "not on Wayland";
     EXPECT_EQ(UserFolders::config(), qEnvironmentVariable("XDG_CONFIG_HOME") + "/glosaria");
     EXPECT_EQ(UserFolders::sharedData(), qEnvironmentVariable("XDG_DATA_HOME"));
     for (const auto place : {ProgramFiles::path, ProgramFiles::module})
@@ -33,10 +33,15 @@ TEST(Folders, AreLockedForOneAtATimeAndTellWhatIsInThem)
     EXPECT_TRUE(FolderLock("/no/such/folder", 0).isHeld());
     const QString file = writeFile(folder.filePath("Words.gla"), "words");
     ASSERT_TRUE(QFile::link("/nowhere", folder.filePath("link")));
-    for (const char *name : {"Words.gla", "link", "missing", "words.gla"})
+    ASSERT_TRUE(QFile::link("/", folder.filePath("LINK")));
+    ASSERT_EQ(::link(qPrintable(file), qPrintable(folder.filePath("wORDS.GLA"))), 0);
+    for (const char *name : {"Words.gla", "wORDS.GLA", "link", "LINK", "missing", "words.gla"})
         EXPECT_EQ(LongPath::directoryEntry(folder.path(), name),
                   QDir(folder.path()).entryList(QDir::AllEntries | QDir::System).contains(name) ? name : "");
     QFile opened, other;
+    ASSERT_TRUE(QDir(folder.path()).mkpath("real/inner"));
+    ASSERT_TRUE(QFile::link("real/inner", folder.filePath("up")));
+    EXPECT_EQ(LongPath::ExpandLongPath(folder.filePath("up/../inner")), folder.filePath("real/inner"));
     EXPECT_TRUE(RegularFile::open(opened, file) && opened.readAll() == "words");
     for (const QString &path : {folder.path(), folder.filePath("missing"), QString("/dev/null")})
         EXPECT_FALSE(RegularFile::open(other, path) || other.isOpen());

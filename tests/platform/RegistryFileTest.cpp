@@ -53,19 +53,24 @@ TEST_F(RegistryFileTest, DamagedFilesAreKeptUnderAnotherName)
         writeFile(m_path, damage);
         RegistryFile store(m_path);
         EXPECT_FALSE(store.keyExists(HKEY_CURRENT_USER, Key));
+        writeFile(m_path, damage); // meanwhile
         EXPECT_TRUE(set(store, "a", "b") && RegistryFile(m_path).value(HKEY_CURRENT_USER, Key, "a"));
     }
-    EXPECT_EQ(names().join(' '), "registry registry.damaged registry.damaged-2 registry.damaged-3");
+    EXPECT_EQ(names().join(' '), "registry registry.damaged registry.damaged-2 registry.damaged-3 registry.damaged-4 "
+                                 "registry.damaged-5 registry.damaged-6");
     EXPECT_EQ(readFile(m_path + ".damaged"), "first damage");
 }
 
-TEST_F(RegistryFileTest, UnreadableFileIsLeftAlone)
+TEST_F(RegistryFileTest, WhatCanNeitherBeReadNorSetAsideIsLeftAlone)
 {
     writeFile(m_path, "secret");
-    ASSERT_EQ(::chmod(qPrintable(m_folder.path()), 0777) | ::chmod(qPrintable(m_path), 0200), 0);
-    EXPECT_TRUE(OrdinaryUser::run([&] {
-        RegistryFile store(m_path);
-        return !store.keyExists(HKEY_CURRENT_USER, Key) && !set(store, "a", "b");
-    }));
-    EXPECT_EQ(names(), QStringList{"registry"});
+    for (const auto &[folder, file] : {std::pair(0777, 0200), {0555, 0444}}) {
+        ASSERT_EQ(::chmod(qPrintable(m_folder.path()), mode_t(folder)) | ::chmod(qPrintable(m_path), mode_t(file)), 0);
+        EXPECT_TRUE(OrdinaryUser::run([&] {
+            RegistryFile store(m_path);
+            return !store.keyExists(HKEY_CURRENT_USER, Key) && !set(store, "a", "b");
+        }));
+        EXPECT_TRUE(names() == QStringList{"registry"} && readFile(m_path) == "secret");
+    }
+    ::chmod(qPrintable(m_folder.path()), 0755);
 }

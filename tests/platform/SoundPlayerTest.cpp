@@ -1,5 +1,7 @@
 #include "platform/SoundPlayer.h"
 
+#include "support/FileSizeLimit.h"
+
 // The player found first on the search path is given a file with the sound.
 TEST(SoundPlayer, PlayerOfTheDesktopPlaysTheSound)
 {
@@ -13,6 +15,10 @@ TEST(SoundPlayer, PlayerOfTheDesktopPlaysTheSound)
         const QString script = writeFile(folder.filePath(name), "#!/bin/sh\n[ $1 = -q ] && shift\nread -r line < $1\n"
                                                                 "echo \"${0##*/} $line\" >> ${0%/*}/heard\n");
         QFile::setPermissions(script, QFile::ReadOwner | QFile::ExeOwner);
+        {
+            const FileSizeLimit full(3);
+            DesktopSoundPlayer("RIFF nothing").play();
+        }
         player.play();
         for (int i = 0; i < 4000 && (!QFile::exists(heard) || !readFile(heard).contains(name.toUtf8() + " RIFF")); ++i)
             QThread::msleep(5);
