@@ -6,9 +6,7 @@
 
 namespace {
 
-const WordKey Dog = WordKey::of("dog", "Hund");
-const WordKey Cat = WordKey::of("cat", "Katze");
-const WordKey Bird = WordKey::of("bird", "Vogel");
+const WordKey Dog = WordKey::of("dog", "Hund"), Cat = WordKey::of("cat", "Katze"), Bird = WordKey::of("bird", "Vogel");
 
 /// Another program that has the store open.
 struct Other
@@ -72,16 +70,14 @@ TEST_F(StoredMemoryTest, KnowsEveryAnswerThroughEndsDoubtsOtherProgramsAndForget
     for (int i = 0; i < 250; ++i) {
         m_now = m_now.addDays(draw(3) == 0 ? int(draw(9)) : 0);
         const int today = Day::of(m_now);
-        const size_t word = draw(words.size());
-        const size_t what = draw(12);
+        const size_t word = draw(words.size()), what = draw(12);
         if (what == 0 && QFile::exists(m_path)) {
             programs[1].reset(), programs[0].reset();
             sql(draw(9) == 0 ? "DELETE FROM card" + newest : "UPDATE card SET " + QString(faults[draw(8)]));
             programs[0] = open(), programs[1] = open();
         } else if (what == 1 && word > 0) {
             programs[0]->forget({words[word]});
-            cards[word] = {};
-            days[word].clear();
+            cards[word] = {}, days[word].clear();
         } else {
             Answer answer{words[word], Answer::Kind(draw(3)), draw(3) != 0, draw(4) == 0, i};
             if (word == 0) // is always known, and gets ever easier

@@ -5,9 +5,8 @@
 TEST(StringTable, TheProgramCarriesFaultlessTablesAndAPlainSound)
 {
     // what a translation holds as often as the English text does: placeholders and a mnemonic
-    QList<QRegularExpression> bones;
-    for (const char *bone : {"%1", "%2", "%3", "%4", "&(?=[^& ])"})
-        bones += QRegularExpression(bone);
+    using Bone = QRegularExpression;
+    const QList<Bone> bones{Bone("%1"), Bone("%2"), Bone("%3"), Bone("%4"), Bone("&(?=[^& ])")};
     for (const QString &language : QStringList("") + TextLanguage::available()) {
         const QString file = QString("/strings.%1.txt").arg(language).replace("..", ".");
         QStringList faults;
@@ -15,14 +14,14 @@ TEST(StringTable, TheProgramCarriesFaultlessTablesAndAPlainSound)
         EXPECT_EQ(faults.join(u'\n'), "") << file.toStdString();
         for (auto text = table.begin(); text != table.end(); ++text) {
             EXPECT_TRUE(*text == resText(text.key()) || !language.isEmpty());
-            for (const QRegularExpression &bone : bones)
+            for (const Bone &bone : bones)
                 EXPECT_EQ(text->count(bone), resText(text.key()).count(bone)) << text.key() << text->toStdString();
         }
         const QString toolkit = QString(SOURCE_FOLDER "/src/resources/toolkit.%1.txt").arg(language);
         for (const QByteArray &line : QFile::exists(toolkit) ? readFile(toolkit).split('\n') : QByteArrayList()) {
             const QStringList parts = QString::fromUtf8(line).split('\t');
             EXPECT_TRUE(line.isEmpty() || line.startsWith('#') || parts.size() == 2) << line.toStdString();
-            for (const QRegularExpression &bone : bones)
+            for (const Bone &bone : bones)
                 EXPECT_EQ(parts.first().count(bone), parts.last().count(bone)) << line.toStdString();
         }
     }
