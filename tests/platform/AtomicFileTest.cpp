@@ -8,18 +8,16 @@
 
 struct AtomicFileTest : ::testing::Test
 {
-    ~AtomicFileTest() override { EXPECT_EQ(openFiles(), m_openBefore); }
-    static uint openFiles() { return QDir("/proc/self/fd").count(); }
+    ~AtomicFileTest() override { EXPECT_EQ(QDir("/proc/self/fd").count(), m_openBefore); }
     QString path(const QString &name) const { return m_folder.filePath(name); }
     QString put(const QString &name, const QByteArray &bytes) const { return writeFile(path(name), bytes); }
     QStringList names() const
     {
-        return QDir(m_folder.path())
-            .entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+        return QDir(m_folder.path()).entryList(QDir::Files | QDir::System | QDir::Hidden, QDir::Name);
     }
 
     QTemporaryDir m_folder;
-    const uint m_openBefore = openFiles();
+    const uint m_openBefore = QDir("/proc/self/fd").count();
 };
 
 const QString Stopped = "The content could not be produced";
@@ -28,21 +26,18 @@ TEST_F(AtomicFileTest, PiecesOfEverySizeArriveInOrderAndLinksAndModeAreKept)
 {
     QByteArray expected;
     const auto producer = [&expected](const AtomicFile::Sink &sink) {
-        for (int size : {0, 1, 65535, 65536, 65537, 3, 200000, 65536}) {
-            const QByteArray piece(size, char('a' + size % 23));
-            expected += piece;
-            if (!sink(piece))
-                return false;
-        }
-        return true;
+        const auto sizes = {0, 1, 65535, 65536, 65537, 3, 200000, 65536};
+        return std::all_of(sizes.begin(), sizes.end(), [&](int size) {
+            expected += QByteArray(size, char('a' + size % 23));
+            return sink(expected.last(size));
+        });
     };
     const QString name = QString(251, u'n') + ".gla"; // the longest there can be
     const QString file = put(name, QByteArray(900000, 'z')), near = path("near.gla"), far = path("far.gla");
     ASSERT_TRUE(::chmod(qPrintable(file), 0640) == 0 && QFile::link(name, near) && QFile::link(near, far));
     ASSERT_TRUE(AtomicFile::write(far, producer));
-    EXPECT_TRUE(QFileInfo(near).isSymLink() && QFileInfo(far).isSymLink());
+    EXPECT_TRUE(QFileInfo(near).isSymLink() && QFileInfo(far).isSymLink() && names().size() == 3);
     EXPECT_EQ(readFile(file), expected);
-    EXPECT_EQ(names().size(), 3);
     struct stat status = {};
     EXPECT_TRUE(::stat(qPrintable(file), &status) == 0 && (status.st_mode & 07777) == 0640);
 }
@@ -67,9 +62,7 @@ TEST_F(AtomicFileTest, OldContentSurvivesEveryFailure)
     for (const auto &[name, producer, reason] : cases) {
         QString error;
         EXPECT_FALSE(AtomicFile::write(name, producer, &error) || AtomicFile::write(name, producer));
-        EXPECT_EQ(error, reason);
-        EXPECT_EQ(readFile(file), "old content");
-        EXPECT_EQ(names().join(' '), "a.gla pipe");
+        EXPECT_EQ(error + readFile(file) + names().join(' '), reason + "old content" + "a.gla pipe");
     }
 }
 
@@ -140,7 +133,6 @@ TEST_F(AtomicFileTest, FolderThatAllowsNoNewFile)
         return right && named == full + " (" + copy + ')' && readFile(copy) == "shorter" && copy.endsWith(".gla") &&
                !failure(file, Much, Much, Much).isEmpty();
     }));
-    EXPECT_EQ(readFile(file) + readFile(fixed), "shorterfixed");
-    EXPECT_EQ(names().size(), 2);
+    EXPECT_TRUE(readFile(file) + readFile(fixed) == "shorterfixed" && names().size() == 2);
     ::chmod(qPrintable(m_folder.path()), 0755);
 }
