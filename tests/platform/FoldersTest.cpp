@@ -32,19 +32,18 @@ TEST(Folders, AreLockedForOneAtATimeAndTellWhatIsInThem)
     EXPECT_TRUE(first.isHeld() && !FolderLock(folder.path(), 60).isHeld() && wait.hasExpired());
     EXPECT_TRUE(FolderLock("/no/such/folder", 0).isHeld());
     const QString file = writeFile(folder.filePath("Words.gla"), "words");
-    ASSERT_TRUE(QFile::link("/nowhere", folder.filePath("link")));
-    ASSERT_TRUE(QFile::link("/", folder.filePath("LINK")));
+    ASSERT_TRUE(QFile::link("/nowhere", folder.filePath("link")) && QFile::link("/", folder.filePath("LINK")));
     ASSERT_EQ(::link(qPrintable(file), qPrintable(folder.filePath("wORDS.GLA"))), 0);
     for (const char *name : {"Words.gla", "wORDS.GLA", "link", "LINK", "missing", "words.gla"})
         EXPECT_EQ(LongPath::directoryEntry(folder.path(), name),
                   QDir(folder.path()).entryList(QDir::AllEntries | QDir::System).contains(name) ? name : "");
     QFile opened, other;
-    ASSERT_TRUE(QDir(folder.path()).mkpath("real/inner"));
-    ASSERT_TRUE(QFile::link("real/inner", folder.filePath("up")));
+    ASSERT_TRUE(QDir(folder.path()).mkpath("real/inner") && QFile::link("real/inner", folder.filePath("up")));
     EXPECT_EQ(LongPath::ExpandLongPath(folder.filePath("up/../inner")), folder.filePath("real/inner"));
     EXPECT_TRUE(RegularFile::open(opened, file) && opened.readAll() == "words");
+    const uint handles = QDir("/proc/self/fd").count();
     for (const QString &path : {folder.path(), folder.filePath("missing"), QString("/dev/null")})
-        EXPECT_FALSE(RegularFile::open(other, path) || other.isOpen());
+        EXPECT_FALSE(RegularFile::open(other, path) || QDir("/proc/self/fd").count() != handles);
 }
 
 TEST(Twips, AreAFifteenthOfAPixelWithoutAScreen)
@@ -54,4 +53,27 @@ TEST(Twips, AreAFifteenthOfAPixelWithoutAScreen)
         for (const int twips : {15 * pixels - 7, 15 * pixels, 15 * pixels + 7})
             EXPECT_TRUE(Twips::toPixelsX(twips) == pixels && Twips::toPixelsY(twips) == pixels) << twips;
     }
+}
+
+/// A disk on which letter case does not count.
+QString onOldDisk(const QString &folder, const QString &name)
+{
+    for (const QString path : {"/Disk", "/Disk/.hidden", "/Disk/Program Files", "/Disk/Program Files/My Words.gla"}) {
+        if (path.compare(folder + '/' + name, Qt::CaseInsensitive) == 0)
+            return path.section('/', -1);
+    }
+    return {};
+}
+
+TEST(LongPath, EveryComponentIsSpelledAsListed)
+{
+    const char *const cases[][2] = {{"/disk/program files/MY WORDS.GLA", "/Disk/Program Files/My Words.gla"},
+                                    {"//DISK//./program files/", "/Disk/Program Files"},
+                                    {"/disk/program files/../.HIDDEN", "/Disk/.hidden"},
+                                    {"/../../disk", "/Disk"},
+                                    {"/", "/"}};
+    for (const auto &[path, expected] : cases)
+        EXPECT_EQ(LongPath::ExpandLongPath(path, onOldDisk), expected);
+    for (const char *path : {"/disk/missing/a.gla", "/disk/program files/my words.gla/a.gla", "disk/.hidden", ""})
+        EXPECT_EQ(LongPath::ExpandLongPath(path, onOldDisk), "");
 }
