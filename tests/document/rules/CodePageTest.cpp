@@ -1,4 +1,5 @@
 #include "document/rules/file/CodePage.h"
+#include "document/rules/file/Utf8Text.h"
 
 /// No value when the character set cannot hold the text.
 std::optional<QByteArray> encoded(const CodePage &codePage, const QString &text)
@@ -49,4 +50,25 @@ TEST(CodePage, ReadsWhatItWritesAndBelongsToLanguages)
     }
     EXPECT_EQ(CodePage("windows-1252").decode("\x81\x8D\x8F\x90\x9D"), "\u0081\u008D\u008F\u0090\u009D");
     EXPECT_EQ(CodePage("no-such-set").decode("\xE9"), "é");
+}
+
+TEST(Utf8Text, ReadsUtf8WithLoneSurrogatesAndNothingElse)
+{
+    const QRegularExpression utf8(R"(^([\x00-\x7F]|[\xC2-\xDF][\x80-\xBF]|(\xE0[\xA0-\xBF]|[\xE1-\xEF][\x80-\xBF]))"
+                                  R"([\x80-\xBF]|(\xF0[\x90-\xBF]|[\xF1-\xF3][\x80-\xBF]|\xF4[\x80-\x8F]))"
+                                  R"([\x80-\xBF]{2})*$)");
+    const QByteArray signs("a\x7F\x80\x9F\xA0\xBF\xC0\xC2\xDF\xE0\xE1\xED\xED\xED\xEF\xF0\xF1\xF4\xF5\xBB");
+    std::minstd_rand random(9);
+    for (int i = 0; i < 100000; ++i) {
+        QByteArray bytes(int(random() % 7), Qt::Uninitialized);
+        for (char &byte : bytes)
+            byte = signs[int(random() >> 8) % signs.size()];
+        const std::optional<QString> text = Utf8Text::decode(bytes);
+        EXPECT_EQ(text.has_value(), utf8.match(QString::fromLatin1(bytes)).hasMatch()) << bytes.toHex().constData();
+        if (!text)
+            continue;
+        QByteArray again(text->size() * Utf8Text::BytesPerChar, Qt::Uninitialized);
+        again.truncate(Utf8Text::encodeTo(*text, again.data()) - again.constData());
+        EXPECT_EQ(Utf8Text::decode(again), text) << bytes.toHex().constData();
+    }
 }

@@ -30,6 +30,11 @@ TEST(GridRules, RowsGrowForLongTextsAndNeverShrink)
     EXPECT_EQ((std::pair{defaultRowHeight(255), defaultRowHeight(256)}), (std::pair{285, 286}));
 }
 
+TEST(GridRules, ASelectionIsCalledByItsCorners)
+{
+    EXPECT_EQ(cellReference({3, 2, 3, 2}) + cellReference({2, 2, 2, 1}) + cellReference({12, 1, 3, 1}), " B3 A2:B2 A3:A12");
+}
+
 TEST(GridRules, PastedTextGrowsFromASingleCellAndAtTheEndOnly)
 {
     // the selection, the rows and columns of the text, the cells that it takes, and what is told

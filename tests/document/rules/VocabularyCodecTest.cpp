@@ -50,12 +50,20 @@ TEST(VocabularyCodec, FileIsExactToTheByte)
 
     Vocabulary other = TwoPairs;
     other.font = VocabularyFont{"Liberation Sans", 9.75, true, true, int(0x80000008)};
-    other.heights = {1, 15000000, 285};
+    other.heights = {1, 15000000, 9876543};
     other.columnWidths = {0, 1, 15000000};
     const QByteArray bytes = encode(other, CodePage());
     EXPECT_TRUE(bytes.contains("\"Liberation Sans\"\r\n9.75\r\n#TRUE#\r\n#TRUE#\r\n-2147483640\r\n"));
     EXPECT_TRUE(bytes.contains("house   [0015000000]\r\n"));
     EXPECT_EQ(read(bytes), other);
+    Vocabulary beyond = other, bare = TwoPairs; // what no reader would accept, and what came from an older file
+    beyond.heights[1] = 15000001;
+    beyond.columnWidths = {-1, 1, 15000001};
+    EXPECT_EQ(encode(beyond, CodePage()), bytes);
+    beyond.heights[0] = -1;
+    EXPECT_TRUE(encode(beyond, CodePage()).contains("Language 1   [0000000000]\r\n"));
+    bare.font.reset(), bare.columnWidths.reset();
+    EXPECT_EQ(encode(bare, CodePage()), Whole);
     const std::pair<double, QByteArray> sizes[] = {{10, "10"},       {8.25, "8.25"}, {1.0 / 3 + 12, "12.3333"},
                                                    {100000, "2048"}, {-1, "1"},      {9.99999, "10"}};
     for (const auto &[size, written] : sizes) {
@@ -99,9 +107,7 @@ TEST(VocabularyCodec, WrongFilesAreRefused)
         {changed("Glosaria", "Glosaria "), Outcome::BadFormat},
         {"\xEF\xBB\xBF" + Whole, Outcome::BadFormat},
         {QByteArray(Whole).replace("\r\n", "\n"), Outcome::BadFormat},
-        {changed("3.1.0", "4.0.0"), Outcome::NewerVersion},
         {Start + QByteArray(10000000, '\r'), Outcome::TooManyRows},
-        {"Glosaria", Outcome::Failed},
         {Whole + "lonely", Outcome::Failed},
         {Whole + "\r\n", Outcome::Failed},
         {Sections + "[Encoding]\r\nUTF-7\r\n\r\n[Vocabulary]\r\n" + Rows, Outcome::Failed},
@@ -111,11 +117,11 @@ TEST(VocabularyCodec, WrongFilesAreRefused)
         cases.emplace_back(Whole.first(Whole.indexOf(end)), Outcome::Failed); // cut off before it
     // what stands in a proper file, and what instead of it in one that cannot be read
     for (const QByteArray change :
-         {"3.1.0 -> ", "3.1.0 -> x3", "[Font Info] -> [Font info]", "[Vocabulary] -> [Vocabulary] ",
+         {"[Font Info] -> [Font info]", "[Vocabulary] -> [Vocabulary] ",
           "\r\n10\r\n -> \r\nten\r\n", "\r\n10\r\n -> \r\n0\r\n", "\r\n10\r\n -> \r\n2048.5\r\n",
           "\r\n10\r\n -> \r\nnan\r\n", "#FALSE#\r\n#FALSE# -> #FALSE#\r\nFALSE", "#\r\n0\r\n -> #\r\n2147483648\r\n",
           "340 -> -1", "340 -> 15000001", "4000\r\n4000 -> 4000\r\n-1", "house   [0000000285] -> house   [0015000001]",
-          "house   [0000000285] -> house   [00000x0285]", "house   [0000000285] -> house   [285]"}) {
+          "house   [0000000285] -> house   [00000:0285]", "house   [0000000285] -> house   [00000/0285]", "house   [0000000285] -> house   [285]"}) {
         const qsizetype arrow = change.indexOf(" -> ");
         cases.emplace_back(changed(change.left(arrow), change.mid(arrow + 4)), Outcome::Failed);
     }
@@ -124,6 +130,13 @@ TEST(VocabularyCodec, WrongFilesAreRefused)
         EXPECT_EQ(result.outcome, outcome) << bytes.left(1000).constData();
         EXPECT_EQ(result.vocabulary, Vocabulary());
     }
+    for (int c = 0; c < 256; ++c) { // the first sign of the version
+        const auto [outcome, older] = readHeader("Glosaria\r" + QByteArray(1, char(c)));
+        EXPECT_EQ(outcome, c < '0' || c > '9' ? Outcome::Failed : c > '3' ? Outcome::NewerVersion : Outcome::Ok) << c;
+        EXPECT_EQ(older, c >= '0' && c < '3') << c;
+    }
+    EXPECT_EQ(decode(changed("3.1.0", "4.0.0"), CodePage()).outcome, Outcome::NewerVersion);
+    EXPECT_EQ(decode(Start + QByteArray(9999998, '\r'), CodePage()).outcome, Outcome::Ok) << "as many as there can be";
 }
 
 TEST(VocabularyCodec, OlderFilesHoldOnlyRows)
@@ -142,7 +155,6 @@ TEST(VocabularyCodec, SectionsLineEndsAndLettersMayDiffer)
 {
     const std::pair<QByteArray, Vocabulary> cases[] = {
         {Start, withRows({})},
-        {changed("\"Arial\"", "Arial"), TwoPairs},
         {QByteArray(Whole).replace("\r\n", "\r"), TwoPairs},
         {changed("[Font Info]", "[Other]\r\n1\r\n[Font Info]"), TwoPairs},
         {changed("[Vocabulary]", "[Font Info]\r\nx\r\n\r\n[Vocabulary]"), TwoPairs},
@@ -151,10 +163,13 @@ TEST(VocabularyCodec, SectionsLineEndsAndLettersMayDiffer)
         {Start + "caf\xE9\r\nx", withRows({{"café", "x"}})},
         {Start + "caf\xC3\xA9\r\n\xE9", withRows({{"cafÃ©", "é"}})},
         {Sections + Encoding + "[Vocabulary]\r\ncaf\xC3\xA9\r\n\xE9", withRows({{"café", "é"}})},
-        {Sections + Encoding + "[Vocabulary]\r\ncaf\xE9\r\n\xC3\xA9", withRows({{"café", "é"}})},
+        {Sections + "[Encoding]\r\nutf-8\r\n[Vocabulary]\r\ncaf\xE9\r\n\xC3\xA9", withRows({{"café", "é"}})},
     };
     for (const auto &[bytes, vocabulary] : cases)
         EXPECT_EQ(read(bytes), vocabulary) << bytes.constData();
+    for (const auto &[line, name] :
+         {std::pair("x", "x"), {"\"", "\""}, {"\"x", "\"x"}, {"x\"", "x\""}, {"\"\"", ""}, {" \"x\" ", "x"}})
+        EXPECT_EQ(read(changed("\"Arial\"", line)).font->name, name);
     const Vocabulary bare = read(Start.left(Start.indexOf("[Grid")) + "[Vocabulary]\r\n" + Rows);
     EXPECT_TRUE(bare.rows() == 3 && bare.font && !bare.columnWidths);
 }
@@ -183,7 +198,7 @@ TEST(VocabularyCodec, NoLetterIsLost)
         {"windows-1252", "Ã© é", false},
         {"windows-1252", "Дом\U0001F3E0", true},
         {"windows-1251", "Дом", false},
-        {"windows-1252", "\U0001F3E0 e\u0301 בית \uFEFF", true},
+        {"windows-1252", "\U00010000\U0010FFFD e\u0301 בית \uFEFF", true},
         {"windows-1252", "\uFEFF\uFEFFa", true},
         {"windows-1252", QStringLiteral("a\u0000b"), false},
         {"windows-1252", QChar(0xD83C) + QString("é\uFFFE") + QChar(0xDF00), true},

@@ -32,6 +32,26 @@ inline QStringList pairsOf(const QByteArray &bytes)
     return pairsOf(openBytes(bytes));
 }
 
+/// All lists of a source, the one that is proposed marked: their names, and their rows without what is blank at the end.
+inline QString described(const ListReader::Result &opened)
+{
+    QString text;
+    ReadChoices choices = opened.source->proposal();
+    const int proposed = std::exchange(choices.list, 0);
+    for (const QString &name : opened.source->lists()) {
+        const TextTable table = ListReader::read(*opened.source, choices).table;
+        text += QString("%1 %2 [%3] ").arg(choices.list++ == proposed ? '*' : '-').arg(name).arg(table.columns());
+        text += table.columnNames.join('|') + QString("?").repeated(int(table.missingResults)) + '\n';
+        for (qsizetype row = 0; row < table.rows(); ++row) {
+            for (qsizetype column = 0; column < table.keptColumns(); ++column)
+                text += table.cell(row, column).toString() + '|';
+            text.truncate(text.lastIndexOf(QRegularExpression("[^|]")) + 1);
+            text += '\n';
+        }
+    }
+    return text;
+}
+
 inline QByteArray zipOf(const std::vector<std::pair<QByteArray, QByteArray>> &entries, const char *password = nullptr)
 {
     const QTemporaryDir folder;

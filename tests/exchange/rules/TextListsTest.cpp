@@ -3,6 +3,7 @@
 #include "exchange/rules/cards/MarkupText.h"
 #include "exchange/rules/text/DelimitedText.h"
 #include "exchange/rules/text/TextEncoding.h"
+#include "services/rules/QuotedText.h"
 
 TEST(TextLists, TellsWhatStandsBetweenTheWords)
 {
@@ -12,6 +13,43 @@ TEST(TextLists, TellsWhatStandsBetweenTheWords)
         EXPECT_EQ(pairsOf(each.left(end)), QString(each.mid(end + 3)).chopped(1).split('\n')) << each.constData();
     }
     EXPECT_EQ(DelimitedText::separatorOf(QString("alone\n").repeated(99) + "a;b\n"), ";");
+}
+
+TEST(TextTable, HoldsWhatWasWrittenWhateverPartsItsCellsAndRows)
+{
+    std::mt19937 random(2);
+    const auto one = [&random](const QStringList &of) { return of[qsizetype(random() % size_t(of.size()))]; };
+    for (const QString separator : {"::", ",", "\t"}) {
+        std::vector<QStringList> rows;
+        QString text;
+        qsizetype letters = 0, cells = 0;
+        for (int row = 0; row < 9000; ++row) {
+            QStringList line("a");
+            while (random() % 3)
+                line += one({"", " ", "b c", "\"", "d\"\"e", "\n", "\r\n", separator, "f\"" + separator});
+            for (const QString &cell : line) {
+                const bool isOdd = cell.contains('"') || cell.contains('\n') || cell.contains(separator);
+                text += (isOdd ? quoted(cell) : cell) + separator;
+                letters += cell.size();
+            }
+            cells += line.size();
+            text.chop(separator.size());
+            text += one({"\n", "\r", "\r\n", "\n\n"});
+            rows.push_back(line);
+            if (text.endsWith("\n\n"))
+                rows.emplace_back("");
+        }
+        const TextTable table = DelimitedText::split(text, separator);
+        ASSERT_EQ(table.rows(), qsizetype(rows.size()));
+        for (size_t row = 0; row < rows.size(); ++row) {
+            for (qsizetype column = 0; column < table.columns(); ++column)
+                ASSERT_EQ(table.cell(qsizetype(row), column), rows[row].value(column)) << row;
+        }
+        const qsizetype emptyCells = qsizetype(rows.size()) - 9000;
+        EXPECT_EQ(table.bytes(), 2 * letters + 4 * (cells + emptyCells + table.rows())) << "a list of millions fits";
+        const PairChoice choice{1, 0, true, false};
+        EXPECT_TRUE(Pairs::takeAll(TextTable(table), choice) == Pairs::take(table, choice));
+    }
 }
 
 TEST(TextLists, ReadsEveryCharacterSet)
