@@ -233,18 +233,6 @@ TEST_F(RecoveryTest, StrangeCopiesAreNeitherOfferedNorDeletedAndHoldNobodyUp)
     run.reset();
     ASSERT_EQ(::mkfifo(qPrintable(pipe), 0600), 0);
     const QString copy = restart().at(0).path;
-    const QByteArray whole = readFile(copy);
-    QByteArrayList damaged{whole + 'x', 'x' + whole.mid(1)};
-    for (qsizetype size = 0; size < whole.size(); size += 7)
-        damaged += whole.left(size);
-    for (QByteArray &bytes : damaged) {
-        QBuffer device(&bytes);
-        ASSERT_TRUE(device.open(QIODevice::ReadOnly));
-        EXPECT_FALSE(RecoveryCopy::read(device)) << bytes.size();
-    }
-    RecoveryFolder blocked(writeFile(path, "in the way"));
-    EXPECT_EQ(blocked.adopt(copy), copy) << "it cannot be moved";
-    EXPECT_TRUE(blocked.remove({}) && blocked.remove(copy + 'x')) << "it is not there";
     ASSERT_TRUE(QFile::resize(copy, RecoveryCopy::LargestSize + 1));
     EXPECT_TRUE(run->keeper.orphans().empty());
     EXPECT_EQ(copies().size(), 1);

@@ -7,13 +7,6 @@
 
 namespace {
 
-QByteArray row(const QByteArray &cells, const QByteArray &attributes = {})
-{
-    return "<spreadsheet><table name='a'><table-row " + attributes + ">" + cells + "</table-row></table></spreadsheet>";
-}
-
-const QByteArray Cell = "<table-cell><p>a</p></table-cell>";
-
 QByteArray zstd(const QByteArray &bytes)
 {
     QByteArray packed(qsizetype(ZSTD_compressBound(size_t(bytes.size()))), '\0');
@@ -39,95 +32,64 @@ QByteArray cards(const QStringList &statements, bool newer = false)
                  : zipOf({{"collection.anki2", readFile(path)}});
 }
 
-const QString Notes = "CREATE TABLE notes (id integer primary key, mid integer, flds text)";
-const QString Cards = "CREATE TABLE cards (nid integer, did integer, odid integer)";
-const QString Col = "CREATE TABLE col (decks text, models text)";
-
 } // namespace
 
-TEST(BadFiles, EachEndsInItsOwnReason)
+TEST(OddFiles, ArriveOrEndInTheirOwnReason)
 {
-    const QByteArray bomb = "<a>" + QByteArray(3 << 20, 'x') + "</a>";
-    const QByteArray comment = "<a><!-- " + QByteArray(3 << 20, '<') + " --></a>";
-    const QByteArray attribute = "<a b='" + QByteArray(3 << 20, '>') + "'></a>";
-    const std::pair<QByteArray, ReadError> cases[] = {
-        {"", ReadError::Empty},
-        {" \r\n\t\n", ReadError::Empty},
-        {"%PDF-1.4\n", ReadError::OtherKind},
-        {QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\xff\xfe", 18), ReadError::OtherKind},
-        {QByteArray("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", 8), ReadError::OldKind},
-        {"PK\x03\x04nothing", ReadError::Damaged},
-        {"\x1F\x8Bnothing", ReadError::Damaged},
-        {"Glosaria\r\n9.0\r\n", ReadError::NewerKind},
-        {"Glosaria\r\n3.1.0\r\n[Font Info]\r\n", ReadError::Damaged},
-        {zipOf({{"../../etc/passwd", "x"}}), ReadError::OtherKind},
-        {zipOf({{"xl/workbook.xml", "<a/>"}}, "password"), ReadError::Locked},
-        {zipOf({{"xl/workbook.xml", "<a/>"}})
-             .replace(QByteArray("\x14\0\0\0\0\0", 6), QByteArray("\x14\0\0\0\x61\0", 6)),
-         ReadError::Damaged}, // packed in an unknown way
-        {zipOf({{"XL/WORKBOOK.XML", "<a/>"}}), ReadError::OtherKind},
-        {zipOf({{"mimetype", "opendocument.spreadsheet"}, {"CONTENT.XML", "<a/>"}}), ReadError::Damaged},
-        {zipOf({{"collection.anki21b", "no frame"}}), ReadError::Damaged},
-        {zipOf({{"collection.anki2", "no database"}}), ReadError::Damaged},
-        {zipOf({{"mimetype", "application/vnd.oasis.opendocument.spreadsheet"}}), ReadError::Damaged},
-        {zipOf({{"mimetype", "application/vnd.oasis.opendocument.spreadsheet"},
-                {"META-INF/manifest.xml", "<manifest><encryption-data/></manifest>"},
-                {"content.xml", "no XML"}}),
-         ReadError::Locked},
-        {ods("<spreadsheet><table name='a'/></spreadsheet>"), ReadError::Empty},
-        {ods(row(Cell).chopped(9)), ReadError::Damaged},
-        {ods("<!DOCTYPE a [<!ENTITY b 'c'>]>" + row(Cell)), ReadError::Damaged},
-        {ods(QByteArray("<a>").repeated(10000)), ReadError::Damaged},
-        {ods(bomb), ReadError::TooLarge},
-        {ods(comment), ReadError::TooLarge},
-        {ods(attribute), ReadError::TooLarge},
-        {ods("<a " + QByteArray("b='' ").repeated(300) + "/>"), ReadError::TooLarge},
-        {ods("<a>" + QByteArray("<table name='a'/>").repeated(2000) + "</a>"), ReadError::TooLarge},
-        {ods(row(Cell, "number-rows-repeated='5000000'")), ReadError::TooLarge},
-        {zipOf({{"xl/workbook.xml", "<workbook><sheets/></workbook>"}}), ReadError::Empty},
-        {cards({Notes}), ReadError::Damaged},
-        {cards({Notes, Cards, Col, "INSERT INTO col VALUES ('{}', '{}')"}), ReadError::Empty},
-        {cards(
-             {"CREATE VIEW notes AS WITH RECURSIVE n(id) AS (SELECT 1 UNION ALL SELECT id + 1 FROM n) SELECT id, 1 AS "
-              "mid, 'a' AS flds FROM n",
-              Cards, Col}),
-         ReadError::Damaged},
-        {cards({"CREATE TABLE notes (id integer, mid integer, flds text GENERATED ALWAYS AS (hex(zeroblob(1000))))",
-                Cards, Col}),
-         ReadError::Damaged},
-        {cards({"CREATE VIRTUAL TABLE notes USING fts4(id, mid, flds)", Cards, Col}), ReadError::Damaged}};
-    for (const auto &[bytes, error] : cases)
-        EXPECT_EQ(pairsOf(bytes), QStringList(QString::number(int(error)))) << bytes.left(60).toStdString();
-    EXPECT_TRUE(ListReader::message(ReadError::NewerKind).endsWith("newer program."));
-    EXPECT_EQ(pairsOf(ListReader::openFile("/dev/zero", {})), QStringList(QString::number(int(ReadError::CannotOpen))));
-}
-
-TEST(BadFiles, OddOnesArriveAllTheSame)
-{
+    // The entries of a package, the table of a workbook, or what makes a collection of cards; then the error, the words
+    // or, after a "+", all lists.
+    for (const QString &each : QString(readFile(Data + "odd_files.txt")).split('\n', Qt::SkipEmptyParts)) {
+        const QString kind = each.section(' ', 0, 0), content = each.section(' ', 1).section(" => ", 0, 0);
+        std::vector<std::pair<QByteArray, QByteArray>> entries;
+        for (const QString &entry : kind == "zip" ? content.split(" ; ") : QStringList())
+            entries.emplace_back(entry.section('=', 0, 0).toUtf8(), entry.section('=', 1).toUtf8());
+        const QByteArray bytes = kind == "zip"   ? zipOf(entries)
+                                 : kind == "ods" ? ods(content.toUtf8())
+                                                 : cards(content.split("; "));
+        const QString found = kind.endsWith('+') ? described(openBytes(bytes)) : pairsOf(bytes).join('~');
+        EXPECT_EQ(QString(found).replace('\n', '~').toStdString(), each.section(" => ", 1).toStdString()) << each.left(200).toStdString();
+    }
     const QByteArray wide = "a;b" + QByteArray(";c").repeated(100000) + "\n";
+    const QByteArray elements = QByteArray("<x/>").repeated(300000);
+    const auto longToken = [](qsizetype size) { return ods("<a>" + QByteArray(size, 'x') + "</a>"); };
+    const auto error = [](ReadError reason) { return QStringList(QString::number(int(reason))); };
     const std::pair<QByteArray, QStringList> cases[] = {
+        {"", error(ReadError::Empty)},
+        {" \r\n\t\n", error(ReadError::Empty)},
+        {"%PDF-1.4\n", error(ReadError::OtherKind)},
+        {QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\xff\xfe", 18), error(ReadError::OtherKind)},
+        {QByteArray("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", 8), error(ReadError::OldKind)},
+        {"PK\x03\x04nothing", error(ReadError::Damaged)},
+        {"\x1F\x8Bnothing", error(ReadError::Damaged)},
+        {"Glosaria\r\n9.0\r\n", error(ReadError::NewerKind)},
+        {"Glosaria\r\n3.1.0\r\n[Font Info]\r\n", error(ReadError::Damaged)},
+        {"Glosaria\r\n2\r\n", error(ReadError::Empty)},
+        {zipOf({{"xl/workbook.xml", "<a/>"}}, "password"), error(ReadError::Locked)},
+        {zipOf({{"xl/workbook.xml", "<a/>"}}) // packed in an unknown way
+             .replace(QByteArray("\x14\0\0\0\0\0", 6), QByteArray("\x14\0\0\0\x61\0", 6)),
+         error(ReadError::Damaged)},
+        {longToken(1048573), error(ReadError::Empty)},
+        {longToken(1048574), error(ReadError::TooLarge)},
+        {ods("<a><!-- > " + QByteArray(3 << 20, '<') + " --></a>"), error(ReadError::TooLarge)},
+        {ods("<a b='" + QByteArray(3 << 20, '>') + "'></a>"), error(ReadError::TooLarge)},
+        {ods("<a>" + QByteArray("<table name='a'/>").repeated(1001) + "</a>"), error(ReadError::TooLarge)},
+        {ods("<a>" + QByteArray("<table name='a'/>").repeated(1000) + "</a>"), error(ReadError::Empty)},
         {wide, {"|", "a|b"}},
         {QByteArray("a\0b\tc\n\0\t\0\n", 10), {"|", "ab|c"}},
-        {"a\tb\rc\td\r\ne\tf\n\ng\th", {"|", "a|b", "c|d", "e|f", "g|h"}},
-        {"\"a,b\nc,d\n", {"|", "\"a|b", "c|d"}},
-        {"\"a\",\"b\"\"c\"\n\"d\ne\",f\nx\"y,\"z\n", {"|", "a|b\"c", "d e|f", "x\"y|\"z"}},
-        {ods(row(Cell + "<table-cell number-columns-repeated='2000000000'/>" + Cell)), {"|", "a|"}},
-        {ods(row("<table-cell formula='" + QByteArray(300, '=') + "'><p>a</p></table-cell>" + Cell)), {"|", "a|a"}},
-        {ods(row(Cell + "<covered-table-cell/>" + Cell)), {"|", "a|a"}},
-        {ods("<?xml version='1.0'?><table><shapes>" + Cell + "</shapes>" + QByteArray("<x/>").repeated(300000) +
-             "<!-- > -->" + QByteArray("<x/>").repeated(300000) + "<table-row>" + Cell + "</table-row></table>"),
-         {"|", "a|"}},
-        {cards({Notes, Cards, "CREATE TABLE decks (id integer, name text)", "INSERT INTO notes VALUES (1, 2, 'a')"}),
-         {"|", "a|"}},
-        {cards({Notes, Cards, Col, "INSERT INTO col VALUES ('no JSON', '[1]')",
-                "INSERT INTO notes VALUES (1, 2, 'a' || char(31) || 'b'), (2, 2, NULL), (3, 2, 'c')"}),
-         {"|", "a|b", "c|"}}};
+        {"#separator:;\r\n#columns:A;B\r\na;b\r\nc;d\r\re;f\n", {"A|B", "a|b", "c|d", "e|f"}},
+        {ods("<?xml version='1.0'?><table>" + elements + "<!-- > -->" + elements + "<![CDATA[>]]>" + elements +
+             "<table-row><table-cell><p>a</p></table-cell></table-row></table>"),
+         {"|", "a|"}}};
     for (const auto &[bytes, words] : cases)
         EXPECT_EQ(pairsOf(bytes), words) << bytes.left(60).toStdString();
-    const QString many =
-        "INSERT INTO notes WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n LIMIT 30000) "
-        "SELECT i, 1, hex(randomblob(9)) || char(31) || i FROM n";
-    const QStringList words = pairsOf(cards({Notes, Cards, "CREATE TABLE decks (id, name)", many}, true));
+    EXPECT_EQ(openBytes("\xE9" + QByteArray(4095, 'a') + '\0').error, ReadError::None);
+    EXPECT_TRUE(ListReader::message(ReadError::NewerKind).endsWith("newer program."));
+    EXPECT_EQ(pairsOf(ListReader::openFile("/dev/zero", {})), error(ReadError::CannotOpen));
+    const QString many = "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n LIMIT 30000) "
+                         "SELECT i, 1, hex(randomblob(9)) || char(31) || i FROM n";
+    const QStringList words = pairsOf(cards({"CREATE TABLE cards (nid, did, odid)", "CREATE TABLE decks (id, name)",
+                                             "CREATE TABLE notes (id, mid, flds)", "INSERT INTO notes " + many},
+                                            true));
     EXPECT_TRUE(words.size() == 30001 && words.last().endsWith("|30000")) << words.size();
     const ListReader::Table table = ListReader::read(*openBytes(wide).source, openBytes(wide).source->proposal());
     EXPECT_EQ(Pairs::count(table.table, {}).dropped.columns, 100000);
