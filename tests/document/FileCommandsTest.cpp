@@ -1,5 +1,7 @@
 #include "support/OpenFiles.h"
 
+namespace {
+
 const QByteArray Words =
     "Glosaria\r\n3.1.0\r\n\r\n[Font Info]\r\n\"Arial\"\r\n12.5\r\n#TRUE#\r\n#TRUE#\r\n255\r\n\r\n"
     "[Grid Info]\r\n500\r\n3000\r\n2000\r\n2\r\n\r\n[Vocabulary]\r\nEnglish   [0000000285]\r\nGerman\r\n"
@@ -8,174 +10,113 @@ const QByteArray Words =
 struct FileCommandsTest : ::testing::Test, OpenFiles
 {
     QTemporaryDir folder;
+    bool isKept = true; ///< in a copy
+    QString told;
 
-    QString path(const QString &name) const { return folder.filePath(name); }
-    QString write(const QString &name, const QByteArray &bytes) const { return writeFile(path(name), bytes); }
-    frmDoc &load(const QString &file)
+    bool secure(frmDoc &) override { return isKept; }
+    QString path(const QString &name) const { return name.isEmpty() ? name : folder.filePath(name); }
+    void activateLast() { documents.setActive(documents.open().empty() ? nullptr : documents.open().back()); }
+
+    /// The documents, their files and whether they are changed (the active one with a ">"); what was told by signals,
+    /// file dialogs, boxes and the status bar since the last step.
+    QString state()
     {
-        files.LoadVocabulary(file);
-        documents.setActive(documents.open().back());
-        return *documents.active();
+        QStringList parts;
+        for (const frmDoc *document : documents.open()) {
+            EXPECT_TRUE(document->isVisible() && document->Rutor()->Redraw());
+            parts += (document == documents.active() ? ">" : "") + document->Caption() + '<' + document->DocName() +
+                     (document->Dirty() ? ">*" : ">");
+        }
+        parts += std::exchange(told, {});
+        if (const QStringList names = std::exchange(prompts.proposed, {}); !names.isEmpty())
+            parts += "asked for " + names.join('|');
+        if (const QString place = std::exchange(prompts.folder, {}); !place.isEmpty())
+            parts += "in " + place;
+        for (const Alert &box : std::exchange(alert.shown, {}))
+            parts += '[' + box.prompt + QString(" %1 %2").arg(int(box.buttons)).arg(box.helpId) +
+                     (box.sound ? " bell" : "") + (box.exclamation ? " !]" : "]");
+        parts += status.text(0) == resText(506) ? "" : status.text(0);
+        EXPECT_FALSE(status.findChild<QProgressBar *>());
+        parts.removeAll("");
+        return parts.join(' ')
+            .remove(folder.path() + '/')
+            .replace(folder.path(), "the folder")
+            .replace("\r\n", "\n")
+            .replace('\n', '~');
     }
 };
 
-TEST_F(FileCommandsTest, ALoadedFileFillsADocumentAndIsSavedAsItWas)
+} // namespace
+
+TEST_F(FileCommandsTest, ReadSaveCloseAndTell)
 {
-    prompts.openPath = write("Words.gla", Words);
-    double progress = 0;
+    QByteArray older = Words;
+    const std::map<QString, QByteArray> contents = {{"words", Words},
+                                                    {"other", Words + "river   [0000000285]\r\nFluss\r\n"},
+                                                    {"one", Words.first(Words.indexOf("tree"))},
+                                                    {"bare", Words.first(Words.indexOf("English"))},
+                                                    {"bad", "glosaria\r\n3\r\n"},
+                                                    {"newer", older.replace("3.1.0", "4.0.0")},
+                                                    {"older", "Glosaria\r\n2\r\nA\r\nB\r\none\r\neins\r\n"},
+                                                    {"odd", Words + "half\r\n"},
+                                                    {"long", Words + QByteArray(10000000, '\r')}};
+    const std::map<QString, AlertBox::Answer> answers = {{"yes", AlertBox::AnswerYes},
+                                                         {"no", AlertBox::AnswerNo},
+                                                         {"cancel", AlertBox::AnswerCancel},
+                                                         {"ok", AlertBox::AnswerOk}};
+    const std::map<QString, std::function<void(const QString &)>> steps = {
+        {"write", [&](const QString &x) { writeFile(path(x.section(' ', 0, 0)), contents.at(x.section(' ', 1))); }},
+        {"folder", [&](const QString &x) { QDir().mkdir(path(x)); }},
+        {"remove", [&](const QString &x) { QFile::remove(path(x)); }},
+        {"compare",
+         [&](const QString &x) {
+             told = readFile(path(x.section(' ', 0, 0))) == contents.at(x.section(' ', 1)) ? "same" : "different";
+         }},
+        {"exists", [&](const QString &x) { told = QFileInfo(path(x)).isFile() ? "yes" : "no"; }},
+        {"new", [&](const QString &) { newDocument(); }},
+        {"open", [&](const QString &x) { prompts.openPath = path(x), files.open(), activateLast(); }},
+        {"load", [&](const QString &x) { files.LoadVocabulary(path(x)), activateLast(); }},
+        {"copy", [&](const QString &x) { files.openCopy(path(x)), activateLast(); }},
+        {"save", [&](const QString &x) { prompts.savePath = path(x), files.save(); }},
+        {"save-as", [&](const QString &x) { prompts.savePath = path(x), files.saveAs(); }},
+        {"close", [&](const QString &x) { prompts.savePath = path(x), files.closeActive(); }},
+        {"close-all", [&](const QString &) { told += files.closeAll() ? " closed" : " refused"; }},
+        {"answer",
+         [&](const QString &x) {
+             for (const QString &each : x.split(' '))
+                 alert.answers.push_back(answers.at(each));
+         }},
+        {"type",
+         [&](const QString &x) {
+             QApplication::setActiveWindow(documents.active()), QTest::keyClicks(QApplication::focusWidget(), x);
+         }},
+        {"dirty", [&](const QString &x) { documents.active()->setDirty(x.isEmpty()); }},
+        {"rows",
+         [&](const QString &x) {
+             for (const QString &row : x.split(' '))
+                 documents.active()->Rutor()->setTextMatrix(row.toInt(), 2, "Wort");
+         }},
+        {"again",
+         [&](const QString &) { documents.active()->Rutor()->setRows(2), documents.active()->Rutor()->setRows(30); }},
+        {"lose", [&](const QString &) { isKept = false; }},
+        {"find", [&](const QString &) { flags.FindMode = true; }},
+        {"recent", [&](const QString &) { told = recent.File(1) + ' ' + recent.File(recent.FileCount()); }},
+        {"clip", [&](const QString &) {
+             documents.active()->select({1, 1, documents.active()->Rutor()->Rows() - 1, 2}),
+                 told = documents.active()->language(1) + '|' + documents.active()->language(2) + ' ' +
+                        documents.active()->Rutor()->Clip().replace('\t', '|').replace('\r', ' ');
+         }}};
     QObject::connect(&files, &FileCommands::opened, [&] {
         const auto *bar = status.findChild<QProgressBar *>();
-        progress = double(bar->value()) / bar->maximum();
+        told += QString(" opened%1").arg(bar ? bar->value() * 100 / bar->maximum() : 0);
     });
-    files.open();
-    EXPECT_EQ(progress, 1.0);
-    frmDoc &document = *documents.open().at(0);
-    EXPECT_EQ(document.Caption() + document.Rutor()->TextMatrix(1, 2) + status.text(0), "WordsHaus" + resText(506));
-    EXPECT_TRUE(document.isVisible() && !document.Dirty() && document.Rutor()->Redraw());
-    EXPECT_EQ(recent.File(1), prompts.openPath);
-    EXPECT_TRUE(!status.findChild<QProgressBar *>() && alert.shown.empty());
-
-    files.SaveVocabulary(document, path("Copy.gla"));
-    EXPECT_EQ(readFile(path("Copy.gla")), Words);
-    documents.setActive(&document);
-    prompts.openPath.clear();
-    files.open();
-    files.saveAs();
-    EXPECT_EQ(prompts.folder, folder.path());
-    EXPECT_EQ(document.Caption(), "Copy");
-    const frmDoc &bare = load(write("bare.gla", Words.first(Words.indexOf("English"))));
-    EXPECT_EQ(bare.Rutor()->Rows(), 2) << "one can write in it";
-    EXPECT_EQ(bare.language(2), resText(502));
-}
-
-TEST_F(FileCommandsTest, EveryFailureHasItsMessageAndLeavesNoWindow)
-{
-    QDir().mkdir(path("x.gla"));
-    const auto cannotOpen = [this](const QString &name) -> QString { return resText(712) + path(name); };
-    const std::tuple<const char *, QByteArray, QString, int, size_t> cases[] = {
-        {"bad.gla", "glosaria\r\n3\r\n", resText(713) + path("bad.gla") + resText(714), 1420, 0},
-        {"newer.gla", QByteArray(Words).replace("3.1.0", "4.0.0"), resText(722).replace("%1", "newer"), 1440, 0},
-        {"older.gla", "Glosaria\r\n2\r\nA\r\nB\r\none\r\neins\r\n", resText(721).replace("%1", "older"), 1430, 1},
-        {"OLDER.gla", {}, resText(710) + path("OLDER.gla") + resText(711), 1410, 0}, // whatever the case of its name
-        {"odd.gla", Words + "half\r\n", cannotOpen("odd.gla"), 0, 0},
-        {"rows.gla", Words + QByteArray(10000000, '\r'),
-         cannotOpen("rows.gla") + "\n\nIt has more than 5,000,000 rows.", 0, 0},
-        {"x.gla", {}, cannotOpen("x.gla"), 0, 0},
-        {"missing.gla", {}, cannotOpen("missing.gla"), 0, 0},
-    };
-    for (const auto &[name, bytes, prompt, helpId, opened] : cases) {
-        alert.shown.clear();
-        if (!bytes.isEmpty())
-            write(name, bytes);
-        const size_t before = documents.open().size();
-        files.LoadVocabulary(path(name));
-        EXPECT_EQ(alert.onlyPrompt(), prompt);
-        EXPECT_EQ(alert.shown.front().helpId, helpId);
-        EXPECT_EQ(alert.shown.front().buttons, helpId ? Alert::OkHelp : Alert::Ok);
-        EXPECT_EQ(documents.open().size() - before, opened) << name;
-        EXPECT_EQ(status.text(0), resText(506));
+    QObject::connect(&files, &FileCommands::saved, [&] { told += " saved"; });
+    QObject::connect(&files, &FileCommands::givenUp, [&] { told += " given up"; });
+    const QString script = readFile(SOURCE_FOLDER "/tests/document/data/file_commands.txt");
+    for (const QString &line : script.split('\n', Qt::SkipEmptyParts)) {
+        const QString step = line.section(" -> ", 0, 0);
+        steps.at(step.section(' ', 0, 0))(step.section(' ', 1));
+        EXPECT_EQ((step + " -> " + state()).toStdString(), line.toStdString());
     }
-    EXPECT_EQ(recent.FileCount(), 1) << "only the older file was opened";
-}
-
-TEST_F(FileCommandsTest, SaveAsksForANameUntilItHasOneAndCommitsTheRunningEdit)
-{
-    frmDoc &document = *newDocument();
-    QApplication::setActiveWindow(&document);
-    for (const QString &savePath : {QString(), path("no/such/folder.gla"), path("Numbers.gla")}) {
-        EXPECT_EQ(document.DocName() + document.Caption(), "Untitled 1");
-        prompts.savePath = savePath;
-        QTest::keyClicks(QApplication::focusWidget(), "one");
-        files.save();
-        EXPECT_EQ(document.Dirty(), savePath != path("Numbers.gla"));
-    }
-    EXPECT_EQ(document.Caption() + prompts.folder, "Numbers");
-    EXPECT_TRUE(readFile(prompts.savePath).contains("one   [0000000285]"));
-    flags.FindMode = true; // which holds status texts by id back
-    files.save();
-    EXPECT_EQ(status.text(0), resText(506));
-    EXPECT_EQ(prompts.proposed, QStringList(3, "Untitled 1"));
-}
-
-TEST_F(FileCommandsTest, TheClosingQuestionDecides)
-{
-    const std::tuple<AlertBox::Answer, QString, bool, bool> cases[] = {
-        {AlertBox::AnswerCancel, path("a.gla"), false, false},
-        {AlertBox::AnswerNo, path("b.gla"), true, false},
-        {AlertBox::AnswerYes, path("c.gla"), true, true},
-        {AlertBox::AnswerYes, {}, true, false}}; // the dialog is cancelled
-    for (const auto &[answer, savePath, closes, saved] : cases) {
-        frmDoc *document = newDocument();
-        document->setCaption("Words");
-        document->setDirty(true);
-        prompts.savePath = savePath;
-        alert.shown.clear();
-        alert.answers = {answer};
-        files.closeActive();
-        EXPECT_EQ(alert.onlyPrompt(), "The text in [Words] has changed.\r\nDo you want to save the changes?");
-        EXPECT_EQ(alert.shown.front().helpId, 1400);
-        EXPECT_EQ(documents.open().empty(), closes) << answer;
-        EXPECT_EQ(documents.active() == nullptr, closes);
-        EXPECT_EQ(QFileInfo(prompts.savePath).isFile(), saved) << answer;
-        if (!closes)
-            document->setDirty(false);
-        files.closeAll();
-    }
-    // all at once: up to the first refusal
-    for (const bool dirty : {false, true, false})
-        newDocument()->setDirty(dirty);
-    alert.answers = {AlertBox::AnswerCancel, AlertBox::AnswerNo};
-    EXPECT_TRUE(!files.closeAll() && documents.open().size() == 2);
-    EXPECT_EQ(newDocument()->Caption(), "Untitled 8") << "no number is used twice";
-    EXPECT_TRUE(files.closeAll() && alert.answers.empty());
-}
-
-TEST_F(FileCommandsTest, WordsBelowTheLastRowWrittenAreToldAndKeepTheDocumentChanged)
-{
-    const std::pair<std::vector<int>, QString> cases[] = {
-        {{}, ""},
-        {{2}, "row 2"},
-        {{2, 3, 4, 6, 9, 10}, "rows 2-4, 6, 9-10"},
-        {{2, 4, 6, 8, 10, 12, 14, 16, 17, 19, 21, 22}, "rows 2, 4, 6, 8, 10, 12, 14, 16-17 and 3 more"},
-    };
-    frmDoc &document = load(write("100%1.gla", Words.first(Words.indexOf("tree"))));
-    for (const auto &[rows, told] : cases) {
-        document.Rutor()->setRows(2);
-        document.Rutor()->setRows(30);
-        for (const int row : rows)
-            document.Rutor()->setTextMatrix(row, 2, "Wort");
-        document.setDirty(true);
-        alert.shown.clear();
-        files.save();
-        EXPECT_EQ(readFile(document.DocName()).count("Wort"), 0) << "the format has no place for them";
-        EXPECT_EQ(document.Dirty(), !told.isEmpty());
-        const QString prompt = "The words in " + told + " are not in the file " + document.DocName() +
-                               ": a vocabulary file ends with the last row that has a word under [English].\nThey are "
-                               "still in the window.";
-        EXPECT_TRUE(told.isEmpty() ? alert.shown.empty() : alert.onlyPrompt().startsWith(prompt)) << qPrintable(told);
-    }
-    alert.answers = {AlertBox::AnswerYes, AlertBox::AnswerOk};
-    EXPECT_TRUE(files.closeAll()) << "as whoever asks for it wants it, but not without a word";
-    EXPECT_EQ(alert.shown.back().helpId, 1110);
-    EXPECT_EQ(alert.shown.size(), 3u);
-}
-
-TEST_F(FileCommandsTest, AFileThatAnotherProgramHasChangedIsReplacedOnlyIfWanted)
-{
-    const QByteArray other = Words + "river   [0000000285]\r\nFluss\r\n";
-    const QString file = write("shared.gla", Words);
-    load(file).setDirty(true);
-    write("shared.gla", other);
-    alert.answers = {AlertBox::AnswerNo, AlertBox::AnswerYes, AlertBox::AnswerNo};
-    files.save();
-    EXPECT_FALSE(files.closeAll());
-    EXPECT_EQ(readFile(file), other);
-    QFile::remove(file); // what is gone is written without a question
-    files.save();
-    EXPECT_EQ(alert.shown.size(), 3u);
-    write("shared.gla", other);
-    documents.active()->setDirty(true);
-    alert.answers = {AlertBox::AnswerYes, AlertBox::AnswerYes};
-    EXPECT_TRUE(files.closeAll());
-    EXPECT_EQ(readFile(file), Words);
+    EXPECT_TRUE(alert.answers.empty());
 }

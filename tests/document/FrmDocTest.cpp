@@ -53,7 +53,8 @@ TEST_F(FrmDocTest, NewDocumentsAreSetUpFromTheSettings)
     for (const auto &[name, value] : fresh.saveProperties().asKeyValueRange())
         found += name + ": " + value.toString() + '\n';
     for (int col = 0; col < 3; ++col)
-        found += QString("%1 %2 %3\n").arg(fresh.TextMatrix(0, col)).arg(fresh.ColAlignment(col)).arg(fresh.ColWidth(col));
+        found +=
+            QString("%1 %2 %3\n").arg(fresh.TextMatrix(0, col)).arg(fresh.ColAlignment(col)).arg(fresh.ColWidth(col));
     EXPECT_EQ(found.toStdString(), readFile(SOURCE_FOLDER "/tests/document/data/new_grid.txt").toStdString());
     EXPECT_EQ(grid.geometry(), document.rect());
 }

@@ -32,7 +32,8 @@ TEST(GridRules, RowsGrowForLongTextsAndNeverShrink)
 
 TEST(GridRules, ASelectionIsCalledByItsCorners)
 {
-    EXPECT_EQ(cellReference({3, 2, 3, 2}) + cellReference({2, 2, 2, 1}) + cellReference({12, 1, 3, 1}), " B3 A2:B2 A3:A12");
+    EXPECT_EQ(cellReference({3, 2, 3, 2}) + cellReference({2, 2, 2, 1}) + cellReference({12, 1, 3, 1}),
+              " B3 A2:B2 A3:A12");
 }
 
 TEST(GridRules, PastedTextGrowsFromASingleCellAndAtTheEndOnly)

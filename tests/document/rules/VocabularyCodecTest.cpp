@@ -113,7 +113,8 @@ TEST(VocabularyCodec, WrongFilesAreRefused)
          {"[Font", "\"Arial", "10\r\n#", "#FALSE#\r\n#", "#FALSE#\r\n0", "0\r\n\r\n[G", "4000\r\n4000", "2\r\n\r\n[V"})
         cases.emplace_back(Whole.first(Whole.indexOf(end)), Outcome::Failed); // cut off before it
     // what stands in a proper file, and what instead of it in one that cannot be read; ~ is a line end
-    const QByteArray changes = readFile(SOURCE_FOLDER "/tests/document/rules/data/wrong_files.txt").replace('~', "\r\n");
+    const QByteArray changes =
+        readFile(SOURCE_FOLDER "/tests/document/rules/data/wrong_files.txt").replace('~', "\r\n");
     for (const QByteArray &change : changes.chopped(1).split('|')) {
         const qsizetype arrow = change.indexOf(" -> ");
         cases.emplace_back(changed(change.left(arrow), change.mid(arrow + 4)), Outcome::Failed);

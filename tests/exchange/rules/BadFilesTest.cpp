@@ -47,7 +47,8 @@ TEST(OddFiles, ArriveOrEndInTheirOwnReason)
                                  : kind == "ods" ? ods(content.toUtf8())
                                                  : cards(content.split("; "));
         const QString found = kind.endsWith('+') ? described(openBytes(bytes)) : pairsOf(bytes).join('~');
-        EXPECT_EQ(QString(found).replace('\n', '~').toStdString(), each.section(" => ", 1).toStdString()) << each.left(200).toStdString();
+        EXPECT_EQ(QString(found).replace('\n', '~').toStdString(), each.section(" => ", 1).toStdString())
+            << each.left(200).toStdString();
     }
     const QByteArray wide = "a;b" + QByteArray(";c").repeated(100000) + "\n";
     const QByteArray elements = QByteArray("<x/>").repeated(300000);

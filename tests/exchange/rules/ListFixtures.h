@@ -32,7 +32,8 @@ inline QStringList pairsOf(const QByteArray &bytes)
     return pairsOf(openBytes(bytes));
 }
 
-/// All lists of a source, the one that is proposed marked: their names, and their rows without what is blank at the end.
+/// All lists of a source, the one that is proposed marked: their names, and their rows without what is blank at the
+/// end.
 inline QString described(const ListReader::Result &opened)
 {
     QString text;
