@@ -71,18 +71,18 @@ TEST_F(AppPropertiesTest, ValuesThatCannotBeTrustedAreRepaired)
     const auto with = [this](const QByteArray &record) {
         store.setValue(HKEY_CURRENT_USER, Key, "Settings", {RegistryType::Binary, record});
         settings.ReadProperties();
-        return std::array{settings.FontSize(), settings.QuizMode(), settings.AutoTimerInterval()};
+        return std::array{settings.FontSize(), settings.QuizMode(), settings.AutoTimerInterval(), +settings.FontBold()};
     };
-    EXPECT_EQ(with(QByteArray("\2", 1)), (std::array{10, 1, 0}));
-    EXPECT_EQ(with(QByteArray(39, '\xff')), (std::array{10, 1, 0}));
-    EXPECT_EQ(with(QByteArray(39, '\x7f')), (std::array{clsAppProperties::LargestFontSize, 1, 0x7f7f7f7f}));
-    EXPECT_EQ(with(QByteArray(18, '\0') + QByteArray("\1\0\5\0", 4)), (std::array{1, 5, 0}));
+    EXPECT_EQ(with(QByteArray("\2", 1)), (std::array{10, 1, 0, 0}));
+    EXPECT_EQ(with(QByteArray(39, '\xff')), (std::array{10, 1, 0, 1}));
+    EXPECT_EQ(with(QByteArray(39, '\x7f')), (std::array{clsAppProperties::LargestFontSize, 1, 0x7f7f7f7f, 1}));
+    EXPECT_EQ(with(QByteArray(18, '\0') + QByteArray("\1\0\5\0", 4)), (std::array{1, 5, 0, 0}));
     const RegistryValue text{RegistryType::String, QString(" ")};
     const auto number = [](quint32 value) { return RegistryValue{RegistryType::Number, value}; };
     const std::vector<std::pair<const char *, RegistryValue>> values{
         {"QuizMostWords", number(32768)}, {"ShowLetters", number(2)}, {"QuizRememberAnswers", number(2)},
         {"QuizMostWords", text},          {"FontName", text},         {"QuizMostWords", number(UINT_MAX)},
-        {"QuizWindowWidth", number(9)}};
+        {"QuizWindowHeight", number(9)},  {"QuizWindowHeight", text}, {"QuizWindowWidth", number(9)}};
     for (const auto &[name, value] : values) {
         store.setValue(HKEY_CURRENT_USER, Key, name, value);
         settings.ReadProperties();

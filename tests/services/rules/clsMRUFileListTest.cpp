@@ -26,28 +26,6 @@ struct MRUFileListTest : ::testing::Test
     clsRegistry registry{store};
 };
 
-TEST_F(MRUFileListTest, NewestFirstWithoutDoubles)
-{
-    for (const auto &[added, expected] :
-         {std::pair("", ""), {"A B C D E", "E D C B"}, {"A B C D b", "b D C A"}, {"A B b", "b A"}})
-        EXPECT_EQ(filesOf(with(added)), expected) << added;
-}
-
-TEST_F(MRUFileListTest, CaptionShortensTheMiddleOfThePath)
-{
-    const QString cases =
-        "/a/exactly_20_px.g = /a/exactly_20_px.g; /a/one_letter_more.g = /a/one_letter_more.g; /abcd/one_letter_mo = "
-        "/.../one_letter_mo; /home/anna/words/french.gla = /hom.../french.gla; /a/b/c&d/e/f/g/h/x&y.gla = "
-        "/a/b/c&&.../x&&y.gla; /folder/a_name_wider_than_the_menu.gla = .../a_name_wider_than_the_menu.gla; "
-        "no_folder_but_a_long_name.gla = no_folder_but_a_long_name.gla; /ab/long_in_a_short_one = "
-        "/ab/long_in_a_short_one; "
-        "/ab\U0001F600\U0001F600\U0001F600\U0001F600/words.gla = /ab\U0001F600.../words.gla; "
-        "/abc\U0001F600\U0001F600\U0001F600\U0001F600/words.gla = /abc.../words.gla";
-    for (const QString &each : cases.split("; "))
-        EXPECT_EQ(with(each.section(" = ", 0, 0)).MenuCaption(1), "&1 " + each.section(" = ", 1));
-    EXPECT_EQ(with("/a" + QString(QChar::Null) + "b").MenuCaption(1), "&1 /a");
-}
-
 TEST_F(MRUFileListTest, SavedListComesBackAsFarAsItsNumbersCanBeTrusted)
 {
     with("A B C D").Save(registry);
@@ -55,6 +33,7 @@ TEST_F(MRUFileListTest, SavedListComesBackAsFarAsItsNumbersCanBeTrusted)
     clsMRUFileList list = with("X Y Z");
     list.Load(registry);
     EXPECT_TRUE(filesOf(list) == "F E" && list.MaxFileCount() == 4);
+    EXPECT_EQ(store.value(HKEY_CURRENT_USER, "Files", "Count")->type, RegistryType::Number);
     registry.setValueKey("File3");
     EXPECT_EQ(registry.Value(), QVariant("B"));
     const int cases[][3] = {

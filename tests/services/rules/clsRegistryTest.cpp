@@ -44,8 +44,8 @@ TEST_F(RegistryTest, ValueComesBackByItsStoredType)
 TEST_F(RegistryTest, FailuresNameKeyAndValue)
 {
     const std::tuple<int, std::function<void()>, const char *> cases[] = {
-        {7, [this] { registry.setValue("Arial"); },
-         "set registry value Key: '7',Section: 'K\\L',Key: 'N' to value: 'Arial'"},
+        {7, [this] { registry.setValue(QString("a%1b").arg(QString(QChar::Null))); },
+         "set registry value Key: '7',Section: 'K\\L',Key: 'N' to value: 'a b'"},
         {7, [this] { registry.setValue(QByteArray("\1\xff")); },
          "set registry value Key: '7',Section: 'K\\L',Key: 'N' to value: '01 ff'"},
         {7, [this] { registry.CreateKey(); }, "create registry Key: 'K\\L"},
