@@ -13,8 +13,10 @@ namespace {
 ULocaleDisplayNames *namesIn(const QString &language, LanguageNames::Form form)
 {
     UErrorCode error = U_ZERO_ERROR;
-    UDisplayContext context[]{form == LanguageNames::InList ? UDISPCTX_CAPITALIZATION_FOR_UI_LIST_OR_MENU
-                                                            : UDISPCTX_CAPITALIZATION_NONE};
+    // one without a name would be called by its code
+    UDisplayContext context[]{UDISPCTX_NO_SUBSTITUTE, form == LanguageNames::InList
+                                                          ? UDISPCTX_CAPITALIZATION_FOR_UI_LIST_OR_MENU
+                                                          : UDISPCTX_CAPITALIZATION_NONE};
     return uldn_openForContext(language.toLatin1().constData(), context, int(std::size(context)), &error);
 }
 
@@ -54,8 +56,7 @@ QString LanguageNames::of(const QByteArray &code) const
     std::array<UChar, 128> name{};
     UErrorCode error = m_names ? U_ZERO_ERROR : U_ILLEGAL_ARGUMENT_ERROR;
     const int32_t size = uldn_languageDisplayName(m_names, code.constData(), name.data(), int32_t(name.size()), &error);
-    const QString text = U_SUCCESS(error) ? QString::fromUtf16(name.data(), size) : QString();
-    return text == QLatin1String(code) ? QString() : text; // one without a name is called by its code
+    return U_SUCCESS(error) ? QString::fromUtf16(name.data(), size) : QString();
 }
 
 QString LanguageNames::translated(const QString &english) const

@@ -1,4 +1,6 @@
+#include "platform/registry/RegistryTree.h"
 #include "services/help/rules/HelpBook.h"
+#include "services/help/rules/HelpFavorites.h"
 #include "services/help/rules/HelpSearch.h"
 #include "services/rules/CellText.h"
 #include "services/rules/ClipText.h"
@@ -8,6 +10,7 @@
 #include "services/rules/SortOrder.h"
 #include "services/rules/TextDigits.h"
 #include "services/settings/clsMRUFileList.h"
+#include "services/settings/clsRegistry.h"
 
 /// What the rules make of a text, with the words that follow their name in rules.txt.
 using Rule = QString (*)(const QStringList &with, const QString &text);
@@ -32,48 +35,57 @@ QString letters(const QStringList &with, const QString &text)
 QString sorted(const QStringList &with, const QString &text)
 {
     const QStringList all = text.split('|');
-    const int top = with[0] == "falling" ? 1 : 3;
+    const bool falls = with[1] == "falling";
+    const int top = falls ? 1 : 3;
     std::vector<int> columns;
-    for (const QChar column : with[3])
+    for (const QChar column : with[4])
         columns.push_back(column.digitValue());
-    const auto rule = SortOrder::Rule(QStringList{"generic", "numeric", "nocase", "string"}.indexOf(with[2]));
+    const auto rule = SortOrder::Rule(QStringList{"generic", "numeric", "nocase", "string"}.indexOf(with[3]));
+    const auto cell = [&](int row, int col) { return all[row - top].section(':', col - 1, col - 1); };
     QStringList result;
     for (const int row :
-         SortOrder::sortedRows([&](int row, int col) { return all[row - top].section(':', col - 1, col - 1); },
-                               {top, top + int(all.size()) - 1, columns, with[0] == "falling", QLocale(with[1]), rule}))
+         SortOrder::sortedRows(cell, {top, top + int(all.size()) - 1, columns, falls, QLocale(with[2]), rule}))
         result += all[row - top];
     return result.join('|');
 }
 
-/// Those of the languages in the order of all.
-QString listed(const QStringList &with, const QString &text)
+/// The text in another language, or several names in the order of its list.
+QString languages(const QStringList &with, const QString &text)
 {
-    QStringList names = LanguageNames(with.value(1), LanguageNames::InList).all();
-    names.removeIf([wanted = text.split(", ")](const QString &name) { return !wanted.contains(name); });
-    return names.join(", ");
+    const LanguageNames names(with.value(2), with[1] == "within" ? LanguageNames::InText : LanguageNames::InList);
+    if (with[1] != "listed")
+        return with[1] == "named" ? names.of(text.toLatin1()) : names.translated(text);
+    QStringList all = names.all();
+    all.removeIf([wanted = text.split(", ")](const QString &name) { return !wanted.contains(name); });
+    return all.join(", ");
 }
 
-QString inDigits(const QStringList &with, const QString &text)
+QString digits(const QStringList &with, const QString &text)
 {
-    QLocale::setDefault(QLocale(with[1]));
+    QLocale::setDefault(QLocale(with[2]));
     const QDateTime time = QDateTime::fromString(text, Qt::ISODate);
-    const QString shown = with[0] == "number" ? TextDigits::numbers().toString(text.toDouble())
-                          : with[0] == "date" ? TextDigits::date(time.date(), with.value(2))
+    const QString shown = with[1] == "number" ? TextDigits::numbers().toString(text.toDouble())
+                          : with[1] == "date" ? TextDigits::date(time.date(), with.value(3))
                                               : TextDigits::time(time);
     QLocale::setDefault(QLocale::c());
     return shown;
 }
 
-/// Files that were opened one after the other, in a menu whose letters are ten pixels wide.
-QString recent(const QStringList &with, const QString &text)
+/// A list of files that were opened one after the other, in a menu whose letters are ten pixels wide.
+clsMRUFileList opened(const QString &files)
 {
     clsMRUFileList list([](const QString &shown) { return int(shown.size()) * 10; });
-    QStringList files;
-    for (const QString &path : text.split(' ', Qt::SkipEmptyParts))
+    for (const QString &path : files.split(' ', Qt::SkipEmptyParts))
         list.AddFile(path);
+    return list;
+}
+
+QString namesOf(const clsMRUFileList &list)
+{
+    QStringList files;
     for (int i = 1; i <= list.FileCount(); ++i)
         files += list.File(i);
-    return with[0] == "caption" ? list.MenuCaption(1) : files.join(' ');
+    return files.join(' ');
 }
 
 QString searched(const QStringList &, const QString &text)
@@ -95,22 +107,15 @@ const std::map<QString, Rule> Rules = {
     {"emptied", [](auto &with, auto &) { return ClipText::emptyClip(with[1].toInt(), with[2].toInt()); }},
     {"pasted", pasted},
     {"letters", letters},
-    {"rising", sorted},
-    {"falling", sorted},
+    {"sorted", sorted},
     {"isNumber", [](auto &, auto &text) { return QString(SortOrder::isNumber(text, u',') ? "yes" : "no"); }},
-    {"listed", listed},
-    {"entry",
-     [](auto &with, auto &text) { return LanguageNames(with.value(1), LanguageNames::InList).translated(text); }},
-    {"within", [](auto &with, auto &text) { return LanguageNames(with[1]).translated(text); }},
-    {"named", [](auto &with, auto &text) { return LanguageNames(with[1]).of(text.toLatin1()); }},
-    {"number", inDigits},
-    {"date", inDigits},
-    {"time", inDigits},
-    {"caption", recent},
-    {"recent", recent},
+    {"languages", languages},
+    {"digits", digits},
+    {"files",
+     [](auto &with, auto &text) { return with[1] == "caption" ? opened(text).MenuCaption(1) : namesOf(opened(text)); }},
     {"search", searched},
-    {"page", [](auto &with, auto &text) { return translatedPage(text, with[1]); }},
-    {"title", [](auto &, auto &text) { return titleOfPage(text.toUtf8()); }}};
+    {"topic", [](auto &with, auto &text) { return parseHelpContexts(text.toUtf8()).value(with[1].toInt()); }},
+};
 
 /// "NAME WORDS: TEXT = WHAT COMES OF IT", with control characters and outer blanks by their pictures from U+2400 on,
 /// and the separators of lines and paragraphs as U+2424 and U+2425.
@@ -118,7 +123,6 @@ TEST(Rules, MakeOfTextsWhatTheTableSays)
 {
     for (QString line :
          QString(readFile(SOURCE_FOLDER "/tests/services/rules/rules.txt")).split('\n', Qt::SkipEmptyParts)) {
-        const std::string written = line.toStdString();
         for (QChar &c : line) {
             if (c >= u'\u2400' && c <= u'\u2425')
                 c = QChar(c.unicode() - (c < u'\u2424' ? 0x2400 : 0x2424 - QChar::LineSeparator));
@@ -127,7 +131,49 @@ TEST(Rules, MakeOfTextsWhatTheTableSays)
         const QStringList words = line.left(colon).split(' ');
         EXPECT_EQ(Rules.at(words[0])(words, line.mid(colon + 2, equals - colon - 2)).toStdString(),
                   line.mid(equals + 3).toStdString())
-            << written;
+            << words[0].toStdString();
     }
-    EXPECT_TRUE(SortOrder::sortedRows({}, {5, 3, {1}, false, QLocale()}).empty());
+}
+
+TEST(RecentFiles, SavedListComesBackAsFarAsItsNumbersCanBeTrusted)
+{
+    RegistryTree store;
+    clsRegistry registry(store);
+    registry.setSectionKey("Files");
+    opened("A B C D").Save(registry);
+    opened("E F").Save(registry);
+    clsMRUFileList list = opened("X Y Z");
+    list.Load(registry);
+    EXPECT_TRUE(namesOf(list) == "F E" && list.MaxFileCount() == 4);
+    EXPECT_EQ(store.value(HKEY_CURRENT_USER, "Files", "Count")->type, RegistryType::Number);
+    registry.setValueKey("File3");
+    EXPECT_EQ(registry.Value(), QVariant("B"));
+    const int cases[][3] = {
+        {2, 4, 2}, {4, 3, 3}, {-1, 3, 0}, {4, -1, 0}, {INT_MAX, INT_MAX, clsMRUFileList::LargestCapacity}};
+    for (const auto &[maxCount, count, expected] : cases) {
+        for (const auto &[name, number] : {std::pair("MaxCount", maxCount), {"Count", count}})
+            store.setValue(HKEY_CURRENT_USER, "Files", name, {RegistryType::Number, quint32(number)});
+        list.Load(registry);
+        EXPECT_EQ(list.FileCount(), expected);
+        list.setMaxFileCount(2);
+        list.AddFile("newest");
+        EXPECT_EQ(list.FileCount(), std::min(expected + 1, 2));
+    }
+}
+
+TEST(HelpFavorites, StandInTheirFileOnceEach)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("new/favorites");
+    HelpFavorites favorites(path);
+    for (const char *page : {"a", "b", "a"})
+        favorites.add(page);
+    EXPECT_EQ(HelpFavorites(path).pages() + favorites.pages(), (QStringList{"a", "b", "a", "b"}));
+    favorites.remove("a");
+    EXPECT_EQ(readFile(path), "b\n");
+    QFile::remove(path);
+    favorites.remove("a");
+    EXPECT_FALSE(QFile::exists(path)) << "nothing has changed";
+    writeFile(path, "x\r\n\ny \nx\n");
+    EXPECT_EQ(HelpFavorites(path).pages(), (QStringList{"x", "y"}));
 }
