@@ -8,11 +8,11 @@ class ClipboardOwner
 {
 public:
     ClipboardOwner();
-    ~ClipboardOwner();
+    virtual ~ClipboardOwner();
 
     /// False when there is one that hangs: it is given a second. The toolkit would wait for it several times as long,
     /// with the window standing still.
-    bool answers();
+    virtual bool answers();
 
 private:
     class Asker;

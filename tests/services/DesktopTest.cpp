@@ -1,3 +1,4 @@
+#include "platform/ClipboardOwner.h"
 #include "resources/Pictures.h"
 #include "resources/TextLanguage.h"
 #include "services/desktop/ContextMenuKey.h"
@@ -5,11 +6,10 @@
 #include "services/desktop/EnterKey.h"
 #include "services/desktop/EscapeKey.h"
 #include "services/desktop/MenuBarFocus.h"
+#include "services/desktop/PasteGuard.h"
 #include "services/desktop/PopupCloser.h"
 #include "services/desktop/ProgramStyle.h"
 #include "services/desktop/ScreenFit.h"
-
-#include <QCompleter>
 
 const QPalette Dark(QColor(50, 50, 50)), Light(QColor(239, 239, 239));
 
@@ -42,13 +42,18 @@ struct StyleTest : ::testing::Test
         image.fill(option.palette.window().color());
         QPainter painter(&image);
         painter.setLayoutDirection(option.direction);
+        painter.setBrush(Qt::red);
         if (const auto *title = qstyleoption_cast<const QStyleOptionTitleBar *>(&option))
             with.drawComplexControl(QStyle::CC_TitleBar, title, &painter);
+        else if (option.type == QStyleOption::SO_Default)
+            with.drawPrimitive(QStyle::PE_IndicatorRadioButton, &option, &painter);
         else
             with.drawControl(option.type == QStyleOption::SO_MenuItem   ? QStyle::CE_MenuItem
                              : option.type == QStyleOption::SO_ViewItem ? QStyle::CE_ItemViewItem
                                                                         : QStyle::CE_ComboBoxLabel,
                              &option, &painter);
+        EXPECT_TRUE(painter.brush() == QBrush(Qt::red) && painter.pen() == QPen() &&
+                    !painter.testRenderHint(QPainter::Antialiasing));
         return image;
     }
 };
@@ -85,6 +90,12 @@ TEST_F(StyleTest, OutlinesStandOutOnDarkWindowsAndAreTheToolkitsOnLightOnes)
         for (const QRect &part : {outline, below})
             EXPECT_GE(contrasts(drawn, part, Dark.window().color()).first, i >= 8 ? 0 : i % 4 ? 3 : 1.7);
     }
+    QStyleOption round;
+    round.rect = {0, 0, 13, 13};
+    round.palette = Dark;
+    const QImage ring = look(round, style), none = look(round, *plain);
+    EXPECT_TRUE(difference(ring, none) == round.rect && ring.pixel(2, 0) == none.pixel(2, 0) &&
+                ring.pixel(6, 6) == none.pixel(6, 6));
 }
 
 TEST_F(StyleTest, ChosenAndCheckedMenuEntriesShowTheirPictures)
@@ -168,15 +179,15 @@ TEST_F(StyleTest, SignsAreTheProgramsAndButtonsHaveNone)
 {
     const auto image = [](const QIcon &icon) { return icon.pixmap({48, 48}).toImage(); };
     using enum QStyle::StandardPixmap;
-    const std::pair<QStyle::StandardPixmap, int> signs[] = {{SP_ToolBarHorizontalExtensionButton, PictureMore},
-                                                            {SP_ToolBarVerticalExtensionButton, PictureMore},
-                                                            {SP_TitleBarMinButton, PictureMinimize},
-                                                            {SP_TitleBarMaxButton, PictureMaximize},
-                                                            {SP_TitleBarNormalButton, PictureRestore},
-                                                            {SP_TitleBarCloseButton, PictureClose}};
-    for (const auto &[sign, number] : signs)
-        EXPECT_EQ(image(style.standardIcon(sign)), image(picture(number))) << sign;
-    EXPECT_EQ(image(style.standardIcon(QStyle::SP_FileIcon)), image(plain->standardIcon(QStyle::SP_FileIcon)));
+    const QStyle::StandardPixmap signs[] = {SP_ToolBarHorizontalExtensionButton,
+                                            SP_ToolBarVerticalExtensionButton,
+                                            SP_TitleBarMinButton,
+                                            SP_TitleBarMaxButton,
+                                            SP_TitleBarNormalButton,
+                                            SP_TitleBarCloseButton};
+    const int pictures[] = {PictureMore, PictureMore, PictureMinimize, PictureMaximize, PictureRestore, PictureClose};
+    for (size_t i = 0; i < std::size(signs); ++i)
+        EXPECT_EQ(image(style.standardIcon(signs[i])), image(picture(pictures[i]))) << i;
     EXPECT_TRUE(!style.styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons) &&
                 !style.styleHint(QStyle::SH_EtchDisabledText) && style.styleHint(QStyle::SH_ToolTip_WakeUpDelay));
 }
@@ -203,7 +214,21 @@ TEST_F(StyleTest, JoinedLettersAreUnderlinedWhileAltIsHeldOnly)
         QLocale::setDefault(QLocale(language));
         QSpinBox spin;
         style.polish(&spin);
-        EXPECT_EQ(spin.testAttribute(Qt::WA_SetLocale), *language == 'a') << "numbers have the digits of texts";
+        EXPECT_TRUE(spin.testAttribute(Qt::WA_SetLocale) == (*language == 'a') && spin.testAttribute(Qt::WA_Hover));
+    }
+}
+
+TEST(Contrast, IsMeasuredAndReached)
+{
+    // a ground, its contrast to white, and what a faint grey becomes on it
+    const std::tuple<QRgb, double, const char *> cases[] = {{0x000000, 21.0, "#757575"},
+                                                            {0x05090a, 20.0, "#777979"},
+                                                            {0xff0000, 4.0, "#ffffff"},
+                                                            {0x00ff00, 1.37, "#ffffff"},
+                                                            {0x0000ff, 8.59, "#babaf3"}};
+    for (const auto &[ground, ratio, letters] : cases) {
+        EXPECT_NEAR(Contrast::between(Qt::white, QColor(ground)), ratio, 0.01);
+        EXPECT_EQ(Contrast::readable(QColor(99, 99, 99, 64), QColor(ground), Qt::white).name(), letters);
     }
 }
 
@@ -218,7 +243,6 @@ TEST(ScreenFitTest, DialogsLargerThanTheScreenScrollAndKeepTheirButtons)
                                                                {90, false, {9000, 9000}, room, true},
                                                                {0, false, {9000, 9000}, {9000, 9000}, false}};
     for (const auto &[rows, hasButtons, asked, got, scrolls] : cases) {
-        SCOPED_TRACE(rows + hasButtons);
         QDialog dialog;
         auto *layout = rows ? new QVBoxLayout(&dialog) : nullptr;
         QList<QWidget *> last(rows ? 1 : 0);
@@ -243,7 +267,9 @@ TEST(ScreenFitTest, DialogsLargerThanTheScreenScrollAndKeepTheirButtons)
             EXPECT_TRUE(part == last[0] || QRect(9, 9, 3, area ? 3 : 999).contains(beside));
         }
         EXPECT_TRUE(!area || (area->geometry().topLeft().isNull() && area->width() == dialog.width() &&
-                              area->verticalScrollBar()->value() > 0 && area->horizontalScrollBar()->maximum() == 0 &&
+                              (hasButtons || area->height() == dialog.height()) && area->focusPolicy() == Qt::NoFocus &&
+                              area->frameShape() == QFrame::NoFrame && area->verticalScrollBar()->value() > 0 &&
+                              area->horizontalScrollBar()->maximum() == 0 &&
                               area->widget()->width() == area->viewport()->width()));
     }
 }
@@ -259,20 +285,28 @@ TEST(ScreenFitTest, DialogsThatAreTooWideBecomeNarrowerBeforeTheyScroll)
     list.setMinimumWidth(3000);
     column->addWidget(&list);
     column->addWidget(&box);
-    // the letters of each word, and after how many letters the text goes on in a second line
-    const std::pair<std::vector<int>, int> texts[] = {
-        {{5, 5}, -1}, {{45, 10, 55}, 56}, {{55, 10, 45}, 55}, {{60, 40}, 60}, {{40, 60}, 40}};
+    // the letters of each word, and after how many letters the text goes on in a second line;
+    // long words do not show
+    const std::pair<std::vector<int>, int> texts[] = {{{5, 5}, -1},       {{45, 10, 55}, 56}, {{55, 10, 45}, 55},
+                                                      {{30, 30, 40}, 61}, {{60, 40}, 60},     {{40, 60}, 40},
+                                                      {{70, 70}, -1},     {{45, 9, 45}, 45}};
+    QStringList wanted;
     for (const auto &[words, at] : texts) {
         QStringList text;
         for (const int letters : words)
             text += QString(letters, u'w');
-        column->addWidget(new QCheckBox(text.join(u' ')));
+        wanted += text.join(u' ');
+        auto *check = new QCheckBox(wanted.back());
+        check->setHidden(words[0] == 70);
+        column->addWidget(check);
+        if (at >= 0)
+            wanted.back()[at] = u'\n';
     }
     dialog.show();
     EXPECT_TRUE(!dialog.findChild<QScrollArea *>() && list.minimumWidth() == 0);
     EXPECT_EQ(box.minimumWidth(), 10 * box.fontMetrics().horizontalAdvance(u'X'));
-    for (size_t i = 0; i < std::size(texts); ++i)
-        EXPECT_EQ(dialog.findChildren<QCheckBox *>()[i]->text().indexOf(u'\n'), texts[i].second) << i;
+    for (int i = 0; i < wanted.size(); ++i)
+        EXPECT_EQ(dialog.findChildren<QCheckBox *>()[i]->text(), wanted[i]) << i;
 }
 
 TEST(ScreenFitTest, WindowsOfAScreenThatHasGoneComeIntoView)
@@ -281,7 +315,7 @@ TEST(ScreenFitTest, WindowsOfAScreenThatHasGoneComeIntoView)
     const std::tuple<QRect, QList<QRect>, QRect> cases[] = {
         {{1192, 80, 900, 600}, one, {380, 80, 900, 600}}, {{1192, 80, 900, 600}, two, {1280, 0, 640, 400}},
         {{1300, -9, 500, 300}, two, {1300, 0, 500, 300}}, {{1100, 80, 400, 300}, two, {1100, 80, 400, 300}},
-        {{1500, 900, 2000, 50}, one, {0, 750, 1280, 50}}, {{5, 5, 10, 10}, {}, {5, 5, 10, 10}}};
+        {{1500, 900, 2000, 50}, two, {0, 750, 1280, 50}}, {{5, 5, 10, 10}, {}, {5, 5, 10, 10}}};
     for (const auto &[frame, screens, place] : cases)
         EXPECT_EQ(ScreenFit::inView(frame, screens), place) << frame.x() << ' ' << screens.size();
     const ScreenFit fit(*qApp);
@@ -356,6 +390,23 @@ TEST_F(DesktopKeysTest, EnterOnABoxMeansTheDefaultButtonAndOnAButtonItself)
     EXPECT_TRUE(entered.size() == 1 && !dialog.isVisible()) << "what was typed is taken first";
 }
 
+TEST_F(DesktopKeysTest, NothingIsPastedWhileTheClipboardsOwnerHangs)
+{
+    struct : ClipboardOwner
+    {
+        bool answers() override { return false; }
+    } hanging;
+    const PasteGuard guard(*qApp, hanging);
+    QGuiApplication::clipboard()->setText("+");
+    line.setContextMenuPolicy(Qt::CustomContextMenu);
+    const QSignalSpy opened(&line, &QWidget::customContextMenuRequested);
+    QContextMenuEvent request(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QCoreApplication::sendEvent(&line, &request);
+    QTest::keyClicks(&line, "x");
+    QTest::keyClick(&line, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_TRUE(line.text() == "some wordsx" && opened.isEmpty());
+}
+
 TEST_F(DesktopKeysTest, EscapeClosesTheListAndThenTheDialog)
 {
     const EscapeKey key(*qApp);
@@ -370,13 +421,10 @@ TEST_F(DesktopKeysTest, EscapeClosesTheListAndThenTheDialog)
 TEST_F(DesktopKeysTest, ListsOfADialogEndWithIt)
 {
     const PopupCloser closer(*qApp);
-    QDialog another;
     line.setCompleter(new QCompleter({"words"}, &line));
     for (const bool ofLine : {true, false}) {
         dialog.show();
-        another.show();
         ofLine ? line.completer()->complete() : list.showPopup();
-        another.hide();
         EXPECT_TRUE(QApplication::activePopupWidget());
         dialog.hide();
         EXPECT_FALSE(QApplication::activePopupWidget());
