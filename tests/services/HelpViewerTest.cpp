@@ -43,11 +43,12 @@ struct HelpViewerTest : ::testing::Test
         }
     }
     /// What shows and how large the window is; the page, how far its letters are larger than normal, which way it
-    /// reads, and what is selected and marked on it; where the focus is, the chosen entry of the contents and the first
-    /// entries of the list.
+    /// reads, what is selected up to where and what is marked on it; where the focus is, the chosen entry of the
+    /// contents and the first entries of the list.
     QString state()
     {
-        QStringList tools, entries, marked(part()->textCursor().selectedText());
+        const QTextCursor caret = part()->textCursor();
+        QStringList tools, entries, marked(caret.selectedText() + '@' + QString::number(caret.position()));
         for (const QAction *tool : part<QToolBar>("toolBar")->actions())
             tools += tool->isSeparator() ? "-" : tool->toolTip();
         for (const QTextEdit::ExtraSelection &mark : part()->extraSelections()) {
@@ -109,6 +110,7 @@ TEST_F(HelpViewerTest, EveryLinkLeadsToItsPageByKeyAndByMouseAndBackAndForward)
     int followed = 0;
     for (QTreeWidgetItemIterator item(part<QTreeWidget>("contents")); *item; ++item) {
         const QString start = (*item)->data(0, Qt::UserRole).toString();
+        EXPECT_TRUE((*item)->isExpanded());
         part<QTreeWidget>("contents")->setCurrentItem(*item);
         browser->setFocus();
         press(Qt::Key_Tab);

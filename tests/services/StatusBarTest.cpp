@@ -27,7 +27,10 @@ TEST_F(StatusBarTest, PanelsStandInTheirPlacesFromWhereLinesBegin)
                       panel < 3);
         }
         const QRect grip = bar.findChild<QSizeGrip *>()->geometry();
-        EXPECT_TRUE(grip.bottom() == 19 && grip.size() == bar.findChild<QSizeGrip *>()->sizeHint());
+        EXPECT_TRUE(grip.bottom() == 19 && grip.size() == bar.findChild<QSizeGrip *>()->sizeHint() &&
+                    bar.childAt(grip.center()) == bar.findChild<QSizeGrip *>());
+        const QImage empty = bar.grab(bar.panelRect(1)).toImage();
+        EXPECT_EQ(inkOf(empty, empty.pixelColor(50, 9)), empty.rect()) << "the frame";
         return text + (grip.right() == width - 1 ? "> " : grip.left() == 0 ? "< " : "? ");
     };
     EXPECT_EQ(places(900) + places(1200), "0+298 300+178 480+398 880+18 > 0+298 300+178 480+398 880+318 > ");
@@ -36,6 +39,7 @@ TEST_F(StatusBarTest, PanelsStandInTheirPlacesFromWhereLinesBegin)
     EXPECT_EQ(bar.text(0) + bar.statusTip(), resText(506) + resText(2000));
     bar.setFont(QFont("", 40));
     EXPECT_EQ(bar.sizeHint(), QSize(500, std::max(20, bar.fontMetrics().height() + 6)));
+    EXPECT_EQ(bar.sizePolicy(), QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed));
 }
 
 TEST_F(StatusBarTest, ALongTextShowsWholeAsFarAsTheModeLeavesRoom)
@@ -79,28 +83,30 @@ TEST_F(StatusBarTest, ShowsATextByIdOnceUntilAnotherIsAskedFor)
 
 TEST_F(StatusBarTest, SendsUnusualRequestsToPanelZero)
 {
-    for (const int panel : {-1, 0, 1, 2, 3, 255}) {
-        for (const int style : {modSBFunc::SBT_SUNKEN, modSBFunc::SBT_NOBORDERS, modSBFunc::SBT_POPOUT}) {
-            const QString text = QString("%1/%2").arg(panel).arg(style);
-            bar.SBSetText(panel, style, text);
-            const bool usual = style == modSBFunc::SBT_SUNKEN && (panel == 1 || panel == 2);
-            EXPECT_EQ(bar.childAt(bar.panelRect(usual ? panel : 0).center())->accessibleName(), text);
-        }
+    const int requests[][2] = {
+        {-1, 0}, {0, 0}, {1, 0}, {2, 0}, {3, 0}, {255, 0}, {1, modSBFunc::SBT_NOBORDERS}, {2, modSBFunc::SBT_POPOUT}};
+    for (const auto &[panel, style] : requests) {
+        const QString text = QString("%1/%2").arg(panel).arg(style);
+        bar.SBSetText(panel, style, text);
+        const bool usual = style == modSBFunc::SBT_SUNKEN && (panel == 1 || panel == 2);
+        EXPECT_EQ(bar.childAt(bar.panelRect(usual ? panel : 0).center())->accessibleName(), text);
     }
 }
 
 TEST_F(StatusBarTest, ProgressLiesOverPanelOneAndNeverLeavesItsRange)
 {
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&bar));
+    const auto onScreen = [this] { return bar.screen()->grabWindow(bar.winId()).toImage(); };
     const std::tuple<qint64, qint64, int> cases[] = {{32767, 20000, 20000}, {qint64(1) << 40, qint64(1) << 39, 100}};
     for (const auto &[maximum, position, shown] : cases) {
+        std::vector<QImage> seen{onScreen()}; // at once, while the program is busy
         bar.createProgress(maximum);
-        const auto onScreen = [this] { return bar.screen()->grabWindow(bar.winId()).toImage(); };
-        const QImage before = onScreen();
+        seen.push_back(onScreen());
         bar.setProgress(position);
-        EXPECT_NE(onScreen(), before) << "at once, while the program is busy";
+        seen.push_back(onScreen());
+        EXPECT_TRUE(seen[0] != seen[1] && seen[1] != seen[2]);
         const auto *progress = bar.findChild<QProgressBar *>();
-        EXPECT_TRUE(progress->accessibleName() == bar.text(0) && !progress->isTextVisible());
+        EXPECT_TRUE(progress->accessibleName() == bar.text(0) && !progress->isTextVisible() && !progress->minimum());
         EXPECT_EQ(progress->geometry(), bar.panelRect(1));
         EXPECT_EQ(progress->value(), shown);
     }
