@@ -118,10 +118,10 @@ void BarChart::goTo(int bar)
 
 bool BarChart::event(QEvent *event)
 {
-    if (event->type() == QEvent::FontChange)
+    if (event->type() == QEvent::FontChange) {
         measureTexts();
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
         updateGeometry();
+    }
     return QWidget::event(event);
 }
 

@@ -59,6 +59,8 @@ TEST_F(BarChartTest, ShowsItsNumbersInTheOrderOfReadingAndNamesThemForKeysAndPoi
     EXPECT_EQ(along(99), " 0. 4| 5. 11# 70. 76| 77. 157# 216. 230# 289.");
     EXPECT_NEAR(beyond("one: 3,000", line()), 4, 2);
     EXPECT_NEAR(beyond(text, 2 * line() + 105), 0, 2);
+    setBars({}, "two");
+    EXPECT_NEAR(beyond("two", 2 * line() + 105), 64 + 30 - chart.fontMetrics().horizontalAdvance("two") / 2, 2);
     setBars({}, {}, text);
     EXPECT_NEAR(beyond("", 2 * line() + 105), 300, 2);
     setBars({});
