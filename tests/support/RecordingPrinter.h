@@ -53,6 +53,15 @@ private:
     QRgb m_color = 0;
 };
 
+/// One on which something was drawn before, bold and in red.
+inline RecordingSurface usedSurface()
+{
+    RecordingSurface surface;
+    surface.setFont({"Another", 99, true, true});
+    surface.setForeColor(qRgb(255, 0, 0));
+    return surface;
+}
+
 /// A printer of A4 sheets on which every letter is 100 twips wide and 240 high, so that a line takes 250.
 struct RecordingPrinter : PrinterDevice
 {
@@ -111,6 +120,17 @@ struct RecordingPrinter : PrinterDevice
 private:
     bool m_open = false;
 };
+
+/// What the user is told of a step that fails.
+inline QString printerFault(const std::function<void()> &step)
+{
+    try {
+        step();
+    } catch (const PrinterError &error) {
+        return error.text();
+    }
+    return {};
+}
 
 /// How pages look that are described in a file.
 inline std::string drawnAs(const char *name)
