@@ -1,5 +1,6 @@
 #include "print/PrintCommands.h"
 
+#include "print/BusyWindow.h"
 #include "print/PrintHost.h"
 #include "support/RecordingPrinter.h"
 #include "support/ScriptedAlertBox.h"
@@ -80,39 +81,36 @@ TEST_F(Preview, OpensAtAThirdOfTheSizeInTheMiddle)
     EXPECT_EQ(shown(), "Page 1 of 1 264");
     EXPECT_TRUE(host.inPreview && page()->isVisible() && page()->hasFocus());
     const auto *number = host.area.findChild<QLabel *>("lblPage");
-    EXPECT_EQ(number->text(), "Page 1 of 1");
-    EXPECT_TRUE(number->geometry().bottomLeft() == QPoint(0, 599) && number->autoFillBackground());
+    EXPECT_EQ(number->geometry(), QRect(0, 578, 76, 22));
     const QImage drawn = page()->grab().toImage();
     EXPECT_NEAR(inkOf(drawn.copy(2, 2, drawn.width() - 4, drawn.height() - 4), Qt::white).left(), 1300 / 45 - 2, 2);
     QSignalSpy told(&preview, &PrintPreview::statusText);
     QTest::mouseMove(page(), {50, 50});
     EXPECT_EQ(told.last().at(0), 505);
     EXPECT_EQ(page()->geometry(), QRect(450 - 132, 300 - 187 - ToolbarHeight, 264, 374));
+    {
+        const BusyWindow busy(&host.frame);
+        EXPECT_TRUE(!host.frame.updatesEnabled() && QApplication::overrideCursor()->shape() == Qt::WaitCursor);
+    }
     EXPECT_TRUE(host.frame.updatesEnabled());
     host.area.resize(600, 500);
     QCoreApplication::processEvents();
     EXPECT_EQ(page()->pos(), QPoint(300 - 132, 250 - 187 - ToolbarHeight)) << "also after a resize";
+    EXPECT_EQ(number->geometry().bottomLeft(), QPoint(0, 499));
     host.area.resize(600, 400);
     QCoreApplication::processEvents();
     EXPECT_EQ(page()->y(), 0) << "a page that fits is not cut";
+    host.area.resize(600, 250);
+    QCoreApplication::processEvents();
+    play("PgDown -> -257, PgUp -> -27, PgUp -> 21", [this] { return QString::number(page()->y()); });
 }
 
 TEST_F(Preview, TurnsPagesAndZoomsKeepingThePage)
 {
     open(2 * RowsOfPage + 1);
-    EXPECT_EQ(shown(), "Page 1 of 3> 264");
-    play(
-        "next -> <Page 2 of 3> 264, next -> <Page 3 of 3 264, next -> <Page 3 of 3 264, "
-        "previous -> <Page 2 of 3> 264, previous -> Page 1 of 3> 264, previous -> Page 1 of 3> 264, "
-        "PgDown -> <Page 2 of 3> 264, End -> <Page 3 of 3 264, PgUp -> <Page 2 of 3> 264, Home -> Page 1 of 3> 264, "
-        "notch down -> <Page 2 of 3> 264, half a notch up -> <Page 2 of 3> 264, "
-        "half a notch up -> Page 1 of 3> 264, notch down -> <Page 2 of 3> 264, "
-        "leave -> <Page 2 of 3> 264 left, control-click -> <Page 2 of 3> 264, right-click -> <Page 2 of 3> 264, click "
-        "-> "
-        "<Page 2 of 3> 397, "
-        "click -> <Page 2 of 3> 793, click -> <Page 2 of 3> 793, control-click -> <Page 2 of 3> 397, "
-        "- -> <Page 2 of 3> 264, + -> <Page 2 of 3> 397",
-        [this] { return shown() + (page()->hasFocus() ? "" : " left"); }, actions);
+    playFile(
+        SOURCE_FOLDER "/tests/print/data/turning.txt", [this] { return shown() + (page()->hasFocus() ? "" : " left"); },
+        actions);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(host.area.findChildren<frmPrtPrev *>().size(), 1) << "however many pages";
     QKeyEvent repeated(QEvent::KeyRelease, Qt::Key_PageDown, Qt::NoModifier, {}, true);
@@ -127,6 +125,9 @@ TEST_F(Preview, PageKeysScrollALargePageAndThenTurnIt)
     click();
     click();
     ASSERT_EQ(page()->height(), 1123);
+    auto *number = host.area.findChild<QLabel *>("lblPage");
+    EXPECT_EQ(host.area.childAt(number->geometry().bottomRight()), page()) << "below the number";
+    EXPECT_EQ(host.area.grab(number->geometry()).toImage().pixelColor(75, 1), host.area.palette().window().color());
     EXPECT_EQ(page()->pos(), QPoint(450 - 396, 300 - 561 - ToolbarHeight));
     // Scrolled to its end it stands 2000 twips above the lower edge. The key does not pass over what was not seen,
     // nothing is hidden at the sides, and a page is where it was left.
@@ -155,8 +156,11 @@ TEST_F(Preview, PageSetupBuildsItAgainFromTheFirstPage)
     for (int i = 0; i < 20; ++i)
         QTest::keyClick(page(), Qt::Key_Right);
     EXPECT_EQ(page()->geometry().right(), 899);
-    play("Down -> -223 -186, Up -> -223 -136, Left -> -173 -136",
-         [this] { return QString("%1 %2").arg(page()->x()).arg(page()->y()); });
+    play(
+        "Down -> -223 -186, notch down -> -223 -246, Up -> -223 -196, Left -> -173 -196, Left -> -123 -196, Left -> "
+        "-73 -196, "
+        "Left -> -23 -196, Left -> 0 -196",
+        [this] { return QString("%1 %2").arg(page()->x()).arg(page()->y()); }, actions);
 }
 
 TEST_F(Preview, PrintingKeepsSizeAndPageButTakesItsPaper)
@@ -180,28 +184,41 @@ TEST_F(Preview, PrintingKeepsSizeAndPageButTakesItsPaper)
 
 TEST_F(Preview, PrintsPagesAndCopiesAsChosenInOneJob)
 {
-    const std::pair<PrintChoice, std::vector<int>> cases[] = {{{1, 2, 2, true, false, true}, {2}},
-                                                              {{2, 1, 2, false, false, false}, {1, 1, 2, 2}}};
-    PrintSource source = sourceOf(RowsOfPage + 1);
+    // copies, pages, collated; what the printer's dialog listed, whether its last page comes first; what is printed
+    const std::tuple<PrintChoice, QList<int>, bool, std::vector<int>> cases[] = {
+        {{1, 2, 3, false, false, true}, {}, false, {1, 2, 3, 4, 5}},
+        {{1, 4, 9, true, false, true}, {}, false, {4, 5}},
+        {{1, 2, 5, true, false, true}, {2, 5, 9}, false, {2, 5}},
+        {{1, 1, 3, true, false, true}, {}, true, {3, 2, 1}},
+        {{2, 1, 2, true, false, true}, {}, false, {1, 2, 1, 2}},
+        {{2, 1, 2, true, false, false}, {}, false, {1, 1, 2, 2}},
+    };
+    PrintSource source = sourceOf(4 * RowsOfPage + 10);
     source.Folder = "/ann";
     commands.PrintDocument(source); // cancelled
     EXPECT_TRUE(printer.sheets.empty() && alerts.shown.empty() && host.status.isEmpty());
-    for (const auto &[choice, sheets] : cases) {
+    for (const auto &[choice, listed, reverse, numbers] : cases) {
         printer = {};
+        std::tie(printer.wanted, printer.reverse) = std::tie(listed, reverse);
         dialogs.pages = choice;
         commands.PrintDocument(source);
-        EXPECT_EQ(std::pair(printer.pageNumbers(), printer.jobs), std::pair(sheets, 1));
+        for (const int number : numbers)
+            EXPECT_EQ(host.status.takeFirst(), "Printing page " + QString::number(number));
+        EXPECT_EQ(std::tuple(printer.pageNumbers(), printer.jobs, host.status.takeFirst()),
+                  std::tuple(numbers, 1, QString("Ready")));
     }
-    EXPECT_TRUE(host.status.first() == "Printing page 2" && host.status.last() == "Ready");
     const PrintRequest &asked = dialogs.print;
-    EXPECT_EQ(std::pair(asked.minPage, asked.maxPage), std::pair(1, 2));
+    EXPECT_EQ(std::pair(asked.minPage, asked.maxPage), std::pair(1, 5));
     EXPECT_TRUE(asked.folder == "/ann" && asked.owner == &host.frame && asked.collate && !asked.offerSelection);
     EXPECT_EQ(printer.docName, "Glosaria - Words");
     printer.sheets.clear();
     printer.failingSheet = 2;
     commands.PrintDocument(source);
+    dialogs.pages = PrintChoice{1, 6, 9, true, false, true};
+    commands.PrintDocument(source);
     EXPECT_EQ(printer.sheets.size(), 1U);
-    EXPECT_EQ(alerts.onlyPrompt(), "out of paper");
+    EXPECT_EQ(alerts.shown[0].prompt + alerts.shown[1].prompt,
+              "out of paperNone of these pages exists. The last page is 5.");
     EXPECT_TRUE(host.frame.updatesEnabled() && !QApplication::overrideCursor());
 }
 
@@ -223,8 +240,9 @@ TEST_F(Preview, TheProgramAnswersDuringALongRunThatCanBeCancelled)
             QTimer::singleShot(0, &host.frame, [&] {
                 auto &box = dynamic_cast<QDialog &>(*QApplication::activeModalWidget());
                 EXPECT_TRUE(host.frame.updatesEnabled());
-                EXPECT_EQ(box.findChild<QLabel *>("lblPage")->text(), "Printing page 2");
-                EXPECT_EQ(box.findChild<QProgressBar *>()->value(), 2);
+                EXPECT_EQ(::shown(box) + box.findChild<QProgressBar *>()->text(),
+                          "Printing | Printing page 2 | >Cancel25%");
+                EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::BusyCursor);
                 step(box);
             });
         };
