@@ -276,7 +276,7 @@ TEST(PageSetup, OffersAFileOfTheUsualPaper)
 TEST(TestDialog, OffersTheLastChoiceAndTellsTheNew)
 {
     const PrintSource words = sourceOf(5);
-    int number = 9;
+    int number = 990;
     std::string seen;
     for (int n = 1; n < 7; ++n) {
         TestChoice choice{TestChoice::Kind(n & 1), TestChoice::Asked(n % 3), n % 5, n > 2, n, n % 2 + 1, n > 1, n < 4};

@@ -85,6 +85,7 @@ TEST_F(Preview, OpensAtAThirdOfTheSizeInTheMiddle)
     const QImage drawn = page()->grab().toImage();
     EXPECT_NEAR(inkOf(drawn.copy(2, 2, drawn.width() - 4, drawn.height() - 4), Qt::white).left(), 1300 / 45 - 2, 2);
     QSignalSpy told(&preview, &PrintPreview::statusText);
+    QTest::mouseMove(page(), {40, 40});
     QTest::mouseMove(page(), {50, 50});
     EXPECT_EQ(told.last().at(0), 505);
     EXPECT_EQ(page()->geometry(), QRect(450 - 132, 300 - 187 - ToolbarHeight, 264, 374));

@@ -164,7 +164,8 @@ TEST_F(PrintedPages, APrinterKeepsWhatItIsSetUpWithAndTellsItToItsQueue)
         for (int page = 1; page < 7; ++page)
             seen << (printer.wantsPage(page) ? std::to_string(page) : "");
         seen << ", short edge " << printer.turnsOverShortEdge() << ", last first " << printer.lastPageFirst()
-             << ", duplex " << printer.setup().duplex << ", copies " << printer.printer().copyCount();
+             << ", duplex " << printer.setup().duplex << ", copies " << printer.printer().copyCount() << ", dots "
+             << printer.printer().resolution();
         PrintJob(printer.printer(), "office", server).end();
         for (const auto &[name, value] : server.options)
             seen << ", " << name.constData() << ' ' << value.constData();
@@ -186,7 +187,7 @@ TEST_F(PrintedPages, TheNextDocumentsFileIsProposedBesideTheLast)
     const std::unique_ptr<QPrinter> copy = printer.copy();
     EXPECT_EQ(QStringList({copy->docName(), copy->creator(), copy->outputFileName(), printer.setup().paper.name()}),
               QStringList({"Second", "Glosaria", folder.filePath("Second.pdf"), "A5"}));
-    EXPECT_TRUE(printer.writesFile() && copy->colorMode() == QPrinter::GrayScale);
+    EXPECT_TRUE(copy->colorMode() == QPrinter::GrayScale && copy->fullPage() && copy->pageLayout().margins().isNull());
     EXPECT_TRUE(copy->pageLayout() == printer.printer().pageLayout() && printer.setup().orientation);
     const auto measure = printer.measure({"Liberation Sans", 10});
     EXPECT_EQ((QList<int>{copy->width(), printer.Width(), printer.Height(), printer.ScaleHeight(),
