@@ -70,7 +70,7 @@ TEST_F(Progress, ShowsTheWordsInTheDirectionThatIsChosenExportsThemAndLeadsToOne
     EXPECT_EQ(table->columnWidth(ProgressModel::Last), table->fontMetrics().horizontalAdvance("28 Dec 2028") + 16);
     for (const auto &[mode, chosen] : {std::pair(1, 0), {2, 1}, {5, 0}})
         EXPECT_EQ(frmProgress(document, mode, needs, &window).findChild<QComboBox *>()->currentIndex(), chosen) << mode;
-    table->sortByColumn(ProgressModel::Word, Qt::AscendingOrder);
+    table->sortByColumn(ProgressModel::Answer, Qt::DescendingOrder);
     click("btnExport");
     EXPECT_EQ(table->currentIndex(), model->index(1, 0)) << "still the cat";
     seen += lines() + readFile(file).toStdString();
