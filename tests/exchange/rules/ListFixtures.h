@@ -8,13 +8,11 @@
 inline const QString Data = QStringLiteral(SOURCE_FOLDER "/tests/exchange/data/");
 
 /// "a|b" for every row that arrives, the names first; the error as a number when nothing can be read.
-inline QStringList pairsOf(const ListReader::Result &opened, int list = -1)
+inline QStringList pairsOf(const ListReader::Result &opened)
 {
     if (!opened.source)
         return {QString::number(int(opened.error))};
-    ReadChoices choices = opened.source->proposal();
-    choices.list = list < 0 ? choices.list : list;
-    const ListReader::Table read = ListReader::read(*opened.source, choices);
+    const ListReader::Table read = ListReader::read(*opened.source, opened.source->proposal());
     const Vocabulary words = Pairs::take(read.table, Pairs::proposal(read.table, opened.source->hasMarkup()));
     QStringList rows;
     for (qsizetype row = 0; row < words.rows(); ++row)

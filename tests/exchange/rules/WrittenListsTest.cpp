@@ -2,6 +2,7 @@
 
 #include "exchange/rules/Conversion.h"
 #include "exchange/rules/ListWriter.h"
+#include "exchange/rules/text/DelimitedText.h"
 #include "exchange/rules/workbook/CellFormat.h"
 
 namespace {
@@ -50,11 +51,10 @@ TEST(WrittenLists, ComeBackAsTheyWere)
     few.append({}, {});
     EXPECT_EQ(ListWriter::write(few, Format::Html, "<t>").toStdString(), readFile(Data + "few.html").toStdString());
     EXPECT_FALSE(ListWriter::losesLetters(few));
-    for (auto *column : {&few.first, &few.second}) {
-        const QString word = std::exchange(column->back(), QChar(0xD800));
-        EXPECT_TRUE(ListWriter::losesLetters(few));
-        column->back() = word;
-    }
+    few.first.back() = QChar(0xD800);
+    EXPECT_TRUE(ListWriter::losesLetters(few));
+    few.first.back().swap(few.second.back());
+    EXPECT_TRUE(ListWriter::losesLetters(few));
 }
 
 TEST(Conversion, GoesByContentAndByTheEndsOfNames)
@@ -78,8 +78,7 @@ TEST(Conversion, GoesByContentAndByTheEndsOfNames)
         QTextStream complaints(&told);
         const QString out = folder.filePath(to);
         EXPECT_EQ(Conversion::run(from, out, {"windows-1252", QLocale::c()}, complaints), status) << to.toStdString();
-        EXPECT_EQ(told.isEmpty(), status == 0) << told.toStdString();
-        EXPECT_EQ(QFile::exists(out), status == 0) << to.toStdString();
+        EXPECT_TRUE(told.isEmpty() == !status && QFile::exists(out) == !status) << told.toStdString();
         const QString result = status ? told.remove(folder.path() + '/') : readFile(out);
         EXPECT_TRUE(result.startsWith(content)) << result.toStdString();
     }
@@ -100,7 +99,6 @@ TEST(CellFormat, ShowsNumbersAsASpreadsheetDoes)
         EXPECT_EQ(CellFormat::shown(parts[0].toDouble(), code, false, locale), parts[2]) << line.toStdString();
     }
     EXPECT_EQ(CellFormat::shown(0, u"yyyy-mm-dd", true, QLocale::c()), "1904-01-01");
-    EXPECT_EQ(CellFormat::shown(std::nan(""), u"0", false, QLocale::c()), QString());
 }
 
 TEST(Pairs, NoMoreArriveThanAVocabularyHolds)
@@ -109,18 +107,13 @@ TEST(Pairs, NoMoreArriveThanAVocabularyHolds)
     const ListReader::Table read = ListReader::read(*opened.source, opened.source->proposal());
     const PairChoice choice{1, 0, false, false};
     const Pairs::Count count = Pairs::count(read.table, choice, 2);
-    EXPECT_EQ(count.rows, 2);
-    EXPECT_EQ(count.dropped, (Dropped{1, 1, 1, 0}));
+    EXPECT_TRUE(count.rows == 2 && count.dropped == (Dropped{1, 1, 1, 0}));
     EXPECT_EQ(Pairs::columnNames(read.table, true), QStringList({"Column 1: a", "Column 2: b", "Column 3: c"}));
     EXPECT_EQ(Pairs::columnNames(read.table, false).last(), "Column 3");
-    TextTable table;
-    table.addCell(u" ");
-    table.endRow();
-    EXPECT_EQ(Pairs::count(table, {0, 1, true, false}).dropped, Dropped());
-    EXPECT_EQ(Pairs::columnNames(table, true), QStringList({"Column 1", "Column 2"}));
-    table.addCell(QString(50, 'x'));
-    table.endRow();
-    EXPECT_EQ(Pairs::columnNames(table, true).front(), "Column 1: " + QString(40, 'x'));
+    EXPECT_EQ(Pairs::count(DelimitedText::split(u" ", ";"), {0, 1, true, false}).dropped, Dropped());
+    EXPECT_EQ(Pairs::columnNames(DelimitedText::split(u" ", ";"), true), QStringList({"Column 1", "Column 2"}));
+    const QString longName(50, u'x');
+    EXPECT_EQ(Pairs::columnNames(DelimitedText::split(longName, ";"), true)[0], "Column 1: " + longName.left(40));
     const Vocabulary words = Pairs::take(read.table, choice, 2);
     EXPECT_EQ(words.first, (std::vector<QString>{"", "b", ""}));
     EXPECT_EQ(words.second, (std::vector<QString>{"", "a", "d"}));
