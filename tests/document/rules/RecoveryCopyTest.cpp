@@ -1,5 +1,4 @@
 #include "document/rules/recovery/RecoveryFolder.h"
-#include "document/rules/recovery/VocabularyDigest.h"
 
 namespace {
 
@@ -91,19 +90,4 @@ TEST(RecoveryFolder, OffersWhatNobodyHoldsNewestFirst)
     QString path;
     EXPECT_FALSE(blocked.write(path, smallCopy()));
     EXPECT_EQ(blocked.adopt(found[2].path), found[2].path) << "it cannot be moved";
-}
-
-TEST(VocabularyDigest, TellsWhichWordsStandWhere)
-{
-    using Pairs = std::vector<std::pair<QString, QString>>;
-    std::set<QByteArray> seen;
-    const Pairs lists[] = {{{"a", "b"}}, {{"b", "a"}}, {{"ab", ""}}, {{"", "ab"}}, {{"a", ""}, {"b", ""}}, {{"", ""}}};
-    for (const Pairs &pairs : lists) {
-        Vocabulary words;
-        for (const auto &[first, second] : pairs)
-            words.append(first, second);
-        seen.insert(VocabularyDigest::of(words, words.rows()).words);
-        seen.insert(VocabularyDigest::of(words, 0).words);
-    }
-    EXPECT_EQ(seen.size(), std::size(lists) + 1);
 }
