@@ -48,15 +48,6 @@ private:
     const bool m_mended; ///< UTF-8 in all lines but some
 };
 
-bool hasLineFeedWithinLine(QByteArrayView bytes)
-{
-    for (qsizetype at = bytes.indexOf('\n'); at >= 0; at = bytes.indexOf('\n', at + 1)) {
-        if (at == 0 || bytes[at - 1] != '\r')
-            return true;
-    }
-    return false;
-}
-
 enum class DeclaredEncoding { None, Utf8, Unknown };
 
 /// Older files have no sections, and any line in them may be a word.
@@ -97,7 +88,6 @@ public:
         , m_olderVersion(olderVersion)
         , m_declared(declaredEncoding(m_lines, olderVersion))
         , m_letters(bytes, m_declared == DeclaredEncoding::Utf8, codePage)
-        , m_lineFeeds(hasLineFeedWithinLine(bytes))
         , m_ticks(progress, bytes.size())
     {
     }
@@ -217,7 +207,7 @@ private:
         if (!word || m_lines.atEnd())
             return false;
         const QByteArrayView secondLine = m_lines.next();
-        vocabulary.append(CellText::cleaned(read(*word)), CellText::cleaned(read(secondLine)), m_height);
+        vocabulary.append(read(*word), read(secondLine), m_height);
         m_done += firstLine.size() + secondLine.size();
         m_ticks.reach(m_done);
         return true;
@@ -259,19 +249,12 @@ private:
         return line.size() < 2 || uchar(line[line.size() - 2]) < 0x80 || m_letters.read(line).endsWith(u']');
     }
 
-    QString read(QByteArrayView line) const
-    {
-        QString text = m_letters.read(line);
-        if (m_lineFeeds)
-            text.replace(u'\n', u' ');
-        return text;
-    }
+    QString read(QByteArrayView line) const { return CellText::cleaned(m_letters.read(line)); }
 
     LineReader m_lines;
     const bool m_olderVersion;
     const DeclaredEncoding m_declared;
     const LetterReader m_letters;
-    const bool m_lineFeeds; ///< within lines
     ProgressTicks m_ticks;
     int m_height = 0;
     qint64 m_done = 0;

@@ -18,9 +18,7 @@ void write(QDataStream &stream, const VocabularyFont &font)
 
 void read(QDataStream &stream, VocabularyFont &font)
 {
-    qint32 color = 0;
-    stream >> font.name >> font.size >> font.bold >> font.italic >> color;
-    font.color = color;
+    stream >> font.name >> font.size >> font.bold >> font.italic >> font.color;
 }
 
 void write(QDataStream &stream, const Vocabulary &vocabulary)
@@ -39,11 +37,8 @@ void read(QDataStream &stream, Vocabulary &vocabulary)
     vocabulary.font.emplace();
     read(stream, *vocabulary.font);
     vocabulary.columnWidths.emplace();
-    for (int &width : *vocabulary.columnWidths) {
-        qint32 stored = 0;
-        stream >> stored;
-        width = stored;
-    }
+    for (int &width : *vocabulary.columnWidths)
+        stream >> width;
     quint32 rows = 0;
     stream >> rows;
     if (rows > Vocabulary::MostRows)
