@@ -123,6 +123,4 @@ TEST_F(FrmDocTest, ActivationEndsTheUndoRecordAndShowsTheStatusTexts)
     EXPECT_TRUE(undo.kind() == UndoKind::None && !undo.belongsTo(&document));
     other.setQuizModeNote("(x)");
     EXPECT_EQ(status.text(1) + '|' + status.text(2), " A2:A3|English -> Language 2 In Order (x)");
-    other.Rutor()->setRow(60);
-    EXPECT_TRUE(other.Rutor()->RowIsVisible(60));
 }

@@ -40,12 +40,12 @@ inline QString described(const ListReader::Result &opened)
     for (const QString &name : opened.source->lists()) {
         const TextTable table = ListReader::read(*opened.source, choices).table;
         text += QString("%1 %2 [%3] ").arg(choices.list++ == proposed ? '*' : '-').arg(name).arg(table.columns());
-        text += table.columnNames.join('|') + QString("?").repeated(int(table.missingResults)) + '\n';
+        const Dropped dropped = Pairs::count(table, {}).dropped;
+        text += table.columnNames.join('|') + QString("?").repeated(int(dropped.missingResults)) + '\n';
         for (qsizetype row = 0; row < table.rows(); ++row) {
             for (qsizetype column = 0; column < table.keptColumns(); ++column)
                 text += table.cell(row, column).toString() + '|';
-            text.truncate(text.lastIndexOf(QRegularExpression("[^|]")) + 1);
-            text += '\n';
+            text = text.left(text.lastIndexOf(QRegularExpression("[^|]")) + 1) + '\n';
         }
     }
     return text;

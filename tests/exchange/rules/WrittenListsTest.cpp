@@ -110,7 +110,7 @@ TEST(Pairs, NoMoreArriveThanAVocabularyHolds)
     EXPECT_TRUE(count.rows == 2 && count.dropped == (Dropped{1, 1, 1, 0}));
     EXPECT_EQ(Pairs::columnNames(read.table, true), QStringList({"Column 1: a", "Column 2: b", "Column 3: c"}));
     EXPECT_EQ(Pairs::columnNames(read.table, false).last(), "Column 3");
-    EXPECT_EQ(Pairs::count(DelimitedText::split(u" ", ";"), {0, 1, true, false}).dropped, Dropped());
+    EXPECT_EQ(Pairs::count(DelimitedText::split(u" ", ""), {0, 1, true, false}).dropped, Dropped());
     EXPECT_EQ(Pairs::columnNames(DelimitedText::split(u" ", ";"), true), QStringList({"Column 1", "Column 2"}));
     const QString longName(50, u'x');
     EXPECT_EQ(Pairs::columnNames(DelimitedText::split(longName, ";"), true)[0], "Column 1: " + longName.left(40));
