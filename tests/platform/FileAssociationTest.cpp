@@ -43,8 +43,8 @@ TEST_F(FileAssociationTest, DesktopLearnsTypeIconsAndProgram)
                                         "xdg-mime default glosaria.desktop application/x-glosaria")
                                     .arg(user.path()));
     const QString icons = user.filePath("icons/hicolor/scalable/");
-    EXPECT_EQ(readFile(icons + "apps/glosaria.svg"), "<svg>program</svg>");
-    EXPECT_EQ(readFile(icons + "mimetypes/application-x-glosaria.svg"), "<svg>file</svg>");
+    EXPECT_EQ(readFile(icons + "apps/glosaria.svg") + readFile(icons + "mimetypes/application-x-glosaria.svg"),
+              "<svg>program</svg><svg>file</svg>");
     EXPECT_EQ(readFile(user.filePath("applications/glosaria.desktop")), glosaria().userEntry());
     EXPECT_EQ(QMimeDatabase().mimeTypeForFile("x.gla", QMimeDatabase::MatchExtension).name(), "application/x-glosaria");
     EXPECT_TRUE(packaged("glosaria.desktop").contains("\nMimeType=application/x-glosaria;\n"));

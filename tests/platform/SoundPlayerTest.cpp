@@ -15,10 +15,7 @@ TEST(SoundPlayer, PlayerOfTheDesktopPlaysTheSound)
         const QString script = writeFile(folder.filePath(name), "#!/bin/sh\n[ $1 = -q ] && shift\nread -r line < $1\n"
                                                                 "echo \"${0##*/} $line\" >> ${0%/*}/heard\n");
         QFile::setPermissions(script, QFile::ReadOwner | QFile::ExeOwner);
-        {
-            const FileSizeLimit full(3);
-            DesktopSoundPlayer("RIFF nothing").play();
-        }
+        FileSizeLimit(3), DesktopSoundPlayer("RIFF nothing").play(); // while the disk is full
         player.play();
         for (int i = 0; i < 4000 && (!QFile::exists(heard) || !readFile(heard).contains(name.toUtf8() + " RIFF")); ++i)
             QThread::msleep(5);

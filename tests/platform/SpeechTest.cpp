@@ -6,7 +6,7 @@
 
 namespace {
 
-using Voices = std::map<QString, QStringList>; ///< by the names of their locales
+using Voices = QMap<QString, QStringList>; ///< by the names of their locales
 
 /// The desktop's speech service: keeps what it is told, and reads a text until the test says otherwise.
 struct ScriptedEngine : QTextToSpeechEngine
@@ -29,10 +29,8 @@ struct ScriptedEngine : QTextToSpeechEngine
     void stop(QTextToSpeech::BoundaryHint) override { told << "stop"; }
     QList<QLocale> availableLocales() const override
     {
-        QList<QLocale> locales;
-        for (const auto &each : voices)
-            locales << QLocale(each.first);
-        return locales;
+        const QStringList names = voices.keys();
+        return {names.begin(), names.end()};
     }
     QList<QVoice> availableVoices() const override
     {
@@ -79,10 +77,9 @@ void onEngine(const std::function<void()> &act)
 /// the engine was told then.
 QString play(Speaker &speaker, const QString &step)
 {
-    bool isState = false;
-    const int state = QMetaEnum::fromType<QTextToSpeech::State>().keyToValue(qPrintable(step), &isState);
+    const int state = QMetaEnum::fromType<QTextToSpeech::State>().keyToValue(qPrintable(step));
     std::vector<Utterance> texts;
-    if (isState)
+    if (state >= 0)
         onEngine([state] { Q_EMIT ScriptedEngine::made.load()->stateChanged(QTextToSpeech::State(state)); });
     else if (step == "Late")
         for (bool waits = true; waits; QThread::msleep(1))
