@@ -6,7 +6,7 @@
 
 #include <iostream>
 
-/// Takes the clipboard at the line "own" and tells at any other one whether the clipboard's owner answers.
+/// Takes the clipboard at the line "own" and tells at every line whether it has it, and whether its owner answers.
 int main(int argc, char **argv)
 {
     constexpr int AtOnce = 700; // ms
@@ -18,7 +18,8 @@ int main(int argc, char **argv)
             QGuiApplication::clipboard()->setText("mine");
         QElapsedTimer clock;
         clock.start();
-        std::cout << (owner.answers() ? "answers" : "hangs") << (clock.elapsed() < AtOnce ? " at once" : "")
+        std::cout << (QGuiApplication::clipboard()->ownsClipboard() ? "own, " : "")
+                  << (owner.answers() ? "answers" : "hangs") << (clock.elapsed() < AtOnce ? " at once" : "")
                   << std::endl;
     }
 }
