@@ -43,7 +43,6 @@ TEST_F(AtomicFileTest, PiecesOfEverySizeArriveInOrderAndLinksAndModeAreKept)
 TEST_F(AtomicFileTest, OldContentSurvivesEveryFailure)
 {
     using Sink = AtomicFile::Sink;
-    const auto once = [](const Sink &sink) { return sink(QByteArray(200000, 'n')); };
     const auto half = [](const Sink &sink) { return sink("half") && false; };
     const auto inPieces = [](const Sink &sink) {
         for (int i = 0; i < 100000; ++i)
@@ -53,10 +52,11 @@ TEST_F(AtomicFileTest, OldContentSurvivesEveryFailure)
     const QString file = put("a.gla", "old content"), pipe = path("pipe");
     ASSERT_EQ(::mkfifo(qPrintable(pipe), 0600), 0);
     const FileSizeLimit limit(100000);
-    const std::tuple<QString, AtomicFile::Producer, QString> cases[] = {
-        {file, once, std::strerror(EFBIG)},          {file, half, Stopped},
-        {file, inPieces, std::strerror(EFBIG)},      {m_folder.path(), half, std::strerror(EISDIR)},
-        {path("no/a"), half, std::strerror(ENOENT)}, {pipe, half, std::strerror(EACCES)}};
+    const std::tuple<QString, AtomicFile::Producer, QString> cases[] = {{file, half, Stopped},
+                                                                        {file, inPieces, std::strerror(EFBIG)},
+                                                                        {m_folder.path(), half, std::strerror(EISDIR)},
+                                                                        {path("no/a"), half, std::strerror(ENOENT)},
+                                                                        {pipe, half, std::strerror(EACCES)}};
     for (const auto &[name, producer, reason] : cases) {
         QString error;
         EXPECT_FALSE(AtomicFile::write(name, producer, &error) || AtomicFile::write(name, producer));

@@ -55,18 +55,13 @@ TEST(Twips, AreAFifteenthOfAPixelWithoutAScreen)
     }
 }
 
-/// A disk on which letter case does not count.
-QString onOldDisk(const QString &folder, const QString &name)
-{
-    for (const QString path : {"/Disk", "/Disk/.hidden", "/Disk/Program Files", "/Disk/Program Files/My Words.gla"}) {
-        if (path.compare(folder + '/' + name, Qt::CaseInsensitive) == 0)
-            return path.section('/', -1);
-    }
-    return {};
-}
-
 TEST(LongPath, EveryComponentIsSpelledAsListed)
 {
+    const auto onOldDisk = [](const QString &folder, const QString &name) { // where letter case does not count
+        const QStringList paths{"/Disk", "/Disk/.hidden", "/Disk/Program Files", "/Disk/Program Files/My Words.gla"};
+        const QString wanted = '^' + QRegularExpression::escape(folder + '/' + name) + '$';
+        return paths.value(paths.indexOf(QRegularExpression("(?i)" + wanted))).section('/', -1);
+    };
     const char *const cases[][2] = {{"/disk/program files/MY WORDS.GLA", "/Disk/Program Files/My Words.gla"},
                                     {"//DISK//./program files/", "/Disk/Program Files"},
                                     {"/disk/program files/../.HIDDEN", "/Disk/.hidden"},

@@ -117,7 +117,7 @@ TEST_F(SingleInstanceTest, OfManySimultaneousStartsOneIsFirst)
 TEST_F(SingleInstanceTest, AFirstThatHangsHoldsNobodyUp)
 {
     const Copy first = startFirst();
-    ASSERT_EQ(::kill(pid_t(first->processId()), SIGSTOP), 0);
+    ASSERT_TRUE(first->processId() > 0 && ::kill(pid_t(first->processId()), SIGSTOP) == 0);
     expectSecond("/a.gla", 100);
     std::vector<Socket> crowd(80);
     std::generate(crowd.begin(), crowd.end(), [this] { return connectWith({}); });
