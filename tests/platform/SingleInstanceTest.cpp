@@ -197,13 +197,14 @@ TEST_F(SingleInstanceTest, AListenerTellsOfCallersAndRestsWhereNoHandleIsLeftFor
 
 TEST_F(SingleInstanceTest, WhereCopiesCannotMeetEveryOneIsFirst)
 {
+    const FolderLock other(folder.path(), 0); // another copy is about to become the first
+    const uint handles = QDir("/proc/self/fd").count();
     for (const QString &place : {folder.filePath("none/copy"), folder.filePath(QString(120, u'd')), QString()})
         EXPECT_EQ(SingleInstance(place, {50, 50}).start({}), SingleInstance::Role::First);
     EXPECT_TRUE(!LocalListener().listen(folder.filePath(QString(107, u'd'))) && errno == ENAMETOOLONG);
-    // While another copy is about to become the first, this one waits, but not for ever.
-    const FolderLock other(folder.path(), 0);
     const QDeadlineTimer wait(60);
     EXPECT_TRUE(SingleInstance(path, {60, 50}).start({}) == SingleInstance::Role::First && wait.hasExpired());
+    EXPECT_EQ(QDir("/proc/self/fd").count(), handles);
 }
 
 TEST(InstancePlace, ShortPathInAPrivateFolderForEachDisplay)
@@ -231,6 +232,7 @@ TEST(InstancePlace, ShortPathInAPrivateFolderForEachDisplay)
         EXPECT_NE(placeIn(runtime, "", ":1"), path);
         EXPECT_EQ(placeIn(runtime, "", ":0.1"), path);
         EXPECT_NE(placeIn(runtime, "", "a.b:0"), placeIn(runtime, "", "a.c:0"));
+        EXPECT_NE(placeIn(runtime, "wayland-0", ""), placeIn(runtime, "wayland-1", ""));
         EXPECT_EQ(placeIn(runtime, "wayland-0", ":0"), placeIn(runtime, "wayland-0", ":1"));
         QDir().rmdir(inside);
     }
