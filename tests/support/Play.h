@@ -24,8 +24,9 @@ inline void play(const QString &steps, const std::function<QString()> &state, co
 }
 
 /// The same from a file of the source tree, a step a line; one that changes nothing stands alone.
-inline void playFile(const char *path, const std::function<QString()> &state, const Actions &actions = {})
+inline void playFile(const char *path, const std::function<QString()> &state, const Actions &actions = {},
+                     const QWidget *window = nullptr)
 {
     for (const QString &line : QString(readFile(path)).split(u'\n', Qt::SkipEmptyParts))
-        play(line.contains(QStringLiteral(" -> ")) ? line : line + QStringLiteral(" -> "), state, actions);
+        play(line.contains(QStringLiteral(" -> ")) ? line : line + QStringLiteral(" -> "), state, actions, window);
 }

@@ -21,6 +21,17 @@ struct ScriptedAlertBox : AlertBox
         return answer;
     }
 
+    /// The boxes shown since the last call, as "title: text" after the help topic's number, "!" for the sound and
+    /// "!" for the sign.
+    QString told()
+    {
+        QStringList all;
+        for (const Alert &each : std::exchange(shown, {}))
+            all += (each.helpId ? QString::number(each.helpId) : "") + (each.sound ? "!" : "") +
+                   (each.exclamation ? "!" : "") + each.title + ": " + each.prompt;
+        return all.join(u'|');
+    }
+
     /// The text of the only box shown; a text that no box shows when there were none or several.
     QString onlyPrompt() const
     {

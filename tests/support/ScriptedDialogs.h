@@ -8,6 +8,7 @@ struct ScriptedDialogs : CommonDialogs
 {
     QStringList chosen;               ///< names chosen one after the other; then Cancel
     std::optional<PrintChoice> pages; ///< empty: the print dialogs are cancelled
+    int filter = 0;                   ///< the kind of file that is chosen with them
     QString printerFault;
     std::function<void()> duringSetup; ///< what the user does in the page setup
     std::function<void()> duringPrint; ///< what happens while the print dialog is open
@@ -18,7 +19,7 @@ struct ScriptedDialogs : CommonDialogs
     std::optional<FileChoice> saveFile(const FileRequest &request) override
     {
         file = request;
-        return chosen.isEmpty() ? std::nullopt : std::optional(FileChoice{chosen.takeFirst(), 0});
+        return chosen.isEmpty() ? std::nullopt : std::optional(FileChoice{chosen.takeFirst(), filter});
     }
     bool fileExists(const QString &) override { return false; }
     bool confirmReplace(QWidget *, const QString &, const QString &) override { return false; }

@@ -30,7 +30,9 @@ struct FindReplace : ::testing::Test, OpenDocument
     QString match() const
     {
         const QString place = QString("%1,%2:[%3]%4").arg(grid.Row()).arg(grid.Col()).arg(grid.SelText());
-        return grid.EditMode() ? place.arg(grid.hwndText()->cursorPosition() - grid.SelText().size()) : "nothing";
+        return grid.EditMode() && grid.RowIsVisible(grid.Row())
+                   ? place.arg(grid.hwndText()->cursorPosition() - grid.SelText().size())
+                   : "nothing";
     }
 
     ScriptedAlertBox alert;
@@ -62,51 +64,44 @@ TEST_F(FindReplace, OpensWithTheCurrentCellsTextAndWidens)
     EXPECT_EQ(dialog->whatsThis() + control<QPushButton>("btnReplace")->whatsThis(), resText(20051) + resText(20053));
     EXPECT_TRUE(flags.ReplaceMode && !flags.FindMode);
     EXPECT_EQ(match(), "nothing");
+    select(4, 1, 4, 1);
+    open(false);
+    EXPECT_FALSE(control<QPushButton>("btnFind")->isEnabled()) << "there is nothing to find yet";
 }
 
 TEST_F(FindReplace, ShowsMatchAfterMatchAndReportsTheEnd)
 {
     open(false);
-    grid.setTextMatrix(3, 2, "far");
-    grid.insertRows(2, 200);
-    type("txtFind", "far");
-    click("btnFind");
-    EXPECT_TRUE(grid.RowIsVisible(203));
-    grid.removeRows(2, 200);
-    type("txtFind", "cat");
-    // the match and how often the user was told of the end
-    play(
-        "Return -> 1,1:[cat]0 0, Return -> 2,1:[cat]4 0, Return -> 3,1:[cat]0 0, btnFind -> 3,1:[cat]0 1, "
-        "btnFind -> 1,1:[cat]0 1, F3 -> 2,1:[cat]4 1, Shift+F3 -> 1,1:[cat]0 1, KATZE -> 1,1:[cat]0 1, "
-        "chkCase -> 1,1:[cat]0 1, btnFind -> 1,1:[cat]0 2, chkCase -> 1,1:[cat]0 2, btnFind -> 1,2:[Katze]0 2, "
-        "optScope1 -> 1,2:[Katze]0 2, btnFind -> 1,2:[Katze]0 3, cat -> 1,2:[Katze]0 3, chkWord -> 1,2:[Katze]0 3, "
-        "Shift+F3 -> 2,1:[cat]4 3, btnFind -> 2,1:[cat]4 4, chkWord -> 2,1:[cat]4 4, Return -> 1,1:[cat]0 4",
-        [this] { return match() + ' ' + QString::number(alert.shown.size()); },
-        {{"KATZE", [this] { type("txtFind", "KATZE"); }}, {"cat", [this] { type("txtFind", "cat"); }}}, dialog.get());
-    EXPECT_EQ(alert.shown[0].prompt, "The specified region has been searched.");
-    EXPECT_EQ(alert.shown[1].prompt, "The search string was not found.");
-
-    dialog->close();
+    grid.setRows(300);
+    grid.setTextMatrix(250, 2, "far");
+    // the match, whether the first row is out of sight, and what the user was told
+    const auto state = [this] {
+        const GridSelection at = document.selection();
+        const QString place = dialog->isVisible() ? match() : QString("%1,%2:").arg(at.bottom()).arg(at.right());
+        return (place + (grid.TopRow() > 1 ? " scrolled " : " ") + alert.told()).trimmed();
+    };
+    const auto run = [this](bool backwards) { FindOn::run(document, last, backwards, alert, &window); };
+    playFile(SOURCE_FOLDER "/tests/tools/data/find.txt", state,
+             {{"KATZE", [this] { type("txtFind", "KATZE"); }},
+              {"far", [this] { type("txtFind", "far"); }},
+              {"cat", [this] { type("txtFind", "cat"); }},
+              {"dog", [this] { last.FindWhat = "dog"; }},
+              {"cover", [this] { dialog->move(window.pos()); }},
+              {"on", [&] { run(false); }},
+              {"back", [&] { run(true); }}},
+             dialog.get());
+    EXPECT_NE(dialog->pos(), window.pos()) << "the match was below it";
     EXPECT_TRUE(!flags.searching() && !grid.EditMode() && undo.kind() == UndoKind::None && !document.Dirty());
-    play("on -> 2 4, on -> 3 4, back -> 2 4, on -> 3 4, on -> 1 5, back -> 3 6",
-         [this] { return QString("%1 %2").arg(document.selection().bottom()).arg(alert.shown.size()); },
-         {{"on", [this] { FindOn::run(document, last, false, alert, &window); }},
-          {"back", [this] { FindOn::run(document, last, true, alert, &window); }}});
-    last.FindWhat = "dog";
-    FindOn::run(document, last, false, alert, &window);
-    EXPECT_EQ(document.selection(), (GridSelection{3, 1, 3, 1}));
-    EXPECT_TRUE(alert.shown[4].prompt.endsWith("been searched.") && alert.shown.back().prompt.endsWith("not found."));
 }
 
 TEST_F(FindReplace, ReplacesTheSelectedMatchOnly)
 {
     open(false, "CAT", "dog"), dialog->showAgain(true);
-    play(
-        "btnReplace -> 1,1:[cat]0 cat, btnReplace -> 2,1:[cat]4 dog, btnFind -> 3,1:[cat]0 dog, part -> 3,1:[ca]0 "
-        "dog, btnReplace -> 3,1:[ca]0 dog, btnFind -> 2,1:[cat]4 dog, btnReplace -> 3,1:[cat]0 dog, long -> "
-        "3,1:[cat]0 dog, btnFind -> 3,1:[cat]0 dog, btnFind -> 3,1:[cat]0 dog, btnReplace -> 3,1:[]200 dog",
-        [this] { return match() + ' ' + grid.TextMatrix(1, 1); },
-        {{"part", [this] { grid.SelectEditText(0, 2); }}, {"long", [this] { type("txtReplace", QString(200, u'x')); }}},
+    playFile(
+        SOURCE_FOLDER "/tests/tools/data/replace.txt", [this] { return match() + ' ' + grid.TextMatrix(1, 1); },
+        {{"part", [this] { grid.SelectEditText(0, 2); }},
+         {"other", [this] { select(2, 1, 2, 1), grid.setEditMode(true), grid.SelectEditText(4, 3); }},
+         {"long", [this] { type("txtReplace", QString(200, u'x')); }}},
         dialog.get());
     EXPECT_EQ(words(),
               (Words{{"dog", "Katze"}, {"the dog sat", "die Katze saß"}, {QString(200, u'x') + 's', "a"}, {}}));
@@ -120,29 +115,35 @@ TEST_F(FindReplace, ReplaceAllIsOneUndoStepOfItsDocument)
     const Words before = words();
     const QString longWord(200, u'x');
     for (const bool anotherFollows : {false, true}) {
-        open(true, "cat", longWord);
+        open(true, "cat");
         click("btnFind"); // the match shown first counts as well
+        type("txtReplace", longWord);
         click("btnReplaceAll");
         EXPECT_EQ(alert.onlyPrompt(), "The specified region has been searched. 3 replacements were made.");
-        EXPECT_THAT(words(), ::testing::ElementsAre(Words::value_type{longWord, "Katze"},
-                                                    Words::value_type{"the " + longWord + " sat", "die Katze saß"},
-                                                    Words::value_type{longWord + "s", "a"}, Words::value_type{}));
+        EXPECT_EQ(
+            words(),
+            (Words{{longWord, "Katze"}, {"the " + longWord + " sat", "die Katze saß"}, {longWord + 's', "a"}, {}}));
         EXPECT_GT(grid.RowHeight(1), 285);
         EXPECT_EQ(match(), "3,1:[]200"); // the last match
         document.setDirty(false);        // as saving does
         if (anotherFollows) {
             QTest::keyClicks(grid.hwndText(), "u");
-            undo.clear();
+            type("txtFind", "Katze");
+            click("btnFind");
             dialog->leaveDocument();
             click("btnFind");
             click("btnReplaceAll");
             EXPECT_TRUE(!grid.EditMode() && alert.shown.size() == 1);
-            grid.setTextMatrix(0, 1, "English");
-            dialog->workOn(document); // as if it were another
+            OpenDocument other(Words{{"Katze", ""}});
+            other.grid.setTextMatrix(0, 1, "English");
+            dialog->workOn(other.document);
             click("btnFind");
-            EXPECT_TRUE(control<QRadioButton>("optScope1")->text() == "&1 English" && alert.shown.size() == 2);
+            EXPECT_EQ(other.grid.SelText() + control<QRadioButton>("optScope1")->text(), "Katze&1 English");
+            dialog->close();
+            EXPECT_FALSE(other.grid.EditMode() || other.document.Dirty());
         }
         dialog->close();
+        dialog->leaveDocument(); // which has been done
         EXPECT_TRUE(!flags.searching() && document.Dirty());
         EXPECT_EQ(undo.kind(), anotherFollows ? UndoKind::None : UndoKind::Replace);
         commands.Undo(document);
@@ -153,15 +154,17 @@ TEST_F(FindReplace, ReplaceAllIsOneUndoStepOfItsDocument)
 
 TEST_F(FindReplace, WhatIsTypedIntoTheMatchCanBeUndone)
 {
-    for (const QString text : {"aXa", "aX"}) { // which matches again, or not
+    // a text, what is typed in place of its first match, and the next one
+    for (const auto &[text, typed, next] : {std::tuple("aXa", "ua", "1,1:[a]1"), {"aX", "u", "1,1:[]1"}}) {
         setWords({{text, ""}});
         undo.clear();
         open(false, "a");
         click("btnFind");
-        QTest::keyClicks(grid.hwndText(), "u");
+        QTest::keyClicks(grid.hwndText(), typed);
         click("btnFind");
+        EXPECT_EQ(match(), next);
         dialog->close();
-        EXPECT_EQ(grid.TextMatrix(1, 1), 'u' + text.mid(1));
+        EXPECT_EQ(grid.TextMatrix(1, 1), QString(text).replace(0, 1, typed));
         EXPECT_TRUE(undo.kind() == UndoKind::Entry && document.Dirty());
         commands.Undo(document);
         EXPECT_EQ(grid.TextMatrix(1, 1), text);

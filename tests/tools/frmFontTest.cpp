@@ -55,13 +55,13 @@ TEST_F(FontDialog, ChecksTheSizeWhileItIsTyped)
     box("cboSize")->setFocus();
     // the size that is typed, that of the sample, and the first word of what the user is told
     play(
-        "Ctrl+A -> 10 10, 5000 -> 2048 2048 The, Ctrl+A -> 2048 2048, 0 -> 0 2048, btnOK -> 0 2048 Type, "
-        "Ctrl+A -> 0 2048, 1 -> 1 1, Ctrl+A -> 1 1, 2 -> 2 2, btnOK -> 2 2 Type, Ctrl+A -> 2 2, Del ->  2 Type",
+        "Ctrl+A -> 10 10, 5000 -> 2048 2048 !Glosaria Alert: The, Ctrl+A -> 2048 2048, 0 -> 0 2048, btnOK -> 0 2048 "
+        "!Glosaria Alert: Type, Ctrl+A -> 0 2048, 1 -> 1 1, Ctrl+A -> 1 1, 2 -> 2 2, btnOK -> 2 2 !Glosaria Alert: "
+        "Type, Ctrl+A -> 2 2, 3 -> 3 3, Ctrl+A -> 3 3, Del -> 3 !Glosaria Alert: Type",
         [this] {
-            QString text = box("cboSize")->currentText() + ' ' + QString::number(sample()->sampleFont().pointSizeF());
-            for (const Alert &told : std::exchange(alert.shown, {}))
-                text += told.sound ? ' ' + told.prompt.section(' ', 0, 0) : "";
-            return text;
+            const QString text =
+                box("cboSize")->currentText() + ' ' + QString::number(sample()->sampleFont().pointSizeF());
+            return (text + ' ' + alert.told().section(' ', 0, 2)).trimmed();
         },
         {}, dialog.get());
     click("btnCancel");
@@ -72,18 +72,24 @@ TEST_F(FontDialog, EnterInAListAppliesAndStoresTheDefault)
 {
     grid.setTextMatrix(1, 1, "word");
     grid.setRowHeight(1, 150);
-    for (const char *name : {"cboFont", "cboSize", "cboColor"}) {
+    for (const auto &[name, slanted] : {std::pair("cboFont", true), {"cboSize", false}, {"cboColor", true}}) {
         open();
+        const QString family = box("cboFont")->itemText(slanted);
         EXPECT_EQ(sample()->accessibleDescription(), "word");
         box("cboColor")->setFocus();
-        QTest::keyClicks(box("cboColor"), "Red");
-        box("cboSize")->setEditText("14");
-        click("chkBold"), click("chkDefault");
+        QTest::keyClicks(box("cboColor"), "Blue");
+        box("cboFont")->setCurrentText(family), box("cboSize")->setEditText("14");
+        click("chkBold"), click("chkItalic"), click("chkDefault");
+        const QImage drawn = sample()->grab(sample()->contentsRect()).toImage();
+        const QColor mean = drawn.scaled(1, 1, {}, Qt::SmoothTransformation).pixelColor(0, 0);
+        EXPECT_TRUE(mean.blue() == 255 && mean.red() < 255) << "the sample is blue on white";
         box(name)->setFocus();
         QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
         EXPECT_FALSE(dialog->isVisible()) << name;
-        EXPECT_EQ(std::tuple(grid.ForeColor(), settings.FontColor(), settings.FontSize(), settings.FontBold()),
-                  std::tuple(0x0000FF, 0x0000FF, 14, grid.Font().bold()));
-        EXPECT_TRUE(settings.FontName() == grid.Font().family() && grid.RowHeight(1) >= grid.fittingRowHeight(1));
+        EXPECT_EQ(grid.Font(), QFont(family, 14, slanted ? QFont::Bold : QFont::Normal, slanted));
+        EXPECT_EQ(std::tuple(grid.ForeColor(), settings.FontName(), settings.FontColor(), settings.FontSize(),
+                             settings.FontBold(), settings.FontItalic()),
+                  std::tuple(0xFF0000, family, 0xFF0000, 14, slanted, slanted));
+        EXPECT_GE(grid.RowHeight(1), grid.fittingRowHeight(1));
     }
 }

@@ -47,7 +47,9 @@ TEST_F(Sorting, OrdersByTheChosenLanguageAndOrderWhatWasChosen)
         select(4, 2, 3, 3 - columns);
         document.setDirty(false);
         const Words before = words();
+        window.setFocus();
         sortWith(clicked, Qt::Key_Return);
+        EXPECT_TRUE(grid.Redraw() && window.focusWidget() == grid.focusProxy());
         EXPECT_EQ(rows(), sorted) << clicked.join(u' ').toStdString();
         EXPECT_EQ(document.Dirty(), words() != before);
         commands.Undo(document);

@@ -3,8 +3,9 @@
 TEST(Lessons, AreNamedAfterTheirFilesAndFolders)
 {
     const QTemporaryDir folder;
-    for (const char *file : {"spanish/02-numbers.gla", "spanish/10-at-home.gla", "spanish/notes.txt", "french/x.gla",
-                             "empty/y.txt", "2024.gla", "old_words.gla", "a/b/deep.gla"}) {
+    for (const char *file :
+         {"spanish/09-numbers.gla", "spanish/00-start.gla", "spanish/10-at-home.gla", "spanish/notes.txt",
+          "french/x.gla", "empty/y.txt", "2024.gla", "old_words.gla", "a/b/deep.gla"}) {
         const QFileInfo info(folder.filePath(QLatin1String(file)));
         QDir().mkpath(info.path());
         QFile made(info.filePath());
@@ -17,6 +18,7 @@ TEST(Lessons, AreNamedAfterTheirFilesAndFolders)
             found << group.title + u'/' + lesson.title;
         }
     }
-    EXPECT_EQ(found, (QStringList{"/2024", "/Old words", "French/X", "Spanish/2 Numbers", "Spanish/10 At home"}));
+    EXPECT_EQ(found, (QStringList{"/2024", "/Old words", "French/X", "Spanish/0 Start", "Spanish/9 Numbers",
+                                  "Spanish/10 At home"}));
     EXPECT_TRUE(Lessons::in(folder.filePath("missing")).empty());
 }

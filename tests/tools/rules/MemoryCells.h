@@ -2,14 +2,6 @@
 
 #include "tools/rules/Search.h"
 
-inline Search searchFor(const QString &what, int flags)
-{
-    Search search;
-    search.FindWhat = what;
-    search.SearchFlags = flags;
-    return search;
-}
-
 /// A vocabulary without a grid. A text written into the last row appends an empty row, as in a document.
 class MemoryCells : public CellStore
 {

@@ -38,16 +38,18 @@ TEST(ReplaceAll, EqualsTheSingleStepsOnRandomWords)
         const QString what = word(3), with = word(4);
         const int scopes[] = {Language1, Language2, WholeDocument};
         const int flags = scopes[engine() % 3] | (engine() % 2 ? MatchCase : 0) | (engine() % 2 ? WholeWords : 0);
-        const Search search = searchFor(what.isEmpty() ? "a" : what, flags);
+        const Search search{flags, what.isEmpty() ? "a" : what};
         const ReplaceAll::Summary summary = replaceStepByStep(expected, search, with);
         EXPECT_EQ(ReplaceAll(search, with).run(cells), summary);
         ASSERT_EQ(cells.words, expected.words) << what.toStdString() << " -> " << with.toStdString() << " " << flags;
     }
 }
 
-TEST(ReplaceAll, GoesThroughLongCellsOnce)
+TEST(ReplaceAll, GoesThroughLongCellsOnceAndEndsAtWhatIsNoWord)
 {
     const QString a(200000, u'a');
-    EXPECT_EQ(ReplaceAll(searchFor("ab", WholeDocument), "ca").replaced(a + u'b').text, QString(199999, u'a') + "ca");
-    EXPECT_EQ(ReplaceAll(searchFor("A", WholeDocument), "xyz").replaced(a).text.size(), 600000);
+    EXPECT_EQ(ReplaceAll(Search{WholeDocument, "ab"}, "ca").replaced(a + u'b').text, QString(199999, u'a') + "ca");
+    EXPECT_EQ(ReplaceAll(Search{WholeDocument, "A"}, "xyz").replaced(a).text.size(), 600000);
+    const Search words{WholeDocument | WholeWords, "a a"};
+    EXPECT_EQ(ReplaceAll(words, "xba").replaced("a a a a").text, "xba a a");
 }

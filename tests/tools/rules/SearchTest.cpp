@@ -18,7 +18,7 @@ TEST(IsLetter, FollowsTheCodesOfWindows1252)
 /// Everything found until the region ends, as "A1:0 B3:2": column, row and position.
 std::string foundIn(const MemoryCells &cells, const QString &what, int flags)
 {
-    Search search = searchFor(what, flags);
+    Search search{flags, what};
     QStringList found, backwards;
     const auto name = [&](const Search::Match &match) {
         EXPECT_EQ(match.length, what.size());
@@ -68,14 +68,14 @@ TEST(Search, GoesOnFromACellInBothDirectionsAndFromWhereItStands)
         {Language2, 2, 1, true, {1, 2, 0, 1}},      {Language1 | WholeWords, 1, 1, true, {}},
     };
     for (const auto &[flags, row, col, backwards, expected] : cases) {
-        Search search = searchFor("x", flags);
+        Search search{flags, "x"};
         search.LeaveCell(row, col, backwards);
         const auto match = backwards ? search.FindPrevious(cells) : search.FindNext(cells);
         EXPECT_EQ(match.value_or(Search::Match{}), expected) << flags << row << col;
     }
     // from column 2 the search leads back only when the region has ended
     MemoryCells later{{"", "x"}, {"", "x"}};
-    Search search = searchFor("x", WholeDocument);
+    Search search{WholeDocument, "x"};
     EXPECT_EQ(search.FindNext(later), (Search::Match{1, 2, 0, 1}));
     later.words[1][0] = "x";
     EXPECT_EQ(search.FindNext(later), (Search::Match{2, 2, 0, 1}));

@@ -18,6 +18,7 @@ TEST(VocabularyCheck, FindsWhatLooksWrong)
         {"/ab\U00010400|x", "A1 scripts:ab\U00010400 \U00010400"},
         {"/Tシャツ|お茶を飲む/2-й ряд|µm, α-Teilchen/год (year)|e\u0301te\u0301/12й|CD를", ""},
         {"/(a|word]/c)(|[d)]/((e)|（f", "A1 brackets B1 brackets A2 brackets B2 brackets A3 brackets B3 brackets"},
+        {"/)|x", "A1 brackets"},
         {"/abc) x|x-a) y", "A1 brackets B1 brackets"},
         {"/a) x 2) y|(a) [b {c}]/（中）「文」|d) (e)", ""},
     };
