@@ -1,7 +1,5 @@
 #include "MainWindowFixture.h"
 
-#include "app/MenuLayout.h"
-#include "print/PrintCommands.h"
 #include "services/FormTexts.h"
 #include "services/help/DialogHelp.h"
 #include "services/help/rules/HelpBook.h"
@@ -154,6 +152,7 @@ TEST_F(HelpTest, WhatsThisExplainsTheGridOrTheWindowBelowThePointerAndEnds)
     ctlGrid *grid = newDocument()->Rutor();
     EXPECT_EQ(textsAt(grid, {80, 60}), std::vector{20042});
     EXPECT_EQ(help.popUpPlace, grid->mapToGlobal(QPoint(80, 70)));
+    EXPECT_NE(textsAt(&window->context().status, {5, 5}), std::vector{20042});
     EXPECT_TRUE(inDialog("mnuVocabularySort", [this](QDialog &dialog) {
         EXPECT_EQ(textsAt(&dialog, {2, 2}), std::vector{dialog.property("whatsThisId").toInt()});
         EXPECT_FALSE(QWhatsThis::inWhatsThisMode());

@@ -1,22 +1,12 @@
 #include "MainWindowFixture.h"
 
 #include "exchange/ImportTexts.h"
-#include "exchange/ListCommands.h"
 #include "widgets/LinkList.h"
 
 namespace {
 
 struct ListsTest : MainWindowFixture
 {
-    /// The words of a grid, "a|b" a row, the names first.
-    static QString words(const FlexGrid &grid)
-    {
-        QStringList rows;
-        for (int row = 0; row < grid.Rows(); ++row)
-            rows += grid.TextMatrix(row, 1) + '|' + grid.TextMatrix(row, 2);
-        return rows.join(", ");
-    }
-    QString words() { return words(*documents().active()->Rutor()); }
     static QString preview(QDialog &dialog) { return words(*dialog.findChild<FlexGrid *>("grdPreview")); }
     /// Chooses in one part of the dialog after the other: "name=entry" in a box, "name" clicks.
     static void choose(QDialog &dialog, const QStringList &choices)
@@ -64,18 +54,10 @@ TEST_F(ListsTest, AListIsReadAsThePreviewShowsIt)
     inNextDialog([](QDialog &dialog) {
         EXPECT_EQ(dialog.windowTitle(), "Import - list");
         EXPECT_FALSE(dialog.findChild<QWidget *>("optThis")->isEnabled());
-        const std::pair<QStringList, const char *> steps[] = {
-            {{"cboSeparator=Dash"},
-             "Language 1|Language 2, x;English;German;note|, 1;house;Haus;|, 2;;;n|, 3;a,b;c,d;|"},
-            {{"cboSeparator=Semicolon"}, "Language 1|Language 2, x|English, 1|house, 2|, 3|a,b"},
-            {{"cboFirst=Column 2", "cboSecond=Column 3", "chkNames"}, "English|German, house|Haus, a,b|c,d"},
-            {{"btnSwap"}, "German|English, Haus|house, c,d|a,b"},
-            {{"cboSeparator=Comma"}, "Language 1|Language 2, x;English;German;note|, 1;house;Haus;|, 2;;;n|, 3;a|b;c"},
-            {{"cboSeparator=;", "chkNames"}, "x|English, 1|house, 2|, 3|a,b"},
-            {{"cboFirst=Column 3: German", "cboSecond=Column 2: English"}, "German|English, Haus|house, c,d|a,b"}};
-        for (const auto &[choices, text] : steps) {
-            choose(dialog, choices);
-            EXPECT_EQ(preview(dialog).toStdString(), text);
+        const QString steps = readFile(SOURCE_FOLDER "/tests/app/data/preview.txt"); // choices, and what they show
+        for (const QString &step : steps.split('\n', Qt::SkipEmptyParts)) {
+            choose(dialog, step.section(" -> ", 0, 0).split(" + "));
+            EXPECT_EQ(preview(dialog).toStdString(), step.section(" -> ", 1).toStdString());
         }
         choose(dialog, {"btnOK"});
     });
@@ -114,13 +96,7 @@ TEST_F(ListsTest, WhatCannotBeReadOrWrittenIsTold)
         prompts.savePath = *name ? folder.filePath(name) : QString();
         window->DoMenuClick("mnuFileExport");
     }
-    QStringList told;
-    for (const Alert &each : alert.shown) {
-        told += QString(each.prompt).remove(folder.path()).left(25);
-        EXPECT_TRUE(each.sound && each.exclamation && each.buttons == Alert::OkHelp && each.helpId == 3030);
-    }
-    EXPECT_EQ(told.join(" | ").toStdString(),
-              "The file list is damaged. | /none/a.csv can't be writ | Some signs in the words a");
+    expectAsIn("troubles.txt", alert.told().remove(folder.path()) + '\n');
     EXPECT_EQ(readFile(prompts.savePath), "\xEF\xBB\xBF"
                                           "A,B\r\n\"1,2\",?\r\n");
     EXPECT_EQ(status(0), "1 row exported; font, row heights and column widths stay in the vocabulary");

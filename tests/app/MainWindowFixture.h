@@ -68,6 +68,15 @@ struct MainWindowFixture : ::testing::Test, DocumentCopies
         window->DoMenuClick("mnuFileNew");
         return documents().active();
     }
+    /// The words of a grid, "a|b" a row, the names first.
+    static QString words(const FlexGrid &grid)
+    {
+        QStringList rows;
+        for (int row = 0; row < grid.Rows(); ++row)
+            rows += grid.TextMatrix(row, 1) + '|' + grid.TextMatrix(row, 2);
+        return rows.join(", ");
+    }
+    QString words() { return words(*documents().active()->Rutor()); }
     QMenu *menu(const QString &key) { return window->menuBar()->findChild<QMenu *>(key); }
     /// The captions of a menu as it drops down, without mnemonics; "-" for a separator, "(x)" for a disabled entry.
     QStringList entries(const QString &key)
@@ -115,15 +124,15 @@ struct MainWindowFixture : ::testing::Test, DocumentCopies
                 window->commands().action(each->key)->isChecked() ? window->commands().action(each->key)->text() : "";
         for (const QWidget *each :
              window->findChildren<QWidget *>(QRegularExpression("^(frm.*|StartPage|PreviewArea)$")))
-            others += each->isVisible() ? each->objectName() : "";
+            others += each->isVisible() ? each->objectName() + each->windowTitle() : "";
         for (const LetterRow *each : window->findChildren<LetterRow *>()) {
             for (const QToolButton *letter : each->findChildren<QToolButton *>())
                 others += each->isVisible() ? letter->text() : "";
         }
-        for (const Alert &each : std::exchange(alert.shown, {}))
-            others += each.prompt.section('\r', 0, 0);
+        others += alert.told().section('\r', 0, 0);
         const QString rows = grid ? QString(" of %1 rows, %2%").arg(grid->Rows() - 1).arg(grid->Zoom()) : "";
-        QStringList all{"documents: " + open.join(" | "), "words: " + words.join(' ') + rows};
+        const bool kept = window->documentArea()->subWindowList().size() > open.size(); // frames of closed ones
+        QStringList all{"documents: " + open.join(" | ") + (kept ? " kept" : ""), "words: " + words.join(' ') + rows};
         all << "edit: " + (grid && grid->EditMode() ? '[' + grid->EditText() + "] " + grid->SelText() : "")
             << "said: " + status(0);
         all << "cell:" + status(1) << "mode: " + status(2) << "undo: " + window->UndoAction();

@@ -32,6 +32,8 @@ TEST_F(MainWindowTest, DocumentsAreCascadedTiledAndLinedUpAsIconsFromBothSides)
     }
     const int step = documents().open()[1]->frame()->x();
     EXPECT_GT(step, 15);
+    const int beside = window->toolbarHeight() + window->context().status.height();
+    EXPECT_TRUE(area.size() == window->size() - QSize(0, beside) && area.mapTo(window.get(), QPoint()).x() == 0);
     const auto places = [this] {
         QStringList found;
         for (const frmDoc *each : documents().open()) {
@@ -60,8 +62,13 @@ TEST_F(MainWindowTest, DocumentsAreCascadedTiledAndLinedUpAsIconsFromBothSides)
         EXPECT_EQ(area.subWindowList(QMdiArea::StackingOrder)[i]->widget(), documents().open()[size_t(i)]);
     window->resize(window->width() + 70, window->height());
     EXPECT_EQ(documents().open()[0]->frame()->x(), 225 + 70);
-    for (int i = 0; i < 30; ++i)
-        EXPECT_TRUE(area.viewport()->rect().contains(newDocument()->frame()->geometry()));
+    QSet<int> heights;
+    for (int i = 0; i < 30; ++i) {
+        const QRect place = newDocument()->frame()->geometry();
+        heights += place.y();
+        EXPECT_TRUE(area.viewport()->rect().contains(place));
+    }
+    EXPECT_EQ(heights.size(), 150 / step + 1) << "as far down as there is room";
     area.setLayoutDirection(Qt::LeftToRight);
     for (const frmDoc *each : documents().open())
         each->frame()->showMinimized();

@@ -56,7 +56,10 @@ TEST_F(PreviewCommandsTest, OpeningAFileAndLeavingTheProgramEndThePreview)
     EXPECT_TRUE(printer.sheets.front().find("Untitled 1 1"));
     EXPECT_FALSE(preview().isOpen());
     dialogs.duringPrint = nullptr;
-    printer.duringSheet = [this] { documents().active()->frame()->close(); };
+    printer.duringSheet = [this] {
+        EXPECT_EQ(status(0), "Printing page 1");
+        documents().active()->frame()->close();
+    };
     window->DoMenuClick("mnuFilePrint");
     EXPECT_EQ(printer.jobs, 2) << "what closes meanwhile is printed to its end";
     EXPECT_EQ(documents().open().size(), 1U);
@@ -79,7 +82,7 @@ TEST_F(PreviewCommandsTest, ATestIsPreviewedAndPrintedAsItWasChosen)
         QCoreApplication::processEvents();
     };
     press({});
-    EXPECT_EQ(alert.shown.size(), 1U) << "there are no words";
+    EXPECT_EQ(alert.told(), ": " + resText(14778)) << "there are no words";
     grid.setTextMatrix(1, 1, "a");
     grid.setTextMatrix(1, 2, "b");
     press({"optAsked1", "chkKey", "btnPreview"});

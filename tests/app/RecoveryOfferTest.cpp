@@ -27,13 +27,6 @@ struct RecoveryOfferTest : MainWindowFixture
         documents().active()->setDirty(true);
         keeper->flush();
     }
-    QString captions()
-    {
-        QString found;
-        for (const frmDoc *document : documents().open())
-            found += document->Caption() + (document->Dirty() ? "* " : " ");
-        return found;
-    }
     /// Starts on a file and answers the offer by a button.
     void answer(const QString &file, const QString &button, const std::function<void(QTreeWidget &)> &visitor)
     {
@@ -60,7 +53,7 @@ TEST_F(RecoveryOfferTest, WhatIsRecoveredCountsAsTheFileThatWasAskedFor)
         offer->open(other);
         EXPECT_TRUE(isOpen(other)) << "others do not";
     });
-    EXPECT_EQ(captions(), "other two ");
+    EXPECT_EQ(parts()[0], "documents: other | >two");
 
     start();
     window->OpenRequestedFile(one);
@@ -69,8 +62,7 @@ TEST_F(RecoveryOfferTest, WhatIsRecoveredCountsAsTheFileThatWasAskedFor)
         ASSERT_EQ(alert.onlyPrompt(), resText(710) + one + resText(711)) << "which it is";
         EXPECT_EQ(list.selectedItems().size(), 2);
     });
-    EXPECT_EQ(captions(), "one* two* ") << "each once";
-    EXPECT_EQ(documents().active()->Caption(), "two");
+    EXPECT_EQ(parts()[0], "documents: one* | >two*") << "each once";
 }
 
 TEST_F(RecoveryOfferTest, TakesOnlyWhatIsSelected)
@@ -109,5 +101,7 @@ TEST_F(RecoveryOfferTest, TakesOnlyWhatIsSelected)
         list.topLevelItem(0)->setSelected(false);
         EXPECT_EQ(list.topLevelItemCount(), 2);
     });
-    EXPECT_EQ(captions(), "c* ");
+    EXPECT_EQ(parts()[0], "documents: >c*");
+    answer({}, "btnDiscard", [](QTreeWidget &) {});
+    EXPECT_EQ(alert.told(), ": " + resText(12621).arg(QString(90, 'w')));
 }
