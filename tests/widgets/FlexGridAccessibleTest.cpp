@@ -9,6 +9,7 @@ struct SpokenGrid : ::testing::Test
         grid.setCols(3);
         grid.setRowNumbers(true);
         grid.setTextMatrix(0, 0, "No.");
+        grid.setTextMatrix(0, 1, "English");
         grid.setTextMatrix(0, 2, "German");
         grid.setTextMatrix(2, 1, "house");
         grid.resize(400, 78); // the last row is out of sight
@@ -66,15 +67,17 @@ TEST_F(SpokenGrid, TellsOfEveryCell)
 {
     grid.Select(2, 2, 3, 1);
     EXPECT_EQ(told().toStdString(), "4 2\n"
-                                    "^No. | ^ | ^German\n"
-                                    "<1 |  0,0//1 |  0,1/German/1\n"
-                                    "<2 | house 1,0//2* |  1,1/German/2*>\n"
-                                    "<3 |  2,0//3* |  2,1/German/3*\n"
-                                    "<4~ |  3,0//4~ |  3,1/German/4~");
+                                    "^No. | ^English | ^German\n"
+                                    "<1 |  0,0/English/1 |  0,1/German/1\n"
+                                    "<2 | house 1,0/English/2* |  1,1/German/2*>\n"
+                                    "<3 |  2,0/English/3* |  2,1/German/3*\n"
+                                    "<4~ |  3,0/English/4~ |  3,1/German/4~");
     EXPECT_EQ(interface->focusChild(), table->cellAt(1, 1));
-    EXPECT_EQ(told(*table->selectedCells().at(0)), "house 1,0//2*");
+    EXPECT_EQ(table->cellAt(1, 1)->window(), grid.window()->windowHandle());
+    EXPECT_EQ(told(*table->selectedCells().at(0)), "house 1,0/English/2*");
     grid.setEnabled(false);
-    EXPECT_EQ(told(*table->cellAt(0, 0)), " 0,0//1-");
+    EXPECT_EQ(interface->focusChild(), nullptr);
+    EXPECT_EQ(told(*table->cellAt(0, 0)), " 0,0/English/1-");
     QAccessibleInterface *last = table->cellAt(3, 1);
     const QAccessibleTableCellInterface *place = last->tableCellInterface();
     grid.setRows(2);
@@ -116,4 +119,6 @@ TEST_F(SpokenGrid, SelectsByPlaceAndTellsWhatIsSelected)
     EXPECT_EQ(grid.selection(), (GridSelection{4, 1, 4, 1}));
     EXPECT_TRUE(pressed == 1 && grid.RowIsVisible(4));
     EXPECT_TRUE(interface->child(0)->actionInterface()->actionNames().isEmpty());
+    grid.setFixedCols(0), grid.setCols(0);
+    EXPECT_EQ(interface->child(0), nullptr);
 }

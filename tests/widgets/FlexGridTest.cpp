@@ -1,5 +1,9 @@
 #include "widgets/grid/FlexGrid.h"
 
+#include "services/desktop/Contrast.h"
+#include "widgets/grid/FlexGridColours.h"
+#include "widgets/grid/FlexGridView.h"
+
 /// The cells below the header.
 static QString column(const FlexGrid &grid, int col)
 {
@@ -9,52 +13,33 @@ static QString column(const FlexGrid &grid, int col)
     return texts.join(u',');
 }
 
-TEST(FlexGridRows, TakeWholeListsWithOneBlankForEachTabAndLineBreak)
-{
-    FlexGrid grid;
-    grid.setTextMatrix(1, 1, "old");
-    QSignalSpy selections(&grid, &FlexGrid::SelChange);
-    grid.setWords({"L1", "a\r\nb\rc\nd\u2028e\u2029f\tg\r\r\n\n", ""}, {"L2", "c"}, {285, 1234, -1});
-    EXPECT_EQ(column(grid, 1) + '|' + column(grid, 2) + grid.word(0, 2), "a b c d e f g   ,|c,L2");
-    EXPECT_EQ(QPair(grid.RowHeight(1), grid.RowHeight(2)), QPair(1234, 285));
-    EXPECT_TRUE(selections.isEmpty());
-}
-
-TEST(FlexGridSortTest, OrdersTheSelectedRowsByEveryKind)
-{
-    const std::pair<int, const char *> cases[] = {{FlexGrid::SortGenericAscending, "x,-1.5,9,10,a,A,ä,b,B,"},
-                                                  {FlexGrid::SortGenericDescending, "x,B,b,ä,A,a,10,9,-1.5,"},
-                                                  {FlexGrid::SortNumericAscending, "x,-1.5,b,A,B,a,ä,9,10,"},
-                                                  {FlexGrid::SortStringNoCaseAscending, "x,-1.5,10,9,A,a,ä,b,B,"},
-                                                  {FlexGrid::SortStringDescending, "x,B,b,ä,A,a,9,10,-1.5,"}};
-    for (const auto &[kind, sorted] : cases) {
-        FlexGrid grid;
-        grid.setLocale(QLocale(QLocale::English));
-        grid.setWords({"", "x", "b", "10", "", "A", "9", "B", "a", "-1.5", "ä"}, {}, {});
-        grid.Select(10, 1, 2, 1);
-        grid.setSort(kind);
-        EXPECT_EQ(column(grid, 1), sorted) << kind;
-    }
-}
-
 TEST(FlexGridOperations, DoWhatTheySayAlsoWhereNobodyUsesThem)
 {
     FlexGrid grid;
-    grid.setFormatString("<|^Word|>Meaning;|first|second|third");
-    EXPECT_EQ(column(grid, 0) + grid.TextMatrix(0, 1) + grid.TextMatrix(0, 2), "first,second,thirdWordMeaning");
+    grid.setFormatString("<|^Word|>Meaning|Plain;|first|second|third");
+    EXPECT_EQ(column(grid, 0) + grid.TextMatrix(0, 1) + grid.TextMatrix(0, 2) + grid.TextMatrix(0, 3),
+              "first,second,thirdWordMeaningPlain");
     EXPECT_NEAR(grid.ColWidth(1) / 15, QFontMetricsF(grid.Font()).horizontalAdvance("Word") + 7, 1);
-    EXPECT_EQ(grid.ColAlignment(0) * 100 + grid.ColAlignment(1) * 10 + grid.FixedAlignment(2), 147) << "as the column";
+    EXPECT_EQ(QList({grid.ColAlignment(0), grid.ColAlignment(1), grid.FixedAlignment(2), grid.ColAlignment(3)}),
+              QList({1, 4, 7, 9}))
+        << "as the column";
     grid.setFixedAlignment(1, 1);
     grid.setMergeCol(1, true);
     EXPECT_TRUE(grid.FixedAlignment(1) == 1 && grid.FixedAlignment(3) == 9 && grid.MergeCol(1) && !grid.MergeCol(2));
     grid.setRowHeight(1, 287);
     grid.setColWidth(1, 4001);
     EXPECT_EQ(std::pair(grid.RowHeight(1), grid.ColWidth(1)), std::pair(287, 4001)) << "to the twip";
-    grid.setRowHeightMin(450);
-    EXPECT_EQ(grid.RowHeight(1), 450);
+    for (const int least : {450, -5}) {
+        grid.setRowHeightMin(least);
+        EXPECT_EQ(QPair(grid.RowHeight(1), grid.RowHeightMin()), least > 0 ? QPair(450, 450) : QPair(287, 0));
+    }
+    EXPECT_EQ(QList({grid.insertRows(1, 0), grid.insertRows(0, 1), grid.insertRows(5, 1), grid.removeRows(1, 0),
+                     grid.removeRows(0, 1), grid.insertRows(4, 1), grid.RemoveItem(4), grid.RemoveItem(4)}),
+              QList({false, false, false, false, false, true, true, false}));
     grid.Select(1, 1, 2, 1);
     grid.setFillStyle(1);
-    grid.setCellAlignment(7);
+    grid.setTextStyleFixed(1);
+    grid.setCellAlignment(0);
     grid.setCellBackColor(0xFF);
     grid.setCellTextStyle(2);
     grid.setCellPicture(QPixmap(3, 3));
@@ -66,7 +51,7 @@ TEST(FlexGridOperations, DoWhatTheySayAlsoWhereNobodyUsesThem)
                                 grid.CellPictureAlignment(), grid.CellPicture().width()})
             formats += QString::number(value);
     }
-    EXPECT_EQ(formats.join(' '), "7 255 2 5 3 4 0 0 0 0 1 0 0 0 0") << "a formatted cell, another and a fixed one";
+    EXPECT_EQ(formats.join(' '), "0 255 2 5 3 4 0 0 0 0 1 0 1 0 0") << "a formatted cell, another and a fixed one";
     for (const char *name :
          {"Appearance", "AllowUserResizing", "BorderStyle", "FillStyle", "FocusRect", "GridLines", "GridLinesFixed",
           "GridLineWidth", "HighLight", "PictureType", "ScrollBars", "SelectionMode", "TextStyle", "TextStyleFixed"}) {
@@ -76,12 +61,20 @@ TEST(FlexGridOperations, DoWhatTheySayAlsoWhereNobodyUsesThem)
         }
     }
     EXPECT_EQ(limits.join(' ').toStdString(), "0 1 0 3 0 1 0 1 0 2 0 3 0 3 1 10 0 2 0 1 0 3 0 2 0 4 0 4");
+    for (const int style : {0, 1, 2, 3}) {
+        grid.setBorderStyle(style / 2), grid.setAppearance(0), grid.setAppearance(style % 2);
+        EXPECT_EQ(grid.hwndGrid()->frameStyle(),
+                  QList({0, 0, QFrame::Box | QFrame::Plain, QFrame::StyledPanel | QFrame::Sunken})[style]);
+    }
+    grid.loadProperties({{"Cols", 0}, {"FixedCols", 0}, {"Rows", 0}, {"FixedRows", 0}});
+    EXPECT_EQ(grid.Cols() + grid.Rows() + grid.FixedCols() + grid.FixedRows(), 0);
     grid.loadProperties({{"Cols", 3}});
     EXPECT_EQ(QPair(grid.FixedRows(), grid.Cols()), QPair(1, 3)) << "what is not stored is as in a new grid";
     QStandardItemModel model(0, 2);
-    grid.setDataSource(&model);
-    model.setHorizontalHeaderLabels({"L1", "L2"});
     model.appendRow({new QStandardItem("x"), new QStandardItem("y")});
+    grid.setDataSource(&model);
+    EXPECT_EQ(column(grid, 1), "x");
+    model.setHorizontalHeaderLabels({"L1", "L2"});
     model.appendRow(new QStandardItem("z"));
     grid.AddItem("3\tu\tv\tbeyond", 2);
     grid.AddItem("4");
@@ -103,5 +96,26 @@ TEST(FlexGridZoom, LeadsThroughTheUsualSizesAndChangesNothingThatIsKept)
         EXPECT_EQ(grid.Zoom(), percent);
         EXPECT_NEAR(grid.shownFont().pointSizeF(), grid.Font().pointSizeF() * percent / 100, 0.01);
         EXPECT_TRUE(grid.RowHeight(1) == 285 && grid.ColWidth(1) == 960 && written.isEmpty());
+    }
+    QFont pixels;
+    pixels.setPixelSize(10);
+    grid.setGridFont(pixels);
+    EXPECT_EQ(grid.shownFont().pixelSize(), 40);
+}
+
+TEST(FlexGridColoursTest, TextsStayReadableOnEveryPalette)
+{
+    for (const auto &[text, base] :
+         {std::pair(QColor(230, 230, 230), QColor(30, 30, 30)), {QColor(10, 10, 10), QColor(Qt::white)}}) {
+        const QPalette palette(text, Qt::gray, {}, {}, {}, text, base);
+        for (const unsigned value : {0x80000005U, 0x80000008U, 0x8000000FU, 0x800000FFU})
+            EXPECT_EQ(FlexGridColours::text(int(value), palette, base), text) << value;
+        for (const int value : {0, 0x800000, 0x808080, 0x101010, 0x0000FF}) {
+            const QColor shown = FlexGridColours::text(value, palette, base);
+            EXPECT_TRUE(base == Qt::white ? shown == QColor(value & 0xFF, value >> 8 & 0xFF, value >> 16)
+                                          : Contrast::between(shown, base) >= 4.5)
+                << value;
+        }
+        EXPECT_EQ(FlexGridColours::ground(int(0x8000000D), palette), palette.highlight().color());
     }
 }

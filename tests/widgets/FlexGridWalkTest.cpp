@@ -1,5 +1,4 @@
-#include "widgets/grid/FlexGrid.h"
-#include "widgets/grid/FlexGridView.h"
+#include "GridOperations.h"
 
 namespace {
 
@@ -32,58 +31,6 @@ QString described(const FlexGrid &grid)
     return text + QString::asprintf("%d,%d,%d,%d", row, col, rowSel, colSel);
 }
 
-/// A grid that counts what it announces to those who build on it.
-struct ToldGrid : FlexGrid
-{
-    int left = 0, places = 0;
-    void leavingCell() override { ++left; }
-    void laidOut() override { ++places; }
-};
-
-/// What can be done with a grid: r stands for the number of a row, c for that of a column, both also for ones that do
-/// not exist, n for how many, s for a size, b for a choice.
-struct Operation
-{
-    const char *arguments;
-    std::function<void(FlexGrid &, const QList<int> &)> run;
-};
-using Numbers = const QList<int> &;
-
-const std::map<QString, Operation> Operations{
-    {"insertRows", {"rn", [](FlexGrid &g, Numbers n) { g.insertRows(n[0], n[1]); }}},
-    {"removeRows", {"rn", [](FlexGrid &g, Numbers n) { g.removeRows(n[0], n[1]); }}},
-    {"RowPosition", {"rr", [](FlexGrid &g, Numbers n) { g.setRowPosition(n[0], n[1]); }}},
-    {"ColPosition", {"cc", [](FlexGrid &g, Numbers n) { g.setColPosition(n[0], n[1]); }}},
-    {"Rows", {"r", [](FlexGrid &g, Numbers n) { g.setRows(n[0] + 1); }}},
-    {"Cols", {"c", [](FlexGrid &g, Numbers n) { g.setCols(n[0] + 1); }}},
-    {"TextMatrix", {"rcs", [](FlexGrid &g, Numbers n) { g.setTextMatrix(n[0], n[1], QString::number(n[2])); }}},
-    {"TextArray", {"rs", [](FlexGrid &g, Numbers n) { g.setTextArray(n[0], QString::number(n[1])); }}},
-    {"Text", {"s", [](FlexGrid &g, Numbers n) { g.setText(QString("x\n%1").arg(n[0])); }}},
-    {"Clip", {"s", [](FlexGrid &g, Numbers n) { g.setClip(QString("x\ty\tz\r%1").arg(n[0])); }}},
-    {"copyTo", {"rc", [](FlexGrid &g, Numbers n) { g.setTextMatrix(n[0], n[1], g.Clip()); }}},
-    {"Clear", {"", [](FlexGrid &g, Numbers) { g.Clear(); }}},
-    {"Sort", {"b", [](FlexGrid &g, Numbers n) { g.setSort(n[0] ? int(FlexGrid::SortCustom) : 10); }}},
-    {"RightToLeft", {"b", [](FlexGrid &g, Numbers n) { g.setRightToLeft(n[0]); }}},
-    {"RowNumbers", {nullptr, [](FlexGrid &g, Numbers n) { g.setRowNumbers(n[0]); }}},
-    {"RowHeight", {"rs", [](FlexGrid &g, Numbers n) { g.setRowHeight(n[0], n[1]); }}},
-    {"ColWidth", {"cs", [](FlexGrid &g, Numbers n) { g.setColWidth(n[0], std::min(n[1], 2250)); }}},
-    {"Select", {"rcrc", [](FlexGrid &g, Numbers n) { g.Select(n[0], n[1], n[2], n[3]); }}},
-    {"Row", {"r", [](FlexGrid &g, Numbers n) { g.setRow(n[0]); }}},
-    {"Col", {"c", [](FlexGrid &g, Numbers n) { g.setCol(n[0]); }}},
-    {"RowSel", {"r", [](FlexGrid &g, Numbers n) { g.setRowSel(n[0]); }}},
-    {"ColSel", {"c", [](FlexGrid &g, Numbers n) { g.setColSel(n[0]); }}},
-    {"size", {"rr", [](FlexGrid &g, Numbers n) { g.resize(150 + 10 * n[0], 100 + 10 * n[1]); }}},
-    // not drawn at random
-    {"FixedRows", {nullptr, [](FlexGrid &g, Numbers n) { g.setFixedRows(n[0]); }}},
-    {"FixedCols", {nullptr, [](FlexGrid &g, Numbers n) { g.setFixedCols(n[0]); }}},
-    {"MergeRow", {nullptr, [](FlexGrid &g, Numbers n) { g.setMergeRow(n[0], n[1]); }}},
-    {"CellForeColor", {nullptr, [](FlexGrid &g, Numbers n) { g.setCellForeColor(n[0]); }}},
-    {"FillStyle", {nullptr, [](FlexGrid &g, Numbers n) { g.setFillStyle(n[0]); }}},
-    {"DefaultRowHeight", {nullptr, [](FlexGrid &g, Numbers n) { g.setDefaultRowHeight(n[0]); }}},
-    {"ColAlignment", {nullptr, [](FlexGrid &g, Numbers n) { g.setColAlignment(n[0], n[1]); }}},
-    {"ColData", {nullptr, [](FlexGrid &g, Numbers n) { g.setColData(n[0], n[1]); }}},
-};
-
 /// In changes.txt a line says what is done with a grid of four rows and three columns, and what comes of it: how often
 /// the current cell was left, ~ where a text may have changed, and the grid.
 TEST(FlexGridChanges, TakeAllThatBelongsToRowsAndColumnsAlong)
@@ -109,16 +56,43 @@ TEST(FlexGridChanges, TakeAllThatBelongsToRowsAndColumnsAlong)
         });
         grid.left = 0;
         const quint64 revision = grid.revision();
-        for (const QString &step : line.section(" -> ", 0, 0).split("; ")) {
-            QList<int> numbers;
-            for (const QString &number : step.split(u' ').mid(1))
-                numbers += number.toInt();
-            Operations.at(step.section(u' ', 0, 0)).run(grid, numbers);
-        }
+        perform(grid, line.section(" -> ", 0, 0));
         played += line.section(" -> ", 0, 0) + " -> " + QString::number(grid.left) +
                   (grid.revision() != revision ? "~ " : " ") + described(grid) + u'\n';
     }
     EXPECT_EQ(lines.toStdString(), played.toStdString());
+}
+
+/// In drawn.txt are small grids without letters, each below what is done with it, with a sign for each colour: w b
+/// cells, f fixed ones, s selected, o focus, + x lines, L D light and dark edges, r a picture and . what lies beyond.
+TEST(DrawnGrid, LinesSelectionFocusMergesAndPicturesStandInTheirPlaces)
+{
+    QPalette palette(Qt::gray);
+    palette.setColor(QPalette::Light, QColor(1, 1, 1));
+    palette.setColor(QPalette::Dark, QColor(2, 2, 2));
+    palette.setColor(QPalette::Text, Qt::black);
+    const QHash<QRgb, char> signs{{0xFFFFFFFF, 'w'}, {0xFF0000FF, 'b'}, {0xFF808000, 'f'}, {0xFF00FF00, 's'},
+                                  {0xFF00FFFF, '+'}, {0xFFFF00FF, 'x'}, {0xFF010101, 'L'}, {0xFF020202, 'D'},
+                                  {0xFFFF0000, 'r'}, {0xFFFFFF00, '.'}};
+    const QString pictures = readFile(SOURCE_FOLDER "/tests/widgets/drawn.txt");
+    QString drawn;
+    for (const QString &look : pictures.split(u'\n').filter("> ")) {
+        FlexGrid grid;
+        grid.setPalette(palette);
+        perform(grid,
+                "Rows 2; Cols 2; BorderStyle 0; BackColor 0xFFFFFF; BackColorFixed 0x008080; BackColorSel 0x00FF00; "
+                "GridColor 0xFFFF00; GridColorFixed 0xFF00FF; BackColorBkg 0x00FFFF; RowHeight -1 75; ColWidth -1 60; "
+                "Select 1 1 2 1; " +
+                    look.mid(2));
+        grid.resize(grid.Cols() > 3 ? 26 : 14, grid.Rows() > 3 ? 26 : 16);
+        const QImage image = grid.grab().toImage();
+        drawn += look + u'\n';
+        for (int y = 0; y < image.height(); ++y, drawn += u'\n') {
+            for (int x = 0; x < image.width(); ++x)
+                drawn += signs.value(image.pixel(x, y), 'o');
+        }
+    }
+    EXPECT_EQ(pictures.toStdString(), drawn.toStdString());
 }
 
 /// Rows stand below each other from the top row on, below the header; columns from the left, as far as they are not
@@ -203,6 +177,8 @@ TEST(FlexGridWalk, WhateverIsDoneWithAGridItIsLaidOutAndTellsOfIt)
         const bool rowSeen = grid.RowIsVisible(row), currentSeen = currentIsSeen();
         const auto placeBefore = place();
         const GridSelection selection = grid.selection();
+        const QRect cell = view.cellRect(row, col);
+        grid.places = 0;
         const QString rows = rowsOf(grid);
         const int cols = grid.Cols();
         const quint64 revision = grid.revision();
@@ -236,6 +212,7 @@ TEST(FlexGridWalk, WhateverIsDoneWithAGridItIsLaidOutAndTellsOfIt)
         const bool selected = grid.selection() != selection;
         EXPECT_EQ(told.join(' '), moved ? "enter cell selection" : selected ? "selection" : "");
         EXPECT_EQ(scrolled.isEmpty(), place() == placeBefore);
+        EXPECT_TRUE(grid.places > 0 || view.cellRect(row, col) == cell);
         expectInView(grid);
         if (i == 2000)
             grid.setRowNumbers(true);
