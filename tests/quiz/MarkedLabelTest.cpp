@@ -3,6 +3,8 @@
 #include "quiz/QuizColours.h"
 #include "services/desktop/Contrast.h"
 
+using enum MarkedLabel::Mark;
+
 struct MarkedLabelTest : ::testing::Test
 {
     MarkedLabelTest()
@@ -17,63 +19,95 @@ struct MarkedLabelTest : ::testing::Test
         return label.grab().toImage();
     }
     QRect ink(const QImage &image) { return inkOf(image, label.palette().color(QPalette::Window)); }
-    bool has(const QImage &image, const QColor &colour)
+    /// Around the runs of more than so many pixels of a colour.
+    QRect lineOf(const QImage &image, const QColor &colour, double pixels)
     {
-        const auto *pixels = reinterpret_cast<const QRgb *>(image.constBits());
-        const QRgb wanted = Contrast::readable(colour, label.palette()).rgb();
-        return std::count(pixels, pixels + image.sizeInBytes() / 4, wanted) > 4;
+        const QImage mask =
+            image.createMaskFromColor(Contrast::readable(colour, label.palette()).rgb(), Qt::MaskOutColor);
+        QRect found;
+        for (const QRect &run : QRegion(QBitmap::fromImage(mask)))
+            found |= run.width() > pixels ? run : QRect();
+        return found;
     }
 
     QWidget window;
     MarkedLabel label{&window};
 };
 
-TEST_F(MarkedLabelTest, MarksChangeNothingBesideTheMarkedLetters)
+TEST_F(MarkedLabelTest, MarksStandAtTheirLettersAndChangeNothingBeside)
 {
-    using enum MarkedLabel::Mark;
-    for (const QString &text : {QStringLiteral("Guten Morgen"), QStringLiteral("سلسبيل سلسبيل")}) {
+    for (const auto &[text, type] : {std::pair(QString("xuxuxu"), 3), {"xuxuxu", 1}, {"سلسبيل سلسبيل", 1}}) {
+        label.setTypeSizes(type, 1);
         const QImage plain = shown(text, {});
-        const int width = QFontMetrics(label.font()).horizontalAdvance(text);
-        EXPECT_LE((ink(plain).center() - QPoint(width / 2, 30)).manhattanLength(), 8) << "in the middle of its height";
+        const QFontMetricsF metrics(label.font());
+        const QRect letters = ink(plain);
+        const double part = metrics.horizontalAdvance(text.left(2)), all = metrics.horizontalAdvance(text);
+        const auto place = [&](double x) { return text.isRightToLeft() ? all - x : x; };
+        EXPECT_LE((letters.center() - QPoint(int(all / 2), 30)).manhattanLength(), 8) << "in the middle of its height";
         for (const MarkedLabel::Mark mark : {Surplus, Exchanged, Right}) {
-            const QImage marked = shown(text, {{0, 3, mark}});
+            const QImage marked = shown(text, {{2, 2, mark}});
             const QRect changed = difference(plain, marked);
-            EXPECT_LT(10, changed.width());
-            EXPECT_TRUE(text.isRightToLeft() ? changed.left() >= width / 2 : changed.right() < width / 2);
-            EXPECT_TRUE(has(marked, QuizColours::Right) == (mark == Right) &&
-                        has(marked, QuizColours::Wrong) != (mark == Right));
+            EXPECT_TRUE(!text.isRightToLeft() || (changed.width() > 10 && changed.left() >= all / 3));
+            if (text.isRightToLeft())
+                continue;
+            const QRect line = lineOf(marked, mark == Right ? QuizColours::Right : QuizColours::Wrong, part * 0.9);
+            EXPECT_NEAR(line.height(), std::max(2.0, metrics.height() * 0.08), 0.7);
+            EXPECT_NEAR(line.left(), part, 1.1);
+            EXPECT_NEAR(line.width(), part, 1.6);
+            const double below = letters.bottom() + metrics.descent() * 0.5;
+            EXPECT_NEAR(mark == Surplus ? line.center().y() : line.top(),
+                        mark == Surplus ? letters.center().y() : below, 1.2);
+            const QRect around(line.left() - 1, letters.top(), line.width() + 2, letters.height());
+            EXPECT_TRUE((around | line).contains(changed));
+            EXPECT_TRUE(type == 1 || ink(marked.copy(changed)).width() > ink(plain.copy(changed)).width()) << "bolder";
         }
-        const auto bottom = [&](auto mark) { return difference(plain, shown(text, {{0, 3, mark}})).bottom(); };
-        EXPECT_TRUE(text.isRightToLeft() || bottom(Surplus) < bottom(Exchanged)) << "struck out, or underlined";
-        const QRect wedge = difference(plain, shown(text, {{text.size(), 0, Gap}}));
-        EXPECT_NEAR(text.isRightToLeft() ? 0 : width, wedge.center().x(), 6);
+        for (const int at : {0, text.isRightToLeft() ? 0 : 2, int(text.size())}) {
+            const QRect wedge = difference(plain, shown(text, {{at, 0, Gap}}));
+            const double side = metrics.descent() * 0.9;
+            EXPECT_NEAR(wedge.center().x() + 0.5,
+                        std::clamp(place(metrics.horizontalAdvance(text.left(at))), side, 300.0), 1.5);
+            EXPECT_NEAR(wedge.width(), 2 * side, 2);
+            EXPECT_NEAR(wedge.height(), 1.2 * side, 1.6);
+            EXPECT_TRUE(text.isRightToLeft() || std::abs(wedge.top() - letters.bottom()) < 3);
+        }
     }
-    EXPECT_NE(shown("Haus", {}), shown("Haus ", {})) << "a blank at the edge shows";
+    for (const char *edged : {"Haus ", " Haus"})
+        EXPECT_NE(shown("Haus", {}), shown(edged, {})) << "a blank at the edge shows";
     EXPECT_LT(4, difference(shown("a b", {}), shown("a b", {{1, 1, Right}})).height()) << "and one that is marked";
+    shown("a b", {{2, 1, Right}});
+    QCoreApplication::processEvents();
+    const QImage screen = window.screen()->grabWindow(window.winId()).toImage();
+    EXPECT_EQ(QRect(), difference(screen.copy(label.geometry()), label.grab().toImage())) << "on the screen, too";
     window.setLayoutDirection(Qt::RightToLeft);
     EXPECT_LT(280, ink(shown("Haus", {})).right());
 }
 
 TEST_F(MarkedLabelTest, TwoLinesAreTakenBeforeTheTextEndsInAnEllipsis)
 {
-    using enum MarkedLabel::Mark;
     label.setMarkedText("one line", {});
     const int oneLine = label.sizeHint().height();
-    const QString two = QString("two lines ").repeated(6).trimmed();
+    const QString two = QString("two lines ").repeated(6).trimmed(), many = QString("many lines ").repeated(900);
     const QImage plain = shown(two, {});
     const int twoLines = label.sizeHint().height();
-    EXPECT_LT(oneLine, twoLines);
-    EXPECT_EQ(QString(), label.toolTip());
+    EXPECT_EQ(oneLine + label.fontMetrics().height(), twoLines);
     const QRect changed = difference(plain, shown(two, {{0, two.size(), Right}}));
     EXPECT_LT(oneLine, changed.height()) << "both lines are marked";
-    EXPECT_NE(QRect(), difference(plain, shown(two, {}, "a note")));
-    const QString many = QString("many lines ").repeated(900);
+    const QRect note = difference(shown("word", {}), shown("word", {}, "note"));
+    EXPECT_NEAR(note.left(), label.fontMetrics().horizontalAdvance("word  "), 2);
     const QImage cut = shown(many, {}, "a note");
     EXPECT_EQ(cut, shown(many, {{many.size(), 0, Gap}}, "a note")) << "what is marked there does not show";
+    EXPECT_LE(ink(cut).height(), 2 * label.fontMetrics().height());
     label.setMarkedText(many, {{5, 1, Surplus}, {9000, 5, Right}}, "a note");
     EXPECT_EQ(twoLines, label.sizeHint().height());
     EXPECT_EQ(many + "\na note", label.toolTip());
+    label.setTypeSizes(3, 1);
+    for (const int width : {300, 420, 560, 700, 1000}) { // the larger the type may be
+        label.resize(width, 60);
+        label.setMarkedText(two, {});
+        const double lines = QFontMetricsF(label.font()).horizontalAdvance(two) / (width * 0.97);
+        const bool isLargest = label.font().pointSizeF() == 3 * window.font().pointSizeF();
+        EXPECT_TRUE(lines <= 2.05 && label.toolTip().isEmpty() && (isLargest || lines > 1.5)) << width;
+    }
     label.setFullText("one line");
-    EXPECT_EQ(oneLine, label.sizeHint().height());
-    EXPECT_LT(20, ink(label.grab().toImage()).width());
+    EXPECT_EQ(oneLine * 3, label.sizeHint().height());
 }

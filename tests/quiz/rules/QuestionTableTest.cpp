@@ -1,20 +1,6 @@
 #include "quiz/rules/QuestionTable.h"
 #include "support/ListWords.h"
 
-TEST(RandomSourceTest, NumbersReachBothEndsAndNothingElse)
-{
-    struct Fixed : RandomSource
-    {
-        double value = 0;
-        double draw() override { return value; }
-    } fixed;
-    EXPECT_EQ(4, fixed.iGenRndNumber(6, 4));
-    fixed.value = std::nextafter(1.0, 0.0);
-    EXPECT_EQ(6, fixed.iGenRndNumber(6, 4));
-    EXPECT_EQ(32767, fixed.iGenRndNumber(32767, -32768));
-    EXPECT_NE(SeededRandom().draw(), SeededRandom().draw());
-}
-
 TEST(QuestionTableTest, NeedsEnoughWordsAndTakesOnlyAsManyAsItCanNumber)
 {
     using enum QuizKind;
@@ -27,20 +13,10 @@ TEST(QuestionTableTest, NeedsEnoughWordsAndTakesOnlyAsManyAsItCanNumber)
         SeededRandom random(3);
         EXPECT_EQ(built, table.fByggMatriser(kind, mode, ListWords::numbered(words), random));
         EXPECT_EQ(built ? words * (mode == 5 ? 2 : 1) : 0, table.count());
+        EXPECT_FALSE(table.fByggMatriser(kind, mode, ListWords{{"", "no first word"}}, random));
+        EXPECT_EQ(built ? words * (mode == 5 ? 2 : 1) : 0, table.count()) << "it stays as it was";
     }
-}
-
-TEST(QuestionTableTest, OnlyRowsWithAFirstWordCount)
-{
-    const ListWords words{{"", "allein"}, {"alone", ""}, {" ", "Leerzeichen"}, {"", ""}, {"last", "letzte"}};
-    SeededRandom random(1);
-    QuestionTable table;
-    ASSERT_TRUE(table.fByggMatriser(QuizKind::Practice, 1, words, random));
-    EXPECT_FALSE(table.fByggMatriser(QuizKind::Practice, 5, ListWords{{"", "allein"}}, random)) << "it stays as it was";
-    QStringList pairs;
-    for (int k = 1; k <= table.count(); ++k)
-        pairs += table.question(k).askedWord() + u'=' + table.question(k).correctAnswer();
-    EXPECT_EQ("alone=, =Leerzeichen,last=letzte", pairs.join(u','));
+    EXPECT_NE(SeededRandom().draw(), SeededRandom().draw());
 }
 
 TEST(QuestionTableTest, EachKindAsksEveryWordInTheDirectionsAndTheOrderOfEachMode)
@@ -59,7 +35,6 @@ TEST(QuestionTableTest, EachKindAsksEveryWordInTheDirectionsAndTheOrderOfEachMod
         }
         QStringList asked;
         QSet<int> positions;
-        QSet<QString> wrong;
         for (int k = 1; k <= table.count(); ++k) {
             const Question &question = table.question(k);
             asked += question.askedWord();
@@ -73,11 +48,9 @@ TEST(QuestionTableTest, EachKindAsksEveryWordInTheDirectionsAndTheOrderOfEachMod
             options.remove(question.correctAnswer());
             for (const QString &option : options)
                 EXPECT_EQ(choice ? question.correctAnswer().left(1) : "", option.left(1));
-            wrong += options;
         }
         EXPECT_THAT(asked, testing::UnorderedElementsAreArray(inOrder));
         EXPECT_TRUE(words == 3 || ((mode <= 2) == (asked == inOrder) && positions.size() == (choice ? 3 : 1)));
-        EXPECT_TRUE(!choice || wrong.size() > words * 2 / 3);
     }
 }
 
@@ -109,5 +82,4 @@ TEST(QuestionTableTest, AsksOnlyTheRowsAskedForAndOffersWordsOfAll)
     SeededRandom random(1);
     EXPECT_FALSE(table.fByggMatriser(QuizKind::Practice, 1, words, random, {[](int) { return false; }}));
     EXPECT_FALSE(table.fByggMatriser(QuizKind::Practice, 1, words, random));
-    EXPECT_TRUE(table.fByggMatriser(QuizKind::Practice, 1, words, random, {{}, QuestionTable::MostQuestions}));
 }

@@ -39,7 +39,6 @@ TEST(QuizMemoryTest, RemembersWordsInTheDirectionInWhichTheyAreAskedAndSaysWhenT
     Recording recording;
     const QuizMemory memory(session, recording, AskedWords::keys(words, 2));
     const auto type = [&session](const char *text) { session.setAnswerText(text), session.check(); };
-    EXPECT_EQ("", memory.nextDue());
     type("one");
     EXPECT_EQ("The next words of this list are due in 2 days (1).", memory.nextDue());
     session.hint();
@@ -83,7 +82,5 @@ TEST(WordsToAskTest, EachChoiceFindsItsRows)
         const AskedWords::Facts facts{mode, 2, 4, {{"d", "D"}, {"a", "Aa"}, {"gone", ""}}, &memory};
         EXPECT_EQ(AskedWords::rows(choice, words, facts), expected) << int(choice) << " in mode " << mode;
     }
-    for (const WordsToAsk choice : {SelectedRows, Missed, Due, Hardest})
-        EXPECT_EQ(AskedWords::rows(choice, words, {}), Rows()) << int(choice);
     EXPECT_EQ(AskedWords::rows(Hardest, many, {.mode = 5, .memory = &memory}).size(), 20u);
 }
