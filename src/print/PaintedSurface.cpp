@@ -49,6 +49,48 @@ void drawAsPicture(QPainter &painter, const QString &text, qreal x, qreal y, qre
     painter.drawImage(place, picture);
 }
 
+/// A line of text in the painter's font.
+class LaidOutText
+{
+public:
+    LaidOutText(const QString &text, QPainter &painter, bool rightToLeft)
+        : m_painter(painter)
+        , m_layout(text, painter.font(), painter.device())
+    {
+        QTextOption option;
+        option.setTextDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+        m_layout.setTextOption(option);
+        layOut();
+    }
+
+    QTextLine line() const { return m_layout.lineAt(0); }
+
+    /// Puts blanks of this width, all together, in place of letters.
+    void leaveGap(int from, int count, qreal width)
+    {
+        const qreal blank = QFontMetricsF(m_painter.font(), m_painter.device()).horizontalAdvance(u' ');
+        QTextLayout::FormatRange gap{from, count, {}};
+        gap.format.setFontLetterSpacingType(QFont::AbsoluteSpacing);
+        gap.format.setFontLetterSpacing(width / count - blank);
+        m_layout.setText(m_layout.text().replace(from, count, QString(count, u' ')));
+        m_layout.setFormats(m_layout.formats() << gap);
+        layOut();
+    }
+
+    void draw(QPointF baseline) const { line().draw(&m_painter, baseline - QPointF(0, line().ascent())); }
+
+private:
+    void layOut()
+    {
+        m_layout.beginLayout();
+        m_layout.createLine();
+        m_layout.endLayout();
+    }
+
+    QPainter &m_painter;
+    QTextLayout m_layout;
+};
+
 } // namespace
 
 PaintedSurface::PaintedSurface(QPainter &painter)
@@ -86,9 +128,10 @@ void PaintedSurface::drawText(int x, int y, const QString &text, bool rightToLef
     m_painter.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
     const qreal left = rightToLeft ? x - m_painter.fontMetrics().horizontalAdvance(shown) : x;
     const QPointF baseline(left, y + m_ascent);
-    m_painter.drawText(baseline, shown);
-    if (m_painter.paintEngine()->type() == QPaintEngine::Pdf && mayHoldPictures(shown))
-        drawPictures(baseline, shown, rightToLeft);
+    if (m_painter.paintEngine()->type() != QPaintEngine::Pdf || !mayHoldPictures(shown))
+        m_painter.drawText(baseline, shown);
+    else
+        drawWithPictures(baseline, shown, rightToLeft);
 }
 
 void PaintedSurface::drawLine(int x1, int y1, int x2, int y2)
@@ -96,26 +139,23 @@ void PaintedSurface::drawLine(int x1, int y1, int x2, int y2)
     m_painter.drawLine(x1, y1, x2, y2);
 }
 
-/// A PDF file knows glyphs by their outlines only; those without any are put over the gaps that they left.
-void PaintedSurface::drawPictures(QPointF baseline, const QString &text, bool rightToLeft)
+/// A PDF file knows glyphs by their outlines only; those without any are put over gaps. They do not get into the file
+/// as glyphs: once the toolkit has embedded their font, the whole program measures it wrongly.
+void PaintedSurface::drawWithPictures(QPointF baseline, const QString &text, bool rightToLeft)
 {
-    QTextLayout layout(text, m_painter.font(), m_painter.device());
-    QTextOption option;
-    option.setTextDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-    layout.setTextOption(option);
-    layout.beginLayout();
-    const QTextLine line = layout.createLine();
-    layout.endLayout();
+    const LaidOutText whole(text, m_painter, rightToLeft);
+    LaidOutText others(text, m_painter, rightToLeft);
     QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, text);
     for (int from = 0, to; (to = int(letters.toNextBoundary())) >= 0; from = to) {
-        const QList<QGlyphRun> runs = line.glyphRuns(from, to - from);
+        const QList<QGlyphRun> runs = whole.line().glyphRuns(from, to - from);
         if (std::none_of(runs.begin(), runs.end(), drawsPictures))
             continue;
-        const qreal begin = line.cursorToX(from);
-        const qreal end = line.cursorToX(to);
+        const qreal begin = whole.line().cursorToX(from), end = whole.line().cursorToX(to);
         drawAsPicture(m_painter, text.mid(from, to - from), baseline.x() + std::min(begin, end), baseline.y(),
                       std::abs(end - begin));
+        others.leaveGap(from, to - from, std::abs(end - begin));
     }
+    others.draw(baseline);
 }
 
 QString PaintedSurface::shownText(const QString &text)

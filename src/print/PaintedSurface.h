@@ -25,7 +25,7 @@ public:
     static QString shownText(const QString &text);
 
 private:
-    void drawPictures(QPointF baseline, const QString &text, bool rightToLeft);
+    void drawWithPictures(QPointF baseline, const QString &text, bool rightToLeft);
 
     QPainter &m_painter;
     PrintFont m_font;

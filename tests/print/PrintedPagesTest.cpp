@@ -74,7 +74,8 @@ TEST_F(PrintedPages, HoldWordsOfEveryScriptOnSheetsOfA4)
     std::tie(source.first[120], source.second[120]) = std::pair("漢字", "שלום");
     source.first[3] = "a \U0001F34Bb"; // a lemon
     source.second[3] = QStringLiteral("\U0001F34B עברית");
-    print();
+    for (int time = 0; time < 2; ++time)
+        print(); // a font that was printed with is measured as before
     const QByteArray info = outputOf("pdfinfo", {file}).simplified();
     EXPECT_TRUE(info.contains("Pages: 3 ") && info.contains("(A4)")) << info.constData();
     const QString text = outputOf("pdftotext", {file, "-"});
