@@ -183,14 +183,3 @@ TEST_F(GridEditing, LettersForAMenuAreNotComposed)
         }
     }
 }
-
-TEST_F(GridEditing, AutoSetupBeginsAnew)
-{
-    type("x");
-    grid.AutoSetup("Liberation Serif", 12, 4, 2, 1, 1, "|>L1");
-    EXPECT_EQ(grid.Clip() + box.text() + grid.TextMatrix(0, 1), "L1");
-    EXPECT_EQ((QList<int>{grid.Rows(), grid.Cols(), grid.FixedRows(), grid.FixedCols(), grid.ColAlignment(1)}),
-              (QList<int>{4, 2, 1, 1, 7}));
-    EXPECT_EQ(grid.Font(), (VocabularyFont{"Liberation Serif", 12}.toFont()));
-    EXPECT_TRUE(box.font() == grid.Font() && grid.Redraw() && !grid.EditMode());
-}

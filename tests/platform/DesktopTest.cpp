@@ -1,4 +1,3 @@
-#include "platform/CupsServer.h"
 #include "platform/DarkWish.h"
 #include "platform/TitleBar.h"
 
@@ -36,12 +35,4 @@ TEST(Desktop, DarkWindowsAreWishedForOnGnomeAndLeftToAThemeOfTheUsers)
         })) << desktop
             << theme << scheme;
     }
-}
-
-TEST(Desktop, APrintServerThatIsNotThereSaysSo)
-{
-    qputenv("CUPS_SERVER", "/no/such/socket");
-    CupsServer server;
-    ASSERT_TRUE(server.isThere());
-    EXPECT_NE(server.send("office", "/no/such.pdf", "Words", {{"media", "A4"}}), "");
 }

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Kills the program at random moments, and saves where that fails: recovery_test.py <program> [unittest arguments].
+"""Kills the program at random moments: recovery_test.py <program> [unittest arguments].
 
 The variables ROUNDS and SEED set how often it is killed and which moments come first.
 """
@@ -15,7 +15,6 @@ PROMISE = 5  # seconds within which a change is safe
 WORDS = [(f"word {number}", f"Wort {number}") for number in range(1, 21)]
 LONG = 30000  # pairs, to be killed amid writing
 IN_PLACE = 'mount --bind "$0" "$0"'  # the file cannot be exchanged for another, and is overwritten
-READ_ONLY = 'mount --bind "$0" "$0" && mount -o remount,bind,ro "$0"'
 
 
 class RecoveryCase(ProgramCase):
@@ -111,35 +110,11 @@ class RecoveryCase(ProgramCase):
         self.desktop.kill(program)
         return as_stored(read_vocabulary(saved.read_bytes())), True
 
-
-class SavingCase(ProgramCase):
-    """The old content or the new, never some of each; and the words stay in the window."""
-
-    def edit(self, file):
-        self.open(file)
-        self.desktop.type("edited\r")
-        self.expect_column(0, ["edited"])
-
-    def test_a_folder_that_is_read_only(self):
-        folder = self.home / "words"
-        folder.mkdir()
-        file = self.sample().rename(folder / "words.gla")
-        before = file.read_bytes()
-        self.mount(READ_ONLY, folder)
-        self.edit(file)
-        self.desktop.key("ctrl+s")
-        self.close_alert("could not be saved")
-        self.expect_column(0, ["edited"])
-        self.assertEqual(file.read_bytes(), before)
-        elsewhere = self.home / "elsewhere.gla"
-        self.save_as(elsewhere)
-        first, *others = read_vocabulary(before)
-        self.assertEqual(read_vocabulary(elsewhere.read_bytes()), (("edited", first[1]), *others))
-
-    def test_where_no_copy_can_be_kept_either(self):
-        """The user is told once, and not while a word is being typed."""
+    def test_where_no_copy_can_be_kept_the_user_is_told_once(self):
+        """And not while a word is being typed."""
         (self.home / "state" / "glosaria").write_text("in the way")
-        self.edit(self.sample())
+        self.open(self.sample())
+        self.desktop.type("edited\r")
         self.close_alert("can keep no copies")
         self.desktop.type("again\r")
         time.sleep(5)

@@ -66,14 +66,3 @@ class SpeechCase(ProgramCase):
         start = self._length()
         self.desktop.wait(lambda: self._length() > start + 4 * RATE, "two more seconds to be recorded")
         self.assertLess(self._loudest(start), AUDIBLE, "still reading")
-
-    def test_without_the_service_nothing_offers_to_read(self):
-        self.desktop.through = ("env", "PATH=/nowhere")
-        self._open_list()
-        self.open_dialog("Quiz Options", "alt+q", "o")
-        self.assertFalse(self.desktop.find("check box", QUESTION))
-        self.assertTrue(self.desktop.find("check box", "Remember my answers"))
-        self.close_dialog("Quiz Options", "Escape")
-        self.desktop.key("alt+q", "q")
-        self.desktop.wait_for("push button", "Check")
-        self.assertFalse(self.desktop.find("push button", QUESTION))

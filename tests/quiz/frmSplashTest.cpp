@@ -16,23 +16,6 @@ struct frmSplashTest : ::testing::Test
     frmSplash window{QVersionNumber(3, 1, 7)};
 };
 
-TEST_F(frmSplashTest, TheSplashStandsInTheMiddleAndHasNothingToClick)
-{
-    open(frmSplash::StartUp);
-    EXPECT_TRUE(window.windowFlags() & Qt::FramelessWindowHint);
-    EXPECT_FALSE(control("btnOK")->isVisible() || control("imgLink0")->isEnabled());
-    const QPoint off = window.frameGeometry().center() - window.screen()->availableGeometry().center();
-    EXPECT_LE(off.manhattanLength(), 2);
-    EXPECT_EQ(u"Version 3.1", window.findChild<QLabel *>("lblVersion")->text());
-    // a line, the frame, the patterned strip, the ground and the white card
-    const QImage image = window.grab().toImage();
-    QString seen;
-    for (const int x : {0, 5, 35, image.width() - 50, image.width() - 5, image.width() - 1})
-        seen += image.pixelColor(x, 60).name() + u' ';
-    EXPECT_EQ("#000000 #c4c4c4 #ffff9c #ffffff #c4c4c4 #000000 ", seen);
-    EXPECT_LT(1, image.copy(10, 40, 24, 40).convertToFormat(QImage::Format_Indexed8).colorCount());
-}
-
 TEST_F(frmSplashTest, TheAboutBoxTellsAndOpensItsLinksAndHidesADedication)
 {
     QTextBrowser opener; // stands in for the desktop's browser and mail program

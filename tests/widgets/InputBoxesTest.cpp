@@ -93,15 +93,6 @@ TEST(ExtendedComboBox, ShowsColoursInFramesThatFollowThePalette)
     EXPECT_EQ(frames.size(), 4) << "one of each colour and text";
 }
 
-TEST(Timer, TellsItsIntervalWhileItRuns)
-{
-    clsTimer timer;
-    const QSignalSpy ticks(&timer, &clsTimer::ThatTime);
-    for (const int interval : {0, 5000, -3, 1})
-        EXPECT_EQ((timer.setInterval(interval), timer.Interval()), std::max(0, interval));
-    EXPECT_TRUE(QTest::qWaitFor([&ticks] { return ticks.size() > 1; }));
-}
-
 TEST(TextBox, IsToldToScreenReadersInOnePieceAndDoesWhatTheyWant)
 {
     TextBoxAccessible::install();

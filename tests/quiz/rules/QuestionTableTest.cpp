@@ -16,6 +16,14 @@ TEST(QuestionTableTest, NeedsEnoughWordsAndTakesOnlyAsManyAsItCanNumber)
         EXPECT_FALSE(table.fByggMatriser(kind, mode, ListWords{{"", "no first word"}}, random));
         EXPECT_EQ(built ? words * (mode == 5 ? 2 : 1) : 0, table.count()) << "it stays as it was";
     }
+    struct Fixed : RandomSource
+    {
+        double value = 0;
+        double draw() override { return value; }
+    } fixed;
+    EXPECT_EQ(4, fixed.iGenRndNumber(6, 4));
+    fixed.value = std::nextafter(1.0, 0.0);
+    EXPECT_EQ(6, fixed.iGenRndNumber(6, 4));
     EXPECT_NE(SeededRandom().draw(), SeededRandom().draw());
 }
 
@@ -35,6 +43,7 @@ TEST(QuestionTableTest, EachKindAsksEveryWordInTheDirectionsAndTheOrderOfEachMod
         }
         QStringList asked;
         QSet<int> positions;
+        QSet<QString> wrong;
         for (int k = 1; k <= table.count(); ++k) {
             const Question &question = table.question(k);
             asked += question.askedWord();
@@ -48,9 +57,11 @@ TEST(QuestionTableTest, EachKindAsksEveryWordInTheDirectionsAndTheOrderOfEachMod
             options.remove(question.correctAnswer());
             for (const QString &option : options)
                 EXPECT_EQ(choice ? question.correctAnswer().left(1) : "", option.left(1));
+            wrong += options;
         }
         EXPECT_THAT(asked, testing::UnorderedElementsAreArray(inOrder));
         EXPECT_TRUE(words == 3 || ((mode <= 2) == (asked == inOrder) && positions.size() == (choice ? 3 : 1)));
+        EXPECT_TRUE(!choice || wrong.size() > words * 2 / 3);
     }
 }
 
