@@ -70,8 +70,7 @@ public:
     {
         const qreal blank = QFontMetricsF(m_painter.font(), m_painter.device()).horizontalAdvance(u' ');
         QTextLayout::FormatRange gap{from, count, {}};
-        gap.format.setFontLetterSpacingType(QFont::AbsoluteSpacing);
-        gap.format.setFontLetterSpacing(width / count - blank);
+        gap.format.setFontLetterSpacing(100 * width / (count * blank));
         m_layout.setText(m_layout.text().replace(from, count, QString(count, u' ')));
         m_layout.setFormats(m_layout.formats() << gap);
         layOut();

@@ -97,6 +97,8 @@ TEST_F(PrintedPages, HoldWordsOfEveryScriptOnSheetsOfA4)
         const QRect lemon = lemons[left == 534];
         EXPECT_TRUE(QRect(left, 131, 15, 13).contains(lemon) && lemon.width() > 7 && lemon.height() > 6) << left;
     }
+    const QRegularExpression afterLemon(R"(xMin="([^"]+)[^>]*>b<)");
+    EXPECT_NEAR(afterLemon.match(outputOf("pdftotext", {"-bbox", file, "-"})).captured(1).toDouble(), 107, 3);
     EXPECT_EQ(outputOf("pdfimages", {"-list", file}).count(" smask "), 2) << "only lemons are pictures";
     EXPECT_GT(red, 20);
 }
