@@ -1,6 +1,5 @@
 #include "MainWindowFixture.h"
 
-#include "exchange/ImportTexts.h"
 #include "widgets/LinkList.h"
 
 namespace {
@@ -101,11 +100,4 @@ TEST_F(ListsTest, WhatCannotBeReadOrWrittenIsTold)
                                           "A,B\r\n\"1,2\",?\r\n");
     EXPECT_EQ(status(0), "1 row exported; font, row heights and column widths stay in the vocabulary");
     EXPECT_TRUE(documents().active()->DocName().isEmpty());
-}
-
-TEST(ImportTextsTest, TellWhatArrivesAndWhatDoesNot)
-{
-    EXPECT_EQ(ImportTexts::arriving({1001, {2, 3, 4, 5}}, 1000),
-              "1,001 rows arrive. The first 1000 are shown.\nDropped: 2 other columns, 3 rows without a word, 4 rows "
-              "beyond the most that a vocabulary holds, 5 formulas whose results the file does not hold.");
 }

@@ -168,18 +168,3 @@ TEST_F(GridEditing, TextEntersTheBoxAsOneLineAndDroppedTextAsACopy)
     EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
     EXPECT_EQ(grid.EditText(), "x yhousea b ca b ca b c");
 }
-
-TEST_F(GridEditing, LettersForAMenuAreNotComposed)
-{
-    QMenu menu;
-    menu.addAction("x");
-    for (const bool opened : {false, true}) {
-        grid.setEditMode(opened);
-        for (const bool isShown : {true, false}) {
-            menu.setVisible(isShown);
-            QInputMethodQueryEvent asked(Qt::ImEnabled);
-            QCoreApplication::sendEvent(grid.focusWidget(), &asked);
-            EXPECT_EQ(asked.value(Qt::ImEnabled).toBool(), !isShown) << opened;
-        }
-    }
-}
