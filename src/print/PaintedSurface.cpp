@@ -49,46 +49,21 @@ void drawAsPicture(QPainter &painter, const QString &text, qreal x, qreal y, qre
     painter.drawImage(place, picture);
 }
 
-/// A line of text in the painter's font.
-class LaidOutText
+QTextLine layOut(QTextLayout &layout)
 {
-public:
-    LaidOutText(const QString &text, QPainter &painter, bool rightToLeft)
-        : m_painter(painter)
-        , m_layout(text, painter.font(), painter.device())
-    {
-        QTextOption option;
-        option.setTextDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-        m_layout.setTextOption(option);
-        layOut();
-    }
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    return line;
+}
 
-    QTextLine line() const { return m_layout.lineAt(0); }
-
-    /// Puts blanks of this width, all together, in place of letters.
-    void leaveGap(int from, int count, qreal width)
-    {
-        const qreal blank = QFontMetricsF(m_painter.font(), m_painter.device()).horizontalAdvance(u' ');
-        QTextLayout::FormatRange gap{from, count, {}};
-        gap.format.setFontLetterSpacing(100 * width / (count * blank));
-        m_layout.setText(m_layout.text().replace(from, count, QString(count, u' ')));
-        m_layout.setFormats(m_layout.formats() << gap);
-        layOut();
-    }
-
-    void draw(QPointF baseline) const { line().draw(&m_painter, baseline - QPointF(0, line().ascent())); }
-
-private:
-    void layOut()
-    {
-        m_layout.beginLayout();
-        m_layout.createLine();
-        m_layout.endLayout();
-    }
-
-    QPainter &m_painter;
-    QTextLayout m_layout;
-};
+/// The format of blanks that take this width all together.
+QTextLayout::FormatRange gapOf(int from, int count, qreal width, const QFontMetricsF &metrics)
+{
+    QTextLayout::FormatRange gap{from, count, {}};
+    gap.format.setFontLetterSpacing(100 * width / (count * metrics.horizontalAdvance(u' '))); // percent
+    return gap;
+}
 
 } // namespace
 
@@ -142,19 +117,35 @@ void PaintedSurface::drawLine(int x1, int y1, int x2, int y2)
 /// as glyphs: once the toolkit has embedded their font, the whole program measures it wrongly.
 void PaintedSurface::drawWithPictures(QPointF baseline, const QString &text, bool rightToLeft)
 {
-    const LaidOutText whole(text, m_painter, rightToLeft);
-    LaidOutText others(text, m_painter, rightToLeft);
+    QTextLayout layout(text, m_painter.font(), m_painter.device());
+    QTextOption option;
+    option.setTextDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    layout.setTextOption(option);
+    QTextLine line = layOut(layout);
+    const QFontMetricsF metrics(m_painter.font(), m_painter.device());
+    QString others = text;
+    QList<QTextLayout::FormatRange> gaps;
     QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, text);
     for (int from = 0, to; (to = int(letters.toNextBoundary())) >= 0; from = to) {
-        const QList<QGlyphRun> runs = whole.line().glyphRuns(from, to - from);
+        const int count = to - from;
+        const QList<QGlyphRun> runs = line.glyphRuns(from, count);
         if (std::none_of(runs.begin(), runs.end(), drawsPictures))
             continue;
-        const qreal begin = whole.line().cursorToX(from), end = whole.line().cursorToX(to);
-        drawAsPicture(m_painter, text.mid(from, to - from), baseline.x() + std::min(begin, end), baseline.y(),
-                      std::abs(end - begin));
-        others.leaveGap(from, to - from, std::abs(end - begin));
+        const qreal begin = line.cursorToX(from);
+        const qreal end = line.cursorToX(to);
+        const qreal width = std::abs(end - begin);
+        drawAsPicture(m_painter, text.mid(from, count), baseline.x() + std::min(begin, end), baseline.y(), width);
+        others.replace(from, count, QString(count, u' '));
+        gaps += gapOf(from, count, width, metrics);
     }
-    others.draw(baseline);
+    if (gaps.isEmpty()) {
+        m_painter.drawText(baseline, text);
+        return;
+    }
+    layout.setText(others);
+    layout.setFormats(gaps);
+    line = layOut(layout);
+    line.draw(&m_painter, baseline - QPointF(0, line.ascent()));
 }
 
 QString PaintedSurface::shownText(const QString &text)
